@@ -1,0 +1,58 @@
+// A compound file opens or not; every stream of an open one can be read or not, and what is written of it
+// opens again with the same content.
+#include "exchange/biff/compoundfile.h"
+#include "fuzz.h"
+#include <QBuffer>
+
+namespace {
+
+using YCompoundFiles::CompoundFile;
+
+// Every storage and stream with its content, damaged ones without. No recursion: storages may be nested deep.
+QByteArray listing(const CompoundFile &file, bool *isWhole)
+{
+    QByteArray all;
+    QStringList storages{QStringLiteral("/")};
+    while (!storages.isEmpty()) {
+        const QString storage = storages.takeLast();
+        all += storage.toUtf8() + '\n';
+        if (storage.size() > 3000) // a path as long takes its time; its storages are met on the way
+            continue;
+        const QStringList names = file.List(storage);
+        for (const QString &name : names) {
+            if (name.endsWith(QLatin1Char('/'))) {
+                storages.append(storage + name);
+                continue;
+            }
+            QByteArray content;
+            if (!file.FindProperty(storage + name))
+                continue; // a name with a "/" in it, which no path reaches
+            *isWhole = file.ReadFile(storage + name, &content) && *isWhole;
+            all += name.toUtf8() + '=' + content + '\n';
+        }
+    }
+    return all;
+}
+}
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    CompoundFile file;
+    if (!file.OpenBytes(QByteArray(reinterpret_cast<const char *>(data), int(size)))) {
+        FUZZ_CHECK(!file.ErrorText().isEmpty());
+        return 0;
+    }
+    bool isWhole = true;
+    const QByteArray before = listing(file, &isWhole);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    const bool isWritten = file.WriteTo(buffer);
+    // A damaged stream is not written over with nothing.
+    if (!isWritten)
+        return 0;
+    CompoundFile again;
+    bool isAgainWhole = true;
+    FUZZ_CHECK(again.OpenBytes(buffer.data()));
+    FUZZ_CHECK(!isWhole || listing(again, &isAgainWhole) == before);
+    return 0;
+}

@@ -1,0 +1,42 @@
+// Text that the guard lets through gives the parser no document type declaration and no deep nesting.
+#include "fuzz.h"
+#include "support/xmlguard.h"
+#include <QDomDocument>
+#include <QPair>
+#include <QVector>
+
+namespace {
+
+// Without recursion: whether the nesting is bounded is what is asked here.
+int depthOf(const QDomDocument &document)
+{
+    int deepest = 0;
+    QVector<QPair<QDomElement, int>> open{{document.documentElement(), 1}};
+    while (!open.isEmpty()) {
+        const auto [element, depth] = open.takeLast();
+        deepest = qMax(deepest, depth);
+        for (QDomElement child = element.firstChildElement(); !child.isNull();
+             child = child.nextSiblingElement())
+            open.append({child, depth + 1});
+    }
+    return deepest;
+}
+}
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), int(size));
+    QString error;
+    const bool isSafe = xmlguard::isSafe(bytes, &error);
+    FUZZ_CHECK(isSafe == error.isEmpty());
+
+    const QString text = QString::fromUtf8(bytes);
+    const QString clean = xmlguard::clean(text);
+    FUZZ_CHECK(xmlguard::clean(clean) == clean);
+    QDomDocument document;
+    if (isSafe && document.setContent(text)) {
+        FUZZ_CHECK(document.doctype().name().isEmpty());
+        FUZZ_CHECK(depthOf(document) <= xmlguard::maxDepth);
+    }
+    return 0;
+}

@@ -1,0 +1,293 @@
+#include "app.h"
+#include "columns.h"
+#include "console.h"
+#include "explain.h"
+#include "kwpxfile.h"
+#include "machine.h"
+#include "model/kwtaskinfo.h"
+#include "planfile.h"
+#include "report.h"
+#include "support/findings.h"
+#include "texts.h"
+#include "textwidth.h"
+
+namespace {
+
+Style styleOf(const Console &console)
+{
+    return Style(console.usesAscii(), console.usesColor());
+}
+
+Plan::Progress progressOf(Console &console)
+{
+    return
+        [&console](const QString &work, qint64 done, qint64 total) { console.progress(work, done, total); };
+}
+
+int written(Console &console, const QByteArray &data, int code = Console::Done)
+{
+    return console.write(data) ? code : int(Console::CannotWrite);
+}
+
+void tell(Console &console, const Plan &plan, const Findings &findings)
+{
+    if (!console.options().quiet)
+        console.list(plan.file, findings);
+}
+
+// In the format that was asked for.
+int writePlan(Console &console, Plan &plan)
+{
+    const Options &options = console.options();
+    if (options.format == Options::Package)
+        return kwpxfile::save(console, plan, options.output, options.force) ? Console::Done
+                                                                            : Console::CannotWrite;
+    if (options.format == Options::Csv)
+        return written(console, machine::csv(plan));
+    if (options.format == Options::Json)
+        return written(console, machine::json(plan));
+    QString text;
+    QString error;
+    if (!report::table(plan, options, styleOf(console), console.width(), text, error)) {
+        console.error(error);
+        return Console::WrongUse;
+    }
+    return written(console, text.toUtf8());
+}
+
+// Dates that the file does not give come from the links.
+void scheduleMissing(Console &console, Plan &plan)
+{
+    if (plan.withoutStart > 0)
+        plan::schedule(plan, plan::AsGiven, progressOf(console));
+}
+
+int show(Console &console)
+{
+    const QString file = console.options().arguments.first();
+    Plan plan;
+    Findings findings;
+    if (const int code = planfile::load(file, console, plan, findings))
+        return code;
+    tell(console, plan, findings);
+    if (plan.withoutStart > 0) {
+        scheduleMissing(console, plan);
+        console.note(file + QLatin1String(": ") +
+                     counted(plan.withoutStart, "%1 task has no start: the plan is shown scheduled",
+                             "%1 tasks have no start: the plan is shown scheduled"));
+    }
+    plan::refresh(plan, progressOf(console));
+    if (const int early = plan::countEarlyTasks(plan))
+        console.warning(file + QLatin1String(": ") +
+                            counted(early, "%1 task starts before its predecessor finishes",
+                                    "%1 tasks start before a predecessor finishes"),
+                        t("'kwgantt schedule %1' moves them").arg(file));
+    return writePlan(console, plan);
+}
+
+QString summaryText(const Plan &plan, const Style &style, int findings, int early)
+{
+    int summaries = 0;
+    int milestones = 0;
+    int begun = 0;
+    for (int pos = 0; pos < plan.taskCount(); ++pos) {
+        const KWTaskInfo *task = plan.task(pos);
+        summaries += task->isParent();
+        milestones += task->Milestone && !task->isParent();
+        begun += !task->isParent() && task->Percent > 0;
+    }
+    QString text = report::title(plan, shown::Times(plan), style);
+    const auto line = [&text](const QString &words) {
+        text += QLatin1String("  ") + words + QLatin1Char('\n');
+    };
+    line(counted(summaries, "%1 summary task", "%1 summary tasks") + QLatin1String(", ") +
+         counted(plan.document->getMaxLevel(), "%1 level", "%1 levels"));
+    line(counted(milestones, "%1 milestone", "%1 milestones") + QLatin1String(", ") +
+         counted(begun, "%1 task begun", "%1 tasks begun"));
+    line(counted(plan.links, "%1 link", "%1 links") + QLatin1String(", ") +
+         counted(plan.refusedLinks, "%1 refused", "%1 refused"));
+    if (plan.withoutStart)
+        line(counted(plan.withoutStart, "%1 task without a start: scheduling places it",
+                     "%1 tasks without a start: scheduling places them"));
+    if (early)
+        line(counted(early, "%1 task starts before its predecessor finishes: scheduling moves it",
+                     "%1 tasks start before a predecessor finishes: scheduling moves them"));
+    line(findings == 0 ? t("nothing to complain about") : counted(findings, "%1 finding", "%1 findings"));
+    return text;
+}
+
+int load(Console &console)
+{
+    Plan plan;
+    Findings findings;
+    if (const int code = planfile::load(console.options().arguments.first(), console, plan, findings))
+        return code;
+    scheduleMissing(console, plan);
+    plan::refresh(plan, progressOf(console));
+    tell(console, plan, findings);
+    const int early = plan.withoutStart ? 0 : plan::countEarlyTasks(plan);
+    const QByteArray data = console.options().format == Options::Json
+                                ? machine::summaryJson(plan, findings, early)
+                                : summaryText(plan, styleOf(console), findings.count(), early).toUtf8();
+    const bool answerIsNo = console.options().check && (!findings.isEmpty() || early > 0);
+    return written(console, data, answerIsNo ? Console::AnswerIsNo : Console::Done);
+}
+
+int schedule(Console &console)
+{
+    const Options &options = console.options();
+    const QString file = options.arguments.first();
+    Plan plan;
+    Findings findings;
+    if (const int code = planfile::load(file, console, plan, findings))
+        return code;
+    tell(console, plan, findings);
+    plan::schedule(plan, options.asSoonAsPossible ? plan::AsSoonAsPossible : plan::AsGiven,
+                   progressOf(console));
+    plan::refresh(plan, progressOf(console));
+
+    const Style style = styleOf(console);
+    const QString summary = report::movesSummary(plan, style);
+    const bool answerIsNo = options.check && (!plan.moves.empty() || !findings.isEmpty());
+    int code = Console::Done;
+    if (options.inPlace && plan.isPackage) {
+        if (!plan.moves.empty() || plan.withoutStart > 0)
+            code = kwpxfile::save(console, plan, file, true) ? Console::Done : Console::CannotWrite;
+        if (code == Console::Done)
+            code = written(console, (report::moves(plan, style) + summary).toUtf8());
+    } else if (options.inPlace) {
+        if (!plan.moves.empty() || plan.withoutStart > 0)
+            code = console.replaceFile(file, planfile::rewritten(plan), true) ? Console::Done
+                                                                              : Console::CannotWrite;
+        if (code == Console::Done)
+            code = written(console, (report::moves(plan, style) + summary).toUtf8());
+    } else if ((options.dryRun || options.check) && !options.formatGiven) {
+        code = written(console, (report::moves(plan, style) + summary).toUtf8());
+    } else {
+        code = writePlan(console, plan);
+        if (code == Console::Done)
+            console.note(summary.trimmed());
+    }
+    return code == Console::Done && answerIsNo ? int(Console::AnswerIsNo) : code;
+}
+
+// The one task that the words mean, or -1 after telling why there is none.
+int taskNamed(Console &console, const Plan &plan, const QString &words)
+{
+    constexpr int mostListed = 10;
+    const QVector<int> found = explain::find(plan, words);
+    if (found.size() == 1)
+        return found.first();
+    if (found.isEmpty()) {
+        console.error(t("%1: no task '%2'").arg(plan.file, words),
+                      t("TASK is a row number from 1 to %1, #ID, or a name").arg(plan.taskCount()));
+        return -1;
+    }
+    QStringList rows;
+    for (const int pos : found.mid(0, mostListed))
+        rows.append(QStringLiteral("%1 \"%2\"").arg(pos + 1).arg(plan.task(pos)->Name.trimmed()));
+    if (found.size() > mostListed)
+        rows.append(t("%1 more").arg(found.size() - mostListed));
+    console.error(t("%1: '%2' may be any of %3 tasks").arg(plan.file, words, QString::number(found.size())),
+                  t("say which by its row number: %1").arg(rows.join(QLatin1String(", "))));
+    return -1;
+}
+
+int explainTask(Console &console)
+{
+    const Options &options = console.options();
+    Plan plan;
+    Findings findings;
+    if (const int code = planfile::load(options.arguments.first(), console, plan, findings))
+        return code;
+    tell(console, plan, findings);
+    const int pos = taskNamed(console, plan, options.arguments.at(1));
+    if (pos < 0)
+        return Console::WrongUse;
+    plan::schedule(plan, options.asSoonAsPossible ? plan::AsSoonAsPossible : plan::AsGiven,
+                   progressOf(console));
+    plan::refresh(plan, progressOf(console));
+    const QVector<explain::Line> lines = explain::task(plan, pos);
+    return written(console, options.format == Options::Json
+                                ? explain::json(lines)
+                                : explain::text(lines, styleOf(console)).toUtf8());
+}
+
+int convert(Console &console)
+{
+    Plan plan;
+    Findings findings;
+    if (const int code = planfile::load(console.options().arguments.first(), console, plan, findings))
+        return code;
+    tell(console, plan, findings);
+    // A package written anew keeps what it holds.
+    if (!plan.isPackage || console.options().format != Options::Package) {
+        scheduleMissing(console, plan);
+        plan::refresh(plan, progressOf(console));
+    }
+    return writePlan(console, plan);
+}
+
+int help(Console &console)
+{
+    const QMap<QString, QString> &topics = texts::current().help;
+    const QString topic = console.options().arguments.value(0);
+    const QString wanted = topic == QLatin1String("check") ? QStringLiteral("load") : topic;
+    if (!topics.contains(wanted)) {
+        const QString guess = options::nearest(topic, options::commands());
+        console.error(t("no help on '%1'").arg(topic), guess.isEmpty()
+                                                           ? t("'kwgantt help' lists all commands")
+                                                           : t("did you mean '%1'?").arg(guess));
+        return Console::WrongUse;
+    }
+    return written(console, topics.value(wanted).toUtf8());
+}
+
+int listColumns(Console &console)
+{
+    QString text;
+    for (const QString &key : columns::keys()) {
+        const bool standard = columns::standardKeys().contains(key);
+        const QString heading = t(columns::named(key)->heading);
+        text += textwidth::padded(key, 16) +
+                textwidth::padded(heading.isEmpty() ? QStringLiteral("!") : heading, 14) +
+                (standard ? t("shown unless told otherwise") : QString());
+        text = text.trimmed() + QLatin1Char('\n');
+    }
+    return written(console, text.toUtf8());
+}
+
+int listFormats(Console &console)
+{
+    const QString text = t("kwpx   reads and writes: the whole document as a package") + QLatin1Char('\n') +
+                         t("csv    reads and writes: a row a task, titles in the first row, UTF-8") +
+                         QLatin1Char('\n') + t("json   writes") + QLatin1Char('\n') +
+                         t("table  writes: text for people") + QLatin1Char('\n');
+    return written(console, text.toUtf8());
+}
+
+int version(Console &console)
+{
+    const QString text =
+        QStringLiteral("kwgantt %1 (Qt %2)\n").arg(QLatin1String(KWGANTT_VERSION), QLatin1String(qVersion()));
+    return written(console, text.toUtf8());
+}
+}
+
+int runCommand(Console &console)
+{
+    struct Command
+    {
+        const char *name;
+        int (*run)(Console &);
+    };
+    static constexpr Command commands[] = {
+        {"show", show},           {"load", load},       {"schedule", schedule},
+        {"explain", explainTask}, {"convert", convert}, {"formats", listFormats},
+        {"columns", listColumns}, {"help", help},       {"version", version},
+    };
+    for (const Command &command : commands)
+        if (console.options().command == QLatin1String(command.name))
+            return command.run(console);
+    return Console::Bug;
+}

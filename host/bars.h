@@ -1,0 +1,12 @@
+#pragma once
+#include "axis.h"
+#include "plan.h"
+#include "shown.h"
+#include "style.h"
+
+// The bars of a plan in terminal columns.
+namespace bars {
+
+// A task's bar under an axis, with colours.
+QString bar(const Plan &plan, const shown::Times &times, const axis::Axis &axis, int pos, const Style &style);
+}

@@ -1,0 +1,194 @@
+#include "columns.h"
+#include "datetext.h"
+#include "model/kwtaskinfo.h"
+#include "texts.h"
+
+namespace columns {
+
+namespace {
+
+constexpr int deepestIndent = 20; // levels; deeper ones would push the names out of the table
+constexpr int blanksPerLevel = 2;
+
+// When a working day begins or ends.
+int usualSecs(const Sheet &sheet, bool isStart)
+{
+    return int(KWTaskInfo::startOrFinishHour(sheet.plan.document.get(), isStart)) * 3600;
+}
+
+// The time stands beside the date only where it is not the day's beginning or end.
+QString momentText(const Sheet &sheet, const shown::Clock &clock, bool isStart)
+{
+    QString text =
+        datetext::dateText(clock.date, datetext::TwoDigitDay | (sheet.showYears ? datetext::Year : 0));
+    if (clock.secs != usualSecs(sheet, isStart))
+        text += QLatin1Char(' ') + datetext::timeText(clock.secs);
+    return text;
+}
+
+// "1.5 d" as "1.5d"; nothing to spare is a plain 0.
+QString compactSlack(const QString &slack)
+{
+    const QString number = slack.section(QLatin1Char(' '), 0, 0);
+    return number == QLatin1String("0") ? number : QString(slack).remove(QLatin1Char(' '));
+}
+
+QString tagsText(const Plan &plan, const QList<quint32> &ids)
+{
+    QStringList tags;
+    for (const quint32 id : ids)
+        tags.append(QString::number(plan.document->getTagByTaskID(id)));
+    return tags.join(QLatin1Char(';'));
+}
+
+QString wbsText(const Sheet &sheet, int pos)
+{
+    return sheet.plan.rows.rows[std::size_t(pos)].wbs;
+}
+
+QString idText(const Sheet &sheet, int pos)
+{
+    return QString::number(sheet.plan.task(pos)->ID);
+}
+
+QString numberText(const Sheet &, int pos)
+{
+    return QString::number(pos + 1);
+}
+
+QString markText(const Sheet &sheet, int pos)
+{
+    return sheet.plan.urgent(pos)->CriticalPath ? QStringLiteral("!") : QString();
+}
+
+QString nameText(const Sheet &sheet, int pos)
+{
+    const KWTaskInfo *task = sheet.plan.task(pos);
+    const int indent = qBound(0, task->Level - 1, deepestIndent) * blanksPerLevel;
+    return QString(indent, QLatin1Char(' ')) +
+           (task->isParent() ? sheet.expanded + QLatin1Char(' ')
+                             : QString(blanksPerLevel, QLatin1Char(' '))) +
+           task->Name.trimmed();
+}
+
+QString levelText(const Sheet &sheet, int pos)
+{
+    return QString::number(sheet.plan.task(pos)->Level);
+}
+
+QString startText(const Sheet &sheet, int pos)
+{
+    const shown::Clock &start = sheet.times.start(pos);
+    // A milestone's finish says its time.
+    if (start == sheet.times.finish(pos))
+        return momentText(sheet, {start.date, usualSecs(sheet, true)}, true);
+    return momentText(sheet, start, true);
+}
+
+QString finishText(const Sheet &sheet, int pos)
+{
+    return momentText(sheet, sheet.times.finish(pos), false);
+}
+
+QString durationText(const Sheet &sheet, int pos)
+{
+    const KWTaskInfo *task = sheet.plan.task(pos);
+    if (task->Milestone && !task->isParent())
+        return QString();
+    return datetext::durationText(KWTaskInfo::getDurValueByTaskInfo(sheet.plan.document.get(), task),
+                                  task->DurationUnits);
+}
+
+QString doneText(const Sheet &sheet, int pos)
+{
+    const KWTaskInfo *task = sheet.plan.task(pos);
+    if (task->Milestone && !task->isParent() && task->Percent == 0)
+        return QString();
+    return QString::number(qRound(task->Percent * 100)) + QLatin1Char('%');
+}
+
+QString slackText(const Sheet &sheet, int pos)
+{
+    return compactSlack(sheet.plan.urgent(pos)->LateSlack);
+}
+
+QString startSlackText(const Sheet &sheet, int pos)
+{
+    return compactSlack(sheet.plan.task(pos)->EarlySlack);
+}
+
+QString lateStartText(const Sheet &sheet, int pos)
+{
+    return momentText(sheet, sheet.times.lateStart(pos), true);
+}
+
+QString lateFinishText(const Sheet &sheet, int pos)
+{
+    return momentText(sheet, sheet.times.lateFinish(pos), false);
+}
+
+QString predecessorsText(const Sheet &sheet, int pos)
+{
+    return tagsText(sheet.plan, sheet.plan.task(pos)->Predecessors);
+}
+
+QString successorsText(const Sheet &sheet, int pos)
+{
+    return tagsText(sheet.plan, sheet.plan.task(pos)->Depends);
+}
+
+QString resourcesText(const Sheet &sheet, int pos)
+{
+    return sheet.plan.task(pos)->Resources;
+}
+
+QString notesText(const Sheet &sheet, int pos)
+{
+    return sheet.plan.task(pos)->Notes;
+}
+
+constexpr Column table[] = {
+    {"number", "#", true, numberText},
+    {"critical", "", false, markText},
+    {"id", "ID", true, idText},
+    {"wbs", "WBS", false, wbsText},
+    {"level", "Level", true, levelText},
+    {"name", "Task", false, nameText},
+    {"start", "Start", false, startText},
+    {"finish", "Finish", false, finishText},
+    {"duration", "Dur", true, durationText},
+    {"done", "Done", true, doneText},
+    {"slack", "Slack", true, slackText},
+    {"start-slack", "Start slack", true, startSlackText},
+    {"late-start", "Late start", false, lateStartText},
+    {"late-finish", "Late finish", false, lateFinishText},
+    {"predecessors", "After", false, predecessorsText},
+    {"successors", "Before", false, successorsText},
+    {"resources", "Resources", false, resourcesText},
+    {"notes", "Notes", false, notesText},
+};
+}
+
+const Column *named(const QString &key)
+{
+    for (const Column &column : table)
+        if (key == QLatin1String(column.key))
+            return &column;
+    return nullptr;
+}
+
+QStringList keys()
+{
+    QStringList list;
+    for (const Column &column : table)
+        list.append(QLatin1String(column.key));
+    return list;
+}
+
+QStringList standardKeys()
+{
+    return {QStringLiteral("number"), QStringLiteral("critical"), QStringLiteral("name"),
+            QStringLiteral("start"),  QStringLiteral("finish"),   QStringLiteral("duration"),
+            QStringLiteral("done"),   QStringLiteral("slack")};
+}
+}

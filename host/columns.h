@@ -1,0 +1,31 @@
+#pragma once
+#include "plan.h"
+#include "shown.h"
+#include <QString>
+#include <QStringList>
+
+// The columns that a table of tasks can show.
+namespace columns {
+
+// What a cell's text is made from.
+struct Sheet
+{
+    const Plan &plan;
+    const shown::Times &times;
+    bool showYears = false; // the project spans more than one year
+    QString expanded;       // in front of a summary's name
+};
+
+struct Column
+{
+    const char *key;     // what the user writes to ask for it
+    const char *heading; // English; empty for the marks
+    bool alignRight;
+    QString (*text)(const Sheet &sheet, int pos);
+};
+
+const Column *named(const QString &key);
+QStringList keys();
+// What `show` prints unless told otherwise.
+QStringList standardKeys();
+}

@@ -1,0 +1,40 @@
+#pragma once
+#include <QDateTime>
+#include <QString>
+
+class KWDocument;
+
+// Dates, times of day and durations as people and files write them.
+namespace datetext {
+
+// A typed moment of the clock on the wall.
+struct Moment
+{
+    QDateTime when;       // local time; invalid: not given
+    bool hasTime = false; // false: a date alone, `when` is its first moment
+};
+
+struct Duration
+{
+    double value = 0;
+    unsigned int unit = 4; // 0 year .. 6 minute
+};
+
+constexpr double longestDurationDays = 40000; // past the library's range of dates
+
+// ISO 8601 first, then the library's own date formats. False when the text is no date, or one outside
+// 1970..2105.
+bool parseMoment(const QString &text, Moment &moment);
+// "3d", "1.5 weeks", "30min", "2mon"; a bare number counts in `bareUnit`. False for anything else.
+bool parseDuration(const QString &text, Duration &duration, unsigned int bareUnit = 4);
+// "08:00" and "8" give seconds since midnight, up to 24:00; -1 when the text is no time of day.
+int parseTimeOfDay(const QString &text);
+
+// "3d", "12h", "0.5d": readable by parseDuration.
+QString durationText(double value, unsigned int unit);
+// "05 Jan", "5 Jan", "Mon 5 Jan", with the year behind them when asked for.
+enum Style { Plain = 0, TwoDigitDay = 1, Weekday = 2, Year = 4 };
+QString dateText(const QDate &date, int style);
+// "08:00"; a day's end at midnight reads "24:00".
+QString timeText(int secsOfDay);
+}

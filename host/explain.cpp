@@ -1,0 +1,385 @@
+#include "explain.h"
+#include "datetext.h"
+#include "machine.h"
+#include "model/kwtaskinfo.h"
+#include "shown.h"
+#include "texts.h"
+#include "textwidth.h"
+#include <QSet>
+#include <algorithm>
+
+namespace explain {
+
+namespace {
+
+constexpr unsigned int day = 4;
+constexpr int mostListed = 3;   // of things that a sentence counts up
+constexpr int longestChain = 6; // tasks in "holds up"
+
+// A task that another waits for, directly or through a summary that holds the waiting one.
+struct Reason
+{
+    int pos;
+    int throughSummary; // -1: linked directly
+};
+
+class Explainer
+{
+public:
+    Explainer(const Plan &plan, int pos)
+        : m_plan(plan)
+        , m_times(plan)
+        , m_pos(pos)
+        , m_task(plan.task(pos))
+    {
+        collectReasons();
+    }
+
+    QVector<Line> run() const
+    {
+        QVector<Line> lines{{QString(), "task", heading()}};
+        if (m_task->isParent()) {
+            lines.append({t("spans"), "spans", spans()});
+        } else {
+            lines.append({t("starts when"), "startsWhen", startsWhen()});
+            lines.append({t("could start"), "couldStart", couldStart()});
+            lines.append({t("takes"), "takes", takes()});
+        }
+        if (!moved().isEmpty())
+            lines.append({t("moved"), "moved", moved()});
+        lines.append({t("critical"), "critical", critical()});
+        if (!m_task->isParent() || !m_task->Depends.isEmpty())
+            lines.append({t("holds up"), "holdsUp", holdsUp()});
+        return lines;
+    }
+
+private:
+    QString named(int pos) const
+    {
+        return QStringLiteral("%1 \"%2\"").arg(pos + 1).arg(m_plan.task(pos)->Name.trimmed());
+    }
+
+    static QString moment(const shown::Clock &clock)
+    {
+        return datetext::dateText(clock.date, datetext::Weekday) + QLatin1Char(' ') +
+               datetext::timeText(clock.secs);
+    }
+
+    // Working time in days, or in hours when it is a part of one.
+    QString length(quint32 from, quint32 to) const
+    {
+        const double days = m_plan.document->getDurationValue(from, to, day, true);
+        if (days != 0)
+            return QString::number(days) + QLatin1String(" d");
+        return QString::number(qAbs(plan::workingMinutes(m_plan, from, to))) + QLatin1String(" min");
+    }
+
+    void collectReasons()
+    {
+        QSet<int> seen;
+        QSet<quint32> above;
+        for (const KWTaskInfo *holder = m_task; holder && !above.contains(holder->ID);
+             holder = holder->ParentID ? m_plan.document->getTaskInfoByID(holder->ParentID) : nullptr) {
+            above.insert(holder->ID);
+            for (const quint32 id : holder->Predecessors) {
+                const int pos = m_plan.posOf(id);
+                if (pos < 0 || seen.contains(pos))
+                    continue;
+                seen.insert(pos);
+                m_reasons.push_back({pos, holder == m_task ? -1 : m_plan.posOf(holder->ID)});
+            }
+        }
+        // The last to finish first; equal ones in the order of the list.
+        std::stable_sort(m_reasons.begin(), m_reasons.end(), [this](const Reason &a, const Reason &b) {
+            return m_plan.task(a.pos)->Finish > m_plan.task(b.pos)->Finish;
+        });
+    }
+
+    bool isDriven() const
+    {
+        return !m_reasons.empty() &&
+               plan::workingMinutes(m_plan, m_plan.task(m_reasons.front().pos)->Finish, m_task->Start) <= 0;
+    }
+
+    QString heading() const
+    {
+        const shown::Clock &start = m_times.start(m_pos);
+        const shown::Clock &finish = m_times.finish(m_pos);
+        QString text = named(m_pos) + QLatin1String("   ") + moment(start);
+        if (start != finish)
+            text += QLatin1String(" - ") + moment(finish);
+        const double value = KWTaskInfo::getDurValueByTaskInfo(m_plan.document.get(), m_task);
+        text += QLatin1String("   ") + (m_task->Milestone && !m_task->isParent()
+                                            ? t("milestone")
+                                            : datetext::durationText(value, m_task->DurationUnits));
+        if (m_task->Percent > 0)
+            text += QLatin1String("   ") + t("%1% done").arg(qRound(m_task->Percent * 100));
+        return text;
+    }
+
+    QString startsWhen() const
+    {
+        const shown::Clock start = m_times.start(m_pos);
+        if (isDriven()) {
+            const Reason &driver = m_reasons.front();
+            QString text = t("%1 finishes (%2)").arg(named(driver.pos), moment(m_times.finish(driver.pos)));
+            if (driver.throughSummary >= 0)
+                text += t(", which its summary %1 waits for").arg(named(driver.throughSummary));
+            if (start != m_times.finish(driver.pos))
+                text += t("; next working moment is %1").arg(moment(start));
+            return text;
+        }
+        if (m_task->Start == m_plan.start)
+            return t("the project starts (%1)").arg(moment(start));
+        return t("its own date says: %1").arg(moment(start));
+    }
+
+    QString couldStart() const
+    {
+        if (m_reasons.empty())
+            return t("at any time: it waits for no other task");
+        const Reason &last = m_reasons.front();
+        if (!isDriven())
+            return t("%1 earlier: %2 finishes on %3")
+                .arg(length(m_plan.task(last.pos)->Finish, m_task->Start), named(last.pos),
+                     moment(m_times.finish(last.pos)));
+        QString text = t("no earlier: %1 drives it").arg(named(last.pos));
+        for (std::size_t i = 1; i < m_reasons.size(); ++i) {
+            if (int(i) > mostListed) {
+                text += QLatin1String("; ") + t("%1 more").arg(m_reasons.size() - i);
+                break;
+            }
+            const quint32 finish = m_plan.task(m_reasons[i].pos)->Finish;
+            const bool drives = plan::workingMinutes(m_plan, finish, m_task->Start) <= 0;
+            text +=
+                QLatin1String("; ") +
+                (drives
+                     ? t("%1 drives it, too").arg(named(m_reasons[i].pos))
+                     : t("%1 has %2 to spare").arg(named(m_reasons[i].pos), length(finish, m_task->Start)));
+        }
+        return text;
+    }
+
+    QString takes() const
+    {
+        if (m_task->Milestone)
+            return t("no time: it is a milestone");
+        static const char *const one[] = {"%1 year",          "%1 quarter",     "%1 month",
+                                          "%1 working week",  "%1 working day", "%1 working hour",
+                                          "%1 working minute"};
+        static const char *const many[] = {"%1 years",          "%1 quarters",     "%1 months",
+                                           "%1 working weeks",  "%1 working days", "%1 working hours",
+                                           "%1 working minutes"};
+        const unsigned int unit = qMin(m_task->DurationUnits, 6u);
+        const double value = KWTaskInfo::getDurValueByTaskInfo(m_plan.document.get(), m_task);
+        const QString number = QString::number(value, 'g', 6);
+        QString text = t(value == 1 ? one[unit] : many[unit]).arg(number);
+        constexpr unsigned int month = 2;
+        if (unit <= month)
+            return text + t("; days off count as well");
+        const QStringList off = daysOff();
+        if (!off.isEmpty())
+            text += t("; %1 do not count").arg(listed(off));
+        return text;
+    }
+
+    // The runs of days off between start and finish: "17-18 Jan (weekend)".
+    QStringList daysOff() const
+    {
+        QStringList runs;
+        int left = 0;
+        const QDate last = m_times.finish(m_pos).date;
+        for (QDate date = m_times.start(m_pos).date; date <= last; date = date.addDays(1)) {
+            if (KWTaskInfo::isWorkday(m_plan.document.get(), date.startOfDay()))
+                continue;
+            const bool usual = isUsuallyOff(date);
+            QDate end = date;
+            while (end < last && !KWTaskInfo::isWorkday(m_plan.document.get(), end.addDays(1).startOfDay()) &&
+                   isUsuallyOff(end.addDays(1)) == usual)
+                end = end.addDays(1);
+            if (runs.size() == mostListed)
+                ++left;
+            else
+                runs.append(runText(date, end, usual));
+            date = end;
+        }
+        if (left)
+            runs.append(t("%1 more").arg(left));
+        return runs;
+    }
+
+    static QString listed(const QStringList &parts)
+    {
+        if (parts.size() < 2)
+            return parts.join(QString());
+        return t("%1 and %2")
+            .arg(QStringList(parts.mid(0, parts.size() - 1)).join(QLatin1String(", ")), parts.last());
+    }
+
+    bool isUsuallyOff(const QDate &date) const
+    {
+        return !m_plan.workingTime.week[std::size_t(date.dayOfWeek() - 1)];
+    }
+
+    static QString runText(const QDate &first, const QDate &last, bool usual)
+    {
+        const QString to = datetext::dateText(last, datetext::Plain);
+        QString text = to;
+        if (first != last)
+            text = (first.month() == last.month() ? QString::number(first.day())
+                                                  : datetext::dateText(first, datetext::Plain)) +
+                   QLatin1Char('-') + to;
+        return text + QLatin1String(" (") + (usual ? t("weekend") : t("day off")) + QLatin1Char(')');
+    }
+
+    QString spans() const
+    {
+        int first = -1;
+        int last = -1;
+        for (const quint32 id : m_task->Childs) {
+            const int pos = m_plan.posOf(id);
+            if (pos < 0)
+                continue;
+            if (first < 0 || m_plan.task(pos)->Start < m_plan.task(first)->Start)
+                first = pos;
+            if (last < 0 || m_plan.task(pos)->Finish > m_plan.task(last)->Finish)
+                last = pos;
+        }
+        if (first < 0)
+            return t("nothing: it holds no task");
+        return t("%1; from %2 to %3")
+            .arg(counted(m_task->Childs.size(), "%1 task right below it", "%1 tasks right below it"),
+                 named(first), named(last));
+    }
+
+    QString moved() const
+    {
+        const bool hadStart = m_plan.rows.rows[std::size_t(m_pos)].start.when.isValid();
+        for (const Plan::Move &move : m_plan.moves) {
+            if (move.pos != m_pos || !hadStart || m_task->isParent())
+                continue;
+            const QString before = moment(shown::startOf(m_plan, move.oldStart));
+            const int by = move.pushedBy ? m_plan.posOf(move.pushedBy) : -1;
+            return by < 0 ? t("the plan's date is %1").arg(before)
+                          : t("the plan's date is %1; %2 pushes it").arg(before, named(by));
+        }
+        return QString();
+    }
+
+    QString critical() const
+    {
+        const int tightest = m_plan.tightest[std::size_t(m_pos)];
+        const KWTaskInfo *urgent = m_plan.task(tightest);
+        if (m_task->isParent())
+            return t(urgent->CriticalPath ? "yes: %1 below it is (slack %2)"
+                                          : "no: %1 below it has %2 to spare, and no task less")
+                .arg(named(tightest), urgent->LateSlack);
+        if (m_task->CriticalPath)
+            return t("yes: finishing later moves the project finish (slack %1)").arg(m_task->LateSlack);
+        return t("no: it can finish up to %1 later (%2) without moving the project finish")
+            .arg(m_task->LateSlack, moment(m_times.lateFinish(m_pos)));
+    }
+
+    // The successor with the least to spare.
+    int nextInChain(int pos) const
+    {
+        int next = -1;
+        for (const quint32 id : m_plan.task(pos)->Depends) {
+            const int candidate = m_plan.posOf(id);
+            if (candidate >= 0 && (next < 0 || slackMinutes(candidate) < slackMinutes(next)))
+                next = candidate;
+        }
+        return next;
+    }
+
+    qint64 slackMinutes(int pos) const
+    {
+        return plan::workingMinutes(m_plan, m_plan.task(pos)->Finish, m_plan.task(pos)->LateFinish);
+    }
+
+    QString holdsUp() const
+    {
+        QStringList chain;
+        QSet<int> seen{m_pos};
+        int pos = nextInChain(m_pos);
+        for (; pos >= 0 && !seen.contains(pos) && chain.size() < longestChain; pos = nextInChain(pos)) {
+            seen.insert(pos);
+            chain.append(named(pos));
+        }
+        if (chain.isEmpty())
+            return t("nothing: no task waits for it");
+        QString text = chain.join(QLatin1String(" -> "));
+        if (pos >= 0 && chain.size() == longestChain)
+            text += QLatin1String(" -> ...");
+        const int others = m_task->Depends.size() - 1;
+        if (others > 0)
+            text += counted(others, "; %1 more task waits for it", "; %1 more tasks wait for it");
+        return text;
+    }
+
+    const Plan &m_plan;
+    shown::Times m_times;
+    int m_pos;
+    const KWTaskInfo *m_task;
+    std::vector<Reason> m_reasons;
+};
+
+QVector<int> withName(const Plan &plan, const std::function<bool(const QString &)> &fits)
+{
+    QVector<int> found;
+    for (int pos = 0; pos < plan.taskCount(); ++pos)
+        if (fits(plan.task(pos)->Name.trimmed()))
+            found.append(pos);
+    return found;
+}
+}
+
+QVector<int> find(const Plan &plan, const QString &text)
+{
+    const QString wanted = text.trimmed();
+    bool isNumber = false;
+    const quint32 number = (wanted.startsWith(QLatin1Char('#')) ? wanted.mid(1) : wanted).toUInt(&isNumber);
+    if (isNumber && wanted.startsWith(QLatin1Char('#'))) {
+        const int pos = plan.posOf(number);
+        return pos < 0 ? QVector<int>() : QVector<int>{pos};
+    }
+    if (isNumber && number >= 1 && number <= quint32(plan.taskCount()))
+        return {int(number) - 1};
+    QVector<int> found = withName(plan, [&wanted](const QString &name) { return name == wanted; });
+    if (found.isEmpty())
+        found = withName(plan,
+                         [&](const QString &name) { return name.compare(wanted, Qt::CaseInsensitive) == 0; });
+    if (found.isEmpty() && !wanted.isEmpty())
+        found =
+            withName(plan, [&](const QString &name) { return name.contains(wanted, Qt::CaseInsensitive); });
+    return found;
+}
+
+QVector<Line> task(const Plan &plan, int pos)
+{
+    return Explainer(plan, pos).run();
+}
+
+QString text(const QVector<Line> &lines, const Style &style)
+{
+    constexpr int labelColumns = 15;
+    QString text;
+    for (const Line &line : lines) {
+        const QString words = textwidth::oneLine(line.text, style.ascii);
+        if (line.label.isEmpty())
+            text += style.toned(words, Style::Bold) + QLatin1Char('\n');
+        else
+            text +=
+                QLatin1String("  ") + textwidth::padded(line.label, labelColumns) + words + QLatin1Char('\n');
+    }
+    return text;
+}
+
+QByteArray json(const QVector<Line> &lines)
+{
+    QByteArrayList members;
+    for (const Line &line : lines)
+        members.append("  \"" + QByteArray(line.key) + "\": " + machine::jsonText(line.text));
+    return "{\n" + members.join(",\n") + "\n}\n";
+}
+}

@@ -1,0 +1,16 @@
+#pragma once
+#include "plan.h"
+
+class Console;
+
+// Plans in the library's own document packages.
+namespace kwpxfile {
+
+// Whether the file begins as a package does.
+bool isPackage(const QString &path);
+// Reads the document and describes its tasks as rows. Console::Done, or the exit code; then the reason has
+// been told.
+int load(const QString &path, Console &console, Plan &plan);
+// The plan's document as a package. False when it cannot be written; the reason has been told then.
+bool save(Console &console, Plan &plan, const QString &path, bool overwrite);
+}

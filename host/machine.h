@@ -1,0 +1,20 @@
+#pragma once
+#include "plan.h"
+#include <QByteArray>
+
+class Findings;
+
+// A plan for other programs.
+namespace machine {
+
+// A JSON string with its quotes.
+QByteArray jsonText(const QString &text);
+
+// One row or object a task. The first columns are a plan that this program reads again; the last ones are
+// working minutes from the project's start, in which the end of one working day and the beginning of the next
+// are one number.
+QByteArray csv(const Plan &plan);
+QByteArray json(const Plan &plan);
+// The plan without its tasks, and what was found in it.
+QByteArray summaryJson(const Plan &plan, const Findings &findings, int earlyTasks);
+}

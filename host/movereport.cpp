@@ -1,0 +1,128 @@
+// What scheduling moved, and because of what.
+#include "datetext.h"
+#include "model/kwtaskinfo.h"
+#include "report.h"
+#include "texts.h"
+#include "textwidth.h"
+
+namespace report {
+
+namespace {
+
+constexpr int longestName = 30;
+constexpr unsigned int day = 4;
+
+// "12 Jan → 13 Jan"; a time stands where it is not the day's beginning or end.
+QString change(const Plan &plan, const shown::Clock &before, const shown::Clock &after, bool isStart,
+               const Style &style)
+{
+    const int usualSecs = int(KWTaskInfo::startOrFinishHour(plan.document.get(), isStart)) * 3600;
+    const bool withYear = before.date.year() != after.date.year();
+    const auto text = [&](const shown::Clock &clock) {
+        QString words =
+            datetext::dateText(clock.date, datetext::TwoDigitDay | (withYear ? datetext::Year : 0));
+        if (clock.secs != usualSecs)
+            words += QLatin1Char(' ') + datetext::timeText(clock.secs);
+        return words;
+    };
+    if (before == after)
+        return text(before);
+    return text(before) + QLatin1Char(' ') + style.arrow + QLatin1Char(' ') + text(after);
+}
+
+QString lengthOf(const Plan &plan, quint32 from, quint32 to)
+{
+    const bool later = from <= to;
+    const double days = plan.document->getDurationValue(later ? from : to, later ? to : from, day, true);
+    if (days == 0) {
+        const qint64 minutes = qAbs(plan::workingMinutes(plan, from, to));
+        return (later ? QLatin1String("+") : QLatin1String("-")) + QString::number(minutes) +
+               QLatin1String("min");
+    }
+    return (later ? QLatin1String("+") : QLatin1String("-")) + QString::number(days) + QLatin1Char('d');
+}
+
+QString shortName(const KWTaskInfo *task, const Style &style)
+{
+    return textwidth::elided(textwidth::oneLine(task->Name.trimmed(), style.ascii), longestName, style.cut);
+}
+
+QString because(const Plan &plan, const Plan::Move &move, const Style &style)
+{
+    const KWTaskInfo *task = plan.task(move.pos);
+    if (task->isParent())
+        return t("its tasks moved");
+    const QString length = lengthOf(plan, move.oldStart, task->Start);
+    const int by = move.pushedBy ? plan.posOf(move.pushedBy) : -1;
+    if (by < 0)
+        return t("moved with its summary (%1)").arg(length);
+    return t("pushed by %1 \"%2\" (%3)")
+        .arg(QString::number(by + 1), shortName(plan.task(by), style), length);
+}
+}
+
+QString moves(const Plan &plan, const Style &style)
+{
+    if (plan.moves.empty())
+        return QString();
+    struct Line
+    {
+        QString number, name, start, finish, reason;
+    };
+    std::vector<Line> lines{{QStringLiteral("#"), t("Task"), t("Start"), t("Finish"), t("Because")}};
+    const shown::Times times(plan);
+    for (const Plan::Move &move : plan.moves) {
+        const KWTaskInfo *task = plan.task(move.pos);
+        const bool milestone = task->Milestone && !task->isParent();
+        const shown::Clock oldStart = shown::startOf(plan, move.oldStart);
+        const shown::Clock oldFinish = shown::finishOf(plan, move.oldFinish);
+        lines.push_back(
+            {QString::number(move.pos + 1), shortName(task, style),
+             change(plan, oldStart, times.start(move.pos), true, style),
+             milestone ? QString() : change(plan, oldFinish, times.finish(move.pos), false, style),
+             because(plan, move, style)});
+    }
+    int widths[4] = {0, 0, 0, 0};
+    for (const Line &line : lines) {
+        widths[0] = qMax(widths[0], textwidth::of(line.number));
+        widths[1] = qMax(widths[1], textwidth::of(line.name));
+        widths[2] = qMax(widths[2], textwidth::of(line.start));
+        widths[3] = qMax(widths[3], textwidth::of(line.finish));
+    }
+    const QString gap = QStringLiteral("  ");
+    QString text;
+    for (const Line &line : lines) {
+        QString row = textwidth::padded(line.number, widths[0], true) + gap +
+                      textwidth::padded(line.name, widths[1]) + gap +
+                      textwidth::padded(line.start, widths[2]) + gap +
+                      textwidth::padded(line.finish, widths[3]) + gap;
+        row += line.reason;
+        while (row.endsWith(QLatin1Char(' ')))
+            row.chop(1);
+        text += row + QLatin1Char('\n');
+    }
+    return text;
+}
+
+QString movesSummary(const Plan &plan, const Style &style)
+{
+    const int unchanged = plan.taskCount() - int(plan.moves.size());
+    if (plan.moves.empty())
+        return t("nothing moves: every task starts at or after the end of its predecessors") +
+               QLatin1Char('\n');
+    QString text = counted(qint64(plan.moves.size()), "%1 task moved", "%1 tasks moved") +
+                   QLatin1String(", ") + t("%1 unchanged").arg(grouped(unchanged));
+    const QDate before = shown::endOf(plan, plan.finishBefore).date;
+    const QDate after = shown::endOf(plan, plan::lastFinish(plan)).date;
+    const int years = before.year() != after.year() ? datetext::Year : datetext::Plain;
+    text += QLatin1String("; ");
+    if (before == after)
+        text += t("project finish %1 (unchanged)").arg(datetext::dateText(after, datetext::TwoDigitDay));
+    else
+        text += t("project finish %1")
+                    .arg(datetext::dateText(before, datetext::TwoDigitDay | years) + QLatin1Char(' ') +
+                         style.arrow + QLatin1Char(' ') +
+                         datetext::dateText(after, datetext::TwoDigitDay | years));
+    return text + QLatin1Char('\n');
+}
+}

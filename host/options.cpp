@@ -1,0 +1,417 @@
+#include "options.h"
+#include "texts.h"
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+namespace options {
+
+namespace {
+
+enum Group : unsigned {
+    Everywhere = 1,
+    Planning = 2, // commands that read a plan
+    Showing = 4,
+    Scheduling = 8,
+    Checking = 16,
+    Explaining = 32,
+};
+
+struct Command
+{
+    const char *name;
+    const char *alias;
+    unsigned groups;
+    int leastArguments;
+    int mostArguments;
+    const char *arguments;
+};
+
+constexpr Command commandTable[] = {
+    {"show", "", Everywhere | Planning | Showing, 1, 1, "FILE"},
+    {"load", "check", Everywhere | Planning | Checking, 1, 1, "FILE"},
+    {"schedule", "", Everywhere | Planning | Showing | Scheduling | Checking, 1, 1, "FILE"},
+    {"explain", "", Everywhere | Planning | Explaining, 2, 2, "FILE TASK"},
+    {"convert", "", Everywhere | Planning, 2, 2, "IN OUT"},
+    {"formats", "", Everywhere, 0, 0, ""},
+    {"columns", "", Everywhere, 0, 0, ""},
+    {"help", "", Everywhere, 0, 1, "[COMMAND]"},
+    {"version", "", Everywhere, 0, 0, ""},
+};
+
+using Setter = bool (*)(Options &, const QString &value);
+
+struct Option
+{
+    const char *name;
+    const char *letter; // one-letter form; empty when there is none
+    const char *value;  // what stands for the value in messages; null: the option takes none
+    unsigned group;
+    Setter set; // false: the value is not understood
+};
+
+bool setWhen(Options::When &target, const QString &value)
+{
+    if (value == QLatin1String("auto"))
+        target = Options::Auto;
+    else if (value == QLatin1String("always"))
+        target = Options::Always;
+    else if (value == QLatin1String("never"))
+        target = Options::Never;
+    else
+        return false;
+    return true;
+}
+
+bool setFormat(Options &o, const QString &value)
+{
+    o.formatGiven = true;
+    if (value == QLatin1String("csv"))
+        o.format = Options::Csv;
+    else if (value == QLatin1String("json"))
+        o.format = Options::Json;
+    else if (value == QLatin1String("table") || value == QLatin1String("text"))
+        o.format = Options::Table;
+    else
+        return false;
+    return true;
+}
+
+bool setNumber(int &target, const QString &value, int least, int most)
+{
+    bool ok = false;
+    target = value.toInt(&ok);
+    return ok && target >= least && target <= most;
+}
+
+bool setUnit(Options &o, const QString &value)
+{
+    static const char *const names[] = {"d", "h", "min"};
+    for (unsigned int i = 0; i < 3; ++i) {
+        if (value == QLatin1String(names[i])) {
+            o.slackUnit = 4 + i;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool setScale(Options &o, const QString &value)
+{
+    static const QStringList scales{
+        QStringLiteral("auto"),  QStringLiteral("hour"),    QStringLiteral("day"), QStringLiteral("week"),
+        QStringLiteral("month"), QStringLiteral("quarter"), QStringLiteral("year")};
+    o.scale = value;
+    return scales.contains(value);
+}
+
+constexpr int narrowest = 20;
+constexpr int widest = 10000;
+constexpr int deepest = 1000;
+
+const Option optionTable[] = {
+    {"output", "o", "FILE", Everywhere,
+     [](Options &o, const QString &v) {
+         o.output = v;
+         return !v.isEmpty();
+     }},
+    {"force", "", nullptr, Everywhere, [](Options &o, const QString &) { return o.force = true; }},
+    {"json", "", nullptr, Planning,
+     [](Options &o, const QString &) { return setFormat(o, QStringLiteral("json")); }},
+    {"csv", "", nullptr, Showing,
+     [](Options &o, const QString &) { return setFormat(o, QStringLiteral("csv")); }},
+    {"to", "", "csv|json|table", Planning, [](Options &o, const QString &v) { return setFormat(o, v); }},
+    {"quiet", "q", nullptr, Everywhere, [](Options &o, const QString &) { return o.quiet = true; }},
+    {"verbose", "v", nullptr, Everywhere, [](Options &o, const QString &) { return o.verbose = true; }},
+    {"progress", "", "auto|always|never", Everywhere,
+     [](Options &o, const QString &v) { return setWhen(o.progress, v); }},
+    {"color", "", "auto|always|never", Everywhere,
+     [](Options &o, const QString &v) { return setWhen(o.color, v); }},
+    {"ascii", "", nullptr, Everywhere, [](Options &o, const QString &) { return o.ascii = true; }},
+    {"lang", "", "LANGUAGE", Everywhere,
+     [](Options &o, const QString &v) {
+         o.language = v;
+         return true;
+     }},
+    {"tz", "", "ZONE", Everywhere,
+     [](Options &o, const QString &v) {
+         o.zone = v;
+         return true;
+     }},
+    {"now", "", "TIME", Everywhere,
+     [](Options &o, const QString &v) {
+         o.now = v;
+         return true;
+     }},
+    {"log", "", "FILE", Everywhere,
+     [](Options &o, const QString &v) {
+         o.logFile = v;
+         return !v.isEmpty();
+     }},
+    {"calendar", "", "FILE", Planning,
+     [](Options &o, const QString &v) {
+         o.calendarFile = v;
+         return !v.isEmpty();
+     }},
+    {"days", "", "Mon-Fri", Planning,
+     [](Options &o, const QString &v) {
+         o.days = v;
+         return !v.isEmpty();
+     }},
+    {"hours", "", "08:00-12:00,13:00-17:00", Planning,
+     [](Options &o, const QString &v) {
+         o.hours = v;
+         return !v.isEmpty();
+     }},
+    {"holiday", "", "DATE[..DATE]", Planning,
+     [](Options &o, const QString &v) {
+         o.holidays.append(v.split(QLatin1Char(',')));
+         return true;
+     }},
+    {"start", "", "DATE", Planning,
+     [](Options &o, const QString &v) {
+         o.start = v;
+         return !v.isEmpty();
+     }},
+    {"unit", "", "d|h|min", Planning, setUnit},
+    {"columns", "", "LIST", Showing,
+     [](Options &o, const QString &v) {
+         o.columns = v.split(QLatin1Char(','));
+         return !v.isEmpty();
+     }},
+    {"width", "", "N", Showing,
+     [](Options &o, const QString &v) { return setNumber(o.width, v, narrowest, widest); }},
+    {"scale", "", "auto|hour|day|week|month|quarter|year", Showing, setScale},
+    {"range", "", "DATE..DATE", Showing,
+     [](Options &o, const QString &v) {
+         o.range = v;
+         return !v.isEmpty();
+     }},
+    {"level", "", "N", Showing,
+     [](Options &o, const QString &v) { return setNumber(o.level, v, 1, deepest); }},
+    {"all", "", nullptr, Showing, [](Options &o, const QString &) { return o.all = true; }},
+    {"critical", "", nullptr, Showing, [](Options &o, const QString &) { return o.critical = true; }},
+    {"no-bars", "", nullptr, Showing,
+     [](Options &o, const QString &) {
+         o.bars = false;
+         return true;
+     }},
+    {"plain", "", nullptr, Showing, [](Options &o, const QString &) { return o.plain = true; }},
+    {"in-place", "i", nullptr, Scheduling, [](Options &o, const QString &) { return o.inPlace = true; }},
+    {"dry-run", "", nullptr, Scheduling, [](Options &o, const QString &) { return o.dryRun = true; }},
+    {"check", "", nullptr, Checking, [](Options &o, const QString &) { return o.check = true; }},
+    {"asap", "", nullptr, Scheduling | Explaining,
+     [](Options &o, const QString &) { return o.asSoonAsPossible = true; }},
+};
+
+const Command *commandNamed(const QString &name)
+{
+    for (const Command &command : commandTable)
+        if (name == QLatin1String(command.name) || (*command.alias && name == QLatin1String(command.alias)))
+            return &command;
+    return nullptr;
+}
+
+const Option *optionNamed(const QString &name)
+{
+    for (const Option &option : optionTable)
+        if (name == QLatin1String(option.name) || (*option.letter && name == QLatin1String(option.letter)))
+            return &option;
+    return nullptr;
+}
+
+QStringList optionNames(unsigned groups)
+{
+    QStringList names;
+    for (const Option &option : optionTable)
+        if (option.group & groups)
+            names.append(QLatin1String("--") + QLatin1String(option.name));
+    return names;
+}
+
+bool fail(Fault &fault, const QString &what, const QString &hint = QString())
+{
+    fault = {what, hint};
+    return false;
+}
+
+QString helpHint(const QString &command)
+{
+    return command.isEmpty() ? t("'kwgantt help' lists all commands")
+                             : t("'kwgantt help %1' lists its options").arg(command);
+}
+
+// How many letters must be put in, taken out or replaced to make one word of the other.
+int editDistance(const QString &a, const QString &b)
+{
+    std::vector<int> row(std::size_t(b.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (int i = 1; i <= a.size(); ++i) {
+        int diagonal = row[0];
+        row[0] = i;
+        for (int j = 1; j <= b.size(); ++j) {
+            const std::size_t at = std::size_t(j);
+            const int replaced = diagonal + (a.at(i - 1) != b.at(j - 1));
+            diagonal = row[at];
+            row[at] = std::min({replaced, row[at] + 1, row[at - 1] + 1});
+        }
+    }
+    return row.back();
+}
+
+struct Given
+{
+    const Option *option;
+    QString written; // "--width"
+    QString value;
+};
+
+struct Words
+{
+    QVector<Given> given;
+    QStringList rest;
+    QString instead; // "help" or "version" when asked for by an option
+};
+
+// Splits the words into options with their values and the rest.
+bool split(const QStringList &words, Words &result, Fault &fault)
+{
+    QStringList &rest = result.rest;
+    for (int i = 0; i < words.size(); ++i) {
+        const QString &word = words.at(i);
+        if (word == QLatin1String("--")) {
+            rest += words.mid(i + 1);
+            break;
+        }
+        // A lone dash stands for standard input.
+        if (!word.startsWith(QLatin1Char('-')) || word.size() == 1) {
+            rest.append(word);
+            continue;
+        }
+        const bool isLong = word.startsWith(QLatin1String("--"));
+        const int equals = isLong ? word.indexOf(QLatin1Char('=')) : -1;
+        const QString name = isLong ? word.mid(2, equals < 0 ? -1 : equals - 2) : word.mid(1);
+        const QString written = (isLong ? QStringLiteral("--") : QStringLiteral("-")) + name;
+        if (name == QLatin1String("help") || name == QLatin1String("h") || name == QLatin1String("version")) {
+            result.instead = name == QLatin1String("version") ? name : QStringLiteral("help");
+            continue;
+        }
+        const Option *option = isLong == (name.size() > 1) ? optionNamed(name) : nullptr;
+        if (!option) {
+            const QString guess = nearest(written, optionNames(~0u));
+            return fail(fault, t("unknown option '%1'").arg(written),
+                        guess.isEmpty() ? helpHint(QString()) : t("did you mean '%1'?").arg(guess));
+        }
+        Given entry{option, written, QString()};
+        if (option->value && equals >= 0)
+            entry.value = word.mid(equals + 1);
+        else if (option->value && i + 1 < words.size())
+            entry.value = words.at(++i);
+        else if (option->value)
+            return fail(fault, t("option '%1' needs a value: %2").arg(written, QLatin1String(option->value)));
+        else if (equals >= 0)
+            return fail(fault, t("option '%1' takes no value").arg(written));
+        result.given.append(entry);
+    }
+    return true;
+}
+
+bool checkTogether(const Options &options, Fault &fault)
+{
+    if (options.inPlace && options.arguments.value(0) == QLatin1String("-"))
+        return fail(fault, t("standard input cannot be written back"), t("give a file name, or -o FILE"));
+    if (options.inPlace && (!options.output.isEmpty() || options.formatGiven))
+        return fail(fault, t("-i writes the plan itself; it goes with neither -o nor --csv, --json or --to"));
+    if (options.inPlace && options.dryRun)
+        return fail(fault, t("-i and --dry-run exclude each other"));
+    return true;
+}
+
+// The output's format from its name, where no option says it.
+void setFormatByName(Options &options)
+{
+    if (options.formatGiven)
+        return;
+    const QString suffix = options.output.section(QLatin1Char('.'), -1).toLower();
+    if (suffix == QLatin1String("csv"))
+        options.format = Options::Csv;
+    else if (suffix == QLatin1String("json"))
+        options.format = Options::Json;
+    else if (suffix == QLatin1String("kwpx"))
+        options.format = Options::Package;
+}
+}
+
+bool parse(const QStringList &arguments, Options &result, Fault &fault)
+{
+    Words words;
+    if (!split(arguments, words, fault))
+        return false;
+    QStringList &rest = words.rest;
+    if (!words.instead.isEmpty()) {
+        result.command = words.instead;
+        if (commandNamed(rest.value(0)))
+            result.arguments = QStringList{rest.first()};
+        return true;
+    }
+    const QString name = rest.isEmpty() ? QStringLiteral("help") : rest.takeFirst();
+    const Command *command = commandNamed(name);
+    if (!command) {
+        const QString guess = nearest(name, commands());
+        return fail(fault, t("unknown command '%1'").arg(name),
+                    guess.isEmpty() ? helpHint(QString())
+                                    : t("did you mean '%1'? 'kwgantt help' lists all commands").arg(guess));
+    }
+    result.command = QLatin1String(command->name);
+    // `check` is `load` that says no by its exit code.
+    result.check = name == QLatin1String("check");
+    result.arguments = rest;
+    for (const Given &entry : words.given) {
+        if (!(entry.option->group & command->groups))
+            return fail(fault, t("'%1' does not go with '%2'").arg(entry.written, name),
+                        helpHint(result.command));
+        if (!entry.option->set(result, entry.value))
+            return fail(fault, t("'%1' is no value for '%2'").arg(entry.value, entry.written),
+                        t("possible: %1").arg(QLatin1String(entry.option->value)));
+    }
+    if (rest.size() < command->leastArguments)
+        return fail(fault, t("'%1' needs more: %2").arg(name, QLatin1String(command->arguments)),
+                    helpHint(result.command));
+    if (rest.size() > command->mostArguments)
+        return fail(fault, t("'%1' is one word too many for '%2'").arg(rest.at(command->mostArguments), name),
+                    helpHint(result.command));
+    const bool isConvert = result.command == QLatin1String("convert");
+    if (isConvert)
+        result.output = rest.at(1);
+    setFormatByName(result);
+    if (isConvert && result.format == Options::Table)
+        return fail(fault, t("'%1' names no format that can be written").arg(result.output),
+                    t("end it in .kwpx, .csv or .json"));
+    return checkTogether(result, fault);
+}
+
+QStringList commands()
+{
+    QStringList names;
+    for (const Command &command : commandTable)
+        names.append(QLatin1String(command.name));
+    return names;
+}
+
+QString nearest(const QString &word, const QStringList &candidates)
+{
+    constexpr int longest = 40;
+    if (word.size() > longest)
+        return QString();
+    QString best;
+    int bestDistance = qMax(1, word.size() / 3) + 1;
+    for (const QString &candidate : candidates) {
+        const int distance = editDistance(word.toLower(), candidate);
+        if (distance < bestDistance) {
+            bestDistance = distance;
+            best = candidate;
+        }
+    }
+    return best;
+}
+}

@@ -1,0 +1,71 @@
+#pragma once
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+// The command line, read into values.
+struct Options
+{
+    enum When { Auto, Always, Never };
+    enum Format { Table, Csv, Json, Package };
+    static constexpr int everyLevel = 0;
+
+    QString command;       // "help" when none is given
+    QStringList arguments; // what is not an option
+
+    // For every command.
+    QString output; // file name; empty: standard output
+    bool inPlace = false;
+    bool force = false;
+    Format format = Table;
+    bool formatGiven = false;
+    bool quiet = false;
+    bool verbose = false;
+    When progress = Auto;
+    When color = Auto;
+    bool ascii = false;
+    QString language;
+    QString zone;
+    QString now;
+    QString logFile;
+
+    // The calendar.
+    QString calendarFile;
+    QString days;
+    QString hours;
+    QStringList holidays;
+    QString start;
+
+    // What is shown.
+    QStringList columns;
+    int width = 0; // columns of the terminal; 0: found out
+    QString scale;
+    QString range;
+    int level = everyLevel;
+    bool all = false;
+    bool critical = false;
+    bool bars = true;
+    bool plain = false;
+
+    // Scheduling.
+    bool dryRun = false;
+    bool check = false;
+    bool asSoonAsPossible = false;
+    unsigned int slackUnit = 4; // 4 day, 5 hour, 6 minute
+};
+
+namespace options {
+
+struct Fault
+{
+    QString what;
+    QString hint;
+};
+
+// `arguments` without the program's name. False and a fault when they cannot be followed.
+bool parse(const QStringList &arguments, Options &result, Fault &fault);
+// The commands, the aliases left out.
+QStringList commands();
+// The candidate that `word` was probably meant to be; empty when none is close.
+QString nearest(const QString &word, const QStringList &candidates);
+}

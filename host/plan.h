@@ -1,0 +1,73 @@
+#pragma once
+#include "model/kwdocument.h"
+#include "planrows.h"
+#include "workingtime.h"
+#include <functional>
+#include <memory>
+#include <vector>
+
+class Findings;
+class KWTaskInfo;
+
+// A loaded plan: the library's document, and beside it what only the file says.
+struct Plan
+{
+    using Progress = std::function<void(const QString &work, qint64 done, qint64 total)>;
+
+    // One task that scheduling moved, with the task that pushed it (0: it went with its summary, or with all
+    // others to the project's start).
+    struct Move
+    {
+        int pos = 0;
+        quint32 oldStart = 0;
+        quint32 oldFinish = 0;
+        quint32 pushedBy = 0;
+    };
+
+    std::unique_ptr<KWDocument> document = std::make_unique<KWDocument>();
+    QString name;        // of the project, for people
+    QString file;        // as the user wrote it
+    csv::Table table;    // the file's cells
+    planrows::Rows rows; // by list position
+    WorkingTime workingTime;
+    unsigned int slackUnit = 4; // 4 day, 5 hour, 6 minute
+    quint32 start = 0;          // of the project; seconds on the day clock
+    int withoutStart = 0;       // tasks that the file gives no start
+    int links = 0;
+    int refusedLinks = 0;
+    std::vector<int> tightest; // for each task the one below it, or itself, with the least slack
+    std::vector<Move> moves;   // of schedule()
+    bool isPackage = false;
+    quint32 majorUnit = 0; // of a package's chart, as the file has them
+    quint32 minorUnit = 0;
+    quint32 finishBefore = 0; // the project's finish before schedule()
+
+    int taskCount() const { return document->taskCount(); }
+    KWTaskInfo *task(int pos) const { return document->taskList().at(pos); }
+    // The task whose slack decides about a row: a summary is as urgent as the most urgent task below it.
+    KWTaskInfo *urgent(int pos) const { return task(tightest[std::size_t(pos)]); }
+    int posOf(quint32 id) const { return document->getPosByID(id); }
+};
+
+namespace plan {
+
+// Fills the document from `rows` and `workingTime`: tasks, outline, dates as they are given, links. What is
+// refused or changed is added to `findings`. False with a sentence in `error` when nothing can be scheduled.
+bool build(Plan &plan, Findings &findings, QString &error, const Plan::Progress &progress);
+// Where tasks stand before they are pushed: where the file puts them, or all at the project's start.
+enum Beginning { AsGiven, AsSoonAsPossible };
+// Pushes every task behind its predecessors and fills `moves`.
+void schedule(Plan &plan, Beginning beginning, const Plan::Progress &progress);
+// Dates and progress of summaries, late dates, slack and bars, from the tasks as they stand.
+void refresh(Plan &plan, const Plan::Progress &progress);
+// Slack is measured in the minor unit of the chart: 4 day, 5 hour, 6 minute.
+void countSlackIn(Plan &plan, unsigned int unit);
+// How many tasks begin before a predecessor ends.
+int countEarlyTasks(const Plan &plan);
+
+// The project's ends on the day clock; 0 without tasks.
+quint32 firstStart(const Plan &plan);
+quint32 lastFinish(const Plan &plan);
+// Whole working minutes from one moment to another, negative when they stand the other way round.
+qint64 workingMinutes(const Plan &plan, quint32 from, quint32 to);
+}

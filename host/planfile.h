@@ -1,0 +1,15 @@
+#pragma once
+#include "plan.h"
+
+class Console;
+
+// From a file name to a loaded plan.
+namespace planfile {
+
+// Reads the plan and its calendar and builds the document. What was found on the way is added to `findings`,
+// unless it is told at once because nothing can follow. Console::Done, or the exit code.
+int load(const QString &path, Console &console, Plan &plan, Findings &findings);
+
+// The file's cells with the dates as they stand now, in the file's own delimiter and line ends.
+QByteArray rewritten(const Plan &plan);
+}

@@ -1,0 +1,326 @@
+#include "report.h"
+#include "bars.h"
+#include "datetext.h"
+#include "model/kwtaskinfo.h"
+#include "texts.h"
+#include "textwidth.h"
+#include <QTimeZone>
+#include <algorithm>
+
+namespace report {
+
+namespace {
+
+constexpr int gapColumns = 1;
+constexpr int narrowTerminal = 60; // below this only number, name and bar
+constexpr int leastNameColumns = 12;
+constexpr int leastBarColumns = 7;
+
+struct ShownColumn
+{
+    const columns::Column *column;
+    QString heading;
+    QStringList cells;
+    int width = 0;
+};
+
+struct Range
+{
+    QDate first;
+    QDate last;
+};
+
+// The dates that the plan's tasks touch.
+Range rangeOf(const Plan &plan, const shown::Times &times)
+{
+    Range range;
+    for (int pos = 0; pos < plan.taskCount(); ++pos) {
+        const QDate first = times.start(pos).date;
+        const QDate last = times.finish(pos).date;
+        if (!range.first.isValid() || first < range.first)
+            range.first = first;
+        if (!range.last.isValid() || last > range.last)
+            range.last = last;
+    }
+    return range;
+}
+
+bool parseRange(const QString &text, Range &range)
+{
+    const int dots = text.indexOf(QLatin1String(".."));
+    datetext::Moment first, last;
+    if (dots < 0 || !datetext::parseMoment(text.left(dots), first) ||
+        !datetext::parseMoment(text.mid(dots + 2), last) || last.when.date() < first.when.date())
+        return false;
+    range = {first.when.date(), last.when.date()};
+    return true;
+}
+
+// The tasks to show, by position. A critical task brings its summaries along: they are critical or hold its
+// place.
+std::vector<int> visibleTasks(const Plan &plan, const Options &options)
+{
+    std::vector<int> shownPositions;
+    std::vector<bool> wanted(std::size_t(plan.taskCount()), !options.critical);
+    for (int pos = plan.taskCount() - 1; options.critical && pos >= 0; --pos) {
+        const KWTaskInfo *task = plan.task(pos);
+        const bool critical = task->CriticalPath && !task->isParent();
+        wanted[std::size_t(pos)] = wanted[std::size_t(pos)] || critical;
+        const int parent = wanted[std::size_t(pos)] && task->ParentID ? plan.posOf(task->ParentID) : -1;
+        if (parent >= 0)
+            wanted[std::size_t(parent)] = true;
+    }
+    for (int pos = 0; pos < plan.taskCount(); ++pos) {
+        const KWTaskInfo *task = plan.task(pos);
+        const bool levelFits = options.level == Options::everyLevel || task->Level <= options.level;
+        if (wanted[std::size_t(pos)] && levelFits && (options.all || task->HideID == 0))
+            shownPositions.push_back(pos);
+    }
+    return shownPositions;
+}
+
+bool chooseColumns(const Options &options, int width, std::vector<ShownColumn> &chosen, QString &error)
+{
+    QStringList keys = options.columns.isEmpty() ? columns::standardKeys() : options.columns;
+    if (options.columns.isEmpty() && width < narrowTerminal)
+        keys = QStringList{QStringLiteral("number"), QStringLiteral("name")};
+    for (const QString &key : keys) {
+        const columns::Column *column = columns::named(key.trimmed().toLower());
+        if (!column) {
+            error =
+                t("unknown column '%1'; there are %2").arg(key, columns::keys().join(QLatin1String(", ")));
+            return false;
+        }
+        chosen.push_back({column, t(column->heading), QStringList(), 0});
+    }
+    return true;
+}
+
+bool isName(const ShownColumn &column)
+{
+    return QLatin1String(column.column->key) == QLatin1String("name");
+}
+
+class TableWriter
+{
+public:
+    TableWriter(const Plan &plan, const shown::Times &times, const Options &options, const Style &style,
+                int width)
+        : m_plan(plan)
+        , m_times(times)
+        , m_options(options)
+        , m_style(style)
+        , m_width(width)
+    {
+    }
+
+    bool run(QString &text, QString &error)
+    {
+        Range range = rangeOf(m_plan, m_times);
+        m_positions = visibleTasks(m_plan, m_options);
+        if (!chooseColumns(m_options, m_width, m_columns, error))
+            return false;
+        fillCells(range);
+        if (!m_options.range.isEmpty() && !parseRange(m_options.range, range)) {
+            error = t("'%1' is no range; write it as 2026-01-05..2026-02-28").arg(m_options.range);
+            return false;
+        }
+        layOut(range);
+        if (!m_options.plain)
+            text += title(m_plan, m_times, m_style) + QLatin1Char('\n');
+        addHeadings(text);
+        for (std::size_t i = 0; i < m_positions.size(); ++i)
+            addRow(text, int(i));
+        if (!m_options.plain && m_withBars)
+            text += QLatin1Char('\n') + legend() + QLatin1Char('\n');
+        if (m_withBars && m_axis.cutOff)
+            text += t("the bars end early: a greater --width or a coarser --scale shows the rest") +
+                    QLatin1Char('\n');
+        return true;
+    }
+
+private:
+    void fillCells(const Range &range)
+    {
+        // Within a year the day and the month tell a date apart; the title says which year it is.
+        constexpr int daysWithoutYear = 330;
+        const bool years = range.first.isValid() && range.first.daysTo(range.last) > daysWithoutYear;
+        const columns::Sheet sheet{m_plan, m_times, years, m_style.expanded};
+        for (ShownColumn &column : m_columns) {
+            column.width = textwidth::of(column.heading);
+            for (const int pos : m_positions) {
+                column.cells.append(textwidth::oneLine(column.column->text(sheet, pos), m_style.ascii));
+                column.width = qMax(column.width, textwidth::of(column.cells.last()));
+            }
+            // The mark keeps its place where no task has one.
+            if (column.heading.isEmpty())
+                column.width = qMax(column.width, 1);
+        }
+    }
+
+    void layOut(const Range &range)
+    {
+        m_withBars = m_options.bars && !m_options.plain && range.first.isValid();
+        int others = 0;
+        ShownColumn *name = nullptr;
+        for (ShownColumn &column : m_columns) {
+            others += gapColumns;
+            if (isName(column) && !name)
+                name = &column;
+            else
+                others += column.width;
+        }
+        const int room = m_width - others - (m_withBars ? gapColumns + 1 : 0);
+        int nameWidth = name ? name->width : 0;
+        if (m_withBars) {
+            // The names may fill half of what they share with the bars; the bars take no more than they need.
+            const int forNames = qMin(nameWidth, qMax(leastNameColumns, room / 2));
+            m_withBars = room - forNames >= leastBarColumns;
+            if (m_withBars) {
+                m_axis = axis::make(m_plan, range.first, range.last, m_options.scale, room - forNames);
+                nameWidth = qMin(nameWidth, room - int(m_axis.slots.size()));
+            }
+        }
+        if (!m_withBars)
+            nameWidth = qMin(nameWidth, qMax(leastNameColumns, room));
+        // Another program gets whole names.
+        if (name && !m_options.plain)
+            name->width = nameWidth;
+    }
+
+    void addHeadings(QString &text) const
+    {
+        if (m_withBars) {
+            int left = 0;
+            for (const ShownColumn &column : m_columns)
+                left += column.width + gapColumns;
+            text += trimmedRight(QString(left, QLatin1Char(' ')) + m_style.line + axis::heading(m_axis, 0));
+        }
+        QString line;
+        for (const ShownColumn &column : m_columns)
+            line += textwidth::padded(column.heading, column.width, column.column->alignRight) + blank();
+        if (m_withBars)
+            line += m_style.line + axis::heading(m_axis, 1);
+        text += trimmedRight(line);
+    }
+
+    void addRow(QString &text, int row) const
+    {
+        const int pos = m_positions[std::size_t(row)];
+        const KWTaskInfo *task = m_plan.task(pos);
+        QString line;
+        for (const ShownColumn &column : m_columns) {
+            const QString cell = isName(column)
+                                     ? textwidth::elided(column.cells.at(row), column.width, m_style.cut)
+                                     : column.cells.at(row);
+            const QString padded = textwidth::padded(cell, column.width, column.column->alignRight);
+            const bool isMark = *column.column->heading == '\0';
+            const Style::Tone tone = isMark ? Style::Critical : task->isParent() ? Style::Bold : Style::Plain;
+            line += m_style.toned(padded, isMark || isName(column) ? tone : Style::Plain) + blank();
+        }
+        if (m_withBars)
+            line += m_style.line + bars::bar(m_plan, m_times, m_axis, pos, m_style);
+        text += trimmedRight(line);
+    }
+
+    // As many meanings in a line as fit.
+    QString legend() const
+    {
+        const auto entry = [](const QString &symbol, const char *meaning) {
+            return symbol + QLatin1Char(' ') + t(meaning);
+        };
+        const QString gap = QStringLiteral("  ");
+        QString text;
+        int used = 0;
+        for (const QString &meaning :
+             {entry(m_style.done, "done"), entry(m_style.toDo, "to do"), entry(m_style.slack, "slack"),
+              entry(m_style.dayOff, "day off"), entry(m_style.milestone, "milestone"),
+              t("! critical: a delay moves the finish")}) {
+            const int columns = gap.size() + textwidth::of(meaning);
+            const bool fits = used == 0 || used + columns <= m_width;
+            text += (used == 0 ? QString() : fits ? gap : QStringLiteral("\n")) + meaning;
+            used = fits && used > 0 ? used + columns : textwidth::of(meaning);
+        }
+        return text;
+    }
+
+    static QString blank() { return QString(gapColumns, QLatin1Char(' ')); }
+
+    static QString trimmedRight(const QString &line)
+    {
+        int length = line.size();
+        while (length > 0 && line.at(length - 1) == QLatin1Char(' '))
+            --length;
+        return line.left(length) + QLatin1Char('\n');
+    }
+
+    const Plan &m_plan;
+    const shown::Times &m_times;
+    const Options &m_options;
+    const Style &m_style;
+    int m_width;
+    std::vector<int> m_positions;
+    std::vector<ShownColumn> m_columns;
+    axis::Axis m_axis;
+    bool m_withBars = false;
+};
+
+// Working dates that an exception takes away, and days off that one makes working.
+void countExceptions(const Plan &plan, const Range &range, int &holidays, int &extraDays)
+{
+    holidays = extraDays = 0;
+    for (QDate date = range.first; date.isValid() && date <= range.last; date = date.addDays(1)) {
+        const bool usual = plan.workingTime.week[std::size_t(date.dayOfWeek() - 1)];
+        const bool works = KWTaskInfo::isWorkday(plan.document.get(), date.startOfDay());
+        holidays += usual && !works;
+        extraDays += works && !usual;
+    }
+}
+
+// From the first critical task to the project's end, in working days.
+QString criticalLength(const Plan &plan)
+{
+    quint32 first = 0;
+    for (int pos = 0; pos < plan.taskCount(); ++pos) {
+        const KWTaskInfo *task = plan.task(pos);
+        if (task->CriticalPath && !task->isParent() && (first == 0 || task->Start < first))
+            first = task->Start;
+    }
+    constexpr unsigned int day = 4;
+    const double days = first ? plan.document->getDurationValue(first, plan::lastFinish(plan), day, true) : 0;
+    return QString::number(days) + QLatin1String(" d");
+}
+}
+
+QString title(const Plan &plan, const shown::Times &times, const Style &style)
+{
+    const QString separator = QStringLiteral("   ");
+    QStringList first{style.toned(textwidth::oneLine(plan.name, style.ascii), Style::Bold),
+                      counted(plan.taskCount(), "%1 task", "%1 tasks")};
+    const Range range = rangeOf(plan, times);
+    QStringList second{t("time zone %1").arg(QString::fromLatin1(QTimeZone::systemTimeZoneId())),
+                       workingtime::describe(plan.workingTime)};
+    if (range.first.isValid()) {
+        const bool sameYear = range.first.year() == range.last.year();
+        first.append(datetext::dateText(range.first, datetext::Weekday | (sameYear ? 0 : datetext::Year)) +
+                     QLatin1String(" - ") +
+                     datetext::dateText(range.last, datetext::Weekday | datetext::Year));
+        first.append(t("critical path %1").arg(criticalLength(plan)));
+        int holidays = 0;
+        int extraDays = 0;
+        countExceptions(plan, range, holidays, extraDays);
+        if (holidays)
+            second.append(counted(holidays, "%1 holiday", "%1 holidays"));
+        if (extraDays)
+            second.append(counted(extraDays, "%1 extra working day", "%1 extra working days"));
+    }
+    return first.join(separator) + QLatin1Char('\n') + second.join(separator) + QLatin1Char('\n');
+}
+
+bool table(const Plan &plan, const Options &options, const Style &style, int width, QString &text,
+           QString &error)
+{
+    const shown::Times times(plan);
+    return TableWriter(plan, times, options, style, width).run(text, error);
+}
+}

@@ -1,0 +1,155 @@
+#include "texts.h"
+
+namespace {
+
+QMap<QString, QString> helpTopics()
+{
+    const auto text = [](const char *words) { return QString::fromUtf8(words); };
+    return {
+        {QString(), text(R"(kwgantt - schedules project plans and shows them in the terminal
+
+  kwgantt show FILE            the plan as a table with bars
+  kwgantt load FILE            reads and checks the plan and sums it up (check: exit code 1 on findings)
+  kwgantt schedule FILE        moves every task behind its predecessors; late dates, slack, critical path
+  kwgantt explain FILE TASK    why a task is when it is, and why it is critical or not
+  kwgantt convert IN OUT       writes a plan as .kwpx, .csv or .json
+  kwgantt formats | columns    what can be read and written; what a table can show
+  kwgantt help [COMMAND]       this text, or one command with its options
+  kwgantt version
+
+FILE is a CSV plan ('-' reads standard input): titles in the first row, in any order and case, such as
+ID, WBS, Level, Name, Start, Finish, Duration (3d 12h 30min 1.5w 2mon), Percent, Predecessors (joined by ;),
+Resources, Milestone, Notes. A calendar stands beside it as NAME.calendar.json or calendar.json.
+TASK is the row number shown, #ID, or a name.
+
+Calendar   --calendar FILE  --days Mon-Fri  --hours 08:00-12:00,13:00-17:00  --holiday DATE[..DATE]
+           --start DATE (where tasks without a start begin)
+Output     -o FILE  --force (replaces it)  --csv  --json  --to csv|json|table  -q  -v
+           --color auto|always|never  --ascii  --progress auto|always|never  --log FILE
+Place      --tz ZONE  --now TIME  --lang LANGUAGE
+
+Exit codes 0 done  1 done, and the answer is no  2 wrong use  3 input cannot be read
+           4 output cannot be written  5 cannot be scheduled  6 the machine lacks something  70 a bug
+)")},
+        {QStringLiteral("show"), text(R"(kwgantt show FILE - the plan as a table with bars
+
+The dates are those of the file; a plan with tasks that have no start is shown scheduled.
+
+  --columns LIST   columns by their keys, joined by commas; 'kwgantt columns' lists them
+  --width N        columns of the terminal (found out otherwise, 100 in a pipe)
+  --scale SCALE    auto, hour, day, week, month, quarter or year
+  --range D..D     only these dates on the bars
+  --level N        only tasks down to this outline level
+  --critical       only critical tasks and their summaries
+  --all            collapsed tasks, too
+  --no-bars        the table alone
+  --plain          the table alone, without title, legend and cut names, for other programs
+  --unit d|h|min   the unit of slack (d: below half a tenth of a day counts as none)
+  --csv, --json    every field of every task, for other programs
+
+Example: kwgantt show plan.csv --critical --scale week
+)")},
+        {QStringLiteral("load"), text(R"(kwgantt load FILE - reads and checks the plan and sums it up
+
+What is wrong but can be lived with is told on standard error; a file that cannot be read as a plan gives
+exit code 3. 'kwgantt check FILE' does the same and gives exit code 1 when anything was found, or when a
+task starts before a predecessor finishes.
+
+  --check          exit code 1 when anything was found
+  --json           the summary and the findings for other programs
+)")},
+        {QStringLiteral("schedule"), text(R"(kwgantt schedule FILE - moves every task behind its predecessors
+
+A task keeps its start when it can: it is only moved later, to the end of the predecessor that finishes
+last, never earlier. A task without a start begins at the project's start. Prints the plan; what moved is
+summed up on standard error.
+
+  --asap           every task begins at the project's start, whatever the file says, and is moved from there:
+                   the earliest dates that the links allow
+  --dry-run        what would move, and because of what; nothing is written
+  --check          the same, and exit code 1 when anything would move or was found
+  -i, --in-place   writes the new dates into FILE and leaves everything else in it as it is
+  -o FILE          writes the scheduled plan; the format follows the name (.csv, .json)
+  --unit d|h|min   the unit of slack
+  and all options of 'kwgantt help show'
+
+Example: kwgantt schedule plan.csv --dry-run --holiday 2026-12-24..2027-01-01
+)")},
+        {QStringLiteral("explain"), text(R"(kwgantt explain FILE TASK - why a task is when it is
+
+Schedules the plan as 'kwgantt schedule' does and tells what drives the task's start, how long it takes and
+which days do not count, whether it is critical, and what it holds up. Nothing is written.
+
+  TASK             the row number shown, #ID, or a name
+  --asap           the earliest dates that the links allow
+  --json           for other programs
+
+Example: kwgantt explain plan.csv "Order parts"
+)")},
+        {QStringLiteral("convert"), text(R"(kwgantt convert IN OUT - writes a plan in another format
+
+The input's format is found from its content, the output's from its name: .kwpx, .csv or .json. Tasks without a
+start are placed as 'kwgantt schedule' does.
+
+  --force          replaces OUT
+
+Example: kwgantt convert plan.csv plan.kwpx
+)")},
+        {QStringLiteral("formats"), text("kwgantt formats - what can be read and written\n")},
+        {QStringLiteral("columns"), text("kwgantt columns - what 'show --columns' can show\n")},
+        {QStringLiteral("help"),
+         text("kwgantt help [COMMAND] - the commands, or one of them with its options\n")},
+        {QStringLiteral("version"), text("kwgantt version - the program's version\n")},
+    };
+}
+
+QStringList words(const char *list)
+{
+    return QString::fromUtf8(list).split(QLatin1Char(' '));
+}
+}
+
+const LanguageTexts &englishTexts()
+{
+    static const LanguageTexts english{
+        QStringLiteral("en"),
+        {{0, QStringLiteral("Year")},
+         {1, QStringLiteral("Quarter")},
+         {2, QStringLiteral("Month")},
+         {3, QStringLiteral("Week")},
+         {4, QStringLiteral("Workday")},
+         {5, QStringLiteral("Hour")},
+         {6, QStringLiteral("Minute")}},
+        {{0, QStringLiteral("ID")},
+         {1, QStringLiteral("Task Name")},
+         {2, QStringLiteral("Start")},
+         {3, QStringLiteral("Finish")},
+         {4, QStringLiteral("Duration")},
+         {5, QStringLiteral("Complete")},
+         {6, QStringLiteral("Priority")},
+         {7, QStringLiteral("Resources")},
+         {8, QStringLiteral("Hyperlinks")},
+         {9, QStringLiteral("Cost")},
+         {10, QStringLiteral("Remaining Cost")},
+         {11, QStringLiteral("Work")},
+         {12, QStringLiteral("Early Start")},
+         {13, QStringLiteral("Early Finish")},
+         {14, QStringLiteral("Late Start")},
+         {15, QStringLiteral("Late Finish")},
+         {16, QStringLiteral("Start Slack")},
+         {17, QStringLiteral("Finish Slack")},
+         {18, QStringLiteral("Critical")},
+         {19, QStringLiteral("Notes")},
+         {20, QStringLiteral("Baseline Start")},
+         {21, QStringLiteral("Baseline Finish")},
+         {22, QStringLiteral("Baseline Cost")},
+         {23, QStringLiteral("Level")},
+         {24, QStringLiteral("Predecessors")}},
+        words("Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec"),
+        words("Mon Tue Wed Thu Fri Sat Sun"),
+        words("M T W T F S S"),
+        helpTopics(),
+        {},
+    };
+    return english;
+}

@@ -1,0 +1,323 @@
+#include "workingtime.h"
+#include "model/kwdocument.h"
+#include "schedule/kwcalendar.h"
+#include "support/findings.h"
+#include "texts.h"
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+
+bool WorkingTime::hasWorkday() const
+{
+    return std::find(week.begin(), week.end(), true) != week.end();
+}
+
+int WorkingTime::hoursPerDay() const
+{
+    int total = 0;
+    for (const Interval &interval : hours)
+        total += qMax(0, interval.finishSecs / 3600 - interval.startSecs / 3600);
+    return total;
+}
+
+namespace workingtime {
+
+namespace {
+
+// The weekday a word names, 0 = Monday; -1 when it names none. Three letters and more of the English name do,
+// and the short name of the chosen language.
+int weekdayNamed(const QString &word)
+{
+    static const char *const names[] = {"monday", "tuesday",  "wednesday", "thursday",
+                                        "friday", "saturday", "sunday"};
+    const QString lower = word.trimmed().toLower();
+    for (int day = 0; day < 7; ++day) {
+        if (lower.size() >= 3 && QLatin1String(names[day]).startsWith(lower))
+            return day;
+        if (lower == texts::current().weekdays.value(day).toLower())
+            return day;
+    }
+    return -1;
+}
+
+bool parseInterval(const QString &text, WorkingTime::Interval &interval)
+{
+    const QStringList ends = text.split(QLatin1Char('-'));
+    if (ends.size() != 2)
+        return false;
+    interval = {datetext::parseTimeOfDay(ends.at(0)), datetext::parseTimeOfDay(ends.at(1))};
+    // A day that ends at midnight is written either way.
+    if (interval.finishSecs == 0)
+        interval.finishSecs = 86400;
+    return interval.startSecs >= 0 && interval.finishSecs > interval.startSecs;
+}
+
+bool inOrder(const std::vector<WorkingTime::Interval> &hours)
+{
+    for (std::size_t i = 1; i < hours.size(); ++i)
+        if (hours[i].startSecs < hours[i - 1].finishSecs)
+            return false;
+    return true;
+}
+
+struct Day
+{
+    bool works = false;
+    std::vector<WorkingTime::Interval> hours;
+};
+
+// true, false, or a list of "WORKING", "NON_WORKING" and intervals.
+bool readDay(const QJsonValue &value, Day &day)
+{
+    if (value.isBool()) {
+        day.works = value.toBool();
+        return true;
+    }
+    if (!value.isArray())
+        return false;
+    bool saysOff = false;
+    for (const QJsonValue &entry : value.toArray()) {
+        const QString text = entry.toString().trimmed();
+        WorkingTime::Interval interval;
+        if (text.compare(QLatin1String("WORKING"), Qt::CaseInsensitive) == 0)
+            day.works = true;
+        else if (text.compare(QLatin1String("NON_WORKING"), Qt::CaseInsensitive) == 0)
+            saysOff = true;
+        else if (parseInterval(text, interval))
+            day.hours.push_back(interval);
+        else
+            return false;
+    }
+    day.works = !saysOff && (day.works || !day.hours.empty());
+    std::sort(day.hours.begin(), day.hours.end(),
+              [](const auto &a, const auto &b) { return a.startSecs < b.startSecs; });
+    return inOrder(day.hours);
+}
+
+QString hoursText(const std::vector<WorkingTime::Interval> &hours)
+{
+    QStringList parts;
+    for (const WorkingTime::Interval &interval : hours)
+        parts.append(datetext::timeText(interval.startSecs) + QLatin1Char('-') +
+                     datetext::timeText(interval.finishSecs));
+    return parts.isEmpty() ? t("no hours") : parts.join(QLatin1Char(' '));
+}
+
+// The library knows one set of hours for all working days: the one that most of them have.
+void chooseHours(const std::array<Day, 7> &days, WorkingTime &result, Findings &warnings)
+{
+    const Day *best = nullptr;
+    long bestCount = 0;
+    for (const Day &day : days) {
+        if (!day.works || day.hours.empty())
+            continue;
+        const long count = std::count_if(days.begin(), days.end(), [&day](const Day &other) {
+            return other.works && other.hours == day.hours;
+        });
+        if (count > bestCount) {
+            best = &day;
+            bestCount = count;
+        }
+    }
+    if (!best)
+        return;
+    result.hours = best->hours;
+    for (std::size_t i = 0; i < days.size(); ++i)
+        if (days[i].works && !days[i].hours.empty() && !(days[i].hours == result.hours))
+            warnings.add(t("calendar, %1").arg(texts::current().weekdays.value(int(i))),
+                         t("hours %1 are read as %2").arg(hoursText(days[i].hours), hoursText(result.hours)),
+                         t("every working day has the same hours"));
+}
+
+bool readExceptions(const QJsonArray &list, WorkingTime &result, QString &error)
+{
+    if (list.size() > mostExceptions) {
+        error = t("more than %1 exceptions").arg(grouped(mostExceptions));
+        return false;
+    }
+    for (int i = 0; i < list.size(); ++i) {
+        const QJsonValue entry = list.at(i);
+        QString from, to, name;
+        bool works = false;
+        if (entry.isArray()) {
+            const QJsonArray fields = entry.toArray();
+            from = fields.at(0).toString();
+            to = fields.at(1).toString(from);
+            works = fields.at(2).toBool();
+        } else if (entry.isObject()) {
+            const QJsonObject fields = entry.toObject();
+            from = fields.value(QLatin1String("from")).toString();
+            to = fields.value(QLatin1String("to")).toString(from);
+            works = fields.value(QLatin1String("works")).toBool();
+            name = fields.value(QLatin1String("name")).toString();
+        } else {
+            from = to = entry.toString();
+        }
+        datetext::Moment first, last;
+        if (!datetext::parseMoment(from, first) || !datetext::parseMoment(to, last) ||
+            last.when.date() < first.when.date()) {
+            error = t("exception %1: '%2' to '%3' are not two dates in order").arg(i + 1).arg(from, to);
+            return false;
+        }
+        result.exceptions.push_back({first.when.date(), last.when.date(), works, name});
+    }
+    return true;
+}
+
+void warnAboutHours(const QJsonObject &root, const WorkingTime &result, Findings &warnings)
+{
+    const bool wholeHours = std::all_of(result.hours.begin(), result.hours.end(), [](const auto &interval) {
+        return interval.startSecs % 3600 == 0 && interval.finishSecs % 3600 == 0;
+    });
+    if (!wholeHours)
+        warnings.add(t("calendar"),
+                     t("the hours %1 count as %2 whole hours a day")
+                         .arg(hoursText(result.hours))
+                         .arg(result.hoursPerDay()),
+                     t("use hours that begin and end on the hour for exact dates"));
+    const int minutesPerDay = root.value(QLatin1String("minutesPerDay")).toInt(result.hoursPerDay() * 60);
+    if (wholeHours && minutesPerDay != result.hoursPerDay() * 60)
+        warnings.add(t("calendar"), t("a day of %1 minutes is counted as its hours say: %2 minutes")
+                                        .arg(minutesPerDay)
+                                        .arg(result.hoursPerDay() * 60));
+}
+}
+
+bool read(const QByteArray &json, WorkingTime &result, Findings &warnings, QString &error)
+{
+    if (json.size() > largestFileBytes) {
+        error = t("longer than %1 bytes").arg(grouped(largestFileBytes));
+        return false;
+    }
+    QJsonParseError fault;
+    const QJsonDocument document = QJsonDocument::fromJson(json, &fault);
+    if (!document.isObject()) {
+        error = fault.error == QJsonParseError::NoError
+                    ? t("not a JSON object")
+                    : t("not JSON at byte %1: %2").arg(fault.offset).arg(fault.errorString());
+        return false;
+    }
+    const QJsonObject root = document.object();
+
+    std::array<Day, 7> days;
+    for (std::size_t i = 0; i < days.size(); ++i)
+        days[i].works = result.week[i];
+    const QJsonObject week = root.value(QLatin1String("days")).toObject();
+    for (auto entry = week.begin(); entry != week.end(); ++entry) {
+        const int weekday = weekdayNamed(entry.key());
+        Day day;
+        if (weekday < 0 || !readDay(entry.value(), day)) {
+            error = t("'%1' is not a weekday with its hours").arg(entry.key());
+            return false;
+        }
+        days[std::size_t(weekday)] = day;
+    }
+    for (std::size_t i = 0; i < days.size(); ++i)
+        result.week[i] = days[i].works;
+    chooseHours(days, result, warnings);
+
+    const QJsonValue hours = root.value(QLatin1String("hours"));
+    if (hours.isString() && !parseHours(hours.toString(), result)) {
+        error = t("'%1' are not working hours").arg(hours.toString());
+        return false;
+    }
+    result.projectName = root.value(QLatin1String("name")).toString().simplified();
+    const QString start = root.value(QLatin1String("start")).toString();
+    if (!start.isEmpty() && !datetext::parseMoment(start, result.start)) {
+        error = t("'start': '%1' is not a date").arg(start);
+        return false;
+    }
+    if (!readExceptions(root.value(QLatin1String("exceptions")).toArray(), result, error))
+        return false;
+    warnAboutHours(root, result, warnings);
+    return true;
+}
+
+bool parseDays(const QString &text, WorkingTime &result)
+{
+    std::array<bool, 7> week{};
+    if (text.trimmed().compare(QLatin1String("none"), Qt::CaseInsensitive) != 0) {
+        for (const QString &part : text.split(QLatin1Char(','))) {
+            const int first = weekdayNamed(part.section(QLatin1Char('-'), 0, 0));
+            const int last =
+                part.contains(QLatin1Char('-')) ? weekdayNamed(part.section(QLatin1Char('-'), 1)) : first;
+            if (first < 0 || last < 0)
+                return false;
+            // Sat-Mon goes over the end of the week.
+            for (int day = first;; day = (day + 1) % 7) {
+                week[std::size_t(day)] = true;
+                if (day == last)
+                    break;
+            }
+        }
+    }
+    result.week = week;
+    return true;
+}
+
+bool parseHours(const QString &text, WorkingTime &result)
+{
+    std::vector<WorkingTime::Interval> hours;
+    for (const QString &part : text.split(QLatin1Char(','))) {
+        WorkingTime::Interval interval;
+        if (!parseInterval(part, interval))
+            return false;
+        hours.push_back(interval);
+    }
+    if (!inOrder(hours))
+        return false;
+    result.hours = hours;
+    return true;
+}
+
+bool parseHoliday(const QString &text, WorkingTime &result)
+{
+    const int dots = text.indexOf(QLatin1String(".."));
+    datetext::Moment first, last;
+    if (!datetext::parseMoment(dots < 0 ? text : text.left(dots), first) ||
+        !datetext::parseMoment(dots < 0 ? text : text.mid(dots + 2), last) ||
+        last.when.date() < first.when.date())
+        return false;
+    // What is asked for here wins over the exceptions of a file.
+    result.exceptions.insert(result.exceptions.begin(),
+                             {first.when.date(), last.when.date(), false, QString()});
+    return true;
+}
+
+void apply(const WorkingTime &workingTime, KWDocument &document)
+{
+    std::copy(workingTime.week.begin(), workingTime.week.end(), document.WorkDay);
+    qDeleteAll(document.workTimes);
+    document.workTimes.clear();
+    for (const WorkingTime::Interval &interval : workingTime.hours)
+        document.workTimes.append(new KWDayTime(quint32(interval.startSecs), quint32(interval.finishSecs)));
+    document.clearCalendar();
+    for (const WorkingTime::Exception &exception : workingTime.exceptions) {
+        auto *calendar = new KWCalendar;
+        calendar->name = exception.name;
+        calendar->startDate = exception.from;
+        calendar->finishDate = exception.to;
+        calendar->isException = true;
+        calendar->isWork = exception.works;
+        document.calendars.append(calendar);
+    }
+}
+
+QString describe(const WorkingTime &workingTime)
+{
+    const QStringList &names = texts::current().weekdays;
+    QStringList days;
+    for (int day = 0; day < 7; ++day) {
+        if (!workingTime.week[std::size_t(day)])
+            continue;
+        int last = day;
+        while (last < 6 && workingTime.week[std::size_t(last + 1)])
+            ++last;
+        days.append(last == day ? names.value(day) : names.value(day) + QLatin1Char('-') + names.value(last));
+        day = last;
+    }
+    return (days.isEmpty() ? t("no working day") : days.join(QLatin1String(", "))) + QLatin1Char(' ') +
+           hoursText(workingTime.hours);
+}
+}

@@ -1,0 +1,84 @@
+#pragma once
+#include "format/unitutil.h"
+#include "model/fieldtable.h"
+#include "model/trackedfield.h"
+#include "support/xmlsink.h"
+#include "support/xmlsource.h"
+
+// The rows of a field table as attributes, over any of the XML sinks and sources.
+namespace fields {
+
+template <typename T>
+const T &plain(const T &value)
+{
+    return value;
+}
+
+template <typename T>
+T plain(const TrackedField<T> &value)
+{
+    return value.value();
+}
+
+template <typename T>
+bool isEmptyList(const QList<T> &list)
+{
+    return list.isEmpty();
+}
+
+template <typename T>
+bool isEmptyList(const T &)
+{
+    return false;
+}
+
+// The attributes of the element that the sink has open, in the order of the table.
+template <typename Sink, typename Table, typename Record>
+void write(Sink &sink, const Table &table, const Record &record)
+{
+    const double scale = UnitUtil::dpiScale96();
+    forEach(table, Xml, [&](const auto &row) {
+        const auto &value = plain(record.*row.member);
+        if constexpr (std::is_same_v<std::decay_t<decltype(value)>, double>) {
+            sink.attribute(row.name, row.uses & ScreenScaled ? value / scale : value);
+        } else {
+            if (!(row.uses & OmitEmpty) || !isEmptyList(value))
+                sink.attribute(row.name, value);
+        }
+    });
+}
+
+// An absent or empty attribute leaves its member as it was.
+template <typename Source, typename Table, typename Record>
+void read(Source &source, const Table &table, Record &record)
+{
+    const double scale = UnitUtil::dpiScale96();
+    forEach(table, Xml, [&](const auto &row) {
+        const XmlText text = source.text(row.name);
+        if (text.isEmpty())
+            return;
+        auto value = plain(record.*row.member);
+        xmltext::read(text, value);
+        if constexpr (std::is_same_v<decltype(value), double>) {
+            if (row.uses & ScreenScaled)
+                value *= scale;
+        }
+        record.*row.member = value;
+    });
+}
+
+// The same with one element of a DOM.
+template <typename Table, typename Record>
+void save(const Table &table, const Record &record, const QDomElement &element)
+{
+    DomSink sink(element);
+    write(sink, table, record);
+}
+
+template <typename Table, typename Record>
+void parse(const Table &table, const QDomElement &element, Record &record)
+{
+    DomSource source(element);
+    read(source, table, record);
+}
+}

@@ -1,0 +1,32 @@
+#pragma once
+#include "model/kwdocument.h"
+#include "model/taskindex.h"
+#include "schedule/calendarcache.h"
+#include <vector>
+
+// What a document derives from its list to answer at once. Each table covers the first so many tasks and is
+// continued on demand, so appending stays cheap; it starts anew when its counter has moved.
+struct KWDocument::Caches
+{
+    CalendarCache calendar;
+
+    // By ID.
+    TaskIndex index;
+    int indexed = 0;
+    quint64 indexedAt = 0;
+    quint32 maxId = 0;
+    quint32 lowestFreeId = 1; // every smaller ID is taken
+
+    // Rows.
+    std::vector<int> rowOfPos; // pos less the hidden tasks up to and with it
+    std::vector<int> posOfRow;
+    quint64 rowsAt = 0;
+
+    // The bottom edge of every pos, in pixels.
+    std::vector<double> bottoms;
+    quint64 bottomsAt = 0;
+    quint64 bottomsHeightsAt = 0;
+    std::size_t bottomsHeightCount = 0;
+    double bottomsScale = 0;
+    bool ascending = true; // no height is negative or no number
+};

@@ -1,0 +1,301 @@
+// The document as a package: a zip archive of XML files.
+#include "kwfilepathmanager.h"
+#include "kwtemporarydir.h"
+#include "kwversion.h"
+#include "kwzip.h"
+#include "model/kwdocument_xml.h"
+#include "runinglog.h"
+#include "support/kwziplimits.h"
+#include "support/xmlsink.h"
+#include "support/xmltree.h"
+#include "support/ziprules.h"
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <climits>
+#include <map>
+#include <memory>
+
+namespace {
+
+constexpr char documentFile[] = "document.xml";
+constexpr char pageFile[] = "page/page.xml";
+constexpr char relationsFile[] = "rels/page_rels.xml";
+
+QString latin1(const char *text)
+{
+    return QString::fromLatin1(text);
+}
+
+bool isPackageName(const QString &path)
+{
+    return path.endsWith(QLatin1String(".kwpx"));
+}
+
+bool refuse(const char *what, const QString &path, const QString &why)
+{
+    RuningLog::log(latin1(what) + path + QLatin1String(": ") + why);
+    return false;
+}
+
+// The folder that a package is put together or taken apart in; it is removed with the object.
+class PackageFolder
+{
+public:
+    explicit PackageFolder(const QStringList &subFolders)
+    {
+        if (m_usual.isValid()) {
+            m_path = m_usual.path();
+            RuningLog::log(QLatin1String("Save QTemporaryDir information. ") + m_path);
+        } else {
+            m_fallback = std::make_unique<KWTemporaryDir>();
+            m_path = m_fallback->path();
+            RuningLog::log(QLatin1String("Save templateFolder information. ") + m_path);
+        }
+        if (m_path.isEmpty())
+            return;
+        if (!m_path.endsWith(QLatin1Char('/')))
+            m_path += QLatin1Char('/');
+        const QString media = m_path + QLatin1String("media");
+        if (!QDir().mkpath(media))
+            RuningLog::log(QLatin1String("Create Folder Failed. ") + media);
+        for (const QString &folder : subFolders)
+            QDir().mkpath(m_path + folder);
+        KWDocument::s_mediaPath = media + QLatin1Char('/');
+    }
+    bool isValid() const { return !m_path.isEmpty(); }
+    QString path() const { return m_path; } // ends with "/"
+    QString file(const char *name) const { return m_path + latin1(name); }
+
+private:
+    QTemporaryDir m_usual;
+    std::unique_ptr<KWTemporaryDir> m_fallback;
+    QString m_path;
+};
+
+// Writes a file through a sink; false, with a line in the log, when the file does not hold all of it.
+template <typename Write>
+bool writeXml(const QString &path, Write &&write)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+        return refuse("Package not written: ", path, file.errorString());
+    StreamSink sink(file);
+    write(sink);
+    const bool isWhole = sink.finish() && file.flush() && file.error() == QFileDevice::NoError;
+    return isWhole || refuse("Package not written: ", path, file.errorString());
+}
+
+// Elements that others have added to a DOM, with attributes in the order of their names: a DOM keeps them in
+// an order that differs from one process to the next.
+void writeElement(StreamSink &sink, const QDomElement &element)
+{
+    const QByteArray name = element.tagName().toUtf8();
+    sink.open(name.constData());
+    std::map<QByteArray, QString> attributes;
+    const QDomNamedNodeMap map = element.attributes();
+    for (int i = 0; i < map.count(); ++i)
+        attributes.emplace(map.item(i).toAttr().name().toUtf8(), map.item(i).toAttr().value());
+    for (const auto &[key, value] : attributes)
+        sink.attribute(key.constData(), value);
+    for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+        writeElement(sink, child);
+    sink.close();
+}
+
+// The elements that are added live as long as their document.
+QDomElement newRelations()
+{
+    static QDomDocument document;
+    document = QDomDocument();
+    const QDomElement root = document.createElement(QStringLiteral("Relationships"));
+    document.appendChild(root);
+    return root;
+}
+
+void writeEmptyPage(StreamSink &sink)
+{
+    sink.open("Page");
+    sink.close();
+}
+
+bool readXml(const QString &path, XmlTree &tree)
+{
+    QString error;
+    return tree.load(path, kwzip::maxEntryBytes, &error) || refuse("Package not read: ", path, error);
+}
+
+// What unpacking left behind, checked once more: the archive may have been unpacked by another library's
+// code.
+bool isWithinLimits(const QString &folder, QString *error)
+{
+    kwzip::Inventory inventory(LLONG_MAX);
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        const QFileInfo info = entries.fileInfo();
+        if (info.isSymLink() || (!info.isDir() && !info.isFile())) {
+            *error = path + QLatin1String(": neither a plain file nor a plain folder");
+            return false;
+        }
+        QByteArray name = path.mid(folder.size()).toUtf8();
+        if (info.isDir())
+            name += '/';
+        const qint64 bytes = info.isDir() ? 0 : info.size();
+        *error = inventory.add({name, bytes, bytes});
+        if (!error->isEmpty())
+            return false;
+    }
+    return true;
+}
+
+// A package that has been unpacked and found sound, before anything of it is taken over.
+class UnpackedPackage
+{
+public:
+    UnpackedPackage()
+        : m_folder({QStringLiteral("pages"), QStringLiteral("rels")})
+    {
+    }
+
+    QString folder() const { return m_folder.path(); }
+    QString file(const char *name) const { return m_folder.file(name); }
+
+    bool unpack(const QString &path)
+    {
+        if (!m_folder.isValid())
+            return refuse("Package not read: ", path, QStringLiteral("no temporary folder"));
+        if (!KWZip::unZip(path, m_folder.path()))
+            return refuse("Package not read: ", path, KWZip::lastError());
+        QString error;
+        return isWithinLimits(m_folder.path(), &error) || refuse("Package not read: ", path, error);
+    }
+
+    // Relationships and page may be missing, but what is there must be sound.
+    bool readSmallParts()
+    {
+        for (const char *name : {relationsFile, pageFile}) {
+            XmlTree tree;
+            if (QFileInfo::exists(file(name)) && !readXml(file(name), tree))
+                return false;
+        }
+        return true;
+    }
+
+private:
+    PackageFolder m_folder;
+};
+}
+
+// ---- Saving -----------------------------------------------------------------------------------------------
+
+bool KWDocument::saveDocument(const QString &folder) const
+{
+    return writeXml(folder + latin1(documentFile),
+                    [this](StreamSink &sink) { documentxml::write(sink, *this); });
+}
+
+bool KWDocument::saveTo(const QString &path, bool isBackup, bool updatePath)
+{
+    const PackageFolder folder({QStringLiteral("page"), QStringLiteral("rels")});
+    if (!folder.isValid())
+        return refuse("Package not written: ", path, QStringLiteral("no temporary folder"));
+    s_relsNode = newRelations();
+    // The relationships last, so that they hold what was added while the rest was written.
+    const bool isWritten =
+        writeXml(folder.file(pageFile), writeEmptyPage) && saveDocument(folder.path()) &&
+        writeXml(folder.file(relationsFile), [](StreamSink &sink) { writeElement(sink, s_relsNode); });
+    if (!isWritten)
+        return false;
+    if (!KWZip::zip(path, folder.path()))
+        return refuse("Package not written: ", path, KWZip::lastError());
+    if (isBackup)
+        return true;
+    if (updatePath)
+        setFilePath(path, QString());
+    setModified(false);
+    return true;
+}
+
+bool KWDocument::save(const QString &path)
+{
+    const QString target = path.isEmpty() ? filePath() : path;
+    return isPackageName(target) && saveTo(target, false, true);
+}
+
+bool KWDocument::saveToKWGT(const QString &path, bool isBackup, bool updatePath)
+{
+    return saveTo(path.isEmpty() ? filePath() : path, isBackup, updatePath);
+}
+
+bool KWDocument::saveBackup()
+{
+    if (backupName().isEmpty())
+        return false;
+    if (!isModified())
+        return true;
+    return saveToKWGT(KWFilePathManager::configDir(QStringLiteral("autosave")) + QLatin1Char('/') +
+                          backupName() + QLatin1String(".kwpx"),
+                      true, true);
+}
+
+// ---- Loading ----------------------------------------------------------------------------------------------
+
+void KWDocument::loadFromFile(const QString &path)
+{
+    if (isPackageName(path))
+        loadFromKWGT(path);
+}
+
+bool KWDocument::loadFromKWGT(const QString &path)
+{
+    UnpackedPackage package;
+    constexpr unsigned int version = 0;
+    if (!package.unpack(path) || !package.readSmallParts() || !loadDocument(package.folder(), version))
+        return false;
+    setFilePath(path, QString());
+    return true;
+}
+
+bool KWDocument::loadDocument(const QString &folder, unsigned int)
+{
+    XmlTree tree;
+    if (!readXml(folder + latin1(documentFile), tree))
+        return false;
+    TreeSource root = tree.root();
+    if (!root.is("Document"))
+        return refuse("Package not read: ", folder, QStringLiteral("the root element is not \"Document\""));
+    m_loadedVersion = versionOf(root.text("Version").toString());
+    documentxml::read(root, *this);
+    return true;
+}
+
+KWVersion KWDocument::versionOf(const QString &text)
+{
+    const KWVersion version(text);
+    return version.major() > 0 && version.minor() >= 0 ? version
+                                                       : KWVersion(latin1(documentxml::currentVersion));
+}
+
+bool KWDocument::loadStructure(const QString &path)
+{
+    if (!isPackageName(path))
+        return false;
+    loadFromFile(path);
+    return loadStructureFromDDX(path);
+}
+
+bool KWDocument::loadStructureFromDDX(const QString &path)
+{
+    UnpackedPackage package;
+    XmlTree document;
+    XmlTree page;
+    if (!package.unpack(path) || !readXml(package.file(documentFile), document))
+        return false;
+    TreeSource root = document.root();
+    m_loadedVersion = versionOf(root.text("Version").toString());
+    return readXml(package.file(pageFile), page);
+}

@@ -1,0 +1,74 @@
+#include "resources/assignmentbatch.h"
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "resources/kwtaskinfo_cost.h"
+#include "resources/names.h"
+#include "resources/resourceinfodata.h"
+#include <QHash>
+#include <QSet>
+
+struct AssignmentBatch::Private
+{
+    CostPass pass;
+    QHash<QString, const ResourceInfo *> entries; // the first of each trimmed name
+    QSet<KWTaskInfo *> named;                     // whose texts are to be made anew
+
+    explicit Private(KWDocument &document)
+        : pass(document)
+    {
+        for (const ResourceInfo *info : qAsConst(document.resourceInfoData()->infos)) {
+            const QString name = info ? info->name.trimmed() : QString();
+            if (info && !entries.contains(name))
+                entries.insert(name, info);
+        }
+    }
+};
+
+AssignmentBatch::AssignmentBatch(KWDocument &document)
+    : m_private(std::make_unique<Private>(document))
+{
+}
+
+AssignmentBatch::~AssignmentBatch()
+{
+    finish();
+}
+
+Resource *AssignmentBatch::assign(KWTaskInfo &task, const QString &name)
+{
+    if (name.isEmpty())
+        return nullptr;
+    Resource *assigned = nullptr;
+    if (!task.isParent()) {
+        assigned = task.getResourceByName(name);
+        if (assigned)
+            return assigned;
+        assigned = m_private->pass.assign(task, name, m_private->entries.value(name.trimmed()));
+    }
+    m_private->named.insert(&task);
+    return assigned;
+}
+
+void AssignmentBatch::updateCostAndWork(KWTaskInfo &task)
+{
+    m_private->pass.updateCostAndWork(task);
+}
+
+void AssignmentBatch::finish()
+{
+    const CostPass &pass = m_private->pass;
+    QSet<KWTaskInfo *> summaries;
+    for (KWTaskInfo *task : qAsConst(m_private->named)) {
+        if (task->isParent())
+            summaries.insert(task);
+        else
+            task->Resources = names::ofAssignments(*task);
+        for (KWTaskInfo *ancestor : pass.above(*task)) {
+            if (ancestor->isParent())
+                summaries.insert(ancestor);
+        }
+    }
+    for (KWTaskInfo *summary : qAsConst(summaries))
+        CostPass::joinNames(*summary, pass.below(*summary));
+    m_private->named.clear();
+}

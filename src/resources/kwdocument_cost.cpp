@@ -1,0 +1,86 @@
+// Names, costs and work of all tasks.
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "resources/kwtaskinfo_cost.h"
+#include "resources/names.h"
+
+void KWDocument::updateResourcesName()
+{
+    if (!m_taskCollection)
+        return;
+    const CostPass pass(*this);
+    // Leaves first, then each summary once: one after the other every leaf would rebuild all its ancestors.
+    for (KWTaskInfo *task : taskList()) {
+        if (!task->isParent())
+            task->Resources = names::ofAssignments(*task);
+    }
+    for (KWTaskInfo *task : taskList()) {
+        if (task->isParent())
+            CostPass::joinNames(*task, pass.below(*task));
+    }
+}
+
+void KWDocument::updateCostCompletCostWork()
+{
+    if (!m_taskCollection)
+        return;
+    const CostPass pass(*this);
+    for (KWTaskInfo *task : taskList())
+        pass.updateRemainCost(*task);
+    for (KWTaskInfo *task : taskList()) {
+        if (task->isParent())
+            pass.sumAll(*task);
+    }
+}
+
+void KWDocument::replaceTaskResourceName(const QString &oldName, const QString &newName)
+{
+    if (!m_taskCollection || oldName.isEmpty() || newName.isEmpty())
+        return;
+    const CostPass pass(*this);
+    QSet<const KWTaskInfo *> changed;
+    for (KWTaskInfo *task : taskList()) {
+        if (!pass.rename(*task, oldName, newName))
+            continue;
+        changed.insert(task);
+        if (!task->isParent())
+            task->Resources = names::ofAssignments(*task);
+        else
+            task->clearResources();
+        for (KWTaskInfo *ancestor : pass.above(*task)) {
+            if (!ancestor->isParent())
+                continue;
+            // Now, since the pass may come to it later: a summary's own assignments are not renamed.
+            ancestor->clearResources();
+            changed.insert(ancestor);
+        }
+    }
+    for (KWTaskInfo *task : taskList()) {
+        if (task->isParent() && changed.contains(task))
+            CostPass::joinNames(*task, pass.below(*task));
+    }
+}
+
+namespace {
+
+template <double KWTaskInfo::*member>
+double topLevelSum(const QList<KWTaskInfo *> &tasks)
+{
+    double sum = 0;
+    for (const KWTaskInfo *task : tasks) {
+        if (task->ParentID == 0)
+            sum += task->*member;
+    }
+    return sum;
+}
+}
+
+double KWDocument::getToltalCost() const
+{
+    return topLevelSum<&KWTaskInfo::Cost>(taskList());
+}
+
+double KWDocument::getCostToCompletion() const
+{
+    return topLevelSum<&KWTaskInfo::RemainingCost>(taskList());
+}

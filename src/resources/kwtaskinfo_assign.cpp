@@ -1,0 +1,177 @@
+// A task's assignments and the text that names them.
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "resources/cost.h"
+#include "resources/kwtaskinfo_cost.h"
+#include "resources/names.h"
+#include "resources/resource.h"
+#include "resources/resourceinfodata.h"
+#include <algorithm>
+
+// ---- The list ---------------------------------------------------------------------------------------------
+
+Resource *KWTaskInfo::getResourceAt(int index) const
+{
+    return resourceList.value(index, nullptr);
+}
+
+Resource *KWTaskInfo::getResourceByName(const QString &name) const
+{
+    const QString trimmed = name.trimmed();
+    for (Resource *resource : resourceList) {
+        if (resource->name.trimmed() == trimmed)
+            return resource;
+    }
+    return nullptr;
+}
+
+bool KWTaskInfo::isResourceContains(const QList<Resource *> &resources, const Resource *resource)
+{
+    return std::find(resources.begin(), resources.end(), resource) != resources.end();
+}
+
+bool KWTaskInfo::isSubHaveResource(KWDocument *document) const
+{
+    if (!document)
+        return false;
+    return isHaveResource() ||
+           outline::anyDescendant({document->taskList(), document->taskIndex()}, *this,
+                                  [](const KWTaskInfo *task) { return task->isHaveResource(); });
+}
+
+void KWTaskInfo::allSubTaskResourceList(KWDocument *document,
+                                        QList<QPair<KWTaskInfo *, Resource *>> &assignments) const
+{
+    if (!document)
+        return;
+    for (KWTaskInfo *task : outline::descendants({document->taskList(), document->taskIndex()}, *this)) {
+        if (task->isParent())
+            continue;
+        for (Resource *resource : qAsConst(task->resourceList))
+            assignments.append({task, resource});
+    }
+}
+
+void KWTaskInfo::deleteResourceByID(int id)
+{
+    const auto kept = std::stable_partition(resourceList.begin(), resourceList.end(),
+                                            [id](const Resource *resource) { return resource->ID != id; });
+    std::for_each(kept, resourceList.end(), Resource::release);
+    resourceList.erase(kept, resourceList.end());
+}
+
+void KWTaskInfo::clearResources()
+{
+    for (Resource *resource : qAsConst(resourceList))
+        Resource::release(resource);
+    resourceList.clear();
+}
+
+QList<Resource *> KWTaskInfo::cloneResources() const
+{
+    return Resource::cloneResources(resourceList);
+}
+
+void KWTaskInfo::updateResourceWorkSecs(KWDocument *document)
+{
+    if (!document)
+        return;
+    for (Resource *resource : qAsConst(resourceList))
+        resource->workSecs = cost::workSecs(*this, *resource);
+}
+
+void KWTaskInfo::addOrDelResourceByName(KWDocument *document, const QString &name, bool add)
+{
+    if (!document || !document->taskCollection() || !document->resourceInfoData() || name.isEmpty())
+        return;
+    const CostPass pass(*document);
+    // A summary's names follow from the tasks below it; an assignment of its own would be a cost that nobody
+    // sees.
+    if (!(add && isParent())) {
+        Resource *assigned = getResourceByName(name);
+        if (assigned && add)
+            return;
+        if (assigned)
+            pass.remove(*this, assigned);
+        else if (add)
+            pass.assign(*this, name, document->resourceInfoData()->getResourceInfoByName(name));
+    }
+    pass.updateResourceName(*this);
+}
+
+// ---- Names ------------------------------------------------------------------------------------------------
+
+void KWTaskInfo::updateResourceName(KWDocument *document)
+{
+    if (document && document->taskCollection())
+        CostPass(*document).updateResourceName(*this);
+}
+
+void KWTaskInfo::basisSubUpdateResourceName(KWDocument *document)
+{
+    if (document && document->taskCollection() && isParent())
+        CostPass::joinNames(*this, CostPass(*document).below(*this));
+}
+
+void KWTaskInfo::subTaskResourceName(KWDocument *document, QStringList &names) const
+{
+    if (!document || !document->taskCollection())
+        return;
+    names::Distinct distinct;
+    for (const QString &name : qAsConst(names))
+        distinct.add(name);
+    const int known = distinct.list().size();
+    distinct.addLeaves(CostPass(*document).below(*this));
+    names += distinct.list().mid(known);
+}
+
+namespace {
+
+// The tasks below a summary without one branch.
+std::vector<KWTaskInfo *> otherBranches(const CostPass &pass, const KWTaskInfo &summary, KWTaskInfo &left)
+{
+    std::vector<KWTaskInfo *> below = pass.below(summary);
+    QSet<const KWTaskInfo *> leaving{&left};
+    for (const KWTaskInfo *task : pass.below(left))
+        leaving.insert(task);
+    below.erase(std::remove_if(below.begin(), below.end(),
+                               [&leaving](const KWTaskInfo *task) { return leaving.contains(task); }),
+                below.end());
+    return below;
+}
+}
+
+void KWTaskInfo::updateParentResources(KWDocument *document, bool own)
+{
+    if (!document || !document->taskCollection())
+        return;
+    const CostPass pass(*document);
+    if (own) {
+        pass.joinAncestorNames(*this);
+        return;
+    }
+    for (KWTaskInfo *ancestor : pass.above(*this)) {
+        if (ancestor->isParent())
+            CostPass::joinNames(*ancestor, otherBranches(pass, *ancestor, *this));
+    }
+}
+
+void KWTaskInfo::outdentUpateParentResources(KWDocument *document)
+{
+    if (!document || !document->taskCollection())
+        return;
+    KWTaskInfo *parent = document->getTaskInfoByID(ParentID);
+    if (!parent || parent == this || !parent->isParent())
+        return;
+    const CostPass pass(*document);
+    CostPass::joinNames(*parent, otherBranches(pass, *parent, *this));
+}
+
+void KWTaskInfo::replaceResourceName(KWDocument *document, const QString &oldName, const QString &newName)
+{
+    if (!document || !document->taskCollection() || oldName.isEmpty() || newName.isEmpty())
+        return;
+    const CostPass pass(*document);
+    if (pass.rename(*this, oldName, newName))
+        pass.updateResourceName(*this);
+}

@@ -1,0 +1,263 @@
+// Cost, work and remaining cost of a task and of the summaries above it.
+#include "resources/kwtaskinfo_cost.h"
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "resources/names.h"
+#include "resources/resource.h"
+#include "resources/resourceinfodata.h"
+#include "schedule/rollup.h"
+
+// ---- The pass ---------------------------------------------------------------------------------------------
+
+CostPass::CostPass(KWDocument &document)
+    : m_tasks{document.taskList(), document.taskIndex()}
+    , m_measures(cost::measuresOf(document.workCalendar()))
+{
+}
+
+void CostPass::updateCostAndWork(KWTaskInfo &task) const
+{
+    if (task.isParent()) {
+        sumCostAndWork(task, below(task));
+    } else {
+        const cost::Total total = cost::ofAssignments(m_measures, task);
+        const double costChange = total.cost - task.Cost;
+        const double workChange = total.work - task.Work;
+        task.Cost = total.cost;
+        task.Work = total.work;
+        updateParentCostAndWork(task, costChange, workChange, false);
+    }
+    updateRemainCost(task);
+}
+
+void CostPass::updateRemainCost(KWTaskInfo &task) const
+{
+    double remaining = 0;
+    if (task.isParent()) {
+        for (const KWTaskInfo *part : below(task)) {
+            if (part->isHaveResource())
+                remaining += part->RemainingCost;
+        }
+    } else {
+        remaining = cost::remaining(task);
+    }
+    const double change = remaining - task.RemainingCost;
+    task.RemainingCost = remaining;
+    for (KWTaskInfo *ancestor : above(task))
+        ancestor->RemainingCost += change;
+}
+
+void CostPass::updateParentCostAndWork(KWTaskInfo &task, double costChange, double workChange,
+                                       bool force) const
+{
+    const double hours =
+        force || !task.isParent() ? cost::toHours(m_measures, workChange, task.DurationUnits) : workChange;
+    for (KWTaskInfo *ancestor : above(task)) {
+        // A summary has no assignments of its own. Kept on purpose: what they have cost stays in its sum.
+        ancestor->clearResources();
+        ancestor->Cost += costChange;
+        ancestor->Work += hours;
+    }
+}
+
+void CostPass::updateResourceName(KWTaskInfo &task) const
+{
+    if (task.isParent())
+        joinNames(task, below(task));
+    else
+        task.Resources = names::ofAssignments(task);
+    joinAncestorNames(task);
+}
+
+Resource *CostPass::assign(KWTaskInfo &task, const QString &name, const ResourceInfo *entry) const
+{
+    auto *resource = new Resource;
+    if (entry) {
+        resource->ID = entry->ID;
+        resource->type = entry->type;
+        resource->cost = entry->cost;
+        resource->costUnit = entry->costUnit;
+        resource->costPer = entry->costPer;
+        resource->overtimeCost = entry->overtimeCost;
+        resource->overtimeUnit = entry->overtimeUnit;
+    }
+    resource->name = name;
+    resource->workSecs = cost::workSecs(task, *resource);
+    task.resourceList.append(resource);
+
+    const double added = cost::ofAssignment(m_measures, task, *resource);
+    const double work = cost::work(m_measures, task, *resource);
+    updateParentCostAndWork(task, added, work, false);
+    task.Cost += added;
+    task.Work += work;
+    updateRemainCost(task);
+    return resource;
+}
+
+void CostPass::remove(KWTaskInfo &task, Resource *resource) const
+{
+    const double saved = cost::ofAssignment(m_measures, task, *resource);
+    const double work = cost::work(m_measures, task, *resource);
+    task.resourceList.removeOne(resource);
+    Resource::release(resource);
+    task.Cost -= saved;
+    task.Work -= work;
+    updateParentCostAndWork(task, -saved, -work, false);
+    updateRemainCost(task);
+}
+
+bool CostPass::rename(KWTaskInfo &task, const QString &oldName, const QString &newName) const
+{
+    Resource *resource = task.getResourceByName(oldName);
+    if (!resource)
+        return false;
+    const Resource *other = task.getResourceByName(newName);
+    if (!other || other == resource) {
+        resource->name = newName;
+        return true;
+    }
+    // A task has one assignment of a name.
+    task.resourceList.removeOne(resource);
+    Resource::release(resource);
+    updateCostAndWork(task);
+    return true;
+}
+
+void CostPass::sumCostAndWork(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const
+{
+    const cost::Total total = cost::ofLeaves(m_measures, below);
+    summary.Cost = total.cost;
+    summary.Work = total.work;
+}
+
+void CostPass::joinNames(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below)
+{
+    summary.clearResources();
+    names::Distinct distinct;
+    distinct.addLeaves(below);
+    summary.Resources = distinct.text();
+}
+
+void CostPass::sumWithoutBaseline(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const
+{
+    sumCostAndWork(summary, below);
+    joinNames(summary, below);
+    summary.RemainingCost = cost::remainingOfLeaves(below);
+}
+
+void CostPass::sumWithoutBaseline(KWTaskInfo &summary) const
+{
+    sumWithoutBaseline(summary, below(summary));
+}
+
+void CostPass::sumAll(KWTaskInfo &summary) const
+{
+    const std::vector<KWTaskInfo *> below = this->below(summary);
+    sumWithoutBaseline(summary, below);
+    summary.BaselineCost = cost::baselineText(cost::baselineOfLeaves(below));
+    rollup::baseline(m_tasks, summary);
+}
+
+void CostPass::joinAncestorNames(const KWTaskInfo &task) const
+{
+    for (KWTaskInfo *ancestor : above(task)) {
+        if (ancestor->isParent())
+            joinNames(*ancestor, below(*ancestor));
+    }
+}
+
+// ---- One assignment ---------------------------------------------------------------------------------------
+
+double KWTaskInfo::resourceWork(KWDocument *document, const Resource *resource) const
+{
+    return resource ? getDurationValue(document, resource->workSecs, DurationUnits) : 0.0;
+}
+
+double KWTaskInfo::transforHourWork(KWDocument *document, double work) const
+{
+    return document && work != 0 ? cost::toHours(CostPass(*document).measures(), work, DurationUnits) : work;
+}
+
+double KWTaskInfo::resourceCost(KWDocument *document, const Resource *resource) const
+{
+    return document && resource ? cost::ofAssignment(CostPass(*document).measures(), *this, *resource) : 0.0;
+}
+
+// ---- The task and its ancestors ---------------------------------------------------------------------------
+
+void KWTaskInfo::updateCostAndWork(KWDocument *document)
+{
+    if (document && document->taskCollection())
+        CostPass(*document).updateCostAndWork(*this);
+}
+
+void KWTaskInfo::updateRemainCost(KWDocument *document)
+{
+    if (document && document->taskCollection())
+        CostPass(*document).updateRemainCost(*this);
+}
+
+void KWTaskInfo::updateParentCostAndWork(KWDocument *document, double costChange, double workChange,
+                                         bool force)
+{
+    if (document && document->taskCollection())
+        CostPass(*document).updateParentCostAndWork(*this, costChange, workChange, force);
+}
+
+void KWTaskInfo::updateParentCompletCost(KWDocument *document, double change)
+{
+    if (!document || !document->taskCollection())
+        return;
+    for (KWTaskInfo *ancestor : outline::ancestors({document->taskList(), document->taskIndex()}, *this))
+        ancestor->RemainingCost += change;
+}
+
+void KWTaskInfo::updateParentStrBaseCost(KWDocument *document, double change)
+{
+    if (!document || !document->taskCollection())
+        return;
+    for (KWTaskInfo *ancestor : outline::ancestors({document->taskList(), document->taskIndex()}, *this))
+        ancestor->BaselineCost = cost::baselineText(cost::baselineValue(ancestor->BaselineCost) + change);
+}
+
+void KWTaskInfo::updateParentInfoFromSomeColumn(KWDocument *document, bool added, bool namesByCaller)
+{
+    if (!document || !document->taskCollection())
+        return;
+    const double sign = added ? 1 : -1;
+    updateParentCostAndWork(document, sign * Cost, sign * Work, false);
+    updateParentCompletCost(document, sign * RemainingCost);
+    if (!BaselineCost.isEmpty())
+        updateParentStrBaseCost(document, sign * cost::baselineValue(BaselineCost));
+    updateParentBaselineStartAndFinish(document);
+    if (!namesByCaller)
+        updateResourceName(document);
+}
+
+// ---- A summary from the tasks below it --------------------------------------------------------------------
+
+void KWTaskInfo::basisSubUpdateCostAndWork(KWDocument *document)
+{
+    if (!document || !document->taskCollection() || !isParent())
+        return;
+    const CostPass pass(*document);
+    pass.sumCostAndWork(*this, pass.below(*this));
+}
+
+void KWTaskInfo::basisSubUpdateCompletCost(KWDocument *document)
+{
+    if (document && document->taskCollection() && isParent())
+        RemainingCost = cost::remainingOfLeaves(CostPass(*document).below(*this));
+}
+
+void KWTaskInfo::basisSubUpdateStrBaseCost(KWDocument *document)
+{
+    if (document && document->taskCollection() && isParent())
+        BaselineCost = cost::baselineText(cost::baselineOfLeaves(CostPass(*document).below(*this)));
+}
+
+void KWTaskInfo::basisSubUpdateFromSomeColumn(KWDocument *document)
+{
+    if (document && document->taskCollection() && isParent())
+        CostPass(*document).sumAll(*this);
+}

@@ -1,0 +1,52 @@
+#pragma once
+#include "model/outline.h"
+#include "resources/cost.h"
+
+class KWDocument;
+class ResourceInfo;
+
+// A pass over costs, work and names of resources: what it needs of the document, looked up once.
+//
+// Refers to the document; valid while neither the task list, an ID nor the working time changes.
+class CostPass
+{
+public:
+    // The document has its timeline.
+    explicit CostPass(KWDocument &document);
+
+    const cost::Measures &measures() const { return m_measures; }
+    std::vector<KWTaskInfo *> below(const KWTaskInfo &task) const
+    {
+        return outline::descendants(m_tasks, task);
+    }
+    std::vector<KWTaskInfo *> above(const KWTaskInfo &task) const
+    {
+        return outline::ancestors(m_tasks, task);
+    }
+
+    // ---- One task and its ancestors -----------------------------------------------------------------------
+    // The operations of KWTaskInfo with the same names.
+    void updateCostAndWork(KWTaskInfo &task) const;
+    void updateRemainCost(KWTaskInfo &task) const;
+    void updateParentCostAndWork(KWTaskInfo &task, double costChange, double workChange, bool force) const;
+    void updateResourceName(KWTaskInfo &task) const;
+    // Appends an assignment made from the entry (null: none of that name); names are left to the caller.
+    Resource *assign(KWTaskInfo &task, const QString &name, const ResourceInfo *entry) const;
+    // Takes the assignment out of the list and out of the sums; names are left to the caller.
+    void remove(KWTaskInfo &task, Resource *resource) const;
+    // False, and nothing changed, when there is no assignment of the old name. Names are left to the caller.
+    bool rename(KWTaskInfo &task, const QString &oldName, const QString &newName) const;
+
+    // ---- One summary from the tasks below it --------------------------------------------------------------
+    void sumCostAndWork(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const;
+    static void joinNames(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below);
+    void sumWithoutBaseline(KWTaskInfo &summary) const; // work, costs and names
+    void sumAll(KWTaskInfo &summary) const;
+    void joinAncestorNames(const KWTaskInfo &task) const;
+
+private:
+    void sumWithoutBaseline(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const;
+
+    outline::Tasks m_tasks;
+    cost::Measures m_measures;
+};

@@ -1,0 +1,220 @@
+// Links between tasks: making and removing them, pushing along them, and showing those of the active task.
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "model/outline.h"
+#include "schedule/kwtaskcollection.h"
+#include "schedule/linkgraph.h"
+#include "schedule/links.h"
+#include "schedule/push.h"
+#include "schedule/timescale.h"
+
+namespace {
+
+outline::Tasks tasksOf(const KWDocument &document)
+{
+    return {document.taskList(), document.taskIndex()};
+}
+
+void markLinked(const KWDocument &document, const KWTaskInfo &active, bool linked)
+{
+    const outline::Tasks tasks = tasksOf(document);
+    for (const QList<quint32> *ids : {&active.Depends, &active.Predecessors}) {
+        for (const quint32 id : *ids) {
+            if (KWTaskInfo *task = tasks.byId(id))
+                task->Linked = linked;
+        }
+    }
+}
+
+// Clears the highlight of the active task's links while they change and shows what is left of them.
+class HighlightRefresh
+{
+public:
+    HighlightRefresh(const KWDocument &document, const KWTaskInfo *active)
+        : m_document(document)
+        , m_active(active)
+    {
+        if (m_active)
+            markLinked(m_document, *m_active, false);
+    }
+    ~HighlightRefresh()
+    {
+        if (m_active)
+            markLinked(m_document, *m_active, true);
+    }
+    Q_DISABLE_COPY(HighlightRefresh)
+
+private:
+    const KWDocument &m_document;
+    const KWTaskInfo *m_active;
+};
+}
+
+// ---- Active task ------------------------------------------------------------------------------------------
+
+void KWTaskCollection::setTaskInfoActive(KWTaskInfo *task)
+{
+    clearDependOrDependOnActive();
+    m_activeTask = task;
+    if (m_document && m_activeTask)
+        markLinked(*m_document, *m_activeTask, true);
+}
+
+void KWTaskCollection::clearDependOrDependOnActive()
+{
+    if (m_document && m_activeTask)
+        markLinked(*m_document, *m_activeTask, false);
+}
+
+void KWTaskCollection::forgetTask(const KWTaskInfo *task)
+{
+    if (task && task == m_activeTask)
+        setTaskInfoActive(nullptr);
+}
+
+// ---- Pushes -----------------------------------------------------------------------------------------------
+
+bool KWTaskCollection::compareTaskAndDepenTask(KWTaskInfo *predecessor, KWTaskInfo *successor)
+{
+    // Almost every link holds: that is found out before anything is prepared.
+    if (!m_document || !predecessor || !successor || push::holds(predecessor->Finish, successor->Start))
+        return false;
+    return pushAlong({{predecessor, successor}});
+}
+
+void KWTaskCollection::pushSuccessorsOf(const std::vector<KWTaskInfo *> &predecessors)
+{
+    if (!m_document)
+        return;
+    const outline::Tasks tasks = tasksOf(*m_document);
+    std::vector<push::Link> early;
+    for (KWTaskInfo *predecessor : predecessors) {
+        for (const quint32 id : predecessor->Depends) {
+            KWTaskInfo *successor = tasks.byId(id);
+            if (successor && !push::holds(predecessor->Finish, successor->Start))
+                early.push_back({predecessor, successor});
+        }
+    }
+    if (!early.empty())
+        pushAlong(early);
+}
+
+bool KWTaskCollection::pushAlong(const std::vector<push::Link> &links)
+{
+    const timescale::Scale scale = this->scale();
+    const std::vector<KWTaskInfo *> passed =
+        push::along(scale.calendar(), tasksOf(*m_document), scale.isHourBased(), links);
+    for (KWTaskInfo *task : passed) {
+        task->updateResourceWorkSecs(m_document);
+        if (task->isParent())
+            scale.placeSummaryBar(*task);
+        else
+            scale.placeBar(*task);
+        task->FirstWidth = scale.finishedWidth(*task);
+    }
+    return !passed.empty();
+}
+
+int KWTaskCollection::pushAllSuccessors(QList<KWTaskMove> *moves)
+{
+    if (moves)
+        moves->clear();
+    if (!m_document)
+        return 0;
+    const bool hourScale = m_document->getMinorUnit() >= duration::Hour;
+    const std::vector<push::Move> moved =
+        push::all(m_document->workCalendar(), tasksOf(*m_document), hourScale);
+    for (const push::Move &move : moved) {
+        move.task->updateResourceWorkSecs(m_document);
+        if (moves) {
+            const quint32 pushedBy = move.pushedBy ? move.pushedBy->ID.value() : 0;
+            moves->append({move.task->ID, move.oldStart, move.oldFinish, pushedBy});
+        }
+    }
+    return int(moved.size());
+}
+
+QList<QList<quint32>> KWTaskCollection::linkRings() const
+{
+    QList<QList<quint32>> rings;
+    if (!m_document)
+        return rings;
+    for (const std::vector<int> &places : linkgraph::rings(linkgraph::EventNetwork(tasksOf(*m_document)))) {
+        QList<quint32> ids;
+        for (const int pos : places)
+            ids.append(m_document->getTaskInfoAt(pos)->ID);
+        rings.append(ids);
+    }
+    return rings;
+}
+
+// ---- Making links -----------------------------------------------------------------------------------------
+
+LinkRefusal KWTaskCollection::linkRefusal(const KWTaskInfo *a, const KWTaskInfo *b,
+                                          QList<quint32> *ring) const
+{
+    if (ring)
+        ring->clear();
+    if (!m_document || !a || !b)
+        return LinkRefusal::Missing;
+    return links::refusal(tasksOf(*m_document), *a, *b, ring);
+}
+
+bool KWTaskCollection::taskDependTask(KWTaskInfo *a, KWTaskInfo *b)
+{
+    if (linkRefusal(a, b) != LinkRefusal::None)
+        return false;
+    const HighlightRefresh refresh(*m_document, m_activeTask);
+    links::insert(tasksOf(*m_document), *a, *b);
+    return true;
+}
+
+int KWTaskCollection::linkTasks(QList<KWTaskLink> &wanted)
+{
+    if (!m_document) {
+        for (KWTaskLink &link : wanted)
+            link.refusal = LinkRefusal::Missing;
+        return 0;
+    }
+    const HighlightRefresh refresh(*m_document, m_activeTask);
+    return links::insertAll(tasksOf(*m_document), wanted);
+}
+
+bool KWTaskCollection::taskEqualDependTask(const KWTaskInfo *a, const KWTaskInfo *task) const
+{
+    return m_document && a && task && links::leadsTo(tasksOf(*m_document), *task, *a);
+}
+
+KWTaskInfo *KWTaskCollection::sameParentTask(const KWTaskInfo *a, const KWTaskInfo *b) const
+{
+    return m_document && a && b ? outline::commonSummary(tasksOf(*m_document), *a, *b) : nullptr;
+}
+
+// ---- Removing links ---------------------------------------------------------------------------------------
+
+void KWTaskCollection::deleteDependOrDependOnID(KWTaskInfo *task)
+{
+    if (!m_document || !task)
+        return;
+    const HighlightRefresh refresh(*m_document, m_activeTask);
+    const outline::Tasks tasks = tasksOf(*m_document);
+    const std::vector<KWTaskInfo *> below = outline::descendants(tasks, *task);
+    links::removeDownstream(tasks, below, *task);
+    links::removeUpstream(tasks, below, *task);
+}
+
+void KWTaskCollection::deleteDependIDFromParent(KWTaskInfo *task, KWTaskInfo *x)
+{
+    if (!m_document || !task || !x)
+        return;
+    const HighlightRefresh refresh(*m_document, m_activeTask);
+    links::removeDownstream(tasksOf(*m_document), {task}, *x);
+}
+
+void KWTaskCollection::deleteDependOnIDFromParent(KWTaskInfo *task, KWTaskInfo *x)
+{
+    if (!m_document || !task || !x)
+        return;
+    const HighlightRefresh refresh(*m_document, m_activeTask);
+    links::removeUpstream(tasksOf(*m_document), {task}, *x);
+}

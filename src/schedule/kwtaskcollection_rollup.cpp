@@ -1,0 +1,71 @@
+// Walks over the outline, and the dates that summaries take from their children.
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "model/outline.h"
+#include "model/taskahead.h"
+#include "schedule/kwtaskcollection.h"
+#include "schedule/rollup.h"
+#include "schedule/timescale.h"
+
+void KWTaskCollection::subIDListByTask(const KWTaskInfo *task, QList<quint32> &ids) const
+{
+    if (!m_document || !task)
+        return;
+    const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
+    for (const KWTaskInfo *below : outline::descendants(tasks, *task))
+        ids.append(below->ID);
+}
+
+void KWTaskCollection::parentIDListByTask(const KWTaskInfo *task, QList<KWTaskInfo *> &parents) const
+{
+    parents.clear();
+    if (!m_document || !task)
+        return;
+    const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
+    for (KWTaskInfo *ancestor : outline::ancestors(tasks, *task))
+        parents.append(ancestor);
+}
+
+void KWTaskCollection::rollUp(const timescale::Scale &scale, const outline::Tasks &tasks, KWTaskInfo &summary,
+                              bool pushSuccessors)
+{
+    if (!summary.isParent())
+        return;
+    if (rollup::dates(scale.calendar(), tasks, summary))
+        scale.placeSummaryBar(summary);
+    if (pushSuccessors && !summary.Depends.isEmpty())
+        pushSuccessorsOf({&summary});
+}
+
+void KWTaskCollection::updateTaskTimeToChildsTask(KWTaskInfo *summary, bool pushSuccessors)
+{
+    if (!m_document || !summary || !summary->isParent())
+        return;
+    rollUp(scale(), {m_document->taskList(), m_document->taskIndex()}, *summary, pushSuccessors);
+}
+
+void KWTaskCollection::updateTaskInfoParentTime(KWTaskInfo *task)
+{
+    if (!m_document || !task)
+        return;
+    constexpr bool pushSuccessors = true;
+    const timescale::Scale scale = this->scale();
+    const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
+    for (KWTaskInfo *ancestor : outline::ancestors(tasks, *task))
+        rollUp(scale, tasks, *ancestor, pushSuccessors);
+}
+
+void KWTaskCollection::updateOptionTaskTime()
+{
+    if (!m_document)
+        return;
+    constexpr bool pushSuccessors = true;
+    const timescale::Scale scale = this->scale();
+    const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
+    // A summary stands before its descendants, so from the last to the first the inner ones are rolled up
+    // first.
+    for (int pos = tasks.list.size() - 1; pos >= 0; --pos) {
+        fetchTaskAhead(tasks.list, pos - tasksAhead);
+        rollUp(scale, tasks, *tasks.list[pos], pushSuccessors);
+    }
+}

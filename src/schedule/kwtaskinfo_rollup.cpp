@@ -1,0 +1,51 @@
+// Percent, baseline and visibility along the outline.
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "model/outline.h"
+#include "schedule/kwtaskcollection.h"
+#include "schedule/rollup.h"
+#include "schedule/timescale.h"
+
+void KWTaskInfo::updateParentPercent(KWDocument *document)
+{
+    if (!document || !document->taskCollection())
+        return;
+    const timescale::Scale scale = document->taskCollection()->scale();
+    const outline::Tasks tasks{document->taskList(), document->taskIndex()};
+    std::vector<KWTaskInfo *> summaries = outline::ancestors(tasks, *this);
+    if (isParent())
+        summaries.insert(summaries.begin(), this);
+    for (KWTaskInfo *summary : summaries) {
+        if (!summary->isParent())
+            return;
+        summary->setPercent(rollup::percent(scale.calendar(), tasks, *summary));
+        summary->FirstWidth = scale.finishedWidth(*summary);
+    }
+}
+
+void KWTaskInfo::basisSubUpdateBaselineStartAndFinish(KWDocument *document)
+{
+    if (document && document->taskCollection() && isParent())
+        rollup::baseline({document->taskList(), document->taskIndex()}, *this);
+}
+
+void KWTaskInfo::updateParentBaselineStartAndFinish(KWDocument *document)
+{
+    if (document && document->taskCollection())
+        rollup::ancestorBaselines({document->taskList(), document->taskIndex()}, *this);
+}
+
+bool KWTaskInfo::recurveShowOrHide(KWDocument *document, KWTaskInfo *summary, KWTaskInfo *task, bool hide)
+{
+    if (!document || !summary || !task)
+        return false;
+    const quint32 from = hide ? 0 : summary->ID.value();
+    const quint32 to = hide ? summary->ID.value() : 0;
+    const std::vector<KWTaskInfo *> below =
+        outline::descendants({document->taskList(), document->taskIndex()}, *task);
+    for (KWTaskInfo *child : below) {
+        if (child->HideID == from)
+            child->HideID = to;
+    }
+    return !below.empty();
+}

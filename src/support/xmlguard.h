@@ -1,0 +1,19 @@
+#pragma once
+#include <QByteArray>
+#include <QString>
+
+// Looks at XML before a parser sees it, and cleans texts before a writer does.
+// The base library is built from this file too, so it knows nothing but Qt.
+namespace xmlguard {
+
+constexpr int maxDepth = 100;
+
+// One linear scan: refuses a DOCTYPE, elements nested deeper than maxDepth, text that is not sound UTF-8,
+// characters that XML cannot carry at all (NUL, U+FFFE, U+FFFF), and tags that are never closed. Not a
+// parser: text it accepts may still be no XML. Hand it to the parser decoded as UTF-8, since an encoding
+// named in the text could show the parser other characters than those seen here.
+bool isSafe(const QByteArray &text, QString *error = nullptr);
+// The text without what XML 1.0 cannot carry: control characters but tab, newline and return, U+FFFE, U+FFFF
+// and lone surrogates. Unchanged (shared) when there is nothing to remove.
+QString clean(const QString &text);
+}

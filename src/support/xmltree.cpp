@@ -1,0 +1,118 @@
+#include "support/xmltree.h"
+#include "support/xmlguard.h"
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+bool fail(QString *error, const QString &what)
+{
+    if (error)
+        *error = what;
+    return false;
+}
+
+bool isSame(const char *a, const char *b)
+{
+    return std::strcmp(a, b) == 0;
+}
+
+// Elements of one kind carry the same attributes in the same order, so most are known to be sound from the
+// last.
+class AttributeCheck
+{
+public:
+    bool isSound(pugi::xml_node element)
+    {
+        m_names.clear();
+        for (pugi::xml_attribute attribute : element.attributes())
+            m_names.push_back(attribute.name());
+        if (std::equal(m_names.begin(), m_names.end(), m_sound.begin(), m_sound.end(), isSame))
+            return true;
+        m_sorted = m_names;
+        std::sort(m_sorted.begin(), m_sorted.end(),
+                  [](const char *a, const char *b) { return std::strcmp(a, b) < 0; });
+        if (std::adjacent_find(m_sorted.begin(), m_sorted.end(), isSame) != m_sorted.end())
+            return false;
+        // The children of an element stand between it and the next of its kind: they have few attributes.
+        if (m_names.size() >= m_sound.size())
+            m_sound.swap(m_names);
+        return true;
+    }
+
+private:
+    std::vector<const char *> m_names;
+    std::vector<const char *> m_sorted;
+    std::vector<const char *> m_sound;
+};
+
+// The element after `element` in the order of the text, below `root`; null at the end.
+pugi::xml_node nextNode(pugi::xml_node node, pugi::xml_node root)
+{
+    if (pugi::xml_node child = node.first_child())
+        return child;
+    while (node != root) {
+        if (pugi::xml_node sibling = node.next_sibling())
+            return sibling;
+        node = node.parent();
+    }
+    return pugi::xml_node();
+}
+}
+
+bool XmlTree::parse(const QByteArray &bytes, QString *error)
+{
+    m_bytes = bytes;
+    return build(error);
+}
+
+bool XmlTree::load(const QString &path, qint64 maxBytes, QString *error)
+{
+    // A pipe would block and a device never ends.
+    QFile file(path);
+    if (!QFileInfo(path).isFile())
+        return fail(error, QStringLiteral("there is no such file"));
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(error, file.errorString());
+    if (file.size() > maxBytes)
+        return fail(error, QStringLiteral("too large"));
+    m_bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return fail(error, file.errorString());
+    return build(error);
+}
+
+bool XmlTree::build(QString *error)
+{
+    m_document.reset();
+    if (!xmlguard::isSafe(m_bytes, error))
+        return false;
+    // Text between the elements belongs to no document of ours; it is kept all the same, to find it outside
+    // the root, where no XML may have any.
+    constexpr unsigned int options = pugi::parse_escapes | pugi::parse_wconv_attribute | pugi::parse_eol;
+    const pugi::xml_parse_result result =
+        m_document.load_buffer_inplace(m_bytes.data(), size_t(m_bytes.size()), options, pugi::encoding_utf8);
+    if (!result) {
+        m_document.reset();
+        return fail(error, QStringLiteral("byte ") + QString::number(result.offset) + QLatin1String(": ") +
+                               QLatin1String(result.description()));
+    }
+    const pugi::xml_node root = m_document.document_element();
+    for (pugi::xml_node node : m_document.children()) {
+        if (node != root) {
+            m_document.reset();
+            return fail(error, QStringLiteral("there is something beside the root element"));
+        }
+    }
+    AttributeCheck check;
+    for (pugi::xml_node node = root; node; node = nextNode(node, root)) {
+        if (node.type() == pugi::node_element && !check.isSound(node)) {
+            const QString name = QString::fromUtf8(node.name());
+            m_document.reset();
+            return fail(error, QLatin1String("an attribute stands twice in the element ") + name);
+        }
+    }
+    return true;
+}

@@ -1,0 +1,104 @@
+#include "table/rowcolumndata.h"
+#include "format/unitutil.h"
+#include "model/kwdocument.h"
+#include "model/outline.h"
+
+QMap<int, QString> RowColumnData::s_columnNames;
+QMap<int, QString> RowColumnData::s_priorityNames;
+
+RowColumnData::RowColumnData(KWDocument *document)
+    : m_document(document)
+{
+    if (m_document)
+        initColumnDataList();
+}
+
+RowColumnData::~RowColumnData()
+{
+    clearColDataList();
+}
+
+int RowColumnData::rowCount() const
+{
+    return m_document ? m_document->visibleRowCount() : 0;
+}
+
+double RowColumnData::getRowHeightByPos(int pos, bool scaled) const
+{
+    return m_rowHeights.value(pos, 0.0) * (scaled ? UnitUtil::dpiScale96() : 1.0);
+}
+
+double RowColumnData::getRowHeightByRow(int row) const
+{
+    constexpr bool scaled = false;
+    return getRowHeightByPos(posOfRow(row), scaled);
+}
+
+void RowColumnData::replaceRowHeight(int pos, double height)
+{
+    if (pos < 0 || pos >= m_rowHeights.size())
+        return;
+    m_rowHeights[pos] = height;
+    ++m_revision;
+}
+
+void RowColumnData::replaceRowHeightByRow(int row, double height)
+{
+    replaceRowHeight(posOfRow(row), height);
+}
+
+void RowColumnData::insertRowHeightByPos(int pos, double height)
+{
+    const int place = qBound(0, pos, m_rowHeights.size());
+    if (place < m_rowHeights.size())
+        ++m_revision;
+    m_rowHeights.insert(place, height);
+}
+
+// Heights are kept by pos: with hidden tasks above, the row's number would be another task's place.
+void RowColumnData::insertRowHeightByRow(int row, double height)
+{
+    const int pos = posOfRow(qMax(row, 0));
+    insertRowHeightByPos(pos < 0 ? m_rowHeights.size() : pos, height);
+}
+
+void RowColumnData::appendRowHeight(double height)
+{
+    m_rowHeights.append(height);
+}
+
+void RowColumnData::removeRowHeightAt(int pos)
+{
+    if (pos < 0 || pos >= m_rowHeights.size())
+        return;
+    m_rowHeights.removeAt(pos);
+    ++m_revision;
+}
+
+void RowColumnData::moveRowHeights(int from, int to, int count)
+{
+    outline::moveEntries(m_rowHeights, from, to, count);
+    ++m_revision;
+}
+
+void RowColumnData::setRowHeights(const QList<double> &heights)
+{
+    m_rowHeights = heights;
+    ++m_revision;
+}
+
+void RowColumnData::setRowHeightCount(int count)
+{
+    if (count < m_rowHeights.size()) {
+        m_rowHeights.erase(m_rowHeights.begin() + qMax(count, 0), m_rowHeights.end());
+        ++m_revision;
+    }
+    m_rowHeights.reserve(count);
+    while (m_rowHeights.size() < count)
+        appendRowHeight(defaultRowHeight);
+}
+
+int RowColumnData::posOfRow(int row) const
+{
+    return m_document ? m_document->getPosByRow(row) : -1;
+}

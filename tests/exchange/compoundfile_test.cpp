@@ -1,0 +1,372 @@
+#include "exchange/biff/compoundfile.h"
+#include "support/casename.h"
+#include "support/filesizelimit.h"
+#include "support/folder.h"
+#include <QBuffer>
+#include <QTemporaryDir>
+#include <QtEndian>
+#include <gtest/gtest.h>
+
+namespace {
+
+using YCompoundFiles::CompoundFile;
+using SectorSize = CompoundFile::SectorSize;
+
+QByteArray content(int size, int seed = 1)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    char *to = bytes.data();
+    for (int i = 0; i < size; ++i)
+        to[i] = char(seed + i * 7 + i / 251);
+    return bytes;
+}
+
+QByteArray written(const CompoundFile &file)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    return file.WriteTo(buffer) ? buffer.data() : QByteArray();
+}
+
+// "a=12 b/ b/c=5": every storage and stream with its size, or "(damaged)" for a stream that cannot be read.
+std::string tree(const CompoundFile &file, const QString &storage = QStringLiteral("/"))
+{
+    std::string all;
+    const QStringList names = file.List(storage);
+    for (const QString &name : names) {
+        const QString path = storage + name;
+        QByteArray bytes;
+        all += path.toStdString();
+        if (name.endsWith(QLatin1Char('/')))
+            all += " " + tree(file, path);
+        else
+            all += "=" + (file.ReadFile(path, &bytes) ? std::to_string(bytes.size()) : "(damaged)") + " ";
+    }
+    return all;
+}
+
+std::string treeOf(const QByteArray &bytes)
+{
+    CompoundFile file;
+    return file.OpenBytes(bytes) ? tree(file) : "(closed)";
+}
+
+class Sizes : public testing::TestWithParam<SectorSize>
+{
+};
+
+TEST_P(Sizes, streamsOfEverySizeComeBack)
+{
+    // Around a mini sector, the cut-off of the mini stream and a sector.
+    const std::vector<int> sizes{0, 1, 63, 64, 65, 511, 512, 4095, 4096, 4097, 8192, 100000};
+    CompoundFile file;
+    file.Create(QString(), GetParam());
+    ASSERT_TRUE(file.MakeDirectory(QStringLiteral("/Store")));
+    for (const int size : sizes) {
+        const QString path = QStringLiteral("/Store/%1").arg(size);
+        ASSERT_TRUE(file.MakeFile(path) && file.WriteFile(path, content(size, size)));
+    }
+    CompoundFile again;
+    ASSERT_TRUE(again.OpenBytes(written(file))) << again.ErrorText().toStdString();
+    for (const int size : sizes) {
+        QByteArray bytes;
+        EXPECT_TRUE(again.ReadFile(QStringLiteral("/Store/%1").arg(size), &bytes)) << size;
+        EXPECT_EQ(bytes, content(size, size)) << size;
+    }
+    // What was read can be written again, and gives the same bytes.
+    EXPECT_EQ(written(again), written(file));
+}
+INSTANTIATE_TEST_SUITE_P(Sectors, Sizes,
+                         testing::Values(CompoundFile::Sectors512, CompoundFile::Sectors4096));
+
+struct LargeCase
+{
+    const char *name;
+    int bytes;
+    quint32 tableSectors, listSectors;
+};
+class Large : public testing::TestWithParam<LargeCase>
+{
+};
+
+TEST_P(Large, tableGoesOnBehindTheHeader)
+{
+    CompoundFile file;
+    file.Create(QString());
+    file.MakeFile(QStringLiteral("large"));
+    file.WriteFile(QStringLiteral("large"), content(GetParam().bytes));
+    const QByteArray bytes = written(file);
+    CompoundFile::Header header;
+    ASSERT_TRUE(header.Read(biff::Bytes(bytes)));
+    EXPECT_EQ(header.tableSectors, GetParam().tableSectors);
+    EXPECT_EQ(header.listSectors, GetParam().listSectors);
+    CompoundFile again;
+    QByteArray large;
+    ASSERT_TRUE(again.OpenBytes(bytes) && again.ReadFile(QStringLiteral("large"), &large));
+    EXPECT_EQ(large, content(GetParam().bytes));
+}
+// 109 table sectors of 128 numbers fit the header; one sector is the directory's.
+INSTANTIATE_TEST_SUITE_P(Table, Large,
+                         testing::Values(LargeCase{"justFitsTheHeader", (109 * 127 - 1) * 512, 109, 0},
+                                         LargeCase{"oneSectorMore", (109 * 127) * 512, 110, 1},
+                                         LargeCase{"listOfTwoSectors", (237 * 128 - 1 - 237 - 2) * 512, 237,
+                                                   2}),
+                         caseName<LargeCase>);
+
+// The directory as the format wants it: a search tree, no red entry below a red one, equally many black ones
+// on every way down.
+class Directory
+{
+public:
+    explicit Directory(const QByteArray &file)
+    {
+        CompoundFile::Header header;
+        header.Read(biff::Bytes(file));
+        const int sector = 1 << header.sectorShift;
+        // Our writer puts the directory in consecutive sectors.
+        biff::Bytes rest(reinterpret_cast<const uchar *>(file.constData()) +
+                             (header.firstDirectorySector + 1) * quint32(sector),
+                         size_t(file.size()) - (header.firstDirectorySector + 1) * quint32(sector));
+        while (const uchar *entry = rest.take(CompoundFile::Property::sizeBytes)) {
+            m_entries.emplace_back();
+            m_entries.back().Read({entry, CompoundFile::Property::sizeBytes}, false);
+        }
+    }
+    // Black entries on the way down; -1 where a rule is broken.
+    int blackHeight(quint32 entry, bool isBelowRed = false)
+    {
+        if (entry == CompoundFile::Property::none)
+            return 0;
+        const CompoundFile::Property &property = m_entries.at(entry);
+        const int left = blackHeight(property.left, !property.isBlack);
+        const bool isInOrder =
+            m_last.isNull() || CompoundFile::PropertyTree::NameOrder()(m_last, property.name);
+        m_last = property.name;
+        ++count;
+        const int right = blackHeight(property.right, !property.isBlack);
+        const bool isSound = left >= 0 && left == right && isInOrder && (property.isBlack || !isBelowRed);
+        return isSound ? left + property.isBlack : -1;
+    }
+    quint32 first() const { return m_entries.at(0).child; }
+    int count = 0;
+
+private:
+    std::vector<CompoundFile::Property> m_entries;
+    QString m_last;
+};
+
+TEST(CompoundFile, directoryIsABalancedTreeInTheOrderOfTheFormat)
+{
+    for (int streams = 1; streams <= 40; ++streams) {
+        CompoundFile file;
+        file.Create(QString());
+        for (int i = 0; i < streams; ++i)
+            file.MakeFile((i % 2 ? QStringLiteral("b") : QStringLiteral("AA")) +
+                          QString::number(i * 37 % 101));
+        Directory directory(written(file));
+        EXPECT_GE(directory.blackHeight(directory.first()), 0) << streams;
+        EXPECT_EQ(directory.count, streams);
+    }
+}
+
+TEST(CompoundFile, pathsLeadThroughStorages)
+{
+    CompoundFile file;
+    file.Create(QString());
+    EXPECT_TRUE(file.MakeDirectory(QStringLiteral("Outer")));
+    EXPECT_TRUE(file.ChangeDirectory(QStringLiteral("outer"))); // case does not matter
+    EXPECT_TRUE(file.MakeDirectory(QStringLiteral("Inner")));
+    EXPECT_TRUE(file.MakeFile(QStringLiteral("Inner/data")));
+    EXPECT_TRUE(file.WriteFile(QStringLiteral("/OUTER/INNER/DATA"), "12345"));
+    EXPECT_EQ(file.PresentWorkingDirectory(), QStringLiteral("/Outer"));
+    EXPECT_EQ(tree(file), "/Outer/ /Outer/Inner/ /Outer/Inner/data=5 ");
+    EXPECT_EQ(file.FileSize(QStringLiteral("../Outer/Inner/data")), 5);
+    EXPECT_EQ(file.FileSize(QStringLiteral("Inner")), -1);
+    EXPECT_EQ(file.FindProperty(QStringLiteral("data")), nullptr);
+
+    EXPECT_FALSE(file.MakeFile(QStringLiteral("Inner/Data"))) << "is there already";
+    EXPECT_FALSE(file.MakeFile(QStringLiteral("Nowhere/data")));
+    EXPECT_FALSE(file.MakeFile(QStringLiteral("a:b")));
+    EXPECT_FALSE(file.MakeFile(QString(32, QLatin1Char('n'))));
+    EXPECT_FALSE(file.WriteFile(QStringLiteral("Inner"), "text"));
+    EXPECT_FALSE(file.RemoveFile(QStringLiteral("Inner")));
+    EXPECT_FALSE(file.RemoveDirectory(QStringLiteral("/")));
+    EXPECT_FALSE(file.ChangeDirectory(QStringLiteral("Inner/data")));
+    EXPECT_EQ(treeOf(written(file)), tree(file));
+
+    EXPECT_TRUE(file.ChangeDirectory(QStringLiteral("Inner")));
+    EXPECT_TRUE(file.RemoveDirectory(QStringLiteral("/Outer/Inner")));
+    EXPECT_EQ(file.PresentWorkingDirectory(), QStringLiteral("/Outer"));
+    EXPECT_EQ(treeOf(written(file)), "/Outer/ ");
+    EXPECT_TRUE(file.MakeFile(QStringLiteral("/x")) && file.RemoveFile(QStringLiteral("/x")));
+    EXPECT_EQ(tree(file), "/Outer/ ");
+}
+
+TEST(CompoundFile, changesReachTheDiskAtOnceOrNotAtAll)
+{
+    const QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("a.cfb"));
+    CompoundFile file;
+    file.Create(path);
+    file.MakeFile(QStringLiteral("s"));
+    file.WriteFile(QStringLiteral("s"), content(9000));
+    EXPECT_FALSE(QFile::exists(path));
+    ASSERT_TRUE(file.Close());
+    const QByteArray before = folder::get(path);
+    EXPECT_EQ(treeOf(before), "/s=9000 ");
+
+    ASSERT_TRUE(file.Open(path));
+    ASSERT_TRUE(file.MakeFile(QStringLiteral("t")) && file.WriteFile(QStringLiteral("t"), content(50000)));
+    {
+        const FileSizeLimit fullDisk(20000);
+        EXPECT_FALSE(file.Flush());
+        EXPECT_FALSE(file.ErrorText().isEmpty());
+    }
+    EXPECT_EQ(folder::get(path), before);
+    EXPECT_TRUE(file.Flush());
+    EXPECT_EQ(treeOf(folder::get(path)), "/s=9000 /t=50000 ");
+    EXPECT_FALSE(file.Open(dir.path())) << "a folder";
+    EXPECT_FALSE(file.Open(dir.filePath(QStringLiteral("none"))));
+}
+
+// A file of one sector each: stream "big" in sectors 0 to 9, mini stream with "tiny" in 10, mini table in 11,
+// directory in 12, table in 13.
+QByteArray sample()
+{
+    CompoundFile file;
+    file.Create(QString());
+    file.MakeFile(QStringLiteral("big"));
+    file.WriteFile(QStringLiteral("big"), content(5000));
+    file.MakeFile(QStringLiteral("tiny"));
+    file.WriteFile(QStringLiteral("tiny"), content(200));
+    return written(file);
+}
+
+constexpr int sectorAt(int sector)
+{
+    return (sector + 1) * 512;
+}
+constexpr int tableAt = sectorAt(13), miniTableAt = sectorAt(11), directoryAt = sectorAt(12);
+constexpr int bigEntryAt = directoryAt + 128, tinyEntryAt = directoryAt + 256;
+
+struct DamageCase
+{
+    const char *name;
+    int at;
+    quint32 value; // of 32 bits
+    const char *tree;
+};
+class Damage : public testing::TestWithParam<DamageCase>
+{
+};
+
+TEST_P(Damage, isMetByACleanNo)
+{
+    QByteArray bytes = sample();
+    ASSERT_EQ(bytes.size(), sectorAt(14));
+    ASSERT_EQ(treeOf(bytes), "/big=5000 /tiny=200 ");
+    qToLittleEndian(GetParam().value, bytes.data() + GetParam().at);
+    EXPECT_EQ(treeOf(bytes), GetParam().tree);
+}
+
+constexpr const char *closed = "(closed)";
+constexpr const char *bigDamaged = "/big=(damaged) /tiny=200 ";
+constexpr const char *tinyDamaged = "/big=5000 /tiny=(damaged) ";
+constexpr const char *sound = "/big=5000 /tiny=200 ";
+INSTANTIATE_TEST_SUITE_P(Header, Damage,
+                         testing::Values(DamageCase{"signature", 0, 0, closed},
+                                         DamageCase{"byteOrderReversed", 28, 0x0009FEFF, closed},
+                                         DamageCase{"sectorsOf1024Bytes", 28, 0x000AFFFE, closed},
+                                         DamageCase{"sectorsOf2To65535Bytes", 28, 0xFFFFFFFE, closed},
+                                         DamageCase{"tableSectorsCountedWrong", 44, 0xFFFFFFFF, sound},
+                                         DamageCase{"directoryOutside", 48, 14, closed},
+                                         DamageCase{"directoryInData", 48, 0, closed},
+                                         DamageCase{"miniTableOutside", 60, 1000, tinyDamaged},
+                                         DamageCase{"listNotNeeded", 68, 3, sound},
+                                         DamageCase{"tableOutside", 76, 14, closed},
+                                         DamageCase{"noTable", 76, 0xFFFFFFFF, closed}),
+                         caseName<DamageCase>);
+INSTANTIATE_TEST_SUITE_P(
+    Chains, Damage,
+    testing::Values(DamageCase{"meetsItself", tableAt + 4 * 2, 2, bigDamaged},
+                    DamageCase{"goesBack", tableAt + 4 * 8, 0, bigDamaged},
+                    DamageCase{"goesBackBehindTheEnd", tableAt + 4 * 9, 0, sound},
+                    DamageCase{"endsEarly", tableAt + 4 * 5, 0xFFFFFFFE, bigDamaged},
+                    DamageCase{"runsIntoAFreeSector", tableAt + 4 * 5, 0xFFFFFFFF, bigDamaged},
+                    DamageCase{"leavesTheFile", tableAt + 4 * 5, 14, bigDamaged},
+                    DamageCase{"ofTheDirectoryMeetsItself", tableAt + 4 * 12, 12, closed},
+                    DamageCase{"ofTheMiniStreamEndsEarly", directoryAt + 116, 0xFFFFFFFE, tinyDamaged},
+                    DamageCase{"ofAMiniStreamMeetsItself", miniTableAt, 0, tinyDamaged},
+                    DamageCase{"ofAMiniStreamLeavesIt", miniTableAt + 4, 4, tinyDamaged}),
+    caseName<DamageCase>);
+INSTANTIATE_TEST_SUITE_P(
+    Entries, Damage,
+    testing::Values(DamageCase{"sizeBeyondTheFile", bigEntryAt + 120, 0x7FFFFFFF, bigDamaged},
+                    DamageCase{"sizeOfFourGigabytes", bigEntryAt + 120, 0xFFFFFFFF, bigDamaged},
+                    DamageCase{"sizeBeyondTheChain", bigEntryAt + 120, 5121, bigDamaged},
+                    DamageCase{"upperHalfOfTheSizeIsIgnored", bigEntryAt + 124, 7, sound},
+                    DamageCase{"startOutside", bigEntryAt + 116, 14, bigDamaged},
+                    DamageCase{"miniStreamTooShort", directoryAt + 120, 128, tinyDamaged},
+                    DamageCase{"leftIsItself", bigEntryAt + 68, 1, sound},
+                    DamageCase{"rightIsTheRoot", bigEntryAt + 72, 0, sound},
+                    DamageCase{"childIsOutside", directoryAt + 76, 99, ""},
+                    DamageCase{"rootIsAStream", directoryAt + 64, 0x01020016, closed},
+                    DamageCase{"secondIsUnused", tinyEntryAt + 64, 0x01000000, "/big=5000 "}),
+    caseName<DamageCase>);
+
+// A file with its table in front, then the directory, then one stream "s".
+QByteArray withTableInFront(const QByteArray &stream)
+{
+    const quint32 dataSectors = quint32(stream.size() + 511) / 512;
+    const quint32 tableSectors = (dataSectors + 1 + 126) / 127;
+    CompoundFile::Header header;
+    header.tableSectors = tableSectors;
+    header.firstDirectorySector = tableSectors;
+    for (quint32 i = 0; i < qMin(109u, tableSectors); ++i)
+        header.tableSectorList[i] = i;
+    biff::Sink to;
+    header.Write(to);
+    const quint32 firstDataSector = tableSectors + 1;
+    for (quint32 i = 0; i < tableSectors * 128; ++i)
+        to.u32(i < tableSectors                         ? YCompoundFiles::tableMark
+               : i == tableSectors                      ? YCompoundFiles::endOfChain
+               : i + 1 < firstDataSector + dataSectors  ? i + 1
+               : i + 1 == firstDataSector + dataSectors ? YCompoundFiles::endOfChain
+                                                        : YCompoundFiles::freeSector);
+    CompoundFile::Property root, entry;
+    root.name = QStringLiteral("Root Entry");
+    root.kind = CompoundFile::Property::Root;
+    root.child = 1;
+    root.start = YCompoundFiles::endOfChain;
+    entry.name = QStringLiteral("s");
+    entry.kind = CompoundFile::Property::Stream;
+    entry.start = firstDataSector;
+    entry.size = quint64(stream.size());
+    root.Write(to);
+    entry.Write(to);
+    CompoundFile::Property().Write(to);
+    CompoundFile::Property().Write(to);
+    to.raw(stream.constData(), size_t(stream.size()));
+    to.zeros(dataSectors * 512 - quint32(stream.size()));
+    return to.takeBytes();
+}
+
+TEST(CompoundFile, anIncompleteLastSectorIsEnoughForWhatItHolds)
+{
+    const QByteArray bytes = withTableInFront(content(5000));
+    EXPECT_EQ(treeOf(bytes), "/s=5000 ");
+    EXPECT_EQ(treeOf(bytes.left(bytes.size() - 120)), "/s=5000 ");
+    EXPECT_EQ(treeOf(bytes.left(bytes.size() - 121)), "/s=(damaged) ");
+}
+
+TEST(CompoundFile, tableSectorsBeyondTheHeaderAreKnownByTheirMarks)
+{
+    const QByteArray stream =
+        content(120 * 128 * 512); // needs twelve table sectors more than the header lists
+    CompoundFile file;
+    QByteArray read;
+    ASSERT_TRUE(file.OpenBytes(withTableInFront(stream)));
+    EXPECT_TRUE(file.ReadFile(QStringLiteral("s"), &read));
+    EXPECT_EQ(read, stream);
+}
+}

@@ -1,0 +1,156 @@
+// Numbers as texts, and texts of other programs as numbers.
+#include "format/dataformat.h"
+#include "support/casename.h"
+#include <QLocale>
+#include <QScopeGuard>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+struct NumberCase
+{
+    const char *name;
+    double value;
+    int groupSize, decimals, roundDigits;
+    const char *text;
+};
+
+class NumberText : public testing::TestWithParam<NumberCase>
+{
+};
+
+TEST_P(NumberText, isWritten)
+{
+    const NumberCase &c = GetParam();
+    EXPECT_EQ(DataFormat::formatNumber(c.value, c.groupSize, c.decimals, c.roundDigits).toStdString(),
+              c.text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Numbers, NumberText,
+    testing::Values(NumberCase{"fractionKeepsItsPoint", 1234567.5, 3, 2, 1, "1,234,567.5"},
+                    NumberCase{"trailingZerosAreDropped", 2.0, 0, 1, 1, "2"},
+                    NumberCase{"oneDecimal", 2.5, 0, 1, 1, "2.5"},
+                    NumberCase{"wholeNumberKeepsItsZeros", 100, 3, 0, 1, "100"},
+                    NumberCase{"zerosBeforeThePointStay", 1000, 3, 2, 1, "1,000"},
+                    NumberCase{"zeroSlack", 0, 3, 2, 1, "0"},
+                    NumberCase{"keptMinusCountsAsADigit", -123, 3, 0, 1, "-,123"},
+                    NumberCase{"keptMinusZero", -0.001, 3, 2, 1, "-0"},
+                    NumberCase{"tieGoesAwayFromZero", 0.25, 0, 1, 1, "0.3"},
+                    NumberCase{"wholeTieGoesAwayFromZero", 2.5, 0, 0, 1, "3"},
+                    NumberCase{"fourDigitsInGroupsOfTwo", 1234.25, 2, 2, 1, "12,34.25"},
+                    NumberCase{"scientificIsLeftAlone", 1234500, -1, 4, 3, "1.2345e+06"},
+                    NumberCase{"roundsToHundreds", 1234, 0, 0, 3, "1200"},
+                    NumberCase{"roundsHalfUp", 1250, 3, 0, 3, "1,300"},
+                    NumberCase{"roundsNegativeHalfUpward", -1250, 0, 0, 3, "-1200"},
+                    NumberCase{"roundsPastThirtyTwoBits", 123456789012.0, 3, 0, 3, "123,456,789,000"},
+                    NumberCase{"roundingNeedsNoDecimals", 1234.56, 0, 1, 3, "1234.6"},
+                    NumberCase{"roundsPastSixtyFourBits", 1.5e20, 0, 0, 21, "200000000000000000000"},
+                    NumberCase{"unitPastEveryNumber", -5, 3, 0, 2147483647, "0"},
+                    NumberCase{"infinity", infinity, 3, 2, 1, "inf"}),
+    caseName<NumberCase>);
+
+// Every step as it is described, one after the other.
+QString plainReading(double value, int groupSize, int decimals, int roundDigits)
+{
+    if (groupSize == -1)
+        return QStringLiteral("%1").arg(value, 0, 'e', decimals);
+    QString text;
+    if (decimals < 1 && roundDigits >= 2) {
+        const double p = std::pow(10, roundDigits - 1);
+        text = QStringLiteral("%1").arg(qRound64(value / p) * qint64(p));
+    } else {
+        text = QStringLiteral("%1").arg(value, 0, 'f', decimals);
+    }
+    if (groupSize > 0) {
+        const int point = text.contains(QLatin1Char('.')) ? text.indexOf(QLatin1Char('.')) : text.size();
+        for (int place = point - groupSize; place > 0; place -= groupSize)
+            text.insert(place, QStringLiteral(","));
+    }
+    if (text.contains(QLatin1Char('.'))) {
+        while (text.endsWith(QLatin1Char('0')))
+            text.chop(1);
+        if (text.endsWith(QLatin1Char('.')))
+            text.chop(1);
+    }
+    return text;
+}
+
+// Ties, near ties, sixtieths and ninths of days, money and very large and small numbers.
+double valueLike(std::mt19937_64 &random)
+{
+    const double whole = double(qint64(random() % 2000000) - 1000000);
+    switch (random() % 6) {
+    case 0:
+        return whole / 8;
+    case 1:
+        return std::nextafter(whole / 200, random() % 2 ? infinity : -infinity);
+    case 2:
+        return whole / 540;
+    case 3:
+        return whole / 100;
+    case 4:
+        return std::ldexp(whole, -int(random() % 60));
+    default:
+        return whole * 1e11;
+    }
+}
+
+TEST(NumberTextProperty, equalsThePlainReadingUnderAnyLocale)
+{
+    const QLocale before;
+    const auto restored = qScopeGuard([&] { QLocale::setDefault(before); });
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    std::mt19937_64 random(20240304);
+    for (int trial = 0; trial < 60000; ++trial) {
+        const double value = valueLike(random);
+        const int groupSize = int(random() % 6) - 1, decimals = int(random() % 7),
+                  roundDigits = int(random() % 9);
+        ASSERT_EQ(DataFormat::formatNumber(value, groupSize, decimals, roundDigits).toStdString(),
+                  plainReading(value, groupSize, decimals, roundDigits).toStdString())
+            << value << ' ' << groupSize << ' ' << decimals << ' ' << roundDigits;
+    }
+}
+
+struct CleanCase
+{
+    const char *name;
+    const char *text;
+    const char *number;
+    const char *withLetters;
+};
+
+class NumberFromText : public testing::TestWithParam<CleanCase>
+{
+};
+
+TEST_P(NumberFromText, isCleaned)
+{
+    const CleanCase &c = GetParam();
+    const QString text = QString::fromUtf8(c.text);
+    EXPECT_EQ(DataFormat::numberStringFromString(text, 0).toStdString(), c.number);
+    EXPECT_EQ(DataFormat::numberStringFromString(text, 1).toStdString(), c.withLetters);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, NumberFromText,
+    testing::Values(
+        CleanCase{"empty", "", "0", "0"}, CleanCase{"noNumber", "days", "0", "0"},
+        CleanCase{"blanksOnly", " \t\n", "0", "0"},
+        CleanCase{"groupsBlanksAndQuotes", " \"1 234,567.50\" 'h'", "1234567.50", "1234567.50h"},
+        CleanCase{"minus", "-3.5d", "-3.5", "-3.5d"}, CleanCase{"signAlone", "+-7", "-7", "-7"},
+        CleanCase{"textBefore", "about 12 min", "12", "12min"},
+        CleanCase{"firstOfTwo", "2h 30min", "2", "2h"}, CleanCase{"power", "1.5e3 h", "1.5e3", "1.5e3h"},
+        CleanCase{"signedPower", "2E-2", "2E-2", "2E-2"},
+        CleanCase{"powerOfThreeDigits", "1e123", "1e12", "1e12"},
+        CleanCase{"emptyPower", "7eggs", "7", "7eggs"}, CleanCase{"signedEmptyPower", "7E-x", "7", "7E"},
+        CleanCase{"pointAtTheEnd", "5.", "5.", "5."}, CleanCase{"pointThenPower", "5.e", "5.", "5.e"},
+        CleanCase{"lettersAfterOtherSigns", "5 % of-cost", "5", "5of"},
+        CleanCase{"otherScript", "\u0665 5\u5de5\u65e5d", "5", "5d"}),
+    caseName<CleanCase>);
+}

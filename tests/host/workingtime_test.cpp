@@ -1,0 +1,96 @@
+// Calendar files.
+#include "support/casename.h"
+#include "support/findings.h"
+#include "workingtime.h"
+#include <gtest/gtest.h>
+
+namespace {
+
+// The calendar as one line, or the refusal; warnings behind it.
+std::string picture(const char *json)
+{
+    WorkingTime workingTime;
+    Findings warnings;
+    QString error;
+    if (!workingtime::read(json, workingTime, warnings, error))
+        return "refused: " + error.toStdString();
+    QString text = workingtime::describe(workingTime);
+    for (const WorkingTime::Exception &exception : workingTime.exceptions)
+        text += QStringLiteral("; %1..%2 %3")
+                    .arg(exception.from.toString(Qt::ISODate), exception.to.toString(Qt::ISODate),
+                         exception.works ? QStringLiteral("works") : QStringLiteral("off"));
+    if (workingTime.start.when.isValid())
+        text += QLatin1String("; from ") + workingTime.start.when.date().toString(Qt::ISODate);
+    for (const Finding &warning : warnings.list())
+        text += QLatin1String("; ") + warning.place + QLatin1String(": ") + warning.what;
+    return text.toStdString();
+}
+
+struct CalendarCase
+{
+    const char *name;
+    const char *json;
+    const char *picture;
+};
+
+class CalendarFile : public testing::TestWithParam<CalendarCase>
+{
+};
+
+TEST_P(CalendarFile, isReadOrRefused)
+{
+    EXPECT_EQ(picture(GetParam().json), GetParam().picture);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Host, CalendarFile,
+    testing::Values(
+        CalendarCase{"emptyKeepsTheUsualWeek", "{}", "Mon-Fri 08:00-12:00 13:00-17:00"},
+        CalendarCase{"wordsOfOtherPrograms",
+                     R"({"days": {"SATURDAY": ["WORKING", "09:00-17:00"], "MONDAY": ["NON_WORKING"]}})",
+                     "Tue-Sat 09:00-17:00"},
+        CalendarCase{"switches", R"({"days": {"sat": true, "Friday": false}})",
+                     "Mon-Thu, Sat 08:00-12:00 13:00-17:00"},
+        CalendarCase{"emptyListIsOff", R"({"days": {"Wed": []}})",
+                     "Mon-Tue, Thu-Fri 08:00-12:00 13:00-17:00"},
+        CalendarCase{"intervalsInAnyOrder", R"({"days": {"Mon": ["13:00-17:00", "08:00-12:00"]}})",
+                     "Mon-Fri 08:00-12:00 13:00-17:00"},
+        CalendarCase{"mostCommonHoursWin",
+                     R"({"days": {"Mon": ["09:00-17:00"], "Tue": ["09:00-17:00"], "Fri": ["09:00-13:00"]}})",
+                     "Mon-Fri 09:00-17:00; calendar, Fri: hours 09:00-13:00 are read as 09:00-17:00"},
+        CalendarCase{"toMidnight", R"({"days": {"Mon": ["16:00-00:00"]}})", "Mon-Fri 16:00-24:00"},
+        CalendarCase{"partHoursAreTold", R"({"hours": "08:30-12:00"})",
+                     "Mon-Fri 08:30-12:00; calendar: the hours 08:30-12:00 count as 4 whole hours a day"},
+        CalendarCase{
+            "otherLengthOfADayIsTold", R"({"minutesPerDay": 450})",
+            "Mon-Fri 08:00-12:00 13:00-17:00; calendar: a day of 450 minutes is counted as its hours say: "
+            "480 minutes"},
+        CalendarCase{
+            "exceptions",
+            R"({"exceptions": [["2026-01-01", "2026-01-06", false], {"from": "2026-01-10", "works": true},
+                         "2026-05-01"], "start": "2026-01-05T08:00"})",
+            "Mon-Fri 08:00-12:00 13:00-17:00; 2026-01-01..2026-01-06 off; 2026-01-10..2026-01-10 works; "
+            "2026-05-01..2026-05-01 off; from 2026-01-05"},
+        CalendarCase{"noJson", "days: Mon", "refused: not JSON at byte 1: illegal value"},
+        CalendarCase{"noObject", "[1]", "refused: not a JSON object"},
+        CalendarCase{"noWeekday", R"({"days": {"Caturday": []}})",
+                     "refused: 'Caturday' is not a weekday with its hours"},
+        CalendarCase{"overlappingHours", R"({"days": {"Mon": ["08:00-12:00", "11:00-13:00"]}})",
+                     "refused: 'Mon' is not a weekday with its hours"},
+        CalendarCase{"exceptionBackwards", R"({"exceptions": [["2026-01-06", "2026-01-01", false]]})",
+                     "refused: exception 1: '2026-01-06' to '2026-01-01' are not two dates in order"},
+        CalendarCase{"exceptionWithoutDate", R"({"exceptions": [7]})",
+                     "refused: exception 1: '' to '' are not two dates in order"},
+        CalendarCase{"badStart", R"({"start": "tomorrow"})", "refused: 'start': 'tomorrow' is not a date"}),
+    caseName<CalendarCase>);
+
+TEST(CalendarFile, moreExceptionsThanAnybodyHasAreRefused)
+{
+    QByteArray json = "{\"exceptions\": [\"2026-01-01\"";
+    for (int i = 0; i < workingtime::mostExceptions; ++i)
+        json += ",\"2026-01-01\"";
+    json += "]}";
+    EXPECT_EQ(picture(json.constData()), "refused: more than 10,000 exceptions");
+}
+
+}

@@ -1,0 +1,263 @@
+#include "schedule/calendarcache.h"
+#include "schedule/kwcalendar.h"
+#include "support/calendartext.h"
+#include "support/casename.h"
+#include "support/kwclock.h"
+#include "support/zone.h"
+#include <QDateTime>
+#include <QDomDocument>
+#include <QElapsedTimer>
+#include <gtest/gtest.h>
+
+namespace {
+
+// "Mayday 2024-05-01..2024-05-02 exception off 28800-43200 46800-61200"
+std::string describe(const KWCalendar &calendar)
+{
+    QString text = calendar.name + ' ' + calendar.startDate.toString(Qt::ISODate) + ".." +
+                   calendar.finishDate.toString(Qt::ISODate) +
+                   (calendar.isException ? " exception" : " plain") + (calendar.isWork ? " work" : " off");
+    for (const KWDayTime *interval : calendar.dayTimes)
+        text += QString(" %1-%2").arg(interval->start).arg(interval->finish);
+    return text.toStdString();
+}
+
+QDomElement element(QDomDocument &document, const QString &attributes)
+{
+    document.setContent("<CdCalendar " + attributes + "/>");
+    return document.documentElement();
+}
+
+QString secs(const char *date)
+{
+    return QString::number(secsOf(date));
+}
+
+struct ParseCase
+{
+    const char *name;
+    const char *attributes;
+    const char *result;
+};
+
+class CalendarXml : public testing::TestWithParam<ParseCase>
+{
+};
+
+}
+
+TEST_P(CalendarXml, isRead)
+{
+    KWClock::set(QDateTime(QDate(2024, 7, 1), QTime(9, 0)));
+    KWCalendar calendar;
+    KWClock::set(QDateTime());
+    QDomDocument document;
+    calendar.parse(element(document, GetParam().attributes), 0);
+    EXPECT_EQ(describe(calendar), GetParam().result);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, CalendarXml,
+    testing::Values(
+        ParseCase{"nothing", "", " 2024-07-01..2024-07-01 plain work"},
+        ParseCase{"emptyTextsChangeNothing",
+                  "CdIsException='' CdIsWork='' CdStartTime='' CdFinishTime='' CdStartDate=''",
+                  " 2024-07-01..2024-07-01 plain work"},
+        ParseCase{"flagsAreNumbers", "CdIsException='7' CdIsWork='x'",
+                  " 2024-07-01..2024-07-01 exception off"},
+        ParseCase{"aMissingFinishIsNoon", "CdStartTime='0;28800;46800' CdFinishTime='1;43200'",
+                  " 2024-07-01..2024-07-01 plain work 0-1 28800-43200 46800-43200"},
+        ParseCase{"badPartsAreZero", "CdStartTime='x;;-5;4294967296;3000000000' CdFinishTime='7;;y'",
+                  " 2024-07-01..2024-07-01 plain work 0-7 0-0 0-0 0-43200 3000000000-43200"},
+        ParseCase{"finishesWithoutStarts", "CdFinishTime='7;8'", " 2024-07-01..2024-07-01 plain work"},
+        ParseCase{"oneEmptyStartIsNotAnInterval", "CdStartTime=''", " 2024-07-01..2024-07-01 plain work"}),
+    caseName<ParseCase>);
+
+TEST(CalendarXmlText, isWrittenInSeconds)
+{
+    KWCalendar calendar;
+    calendar.name = QString("half day \"%2\" & \x01 more");
+    calendar.startDate = QDate(2024, 3, 10); // a clock changes that day
+    calendar.finishDate = QDate(2024, 3, 11);
+    calendar.isException = true;
+    calendar.dayTimes = {new KWDayTime(28800, 43200), new KWDayTime(46800, 61200)};
+    QDomDocument document;
+    QDomElement list = document.createElement("CdCalendarList");
+    document.appendChild(list);
+    calendar.saveTo(list, 0);
+    const QDomElement saved = list.firstChildElement("CdCalendar");
+    EXPECT_EQ(saved.attribute("CdStartDate"), secs("2024-03-10"));
+    EXPECT_EQ(saved.attribute("CdFinishDate"), secs("2024-03-11"));
+    EXPECT_EQ(saved.attribute("CdStartTime"), "28800;46800");
+    EXPECT_EQ(saved.attribute("CdFinishTime"), "43200;61200");
+    EXPECT_EQ(saved.attribute("CdIsException") + saved.attribute("CdIsWork"), "11");
+
+    // Through a text and back; what XML cannot carry is gone.
+    QDomDocument read;
+    ASSERT_TRUE(read.setContent(document.toString()));
+    KWCalendar again;
+    again.dayTimes.append(new KWDayTime(1, 2));
+    again.parse(read.documentElement().firstChildElement(), 0);
+    calendar.name.remove(QChar(1));
+    EXPECT_EQ(describe(again), describe(calendar));
+    again.parse(QDomElement(), 0);
+    EXPECT_EQ(describe(again), describe(calendar)) << "a null element changes nothing";
+
+    QDomDocument nameless;
+    again.parse(element(nameless, "CdExceptionName=''"), 0);
+    EXPECT_EQ(again.name, "") << "an exception without a name keeps none of the name before";
+}
+
+TEST(Calendars, copiesOwnTheirIntervals)
+{
+    KWCalendar calendar;
+    calendar.name = "first";
+    calendar.dayTimes = {new KWDayTime(1, 2), new KWDayTime(3, 4)};
+    KWCalendar copy(calendar);
+    KWCalendar assigned;
+    assigned.dayTimes.append(new KWDayTime(9, 9));
+    assigned = calendar;
+    const KWCalendar &same = assigned;
+    assigned = same;
+    calendar.getDayTimeAt(0)->start = 100;
+    calendar.removeDayTimesAt(1);
+    calendar.removeDayTimesAt(1);
+    calendar.removeDayTimesAt(-1);
+    EXPECT_EQ(calendar.dayTimes.size(), 1);
+    EXPECT_EQ(calendar.getDayTimeAt(1), nullptr);
+    EXPECT_EQ(describe(copy), describe(assigned));
+    EXPECT_EQ(copy.getDayTimeAt(0)->start, 1u);
+    EXPECT_EQ(copy.getDayTimeAt(1)->finish, 4u);
+    copy.clear();
+    EXPECT_EQ(copy.name, "first");
+    EXPECT_TRUE(copy.dayTimes.isEmpty());
+}
+
+TEST(CalendarCaches, seeEveryChange)
+{
+    CalendarText text("Mon-Fri 8-12 13-17; off 2024-05-01; work 2024-05-04 8-12");
+    CalendarCache cache;
+    const auto works = [&](int dayOfMay) {
+        return cache.get(text.source()).isWorkday(LocalClock::dayOf(QDate(2024, 5, dayOfMay)));
+    };
+    EXPECT_FALSE(works(1));
+    text.exceptions[0]->isWork = true;
+    EXPECT_TRUE(works(1));
+    text.exceptions[0]->finishDate = QDate(2024, 5, 5);
+    EXPECT_TRUE(works(5));
+    text.exceptions[0]->startDate = QDate(2024, 5, 6); // now it covers nothing
+    EXPECT_FALSE(works(5));
+    text.exceptions[1]->isException = false;
+    EXPECT_FALSE(works(4));
+    text.workingDays[5] = true;
+    EXPECT_TRUE(works(4));
+    const worktime::WorkCalendar *made = &cache.get(text.source());
+    EXPECT_EQ(&cache.get(text.source()), made) << "nothing changed";
+    text.hours[1]->finish = 18 * 3600;
+    EXPECT_EQ(cache.get(text.source()).hoursPerDay(), 9);
+    text.exceptions.swapItemsAt(0, 1);
+    text.exceptions[0]->dayTimes[0]->start = 9 * 3600;
+    const quint64 before = worktime::WorkCalendar::digest(text.source());
+    text.exceptions.swapItemsAt(0, 1);
+    EXPECT_NE(worktime::WorkCalendar::digest(text.source()), before) << "the order matters";
+    text.oldVersion = true;
+    EXPECT_TRUE(cache.get(text.source()).oldVersion());
+    const Zone zone("Asia/Kathmandu");
+    EXPECT_EQ(cache.get(text.source()).clock().wall(0).secs, 5 * 3600 + 30 * 60);
+}
+
+TEST(CalendarTables, takeTheFirstOfManyCalendars)
+{
+    // Each date of a year covered by a thousand calendars; only the first of each counts.
+    CalendarText text("Mon-Fri 8-12 13-17");
+    std::mt19937 random(8);
+    for (int i = 0; i < 1000; ++i) {
+        auto calendar = std::make_unique<KWCalendar>();
+        calendar->startDate = QDate(2024, 1, 1).addDays(random() % 366);
+        calendar->finishDate = calendar->startDate.addDays(random() % 40 - 2);
+        calendar->isException = random() % 4;
+        calendar->isWork = random() % 2;
+        for (unsigned int n = random() % 4; n > 0; --n)
+            calendar->dayTimes.append(new KWDayTime(random() % 86400, random() % 86400));
+        text.exceptions.append(calendar.release());
+    }
+    text.exceptions.insert(3, nullptr);
+    text.hours.append(nullptr);
+    const worktime::WorkCalendar calendar = text.compile();
+    for (QDate date(2023, 12, 20); date < QDate(2025, 3, 1); date = date.addDays(1)) {
+        bool works = text.workingDays[date.dayOfWeek() - 1];
+        quint32 extra = 0;
+        bool found = false;
+        for (const KWCalendar *exception : text.exceptions) {
+            if (!exception || !exception->isException || date < exception->startDate ||
+                date > exception->finishDate)
+                continue;
+            if (!found)
+                works = exception->isWork;
+            found = true;
+            for (const KWDayTime *interval : exception->dayTimes)
+                for (quint32 hour = interval->start / 3600; hour < interval->finish / 3600; ++hour)
+                    extra |= 1u << hour;
+        }
+        const int day = LocalClock::dayOf(date);
+        ASSERT_EQ(calendar.isWorkday(day), works) << date.toString().toStdString();
+        ASSERT_EQ(calendar.hoursMask(day), ((1u << 24) - 1 - (1u << 12)) | extra)
+            << date.toString().toStdString();
+    }
+}
+
+TEST(CalendarTables, areMadeQuicklyFromAMillionCalendars)
+{
+    // Every one covers all dates; with a look at each date for each calendar this would take hours.
+    CalendarText text("Mon-Fri 8-12 13-17");
+    KWCalendar covering;
+    covering.startDate = QDate(1900, 1, 1);
+    covering.finishDate = QDate(2200, 1, 1);
+    covering.isException = true;
+    covering.isWork = false;
+    KWDayTime morning(28800, 36000);
+    KWDayTime evening(64800, 72000);
+    covering.dayTimes = {&morning, &evening};
+    KWCalendar holiday;
+    holiday.startDate = holiday.finishDate = QDate(2024, 5, 1);
+    holiday.isException = true;
+    QList<KWCalendar *> many = {&holiday};
+    for (int i = 0; i < 1000000; ++i)
+        many.append(&covering);
+    QElapsedTimer timer;
+    timer.start();
+    const worktime::Source source{text.workingDays, text.hours, many, false};
+    const worktime::WorkCalendar calendar(source, LocalClock::current());
+    worktime::WorkCalendar::digest(source);
+    EXPECT_LT(timer.elapsed(), 5000);
+    const int day = LocalClock::dayOf(QDate(2024, 5, 1));
+    EXPECT_TRUE(calendar.isWorkday(day));
+    EXPECT_FALSE(calendar.isWorkday(day + 1));
+    EXPECT_EQ(calendar.breakHours(day), 1);
+    EXPECT_EQ(calendar.breakHours(day + 1), 8);
+    EXPECT_TRUE(calendar.isWorkHour(day + 1, 19));
+    covering.dayTimes.clear();
+}
+
+TEST(CalendarTables, invalidDatesCoverWhatLiesBetweenThem)
+{
+    CalendarText text("none 8-12");
+    auto calendar = std::make_unique<KWCalendar>();
+    calendar->isException = true;
+    calendar->startDate = QDate();
+    calendar->finishDate = QDate(2024, 5, 1);
+    KWCalendar *exception = calendar.get();
+    text.exceptions.append(calendar.release());
+    const int day = LocalClock::dayOf(QDate(2024, 5, 1));
+    EXPECT_TRUE(text.compile().isWorkday(0));
+    EXPECT_TRUE(text.compile().isWorkday(day));
+    EXPECT_FALSE(text.compile().isWorkday(day + 1));
+    exception->finishDate = QDate();
+    EXPECT_FALSE(text.compile().isWorkday(LocalClock::firstDay));
+    exception->startDate = QDate(1900, 1, 1);
+    exception->finishDate = QDate(1960, 1, 1);
+    EXPECT_FALSE(text.compile().isWorkday(LocalClock::firstDay));
+    exception->startDate = QDate(2150, 1, 1);
+    exception->finishDate = QDate(2160, 1, 1);
+    EXPECT_FALSE(text.compile().isWorkday(LocalClock::lastDay));
+}

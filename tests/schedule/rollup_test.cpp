@@ -1,0 +1,297 @@
+// What summaries take from the tasks below them.
+#include "schedule/kwtaskcollection.h"
+#include "support/calendartext.h"
+#include "support/casename.h"
+#include "support/project.h"
+#include <gtest/gtest.h>
+#include <limits>
+#include <rapidcheck/gtest.h>
+
+namespace {
+
+const char june[] = "Mon-Fri 8-12 13-17, start 2024-06-03";
+
+// ---- Walks ------------------------------------------------------------------------------------------------
+
+std::string below(Project &p, const char *name)
+{
+    QList<quint32> ids{99};
+    p.document().taskCollection()->subIDListByTask(&p.task(name), ids);
+    std::string text;
+    for (const quint32 id : ids)
+        text += std::to_string(id) + ' ';
+    return text;
+}
+
+std::string above(Project &p, const char *name)
+{
+    QList<KWTaskInfo *> tasks{nullptr};
+    p.document().taskCollection()->parentIDListByTask(&p.task(name), tasks);
+    std::string text;
+    for (const KWTaskInfo *task : tasks)
+        text += task->Name.toStdString() + ' ';
+    return text;
+}
+
+const char family[] = "Top\n"        // 1
+                      "  Left\n"     // 2
+                      "    Deep\n"   // 3
+                      "      Leaf\n" // 4
+                      "    Twin\n"   // 5
+                      "  Right\n";   // 6
+
+TEST(Walks, goDownInPreOrderAndUpNearestFirst)
+{
+    Project p(june, family);
+    EXPECT_EQ(below(p, "Top"), "99 2 3 4 5 6 ");
+    EXPECT_EQ(below(p, "Leaf"), "99 ");
+    EXPECT_EQ(above(p, "Leaf"), "Deep Left Top ");
+    EXPECT_EQ(above(p, "Top"), "");
+}
+
+TEST(Walks, followTheChildListAndSkipUnknownTasks)
+{
+    Project p(june, family);
+    p.task("Top").Childs = {6, 77, 2};
+    p.task("Right").ParentID = 78;
+    EXPECT_EQ(below(p, "Top"), "99 6 2 3 4 5 ");
+    EXPECT_EQ(above(p, "Right"), "");
+}
+
+TEST(Walks, endInRings)
+{
+    Project p(june, family);
+    p.task("Leaf").Childs = {2, 4, 5, 1};
+    p.task("Top").ParentID = 4;
+    EXPECT_EQ(below(p, "Left"), "99 3 4 5 1 6 ");
+    EXPECT_EQ(above(p, "Right"), "Top Leaf Deep Left ");
+    EXPECT_EQ(above(p, "Deep"), "Left Top Leaf ");
+}
+
+// ---- Dates ------------------------------------------------------------------------------------------------
+
+TEST(SummaryDates, spanTheChildrenInTheOwnUnit)
+{
+    Project p("Mon-Fri 8-12 13-17, start 2024-03-04", "Sum\n"
+                                                      "  One 2d start 2024-03-04\n"
+                                                      "  Two 3d start 2024-03-06\n");
+    KWTaskInfo &sum = p.task("Sum");
+    sum.DurationUnits = 5;
+    p.document().taskCollection()->updateTaskTimeToChildsTask(&sum, false);
+    EXPECT_EQ(p.dates(), "Sum 4 Mar - 8 Mar\n"
+                         "  One 4 Mar - 5 Mar\n"
+                         "  Two 6 Mar - 8 Mar\n");
+    EXPECT_EQ(sum.DurationSecs, 5u * 8 * 3600);
+}
+
+TEST(SummaryDates, ofAncestorsAreUpdatedFromTheInside)
+{
+    Project p(june, family);
+    p.task("Leaf").Finish = secsOf("2024-06-11");
+    p.document().taskCollection()->updateTaskInfoParentTime(&p.task("Leaf"));
+    EXPECT_EQ(p.dates(), "Top 3 Jun - 10 Jun\n"
+                         "  Left 3 Jun - 10 Jun\n"
+                         "    Deep 3 Jun - 10 Jun\n"
+                         "      Leaf 3 Jun - 10 Jun\n"
+                         "    Twin 3 Jun - 3 Jun\n"
+                         "  Right 3 Jun - 3 Jun\n");
+}
+
+TEST(SummaryDates, stayWhenAChildHasNone)
+{
+    Project p(june, "Sum\n"
+                    "  One 2d\n"
+                    "  Two 3d\n");
+    p.task("One").Start = 0;
+    p.task("Two").Finish = secsOf("2024-06-20");
+    p.document().taskCollection()->updateOptionTaskTime();
+    EXPECT_EQ(p.dates(), "Sum 3 Jun - 5 Jun\n"
+                         "  One\n"
+                         "  Two 3 Jun - 19 Jun\n");
+}
+
+TEST(SummaryDates, pushSuccessorsOfAGrownSummary)
+{
+    Project p(june, "Sum\n"
+                    "  One 2d\n"
+                    "Other\n"
+                    "  Next 1d\n"
+                    "  Last 1d after Next\n");
+    ASSERT_TRUE(p.link("Sum", "Next"));
+    p.task("One").Finish = secsOf("2024-06-08");
+    p.document().taskCollection()->updateTaskTimeToChildsTask(&p.task("Sum"), false);
+    EXPECT_EQ(p.task("Next").Start, secsOf("2024-06-05"));
+    p.document().taskCollection()->updateTaskTimeToChildsTask(&p.task("Sum"), true);
+    EXPECT_EQ(p.dates(), "Sum 3 Jun - 7 Jun\n"
+                         "  One 3 Jun - 7 Jun\n"
+                         "Other 10 Jun - 11 Jun\n"
+                         "  Next 10 Jun - 10 Jun\n"
+                         "  Last 11 Jun - 11 Jun\n");
+}
+
+// ---- Percent ----------------------------------------------------------------------------------------------
+
+struct PercentCase
+{
+    const char *name;
+    const char *tasks;
+    double percent;
+};
+
+class SummaryPercent : public testing::TestWithParam<PercentCase>
+{
+};
+
+TEST_P(SummaryPercent, weighsTheChildrenByLength)
+{
+    Project p(june, GetParam().tasks);
+    p.task("Last").updateParentPercent(&p.document());
+    EXPECT_DOUBLE_EQ(p.task("Sum").Percent, GetParam().percent);
+    EXPECT_EQ(p.task("Sum").FirstWidth > 0, GetParam().percent > 0);
+}
+
+TEST_P(SummaryPercent, isTheSameForAllSummariesAtOnce)
+{
+    Project p(june, GetParam().tasks);
+    for (KWTaskInfo *task : p.document().taskList()) {
+        if (task->isParent())
+            task->setPercent(0.9);
+    }
+    p.document().updateAllParentPercent();
+    EXPECT_DOUBLE_EQ(p.task("Sum").Percent, GetParam().percent);
+    EXPECT_EQ(p.task("Sum").FirstWidth > 0, GetParam().percent > 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Children, SummaryPercent,
+    testing::Values(PercentCase{"oneTaskAndAMilestone", "Sum\n  Task 2d 50%\n  Last milestone\n", 0.5},
+                    PercentCase{"onlyMilestones", "Sum 70%\n  Last milestone 100%\n", 0.0},
+                    PercentCase{"longerTasksCountMore", "Sum\n  Task 3d 100%\n  Last 1d\n", 0.75},
+                    PercentCase{"unitsAreMixedKept", "Sum\n  Task 1d\n  Last 3h 100%\n", 0.75},
+                    PercentCase{"ofNestedSummariesComesFromInside",
+                                "Sum\n  Task 2d\n  Inner\n    Piece 1d 100%\n    Last 2d\n", 1.0 / 6},
+                    PercentCase{"nothingDone", "Sum 30%\n  Task 3d\n  Last 1d\n", 0.0}),
+    caseName<PercentCase>);
+
+TEST(SummaryPercent, ignoresOneSecondAndTurnsNoNumberToZero)
+{
+    Project p(june, "Sum\n"
+                    "  Task 4h 100%\n"
+                    "  Last 1d\n");
+    p.task("Task").Finish = p.task("Task").Start + 1;
+    p.task("Last").Percent = std::numeric_limits<double>::quiet_NaN();
+    p.task("Sum").setPercent(0.5);
+    p.task("Sum").updateParentPercent(&p.document());
+    EXPECT_EQ(p.task("Sum").Percent, 0.0);
+}
+
+// ---- Baseline ---------------------------------------------------------------------------------------------
+
+TEST(Baseline, ofASummaryWithoutLeavesIsCleared)
+{
+    Project p(june, "Sum\n"
+                    "  Last\n");
+    p.task("Sum").BaseStart = p.task("Sum").BaseFinish = 5;
+    p.task("Sum").Childs = {77};
+    p.task("Sum").basisSubUpdateBaselineStartAndFinish(&p.document());
+    EXPECT_EQ(p.task("Sum").BaseStart, 0u);
+    EXPECT_EQ(p.task("Sum").BaseFinish, 0u);
+    p.task("Last").BaseStart = 7;
+    p.task("Last").basisSubUpdateBaselineStartAndFinish(&p.document());
+    EXPECT_EQ(p.task("Last").BaseStart, 7u);
+}
+
+// Any outline, broken ones included: the children of a task are any tasks, its parent is any task.
+RC_GTEST_PROP(Baseline, ofAncestorsEqualsTheirLeaves, ())
+{
+    Project p(june, "A\nB\nC\nD\nE\nF\nG\n");
+    KWDocument &document = p.document();
+    for (KWTaskInfo *task : document.taskList()) {
+        task->ParentID = *rc::gen::inRange(0u, 8u);
+        for (const quint32 id : *rc::gen::container<std::vector<quint32>>(rc::gen::inRange(1u, 9u)))
+            task->Childs.append(id == 8 ? task->ID.value() : id);
+        task->BaseStart = *rc::gen::inRange(0u, 100u);
+        task->BaseFinish = *rc::gen::inRange(0u, 100u);
+    }
+    KWTaskInfo &from = *document.getTaskInfoAt(*rc::gen::inRange(0, 7));
+    from.updateParentBaselineStartAndFinish(&document);
+
+    QList<KWTaskInfo *> ancestors;
+    document.taskCollection()->parentIDListByTask(&from, ancestors);
+    for (const KWTaskInfo *ancestor : ancestors) {
+        if (!ancestor->isParent())
+            continue;
+        QList<quint32> ids;
+        document.taskCollection()->subIDListByTask(ancestor, ids);
+        quint32 start = std::numeric_limits<quint32>::max();
+        quint32 finish = 0;
+        for (const quint32 id : ids) {
+            const KWTaskInfo *task = document.getTaskInfoByID(id);
+            if (!task->isParent()) {
+                start = std::min(start, task->BaseStart);
+                finish = std::max(finish, task->BaseFinish);
+            }
+        }
+        if (start > 100)
+            start = 0;
+        RC_ASSERT(ancestor->BaseStart == start);
+        RC_ASSERT(ancestor->BaseFinish == finish);
+    }
+}
+
+// ---- Collapse ---------------------------------------------------------------------------------------------
+
+std::string hidden(Project &p)
+{
+    std::string text;
+    for (const KWTaskInfo *task : p.document().taskList())
+        text += std::to_string(task->HideID) + ' ';
+    return text;
+}
+
+TEST(Collapse, leavesTasksToTheSummaryThatHidThem)
+{
+    Project p(june, family);
+    KWTaskInfo &top = p.task("Top");
+    KWTaskInfo &left = p.task("Left");
+    EXPECT_TRUE(top.recurveShowOrHide(&p.document(), &left, &left, true));
+    EXPECT_EQ(hidden(p), "0 0 2 2 2 0 ");
+    EXPECT_TRUE(top.recurveShowOrHide(&p.document(), &top, &top, true));
+    EXPECT_EQ(hidden(p), "0 1 2 2 2 1 ");
+    EXPECT_TRUE(top.recurveShowOrHide(&p.document(), &top, &top, false));
+    EXPECT_EQ(hidden(p), "0 0 2 2 2 0 ");
+    EXPECT_FALSE(top.recurveShowOrHide(&p.document(), &top, &p.task("Leaf"), true));
+    EXPECT_FALSE(top.recurveShowOrHide(&p.document(), nullptr, &top, true));
+    EXPECT_FALSE(top.recurveShowOrHide(nullptr, &top, &top, true));
+}
+
+TEST(Collapse, isNotAsDeepAsTheOutline)
+{
+    KWDocument document;
+    constexpr quint32 levels = 100000;
+    for (quint32 id = 1; id <= levels; ++id) {
+        auto *task = new KWTaskInfo;
+        task->ID = id;
+        task->ParentID = id - 1;
+        task->Start = 1000000;
+        task->Finish = 1100000;
+        task->BaseStart = id;
+        if (id < levels)
+            task->Childs = {id + 1};
+        document.appendTaskInfoList(task);
+    }
+    KWTaskInfo *top = document.getTaskInfoAt(0);
+    KWTaskInfo *leaf = document.getTaskInfoAt(int(levels) - 1);
+    EXPECT_TRUE(top->recurveShowOrHide(&document, top, top, true));
+    EXPECT_EQ(leaf->HideID, 1u);
+    leaf->updateParentBaselineStartAndFinish(&document);
+    EXPECT_EQ(top->BaseStart, levels);
+    leaf->setPercent(0.25);
+    leaf->updateParentPercent(&document);
+    EXPECT_EQ(top->Percent, 0.25);
+    const quint32 oldStart = top->Start;
+    top->Start += 14 * 86400;
+    document.taskCollection()->recalculateTask(top, oldStart);
+    EXPECT_EQ(leaf->Start, 1000000u + 14 * 86400);
+}
+}

@@ -1,0 +1,141 @@
+// The page setup and its XML.
+#include "quarkmanager.h"
+#include "settings/kwprintconfig.h"
+#include "support/casename.h"
+#include "support/sortedxml.h"
+#include <QDomDocument>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace {
+
+QDomElement savedElement(QDomDocument &document, const KWPrintConfig &config)
+{
+    QDomElement root = document.createElement(QStringLiteral("PrintCfg"));
+    document.appendChild(root);
+    config.saveTo(root);
+    return root;
+}
+
+std::string saved(const KWPrintConfig &config)
+{
+    QDomDocument document;
+    return sortedXml(savedElement(document, config));
+}
+
+// Everything, also what saving leaves out.
+std::string shown(const KWPrintConfig &config)
+{
+    return QStringLiteral("%1%2%3%4 %5 %6x%7 ")
+               .arg(config.Portrait)
+               .arg(config.FittoSheet)
+               .arg(config.Background)
+               .arg(config.Toggle)
+               .arg(config.Zoom)
+               .arg(config.HSheet)
+               .arg(config.VSheet)
+               .toStdString() +
+           QStringLiteral("%1 %2 %3 %4 unit %5")
+               .arg(config.Left)
+               .arg(config.Top)
+               .arg(config.Width)
+               .arg(config.Height)
+               .arg(config.Unit)
+               .toStdString();
+}
+
+TEST(PrintConfig, LeavesOutWhatIsFalse)
+{
+    EXPECT_EQ(saved(KWPrintConfig()),
+              "PrintCfg\n"
+              " PrintSetup Background='1' FittoSheet='1' HSheet='1' Height='297' Left='20' "
+              "Top='20' Unit='mm' VSheet='1' Width='210'\n");
+    KWPrintConfig other;
+    other.Portrait = other.Toggle = true;
+    other.FittoSheet = other.Background = false;
+    other.Zoom = 75;
+    other.Left = std::numeric_limits<double>::infinity();
+    other.Unit = 5;
+    EXPECT_EQ(saved(other), "PrintCfg\n"
+                            " PrintSetup Height='297' Left='0' Portrait='1' Toggle='1' Top='20' Unit='in' "
+                            "Width='210' Zoom='75'\n");
+}
+
+TEST(PrintConfig, SavedSettingsLoadBack)
+{
+    KWPrintConfig config;
+    config.Portrait = config.Toggle = true;
+    config.Background = false;
+    config.HSheet = -3;
+    config.VSheet = 32767;
+    config.Left = 0.1;
+    config.Unit = 10;
+    QDomDocument document;
+    KWPrintConfig loaded;
+    loaded.Zoom = 60;
+    loaded.parse(savedElement(document, config));
+    EXPECT_EQ(saved(loaded), saved(config));
+    EXPECT_EQ(loaded.Zoom, 60); // not saved with sheets
+    // Handed over without the element around it.
+    KWPrintConfig direct;
+    direct.parse(document.documentElement().firstChildElement());
+    EXPECT_EQ(saved(direct), saved(config));
+}
+
+struct Reading
+{
+    const char *name;
+    const char *xml;
+    const char *after;
+};
+
+class PrintReading : public testing::TestWithParam<Reading>
+{
+};
+
+TEST_P(PrintReading, IntoTheDefaults)
+{
+    QDomDocument document;
+    ASSERT_TRUE(document.setContent(QByteArray(GetParam().xml)));
+    KWPrintConfig config;
+    config.parse(document.documentElement());
+    EXPECT_EQ(shown(config), GetParam().after);
+    EXPECT_LT(QuarkManager::findQuark(QStringLiteral("parsec")), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Settings, PrintReading,
+    testing::Values(Reading{"nothing", "<PrintSetup/>", "0000 100 1x1 20 20 210 297 unit 1"},
+                    Reading{"flags_in_words",
+                            "<p Portrait='True' FittoSheet='TRUE' Background='yes' Toggle='2'/>",
+                            "1100 100 1x1 20 20 210 297 unit 1"},
+                    Reading{"numbers",
+                            "<p Zoom='-5' HSheet='2' VSheet='3' Left='1.5' Top='0' Width='1e2' Height='x'/>",
+                            "0000 -5 2x3 1.5 0 100 0 unit 1"},
+                    Reading{"past_16_bits", "<p HSheet='99999' VSheet='-32768'/>",
+                            "0000 100 0x-32768 20 20 210 297 unit 1"},
+                    Reading{"no_number", "<p Left='nan' Top='inf'/>", "0000 100 1x1 0 0 210 297 unit 1"},
+                    Reading{"unit", "<p Unit='in'/>", "0000 100 1x1 20 20 210 297 unit 5"},
+                    Reading{"unknown_unit", "<p Unit='parsec'/>", "0000 100 1x1 20 20 210 297 unit 1"},
+                    Reading{"nested", "<c Portrait='1'><x/><PrintSetup Toggle='1'/></c>",
+                            "0001 100 1x1 20 20 210 297 unit 1"}),
+    caseName<Reading>);
+
+TEST(PrintConfig, NothingToRead)
+{
+    KWPrintConfig config;
+    config.parse(QDomElement());
+    EXPECT_EQ(shown(config), shown(KWPrintConfig()));
+}
+
+TEST(PrintConfig, PaperSize)
+{
+    KWPrintConfig config;
+    EXPECT_EQ(config.paperSize(), QStringLiteral("210 mm x 297 mm"));
+    config.Width = 8.5;
+    config.Height = 1e7;
+    config.Unit = 5;
+    EXPECT_EQ(config.paperSize(), QStringLiteral("8.5 in x 1e+07 in"));
+}
+}

@@ -1,0 +1,253 @@
+#include "support/project.h"
+#include "model/outline.h"
+#include "schedule/kwcalendar.h"
+#include "schedule/kwtaskcollection.h"
+#include "table/rowcolumndata.h"
+#include <QLocale>
+#include <QMap>
+#include <QRegularExpression>
+#include <QStringList>
+#include <stdexcept>
+
+namespace {
+
+const QStringList weekdays{"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"};
+const QMap<QString, unsigned int> units{{"y", 0}, {"q", 1}, {"mon", 2}, {"w", 3},
+                                        {"d", 4}, {"h", 5}, {"min", 6}};
+const char durationPattern[] = "^(\\d+(?:\\.\\d+)?)(min|mon|d|h|w|q|y)$";
+
+[[noreturn]] void refuse(const QString &what)
+{
+    throw std::invalid_argument(what.toStdString());
+}
+
+QDate dateOf(const QString &text)
+{
+    const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+    if (!date.isValid())
+        refuse("no date: " + text);
+    return date;
+}
+
+// "8" or "13:30"
+quint32 secsOfDay(const QString &text)
+{
+    const QStringList parts = text.split(':');
+    return parts.value(0).toUInt() * 3600 + parts.value(1).toUInt() * 60;
+}
+
+QStringList wordsOf(const QString &text)
+{
+    return text.split(' ', Qt::SkipEmptyParts);
+}
+
+QString shown(KWDocument *document, quint32 secs, bool start)
+{
+    const QLocale english(QLocale::English);
+    const QDateTime day = QDateTime::fromSecsSinceEpoch(secs);
+    if (day == day.date().startOfDay())
+        return english.toString(start ? day.date() : day.date().addDays(-1), QStringLiteral("d MMM"));
+    const QDateTime clock = QDateTime::fromSecsSinceEpoch(KWTaskInfo::secsDayTransHour(document, secs));
+    return english.toString(clock, QStringLiteral("d MMM hh:mm"));
+}
+
+std::string indent(const KWTaskInfo &task)
+{
+    return std::string(2 * std::size_t(qMax(0, task.Level - 1)), ' ');
+}
+}
+
+Project::Project(const char *settings, const char *tasks)
+    : m_document(std::make_unique<KWDocument>())
+{
+    readSettings(QString::fromUtf8(settings));
+
+    outline::LevelBuilder builder;
+    for (const QString &line : QString::fromUtf8(tasks).split('\n')) {
+        if (line.trimmed().isEmpty())
+            continue;
+        KWTaskInfo &task = add(line);
+        builder.add(task);
+        m_document->appendTaskInfoList(&task);
+        m_document->rowColumnData()->appendRowHeight(RowColumnData::defaultRowHeight);
+    }
+    // Summaries need dates before links are ordered by their bars.
+    m_document->taskCollection()->updateOptionTaskTime();
+    m_document->taskCollection()->updateRageAndTaskPoint();
+    for (const auto &[id, names] : m_after) {
+        for (const QString &name : names.split(',')) {
+            KWTaskInfo *successor = m_document->getTaskInfoByID(id);
+            if (!m_document->taskCollection()->taskDependTask(&task(name.toUtf8().constData()), successor))
+                refuse("refused: " + successor->Name + " after " + name.trimmed());
+        }
+    }
+    schedule();
+}
+
+Project::~Project() = default;
+
+void Project::readSettings(const QString &text)
+{
+    m_document->StartDate = quint32(QDate(2024, 3, 4).startOfDay().toSecsSinceEpoch());
+    for (const QString &part : text.split(',')) {
+        const QStringList words = wordsOf(part);
+        const QString first = words.value(0);
+        if (first == "start") {
+            m_document->StartDate = quint32(dateOf(words.value(1)).startOfDay().toSecsSinceEpoch());
+        } else if (first == "off" || first == "work") {
+            auto *exception = new KWCalendar;
+            m_document->calendars.append(exception);
+            exception->isException = true;
+            exception->isWork = first == "work";
+            exception->startDate = dateOf(words.value(1));
+            exception->finishDate = dateOf(words.value(words.size() > 2 ? 2 : 1));
+        } else {
+            std::fill(std::begin(m_document->WorkDay), std::end(m_document->WorkDay), false);
+            qDeleteAll(m_document->workTimes);
+            m_document->workTimes.clear();
+            for (const QString &word : words) {
+                const QStringList ends = word.split('-');
+                const int from = weekdays.indexOf(ends.first());
+                const int to = weekdays.indexOf(ends.last());
+                if (from >= 0 && to >= from)
+                    std::fill(m_document->WorkDay + from, m_document->WorkDay + to + 1, true);
+                else if (ends.size() == 2 && ends.first().at(0).isDigit())
+                    m_document->workTimes.append(
+                        new KWDayTime(secsOfDay(ends.first()), secsOfDay(ends.last())));
+                else if (word != "none")
+                    refuse("neither weekdays nor hours: " + word);
+            }
+        }
+    }
+}
+
+KWTaskInfo &Project::add(const QString &line)
+{
+    static const QRegularExpression durationText(durationPattern);
+    static const QRegularExpression percentText("^(\\d+)%$");
+
+    auto owned = std::make_unique<KWTaskInfo>();
+    KWTaskInfo &task = *owned;
+    int blanks = 0;
+    while (line.at(blanks) == ' ')
+        ++blanks;
+    task.Level = blanks / 2 + 1;
+    task.ID = m_document->nextTaskID();
+    task.Start = m_document->StartDate;
+
+    QString duration = "1d";
+    QStringList name;
+    const QStringList words = wordsOf(line);
+    for (int i = 0; i < words.size(); ++i) {
+        const QString &word = words[i];
+        if (durationText.match(word).hasMatch()) {
+            duration = word;
+        } else if (percentText.match(word).hasMatch()) {
+            task.setPercent(percentText.match(word).captured(1).toInt() / 100.0);
+        } else if (word == "milestone") {
+            task.Milestone = true;
+        } else if (word == "start") {
+            QString date = words.value(++i);
+            if (words.value(i + 1).contains(':'))
+                date += ' ' + words[++i];
+            task.Start = moment(date);
+        } else if (word == "after") {
+            m_after.append({task.ID, words.mid(i + 1).join(' ')});
+            break;
+        } else {
+            name.append(word);
+        }
+    }
+    task.Name = name.join(' ');
+    task.Start = KWTaskCollection::moveForwarstartOnDayOff(m_document.get(), task.Start, false);
+    setDuration(task, duration);
+    return *owned.release();
+}
+
+quint32 Project::moment(const QString &date) const
+{
+    const QStringList parts = wordsOf(date);
+    const QDate day = dateOf(parts.value(0));
+    if (parts.size() < 2)
+        return quint32(day.startOfDay().toSecsSinceEpoch());
+    const QDateTime clock(day, QTime(0, 0).addSecs(int(secsOfDay(parts[1]))));
+    return KWTaskInfo::secsHourTransDay(m_document.get(), quint32(clock.toSecsSinceEpoch()));
+}
+
+void Project::setDuration(KWTaskInfo &task, const QString &duration)
+{
+    const QRegularExpressionMatch match = QRegularExpression(durationPattern).match(duration);
+    if (!match.hasMatch())
+        refuse("no duration: " + duration);
+    task.DurationUnits = units.value(match.captured(2));
+    task.Finish = task.Milestone
+                      ? task.Start + 1
+                      : KWTaskInfo::backwardsDateTime(m_document.get(), task.Start,
+                                                      match.captured(1).toDouble(), task.DurationUnits);
+    task.DurationSecs =
+        KWTaskInfo::durationSecs(m_document.get(), task.Start, task.Finish, task.DurationUnits);
+}
+
+void Project::Row::setDuration(const char *duration)
+{
+    m_project.setDuration(m_task, duration);
+    m_project.schedule();
+}
+
+void Project::Row::setStart(const char *date)
+{
+    const quint32 oldStart = m_task.Start;
+    m_task.moveStartTo(&m_project.document(), m_project.moment(date));
+    m_project.document().taskCollection()->recalculateTask(&m_task, oldStart);
+    m_project.schedule();
+}
+
+KWTaskInfo &Project::task(const char *name) const
+{
+    KWTaskInfo *found = m_document->getTaskInfoByName(QString::fromUtf8(name));
+    if (!found)
+        throw std::out_of_range(std::string("no task ") + name);
+    return *found;
+}
+
+bool Project::link(const char *predecessor, const char *successor)
+{
+    const bool made = m_document->taskCollection()->taskDependTask(&task(predecessor), &task(successor));
+    schedule();
+    return made;
+}
+
+void Project::schedule()
+{
+    m_document->taskCollection()->updateOptionTaskTime();
+    m_document->taskCollection()->pushAllSuccessors();
+    for (KWTaskInfo *task : m_document->taskList()) {
+        if (!task->isParent())
+            task->updateParentPercent(m_document.get());
+    }
+    m_document->updateAllTaskEarlyLate();
+    m_document->taskCollection()->updateRageAndTaskPoint();
+}
+
+std::string Project::dates() const
+{
+    std::string text;
+    for (const KWTaskInfo *task : m_document->taskList()) {
+        text += indent(*task) + task->Name.toStdString();
+        if (task->Milestone)
+            text += ' ' + shown(m_document.get(), task->Start, true).toStdString();
+        else if (task->Start != 0)
+            text += ' ' + shown(m_document.get(), task->Start, true).toStdString() + " - " +
+                    shown(m_document.get(), task->Finish, false).toStdString();
+        text += '\n';
+    }
+    return text;
+}
+
+std::string Project::outline() const
+{
+    std::string text;
+    for (const KWTaskInfo *task : m_document->taskList())
+        text += indent(*task) + task->Name.toStdString() + '\n';
+    return text;
+}
