@@ -1,0 +1,12 @@
+#pragma once
+#include <QString>
+
+// The calls that the driver makes, each on one file and in a file of its own; the result is the exit code.
+
+// packages.cpp
+int loadPackage(const QString &path);
+int loadStructure(const QString &path);
+// packagesaving.cpp
+int makePackage(const QString &path);
+int savePackage(const QString &path);
+int checkPackage(const QString &path);
