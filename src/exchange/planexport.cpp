@@ -1,0 +1,398 @@
+#include "exchange/planexport.h"
+#include "format/dataformat.h"
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "model/outline.h"
+#include "resources/resource.h"
+#include "resources/resourceinfodata.h"
+#include "schedule/duration.h"
+#include "table/celltext.h"
+#include "table/columntypes.h"
+#include <algorithm>
+
+using columntypes::Kind;
+using exceltitles::Sheet;
+
+namespace planexport {
+namespace {
+
+// Keys of the resource and assignment fields, as ExcelTitles has them.
+enum ResourceKey { Id, Name, MaxUnits, Type, Rate, OvertimeRate, CostPerUse, Group, Email, Notes };
+enum AssignmentKey { TaskName, ResourceName, Complete, Work, Units, assignmentKeys };
+
+constexpr int groupSize = 3;
+
+QString percentText(double fraction)
+{
+    constexpr int decimals = 1;
+    return DataFormat::formatNumber(fraction * 100, groupSize, decimals, 1) + QLatin1Char('%');
+}
+
+QString amountText(double value, int group)
+{
+    constexpr int decimals = 2;
+    return DataFormat::formatNumber(value, group, decimals, 1);
+}
+
+QString moneyText(double value)
+{
+    return DataFormat::currencyText(amountText(value, groupSize));
+}
+
+QString nameOfUnit(duration::Unit unit)
+{
+    constexpr bool longName = false;
+    return KWDocument::getNameByMinorUnit(unit, longName);
+}
+
+// Days from the day that programs count from; the clock time is the fraction.
+double dayNumber(const QDateTime &shown)
+{
+    constexpr double msecsPerDay = 86400000;
+    return double(QDate(1899, 12, 30).daysTo(shown.date())) +
+           shown.time().msecsSinceStartOfDay() / msecsPerDay;
+}
+
+bool isMaterial(const Resource &resource)
+{
+    return resource.type != 0;
+}
+
+// The columns of a sheet: what field each title stands for, -1 for none.
+std::vector<int> fieldsOf(Sheet sheet)
+{
+    const QList<ExcelData *> &titles = exceltitles::workbookTitles(sheet);
+    const QMap<int, QString> &names =
+        sheet == exceltitles::ResourceSheet ? ExcelTitles::s_resourcNames : ExcelTitles::s_workAssignNames;
+    std::vector<int> fields;
+    for (const ExcelData *title : titles)
+        fields.push_back(sheet == exceltitles::TaskSheet ? exceltitles::columnType(*title)
+                                                         : names.key(title->name, -1));
+    // Titles that the host has not told us: the assignment sheet has a usual order.
+    const bool isUnknown = std::all_of(fields.begin(), fields.end(), [](int field) { return field < 0; });
+    if (sheet == exceltitles::AssignmentSheet && isUnknown) {
+        for (int column = 0; column < int(fields.size()) && column < assignmentKeys; ++column)
+            fields[std::size_t(column)] = column;
+    }
+    return fields;
+}
+}
+
+// ---- Which rows there are ---------------------------------------------------------------------------------
+
+Rows::Rows(KWDocument &document)
+    : m_document(document)
+    , m_measures(cost::measuresOf(document.workCalendar()))
+    , m_dateFormat(DataFormat::dateFormat() + QLatin1String(" hh:mm"))
+{
+    collectTasks();
+    collectAssignments();
+}
+
+void Rows::collectTasks()
+{
+    struct Branch
+    {
+        const QList<quint32> *ids;
+        int next;
+        int row; // of the summary, -1 for the top
+    };
+    const outline::Tasks all{m_document.taskList(), m_document.taskIndex()};
+    QList<quint32> top;
+    m_document.taskParentZeroIDList(top);
+    std::vector<Branch> path{{&top, 0, -1}};
+    while (!path.empty()) {
+        Branch &branch = path.back();
+        if (branch.next >= branch.ids->size()) {
+            if (branch.row >= 0)
+                m_ends[std::size_t(branch.row)] = int(m_tasks.size());
+            path.pop_back();
+            continue;
+        }
+        const KWTaskInfo *task = all.byId(branch.ids->at(branch.next++));
+        if (!task)
+            continue;
+        const int row = int(m_tasks.size());
+        if (!m_rowOfId.add(task->ID, row)) {
+            m_isTree = false;
+            continue;
+        }
+        m_tasks.push_back(task);
+        m_depths.push_back(int(path.size()) - 1);
+        m_ends.push_back(row + 1);
+        if (task->isParent())
+            path.push_back({&task->Childs, 0, row});
+    }
+}
+
+void Rows::collectAssignments()
+{
+    m_firstAssignment.reserve(m_tasks.size() + 1);
+    for (const KWTaskInfo *task : m_tasks) {
+        m_firstAssignment.push_back(m_assignments.size());
+        if (task->isParent())
+            continue;
+        for (const Resource *resource : task->resourceList)
+            m_assignments.push_back({task, task, resource});
+    }
+    m_firstAssignment.push_back(m_assignments.size());
+}
+
+int Rows::unreachedTasks() const
+{
+    return m_document.taskCount() - int(m_tasks.size());
+}
+
+// Every task of the list with its own assignments, or for a summary with those of the leaves below it, up to
+// the first for which `visit` is false; whether there was none.
+bool Rows::forEachAssignment(const std::function<bool(const Assignment &)> &visit) const
+{
+    for (KWTaskInfo *task : m_document.taskList()) {
+        if (!task->isParent()) {
+            for (const Resource *resource : qAsConst(task->resourceList)) {
+                if (!visit({task, task, resource}))
+                    return false;
+            }
+            continue;
+        }
+        const int row = m_rowOfId.posOf(task->ID);
+        if (m_isTree && row >= 0 && m_tasks[std::size_t(row)] == task) {
+            // The descendants are the rows that follow.
+            const std::size_t end = m_firstAssignment[std::size_t(m_ends[std::size_t(row)])];
+            for (std::size_t i = m_firstAssignment[std::size_t(row)]; i < end; ++i) {
+                if (!visit({task, m_assignments[i].owner, m_assignments[i].resource}))
+                    return false;
+            }
+            continue;
+        }
+        QList<QPair<KWTaskInfo *, Resource *>> below;
+        task->allSubTaskResourceList(&m_document, below);
+        for (const auto &[owner, resource] : qAsConst(below)) {
+            if (!visit({task, owner, resource}))
+                return false;
+        }
+    }
+    return true;
+}
+
+int Rows::count(Sheet sheet, int limit) const
+{
+    switch (sheet) {
+    case exceltitles::TaskSheet:
+        return std::min(limit, int(m_tasks.size()));
+    case exceltitles::ResourceSheet:
+        return std::min(limit, m_document.resourceInfoData()->infos.size());
+    default:
+        break;
+    }
+    int rows = 0;
+    forEachAssignment([&](const Assignment &) { return rows < limit && ++rows < limit; });
+    return rows;
+}
+
+// ---- What a field shows -----------------------------------------------------------------------------------
+
+// The rows are counted as they are written, not as the table on the screen counts them: rows hidden under a
+// collapsed summary are written too.
+QString Rows::predecessorText(const KWTaskInfo &task) const
+{
+    QString text;
+    for (const quint32 id : task.Predecessors) {
+        const int row = m_rowOfId.posOf(id);
+        if (row < 0)
+            continue;
+        if (!text.isEmpty())
+            text += QLatin1String("; ");
+        text += QString::number(row + 1);
+    }
+    return text;
+}
+
+QString Rows::taskText(const KWTaskInfo &task, int type) const
+{
+    const columntypes::ColumnType *column = columntypes::find(type);
+    if (column && column->kind == Kind::Predecessors)
+        return predecessorText(task);
+    // By address, since that is what an import takes each part of the text for.
+    constexpr bool linkAddresses = true;
+    return celltext::ofType(m_document, task, type, {m_dateFormat, linkAddresses});
+}
+
+QString Rows::resourceText(const ResourceInfo &resource, int key) const
+{
+    const ResourceInfoData &sheet = *m_document.resourceInfoData();
+    switch (key) {
+    case Id:
+        return QString::number(resource.ID);
+    case Name:
+        return resource.name;
+    case MaxUnits:
+        return percentText(resource.unit);
+    case Type:
+        return sheet.getTypeTextByIndex(resource.type);
+    case Rate:
+        return moneyText(resource.cost) + sheet.getCostUintText(resource.costUnit);
+    case OvertimeRate:
+        return moneyText(resource.overtimeCost) + sheet.getCostUintText(resource.overtimeUnit);
+    case CostPerUse:
+        return moneyText(resource.costPer);
+    case Group:
+        return resource.group;
+    case Email:
+        return resource.email;
+    case Notes:
+        return resource.notes;
+    default:
+        return QString();
+    }
+}
+
+QString Rows::assignmentText(const Assignment &assignment, int key) const
+{
+    constexpr int ungrouped = 0;
+    const KWTaskInfo &owner = *assignment.owner;
+    const Resource &resource = *assignment.resource;
+    switch (key) {
+    case TaskName:
+        return assignment.task->Name;
+    case ResourceName:
+        return resource.name;
+    case Complete:
+        return percentText(assignment.task->Percent);
+    case Work: {
+        if (isMaterial(resource))
+            return amountText(resource.percent, ungrouped);
+        const double work = cost::work(m_measures, owner, resource);
+        const bool inMinutes = owner.DurationUnits == duration::Minute;
+        return amountText(inMinutes ? work : cost::toHours(m_measures, work, owner.DurationUnits),
+                          groupSize) +
+               QLatin1Char(' ') + nameOfUnit(inMinutes ? duration::Minute : duration::Hour);
+    }
+    case Units:
+        return isMaterial(resource) ? amountText(resource.percent, ungrouped) : percentText(resource.percent);
+    default:
+        return QString();
+    }
+}
+
+// ---- Cells with their values ------------------------------------------------------------------------------
+
+Cell Rows::taskCell(const KWTaskInfo &task, int type, bool withValue) const
+{
+    Cell cell{taskText(task, type)};
+    const columntypes::ColumnType *column =
+        withValue && !cell.text.isEmpty() ? columntypes::find(type) : nullptr;
+    if (!column)
+        return cell;
+    const auto set = [&cell](Value value, double number) {
+        cell.value = value;
+        cell.number = number;
+    };
+    switch (column->kind) {
+    case Kind::Whole:
+    case Kind::Flag:
+        set(Value::Number, columntypes::number(task, column->field));
+        break;
+    case Kind::Percent:
+        set(Value::Percent, columntypes::number(task, column->field));
+        break;
+    case Kind::Money:
+        set(Value::Money, columntypes::number(task, column->field));
+        break;
+    case Kind::NumberText:
+        set(Value::Money, columntypes::text(task, column->field).toDouble());
+        break;
+    case Kind::Work:
+        set(Value::Work, columntypes::number(task, column->field));
+        break;
+    case Kind::StartDate:
+    case Kind::FinishDate:
+        set(Value::Moment,
+            dayNumber(KWTaskInfo::showDateTime(&m_document, columntypes::secs(task, column->field),
+                                               column->kind == Kind::StartDate)));
+        break;
+    case Kind::Priority:
+    case Kind::Text:
+    case Kind::Duration: // the unit is read back from the text
+    case Kind::Hyperlinks:
+    case Kind::Predecessors:
+        break;
+    }
+    return cell;
+}
+
+Cell Rows::resourceCell(const ResourceInfo &resource, int key, bool withValue) const
+{
+    // Rates and maximum units are read back from the text.
+    Cell cell{resourceText(resource, key)};
+    if (withValue && key == Id)
+        cell = {cell.text, Value::Number, double(resource.ID)};
+    else if (withValue && key == CostPerUse)
+        cell = {cell.text, Value::Money, resource.costPer};
+    return cell;
+}
+
+Cell Rows::assignmentCell(const Assignment &assignment, int key, bool withValue) const
+{
+    Cell cell{assignmentText(assignment, key)};
+    const Resource &resource = *assignment.resource;
+    const KWTaskInfo &owner = *assignment.owner;
+    if (!withValue)
+        return cell;
+    if (key == Complete)
+        return {cell.text, Value::Percent, assignment.task->Percent};
+    if (key == Units)
+        return {cell.text, isMaterial(resource) ? Value::Number : Value::Percent, resource.percent};
+    if (key == Work && isMaterial(resource))
+        return {cell.text, Value::Number, resource.percent};
+    if (key == Work)
+        return {cell.text, Value::Work,
+                cost::toHours(m_measures, cost::work(m_measures, owner, resource), owner.DurationUnits)};
+    return cell;
+}
+
+// ---- Rows -------------------------------------------------------------------------------------------------
+
+bool Rows::write(Sheet sheet, RowSink &sink, int maxRows, bool withValues) const
+{
+    const std::vector<int> fields = fieldsOf(sheet);
+    if (fields.empty() || maxRows < 1) {
+        sink.begin(0, 0);
+        return true;
+    }
+    const int needed = count(sheet, maxRows);
+    const int rows = std::min(needed, maxRows - 1);
+    sink.begin(rows + 1, int(fields.size()));
+
+    std::vector<Cell> cells(fields.size());
+    int row = 1;
+    const auto fill = [&](int depth, auto &&cellOf) {
+        for (std::size_t column = 0; column < fields.size(); ++column)
+            cells[column] = cellOf(int(column));
+        sink.row(row++, depth, cells);
+    };
+    const QList<ExcelData *> &titles = exceltitles::workbookTitles(sheet);
+    fill(0, [&](int column) { return Cell{titles[column]->name}; });
+    if (sheet == exceltitles::TaskSheet) {
+        for (std::size_t i = 0; i < std::size_t(rows); ++i)
+            fill(m_depths[i],
+                 [&](int column) { return taskCell(*m_tasks[i], fields[std::size_t(column)], withValues); });
+    } else if (sheet == exceltitles::ResourceSheet) {
+        for (int i = 0; i < rows; ++i)
+            fill(0, [&](int column) {
+                return resourceCell(*m_document.resourceInfoData()->infos[i], fields[std::size_t(column)],
+                                    withValues);
+            });
+    } else {
+        forEachAssignment([&](const Assignment &assignment) {
+            if (row > rows + 1)
+                return false;
+            fill(0, [&](int column) {
+                return assignmentCell(assignment, fields[std::size_t(column)], withValues);
+            });
+            return true;
+        });
+    }
+    return needed == rows;
+}
+}
