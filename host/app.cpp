@@ -1,6 +1,7 @@
 #include "app.h"
 #include "columns.h"
-#include "console.h"
+#include "commands.h"
+#include "edit.h"
 #include "explain.h"
 #include "kwpxfile.h"
 #include "machine.h"
@@ -8,68 +9,20 @@
 #include "planfile.h"
 #include "report.h"
 #include "support/findings.h"
+#include "taskref.h"
 #include "texts.h"
 #include "textwidth.h"
 
+using namespace commands;
+
 namespace {
-
-Style styleOf(const Console &console)
-{
-    return Style(console.usesAscii(), console.usesColor());
-}
-
-Plan::Progress progressOf(Console &console)
-{
-    return
-        [&console](const QString &work, qint64 done, qint64 total) { console.progress(work, done, total); };
-}
-
-int written(Console &console, const QByteArray &data, int code = Console::Done)
-{
-    return console.write(data) ? code : int(Console::CannotWrite);
-}
-
-void tell(Console &console, const Plan &plan, const Findings &findings)
-{
-    if (!console.options().quiet)
-        console.list(plan.file, findings);
-}
-
-// In the format that was asked for.
-int writePlan(Console &console, Plan &plan)
-{
-    const Options &options = console.options();
-    if (options.format == Options::Package)
-        return kwpxfile::save(console, plan, options.output, options.force) ? Console::Done
-                                                                            : Console::CannotWrite;
-    if (options.format == Options::Csv)
-        return written(console, machine::csv(plan));
-    if (options.format == Options::Json)
-        return written(console, machine::json(plan));
-    QString text;
-    QString error;
-    if (!report::table(plan, options, styleOf(console), console.width(), text, error)) {
-        console.error(error);
-        return Console::WrongUse;
-    }
-    return written(console, text.toUtf8());
-}
-
-// Dates that the file does not give come from the links.
-void scheduleMissing(Console &console, Plan &plan)
-{
-    if (plan.withoutStart > 0)
-        plan::schedule(plan, plan::AsGiven, progressOf(console));
-}
 
 int show(Console &console)
 {
     const QString file = console.options().arguments.first();
     Plan plan;
-    Findings findings;
-    if (const int code = planfile::load(file, console, plan, findings))
+    if (const int code = loadPlan(console, file, plan))
         return code;
-    tell(console, plan, findings);
     if (plan.withoutStart > 0) {
         scheduleMissing(console, plan);
         console.note(file + QLatin1String(": ") +
@@ -171,39 +124,18 @@ int schedule(Console &console)
     return code == Console::Done && answerIsNo ? int(Console::AnswerIsNo) : code;
 }
 
-// The one task that the words mean, or -1 after telling why there is none.
-int taskNamed(Console &console, const Plan &plan, const QString &words)
-{
-    constexpr int mostListed = 10;
-    const QVector<int> found = explain::find(plan, words);
-    if (found.size() == 1)
-        return found.first();
-    if (found.isEmpty()) {
-        console.error(t("%1: no task '%2'").arg(plan.file, words),
-                      t("TASK is a row number from 1 to %1, #ID, or a name").arg(plan.taskCount()));
-        return -1;
-    }
-    QStringList rows;
-    for (const int pos : found.mid(0, mostListed))
-        rows.append(QStringLiteral("%1 \"%2\"").arg(pos + 1).arg(plan.task(pos)->Name.trimmed()));
-    if (found.size() > mostListed)
-        rows.append(t("%1 more").arg(found.size() - mostListed));
-    console.error(t("%1: '%2' may be any of %3 tasks").arg(plan.file, words, QString::number(found.size())),
-                  t("say which by its row number: %1").arg(rows.join(QLatin1String(", "))));
-    return -1;
-}
-
 int explainTask(Console &console)
 {
     const Options &options = console.options();
     Plan plan;
-    Findings findings;
-    if (const int code = planfile::load(options.arguments.first(), console, plan, findings))
+    if (const int code = loadPlan(console, options.arguments.first(), plan))
         return code;
-    tell(console, plan, findings);
-    const int pos = taskNamed(console, plan, options.arguments.at(1));
-    if (pos < 0)
+    options::Fault fault;
+    const int pos = taskref::find(plan, options.arguments.at(1), fault);
+    if (pos < 0) {
+        console.error(plan.file + QLatin1String(": ") + fault.what, fault.hint);
         return Console::WrongUse;
+    }
     plan::schedule(plan, options.asSoonAsPossible ? plan::AsSoonAsPossible : plan::AsGiven,
                    progressOf(console));
     plan::refresh(plan, progressOf(console));
@@ -216,10 +148,8 @@ int explainTask(Console &console)
 int convert(Console &console)
 {
     Plan plan;
-    Findings findings;
-    if (const int code = planfile::load(console.options().arguments.first(), console, plan, findings))
+    if (const int code = loadPlan(console, console.options().arguments.first(), plan))
         return code;
-    tell(console, plan, findings);
     // A package written anew keeps what it holds.
     if (!plan.isPackage || console.options().format != Options::Package) {
         scheduleMissing(console, plan);
@@ -240,7 +170,8 @@ int help(Console &console)
                                                            : t("did you mean '%1'?").arg(guess));
         return Console::WrongUse;
     }
-    return written(console, topics.value(wanted).toUtf8());
+    const QString more = wanted == QLatin1String("edit") ? editverbs::helpText() : QString();
+    return written(console, (topics.value(wanted) + more).toUtf8());
 }
 
 int listColumns(Console &console)
@@ -282,9 +213,9 @@ int runCommand(Console &console)
         int (*run)(Console &);
     };
     static constexpr Command commands[] = {
-        {"show", show},           {"load", load},       {"schedule", schedule},
-        {"explain", explainTask}, {"convert", convert}, {"formats", listFormats},
-        {"columns", listColumns}, {"help", help},       {"version", version},
+        {"show", show},       {"load", load},           {"schedule", schedule},   {"explain", explainTask},
+        {"convert", convert}, {"edit", commands::edit}, {"formats", listFormats}, {"columns", listColumns},
+        {"help", help},       {"version", version},
     };
     for (const Command &command : commands)
         if (console.options().command == QLatin1String(command.name))

@@ -108,10 +108,20 @@ int load(const QString &path, Console &console, Plan &plan)
         return Console::CannotRead;
     }
     plan.isPackage = true;
-    plan.workingTime = workingTimeOf(document);
     plan.majorUnit = document.MajorUnit;
     plan.minorUnit = document.MinorUnit;
+    describe(plan);
+    return Console::Done;
+}
+
+void describe(Plan &plan)
+{
+    KWDocument &document = *plan.document;
+    plan.workingTime = workingTimeOf(document);
     plan.rows.hasIds = true;
+    plan.rows.rows.clear();
+    plan.links = 0;
+    plan.withoutStart = 0;
     Numbering numbering;
     for (const KWTaskInfo *task : document.taskList()) {
         plan.rows.rows.push_back(rowOf(document, *task, numbering));
@@ -119,7 +129,6 @@ int load(const QString &path, Console &console, Plan &plan)
         plan.withoutStart += task->Start == 0 && !task->isParent();
     }
     plan.start = plan::firstStart(plan);
-    return Console::Done;
 }
 
 bool save(Console &console, Plan &plan, const QString &path, bool overwrite)

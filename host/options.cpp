@@ -15,6 +15,8 @@ enum Group : unsigned {
     Scheduling = 8,
     Checking = 16,
     Explaining = 32,
+    Changing = 64, // commands that write a changed plan
+    Editing = 128,
 };
 
 struct Command
@@ -27,12 +29,15 @@ struct Command
     const char *arguments;
 };
 
+constexpr int mostWords = 100000;
+
 constexpr Command commandTable[] = {
     {"show", "", Everywhere | Planning | Showing, 1, 1, "FILE"},
     {"load", "check", Everywhere | Planning | Checking, 1, 1, "FILE"},
     {"schedule", "", Everywhere | Planning | Showing | Scheduling | Checking, 1, 1, "FILE"},
     {"explain", "", Everywhere | Planning | Explaining, 2, 2, "FILE TASK"},
     {"convert", "", Everywhere | Planning, 2, 2, "IN OUT"},
+    {"edit", "", Everywhere | Planning | Showing | Changing | Editing, 1, mostWords, "FILE EDIT"},
     {"formats", "", Everywhere, 0, 0, ""},
     {"columns", "", Everywhere, 0, 0, ""},
     {"help", "", Everywhere, 0, 1, "[COMMAND]"},
@@ -118,7 +123,7 @@ const Option optionTable[] = {
     {"force", "", nullptr, Everywhere, [](Options &o, const QString &) { return o.force = true; }},
     {"json", "", nullptr, Planning,
      [](Options &o, const QString &) { return setFormat(o, QStringLiteral("json")); }},
-    {"csv", "", nullptr, Showing,
+    {"csv", "", nullptr, Showing | Changing,
      [](Options &o, const QString &) { return setFormat(o, QStringLiteral("csv")); }},
     {"to", "", "csv|json|table", Planning, [](Options &o, const QString &v) { return setFormat(o, v); }},
     {"quiet", "q", nullptr, Everywhere, [](Options &o, const QString &) { return o.quiet = true; }},
@@ -197,8 +202,15 @@ const Option optionTable[] = {
          return true;
      }},
     {"plain", "", nullptr, Showing, [](Options &o, const QString &) { return o.plain = true; }},
-    {"in-place", "i", nullptr, Scheduling, [](Options &o, const QString &) { return o.inPlace = true; }},
-    {"dry-run", "", nullptr, Scheduling, [](Options &o, const QString &) { return o.dryRun = true; }},
+    {"in-place", "i", nullptr, Scheduling | Changing,
+     [](Options &o, const QString &) { return o.inPlace = true; }},
+    {"dry-run", "", nullptr, Scheduling | Changing,
+     [](Options &o, const QString &) { return o.dryRun = true; }},
+    {"script", "", "FILE", Editing,
+     [](Options &o, const QString &v) {
+         o.script = v;
+         return !v.isEmpty();
+     }},
     {"check", "", nullptr, Checking, [](Options &o, const QString &) { return o.check = true; }},
     {"asap", "", nullptr, Scheduling | Explaining,
      [](Options &o, const QString &) { return o.asSoonAsPossible = true; }},

@@ -47,6 +47,8 @@ struct Options
     bool bars = true;
     bool plain = false;
 
+    QString script; // edits, one a line
+
     // Scheduling.
     bool dryRun = false;
     bool check = false;

@@ -54,6 +54,10 @@ namespace plan {
 // Fills the document from `rows` and `workingTime`: tasks, outline, dates as they are given, links. What is
 // refused or changed is added to `findings`. False with a sentence in `error` when nothing can be scheduled.
 bool build(Plan &plan, Findings &findings, QString &error, const Plan::Progress &progress);
+// A typed moment on the day clock, off the days off: as a start, and as a finish (a date alone means its
+// end).
+quint32 startSecs(KWDocument &document, const datetext::Moment &moment);
+quint32 finishSecs(KWDocument &document, const datetext::Moment &moment);
 // Where tasks stand before they are pushed: where the file puts them, or all at the project's start.
 enum Beginning { AsGiven, AsSoonAsPossible };
 // Pushes every task behind its predecessors and fills `moves`.

@@ -6,6 +6,7 @@
 #include "support/findings.h"
 #include "support/kwclock.h"
 #include "table/rowcolumndata.h"
+#include "taskref.h"
 #include "texts.h"
 #include <QHash>
 #include <QSet>
@@ -14,13 +15,13 @@ namespace plan {
 
 namespace {
 
-constexpr quint32 milestoneSecs = 1; // a milestone's finish lies one second after its start
-constexpr int progressStep = 1000;   // rows
-
 quint32 secsOf(const QDateTime &moment)
 {
     return quint32(qBound<qint64>(0, moment.toSecsSinceEpoch(), 0xFFFFFFFFll));
 }
+
+constexpr quint32 milestoneSecs = 1; // a milestone's finish lies one second after its start
+constexpr int progressStep = 1000;   // rows
 
 class Builder
 {
@@ -52,19 +53,8 @@ private:
     bool isSummary(int row) const { return m_isSummary[std::size_t(row)]; }
     QString placeOf(int row) const { return planrows::place(row + 1); }
 
-    // The typed moment as a start, off the days off.
-    quint32 startSecs(const datetext::Moment &moment)
-    {
-        const quint32 secs = secsOf(KWTaskInfo::editTimeTransDayTime(m_document, moment.when, true));
-        return KWTaskCollection::moveForwarstartOnDayOff(m_document, secs, false);
-    }
-
-    // The typed moment as a finish; a date alone means its end.
-    quint32 finishSecs(const datetext::Moment &moment)
-    {
-        const QDateTime lastDay = KWTaskInfo::editTimeTransDayTime(m_document, moment.when, false);
-        return KWTaskCollection::addFinishOnDayOff(m_document, secsOf(lastDay.addDays(1)), false);
-    }
+    quint32 startSecs(const datetext::Moment &moment) { return plan::startSecs(*m_document, moment); }
+    quint32 finishSecs(const datetext::Moment &moment) { return plan::finishSecs(*m_document, moment); }
 
     bool chooseStart(QString &error)
     {
@@ -267,57 +257,8 @@ private:
 
     void refuseLink(int row, const KWTaskLink &link)
     {
-        const QString other = named(link.predecessor);
-        switch (link.refusal) {
-        case LinkRefusal::Self:
-            refuseLink(row, t("the task is its own predecessor"));
-            break;
-        case LinkRefusal::Twice:
-            refuseLink(row, t("predecessor %1 stands twice").arg(other));
-            break;
-        case LinkRefusal::OwnSummary:
-            refuseLink(row, t("predecessor %1 lies below this summary, which ends with it").arg(other),
-                       t("link the tasks below the summary"));
-            break;
-        case LinkRefusal::OwnSubtask:
-            refuseLink(row, t("predecessor %1 is the summary that holds this task").arg(other),
-                       t("link the tasks below the summary"));
-            break;
-        case LinkRefusal::Loop:
-            refuseLink(row, t("tasks would wait for each other: %1").arg(ringText(link.ring)),
-                       t("remove one of these links"));
-            break;
-        case LinkRefusal::Missing:
-        case LinkRefusal::None:
-            refuseLink(row, t("predecessor %1 does not exist").arg(link.predecessor));
-            break;
-        }
-    }
-
-    QString named(quint32 id) const
-    {
-        const int pos = m_plan.posOf(id);
-        return QStringLiteral("%1 \"%2\"")
-            .arg(pos + 1)
-            .arg(pos < 0 ? QString() : m_plan.task(pos)->Name.trimmed());
-    }
-
-    // The whole ring, but for the middle of a very long one.
-    QString ringText(const QList<quint32> &ring) const
-    {
-        constexpr int longest = 12;
-        QStringList names;
-        for (int i = 0; i < ring.size(); ++i) {
-            if (ring.size() > longest && i == longest / 2) {
-                const int left = ring.size() - longest;
-                names.append(counted(left, "(%1 more task)", "(%1 more tasks)"));
-                i += left;
-            }
-            names.append(named(ring.at(i)));
-        }
-        if (!ring.isEmpty())
-            names.append(named(ring.first()));
-        return names.join(QString::fromUtf8(" \u2192 "));
+        const options::Fault why = taskref::refusal(*m_document, link);
+        refuseLink(row, why.what, why.hint);
     }
 
     Plan &m_plan;
@@ -337,6 +278,18 @@ void countSlackIn(Plan &plan, unsigned int unit)
     constexpr quint32 week = 3;
     plan.document->MajorUnit = week;
     plan.document->MinorUnit = unit - week - 1;
+}
+
+quint32 startSecs(KWDocument &document, const datetext::Moment &moment)
+{
+    const quint32 secs = secsOf(KWTaskInfo::editTimeTransDayTime(&document, moment.when, true));
+    return KWTaskCollection::moveForwarstartOnDayOff(&document, secs, false);
+}
+
+quint32 finishSecs(KWDocument &document, const datetext::Moment &moment)
+{
+    const QDateTime lastDay = KWTaskInfo::editTimeTransDayTime(&document, moment.when, false);
+    return KWTaskCollection::addFinishOnDayOff(&document, secsOf(lastDay.addDays(1)), false);
 }
 
 bool build(Plan &plan, Findings &findings, QString &error, const Plan::Progress &progress)

@@ -13,35 +13,6 @@ namespace planfile {
 
 namespace {
 
-bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &error)
-{
-    QFile file(path);
-    const bool isStandardInput = path == QLatin1String("-");
-    if (!isStandardInput && QFileInfo(path).isDir()) {
-        error = t("it is a folder");
-        return false;
-    }
-    if (isStandardInput ? !file.open(stdin, QIODevice::ReadOnly) : !file.open(QIODevice::ReadOnly)) {
-        error = file.errorString();
-        return false;
-    }
-    constexpr qint64 blockBytes = 1024 * 1024;
-    for (;;) {
-        const QByteArray block = file.read(blockBytes);
-        if (file.error() != QFileDevice::NoError) {
-            error = file.errorString();
-            return false;
-        }
-        if (block.isEmpty())
-            return true;
-        bytes += block;
-        if (bytes.size() > most) {
-            error = t("longer than %1 bytes").arg(grouped(most));
-            return false;
-        }
-    }
-}
-
 // The calendar file may name the project, and so does a single task at the top; else "site-move.csv" is "Site
 // move".
 QString projectName(const Plan &plan)
@@ -192,6 +163,35 @@ void setCell(QStringList &cells, int column, const QString &text)
         cells.append(QString());
     cells[column] = text;
 }
+}
+
+bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &error)
+{
+    QFile file(path);
+    const bool isStandardInput = path == QLatin1String("-");
+    if (!isStandardInput && QFileInfo(path).isDir()) {
+        error = t("it is a folder");
+        return false;
+    }
+    if (isStandardInput ? !file.open(stdin, QIODevice::ReadOnly) : !file.open(QIODevice::ReadOnly)) {
+        error = file.errorString();
+        return false;
+    }
+    constexpr qint64 blockBytes = 1024 * 1024;
+    for (;;) {
+        const QByteArray block = file.read(blockBytes);
+        if (file.error() != QFileDevice::NoError) {
+            error = file.errorString();
+            return false;
+        }
+        if (block.isEmpty())
+            return true;
+        bytes += block;
+        if (bytes.size() > most) {
+            error = t("longer than %1 bytes").arg(grouped(most));
+            return false;
+        }
+    }
 }
 
 int load(const QString &path, Console &console, Plan &plan, Findings &findings)

@@ -10,6 +10,9 @@ namespace planfile {
 // unless it is told at once because nothing can follow. Console::Done, or the exit code.
 int load(const QString &path, Console &console, Plan &plan, Findings &findings);
 
+// All bytes of a file, or of standard input for "-". False with a sentence in `error`.
+bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &error);
+
 // The file's cells with the dates as they stand now, in the file's own delimiter and line ends.
 QByteArray rewritten(const Plan &plan);
 }

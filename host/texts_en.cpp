@@ -13,6 +13,7 @@ QMap<QString, QString> helpTopics()
   kwgantt schedule FILE        moves every task behind its predecessors; late dates, slack, critical path
   kwgantt explain FILE TASK    why a task is when it is, and why it is critical or not
   kwgantt convert IN OUT       writes a plan as .kwpx, .csv or .json
+  kwgantt edit FILE EDIT       changes a plan: tasks, links, resources, calendar; --script FILE with many edits
   kwgantt formats | columns    what can be read and written; what a table can show
   kwgantt help [COMMAND]       this text, or one command with its options
   kwgantt version
@@ -94,6 +95,22 @@ start are placed as 'kwgantt schedule' does.
   --force          replaces OUT
 
 Example: kwgantt convert plan.csv plan.kwpx
+)")},
+        {QStringLiteral("edit"), text(R"(kwgantt edit FILE EDIT - changes a plan
+kwgantt edit FILE --script FILE
+
+  -i, --in-place   writes the package FILE itself
+  -o OUT           writes another file; the format follows the name (.kwpx, .csv, .json)
+  --dry-run        shows the changed plan and writes nothing
+  --script FILE    one edit a line ('-' reads standard input); a line that begins with # says nothing
+
+All edits are made or none: when one fails, nothing is written and the message names its line.
+TASK is the row number shown, #ID, or a name. Words are separated by blanks; quotes hold one together, and
+between double quotes \n, \t, \" and \\ stand for a line break, a tab, a quote and a backslash.
+
+Examples: kwgantt edit plan.kwpx set 5 duration=3d start=2026-03-02 -i
+          kwgantt edit plan.csv add "Order parts" duration=2d -o plan.kwpx
+
 )")},
         {QStringLiteral("formats"), text("kwgantt formats - what can be read and written\n")},
         {QStringLiteral("columns"), text("kwgantt columns - what 'show --columns' can show\n")},

@@ -1,0 +1,114 @@
+#include "commands.h"
+#include "kwpxfile.h"
+#include "machine.h"
+#include "planfile.h"
+#include "report.h"
+#include "schedule/kwtaskcollection.h"
+#include "support/findings.h"
+#include "texts.h"
+
+namespace commands {
+
+Style styleOf(const Console &console)
+{
+    return Style(console.usesAscii(), console.usesColor());
+}
+
+Plan::Progress progressOf(Console &console)
+{
+    return
+        [&console](const QString &work, qint64 done, qint64 total) { console.progress(work, done, total); };
+}
+
+int written(Console &console, const QByteArray &data, int code)
+{
+    return console.write(data) ? code : int(Console::CannotWrite);
+}
+
+void tell(Console &console, const Plan &plan, const Findings &findings)
+{
+    if (!console.options().quiet)
+        console.list(plan.file, findings);
+}
+
+void scheduleMissing(Console &console, Plan &plan)
+{
+    if (plan.withoutStart > 0)
+        plan::schedule(plan, plan::AsGiven, progressOf(console));
+}
+
+int loadPlan(Console &console, const QString &file, Plan &plan)
+{
+    Findings findings;
+    const int code = planfile::load(file, console, plan, findings);
+    if (code == Console::Done)
+        tell(console, plan, findings);
+    return code;
+}
+
+int writePlan(Console &console, Plan &plan)
+{
+    const Options &options = console.options();
+    if (options.format == Options::Package)
+        return kwpxfile::save(console, plan, options.output, options.force) ? Console::Done
+                                                                            : Console::CannotWrite;
+    if (options.format == Options::Csv)
+        return written(console, machine::csv(plan));
+    if (options.format == Options::Json)
+        return written(console, machine::json(plan));
+    QString text;
+    QString error;
+    if (!report::table(plan, options, styleOf(console), console.width(), text, error)) {
+        console.error(error);
+        return Console::WrongUse;
+    }
+    return written(console, text.toUtf8());
+}
+
+int loadForChange(Console &console, const QString &file, Plan &plan)
+{
+    const Options &options = console.options();
+    if (options.output.isEmpty() && !options.inPlace && !options.dryRun && !options.formatGiven) {
+        console.error(t("where shall the changed plan go?"),
+                      t("-i writes %1 itself, -o OUT another file; --dry-run only shows it").arg(file));
+        return Console::WrongUse;
+    }
+    if (const int code = loadPlan(console, file, plan))
+        return code;
+    if (!plan.isPackage && options.inPlace) {
+        console.error(t("%1: a CSV plan cannot be changed in place").arg(file),
+                      t("-o PLAN.kwpx writes it as a package"));
+        return Console::WrongUse;
+    }
+    if (plan.isPackage) {
+        plan.document->MajorUnit = plan.majorUnit;
+        plan.document->MinorUnit = plan.minorUnit;
+        plan.document->taskCollection()->updateRageAndTaskPoint();
+    } else {
+        scheduleMissing(console, plan);
+        plan::refresh(plan, progressOf(console));
+    }
+    return Console::Done;
+}
+
+int writeChanged(Console &console, Plan &plan, const QString &summary)
+{
+    const Options &options = console.options();
+    plan.document->updateAllTaskEarlyLate();
+    plan.document->taskCollection()->updateRageAndTaskPoint();
+    plan.majorUnit = plan.document->MajorUnit;
+    plan.minorUnit = plan.document->MinorUnit;
+    kwpxfile::describe(plan);
+    int code = Console::Done;
+    if (options.inPlace) {
+        code = kwpxfile::save(console, plan, plan.file, true) ? Console::Done : Console::CannotWrite;
+    } else {
+        if (options.format != Options::Package)
+            plan::refresh(plan, progressOf(console));
+        code = writePlan(console, plan);
+    }
+    if (code == Console::Done)
+        console.note(summary);
+    return code;
+}
+}

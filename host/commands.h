@@ -1,0 +1,30 @@
+#pragma once
+#include "console.h"
+#include "plan.h"
+#include "style.h"
+
+class Findings;
+
+// What the commands share, and those that stand in files of their own. Each returns the exit code.
+namespace commands {
+
+Style styleOf(const Console &console);
+Plan::Progress progressOf(Console &console);
+// Data to the output; `code` when it could be written.
+int written(Console &console, const QByteArray &data, int code = Console::Done);
+// The findings, unless the user wants quiet.
+void tell(Console &console, const Plan &plan, const Findings &findings);
+// Dates that the file does not give come from the links.
+void scheduleMissing(Console &console, Plan &plan);
+// Loads the plan and tells what was found. Not 0: an exit code, and the reason has been told.
+int loadPlan(Console &console, const QString &file, Plan &plan);
+// In the format that was asked for.
+int writePlan(Console &console, Plan &plan);
+// Loads a plan that is going to be changed in its document: dates stand, and its chart is its own.
+int loadForChange(Console &console, const QString &file, Plan &plan);
+// Where the changed plan goes: into its file, another one, or to standard output. `summary` goes to standard
+// error when the plan was written.
+int writeChanged(Console &console, Plan &plan, const QString &summary);
+
+int edit(Console &console);
+}

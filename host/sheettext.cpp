@@ -1,0 +1,67 @@
+#include "sheettext.h"
+#include "format/dataformat.h"
+#include <cmath>
+
+namespace sheettext {
+
+namespace {
+
+constexpr const char *unitTexts[] = {"min", "h", "d", "w", "m"};
+constexpr double mostMoney = 1e15;
+}
+
+bool parseMoney(const QString &text, double &amount)
+{
+    bool ok = false;
+    amount = text.trimmed().toDouble(&ok);
+    return ok && std::isfinite(amount) && std::abs(amount) <= mostMoney;
+}
+
+bool parseRate(const QString &text, Rate &rate)
+{
+    rate.unit = 1;
+    const int slash = text.indexOf(QLatin1Char('/'));
+    if (slash >= 0) {
+        QString unit = text.mid(slash + 1).trimmed().toLower();
+        if (unit == QLatin1String("mon"))
+            unit = QStringLiteral("m");
+        rate.unit = -1;
+        for (int i = 0; i < int(std::size(unitTexts)); ++i)
+            if (unit == QLatin1String(unitTexts[i]))
+                rate.unit = i;
+    }
+    return rate.unit >= 0 && parseMoney(text.left(slash), rate.amount);
+}
+
+bool parseUnits(const QString &text, double &units)
+{
+    QString number = text.trimmed();
+    const bool percent = number.endsWith(QLatin1Char('%'));
+    if (percent)
+        number.chop(1);
+    bool ok = false;
+    units = number.toDouble(&ok) / (percent ? 100 : 1);
+    return ok && units >= 0 && units <= largestUnits;
+}
+
+bool parseType(const QString &text, int &type)
+{
+    const QString word = text.trimmed().toLower();
+    type = word == QLatin1String("material") ? 1 : 0;
+    return type == 1 || word == QLatin1String("work");
+}
+
+QString rateText(const Rate &rate, bool material)
+{
+    const QString amount = DataFormat::formatNumber(rate.amount, 0, 4, 1);
+    if (material || rate.unit < 0 || rate.unit >= int(std::size(unitTexts)))
+        return amount;
+    return amount + QLatin1Char('/') + QLatin1String(unitTexts[rate.unit]);
+}
+
+QString unitsText(double units, bool material)
+{
+    return material ? DataFormat::formatNumber(units, 0, 4, 1)
+                    : DataFormat::formatNumber(units * 100, 0, 2, 1) + QLatin1Char('%');
+}
+}
