@@ -39,8 +39,10 @@ void report(const char *name, double seconds)
 // Half of the columns are of one kind that repeats, as names of people and units do.
 std::wstring textOf(int row, int column)
 {
-    return column % 2 == 0 ? L"text " + std::to_wstring(row) + L" of column " + std::to_wstring(column)
-                           : L"repeated " + std::to_wstring(row * column % 100);
+    const std::string text = column % 2 == 0
+                                 ? "text " + std::to_string(row) + " of column " + std::to_string(column)
+                                 : "repeated " + std::to_string(row * column % 100);
+    return {text.begin(), text.end()};
 }
 
 void write(const QByteArray &path)

@@ -124,7 +124,7 @@ void CompoundFile::Property::Write(biff::Sink &to) const
     to.zeros(64 - 2 * size_t(length));
     to.u16(kind == Unused ? 0 : quint16(2 * (length + 1)));
     to.u8(kind);
-    to.u8(isBlack);
+    to.u8(kind != Unused && isBlack); // of an unused entry only the links are not zero
     to.u32(left);
     to.u32(right);
     to.u32(child);
