@@ -1,5 +1,4 @@
 #include "exchange/biff/compoundfile.h"
-#include "support/casename.h"
 #include "support/filesizelimit.h"
 #include "support/folder.h"
 #include <QBuffer>
@@ -51,109 +50,69 @@ std::string treeOf(const QByteArray &bytes)
     return file.OpenBytes(bytes) ? tree(file) : "(closed)";
 }
 
-class Sizes : public testing::TestWithParam<SectorSize>
+TEST(CompoundFile, streamsOfEverySizeComeBack)
 {
-};
-
-TEST_P(Sizes, streamsOfEverySizeComeBack)
-{
-    // Around a mini sector, the cut-off of the mini stream and a sector.
-    const std::vector<int> sizes{0, 1, 63, 64, 65, 511, 512, 4095, 4096, 4097, 8192, 100000};
-    CompoundFile file;
-    file.Create(QString(), GetParam());
-    ASSERT_TRUE(file.MakeDirectory(QStringLiteral("/Store")));
-    for (const int size : sizes) {
-        const QString path = QStringLiteral("/Store/%1").arg(size);
-        ASSERT_TRUE(file.MakeFile(path) && file.WriteFile(path, content(size, size)));
-    }
-    CompoundFile again;
-    ASSERT_TRUE(again.OpenBytes(written(file))) << again.ErrorText().toStdString();
-    for (const int size : sizes) {
-        QByteArray bytes;
-        EXPECT_TRUE(again.ReadFile(QStringLiteral("/Store/%1").arg(size), &bytes)) << size;
-        EXPECT_EQ(bytes, content(size, size)) << size;
-    }
-    // What was read can be written again, and gives the same bytes.
-    EXPECT_EQ(written(again), written(file));
-}
-INSTANTIATE_TEST_SUITE_P(Sectors, Sizes,
-                         testing::Values(CompoundFile::Sectors512, CompoundFile::Sectors4096));
-
-struct LargeCase
-{
-    const char *name;
-    int bytes;
-    quint32 tableSectors, listSectors;
-};
-class Large : public testing::TestWithParam<LargeCase>
-{
-};
-
-TEST_P(Large, tableGoesOnBehindTheHeader)
-{
-    CompoundFile file;
-    file.Create(QString());
-    file.MakeFile(QStringLiteral("large"));
-    file.WriteFile(QStringLiteral("large"), content(GetParam().bytes));
-    const QByteArray bytes = written(file);
-    CompoundFile::Header header;
-    ASSERT_TRUE(header.Read(biff::Bytes(bytes)));
-    EXPECT_EQ(header.tableSectors, GetParam().tableSectors);
-    EXPECT_EQ(header.listSectors, GetParam().listSectors);
-    CompoundFile again;
-    QByteArray large;
-    ASSERT_TRUE(again.OpenBytes(bytes) && again.ReadFile(QStringLiteral("large"), &large));
-    EXPECT_EQ(large, content(GetParam().bytes));
-}
-// 109 table sectors of 128 numbers fit the header; one sector is the directory's.
-INSTANTIATE_TEST_SUITE_P(Table, Large,
-                         testing::Values(LargeCase{"justFitsTheHeader", (109 * 127 - 1) * 512, 109, 0},
-                                         LargeCase{"oneSectorMore", (109 * 127) * 512, 110, 1},
-                                         LargeCase{"listOfTwoSectors", (237 * 128 - 1 - 237 - 2) * 512, 237,
-                                                   2}),
-                         caseName<LargeCase>);
-
-// The directory as the format wants it: a search tree, no red entry below a red one, equally many black ones
-// on every way down.
-class Directory
-{
-public:
-    explicit Directory(const QByteArray &file)
-    {
-        CompoundFile::Header header;
-        header.Read(biff::Bytes(file));
-        const int sector = 1 << header.sectorShift;
-        // Our writer puts the directory in consecutive sectors.
-        biff::Bytes rest(reinterpret_cast<const uchar *>(file.constData()) +
-                             (header.firstDirectorySector + 1) * quint32(sector),
-                         size_t(file.size()) - (header.firstDirectorySector + 1) * quint32(sector));
-        while (const uchar *entry = rest.take(CompoundFile::Property::sizeBytes)) {
-            m_entries.emplace_back();
-            m_entries.back().Read({entry, CompoundFile::Property::sizeBytes}, false);
+    for (const SectorSize sectors : {CompoundFile::Sectors512, CompoundFile::Sectors4096}) {
+        CompoundFile file, again;
+        file.Create(QString(), sectors);
+        ASSERT_TRUE(file.MakeDirectory(QStringLiteral("/Store")));
+        // Around a mini sector, the cut-off of the mini stream and a sector.
+        const std::vector<int> sizes{0, 1, 63, 64, 65, 511, 512, 4095, 4096, 4097, 8192, 100000};
+        for (const int size : sizes) {
+            const QString path = QStringLiteral("/Store/%1").arg(size);
+            ASSERT_TRUE(file.MakeFile(path) && file.WriteFile(path, content(size, size)));
         }
+        ASSERT_TRUE(again.OpenBytes(written(file))) << again.ErrorText().toStdString();
+        for (const int size : sizes) {
+            QByteArray bytes;
+            EXPECT_TRUE(again.ReadFile(QStringLiteral("/Store/%1").arg(size), &bytes)) << size;
+            EXPECT_EQ(bytes, content(size, size)) << size;
+        }
+        EXPECT_EQ(written(again), written(file));
     }
-    // Black entries on the way down; -1 where a rule is broken.
-    int blackHeight(quint32 entry, bool isBelowRed = false)
-    {
-        if (entry == CompoundFile::Property::none)
-            return 0;
-        const CompoundFile::Property &property = m_entries.at(entry);
-        const int left = blackHeight(property.left, !property.isBlack);
-        const bool isInOrder =
-            m_last.isNull() || CompoundFile::PropertyTree::NameOrder()(m_last, property.name);
-        m_last = property.name;
-        ++count;
-        const int right = blackHeight(property.right, !property.isBlack);
-        const bool isSound = left >= 0 && left == right && isInOrder && (property.isBlack || !isBelowRed);
-        return isSound ? left + property.isBlack : -1;
-    }
-    quint32 first() const { return m_entries.at(0).child; }
-    int count = 0;
+}
 
-private:
-    std::vector<CompoundFile::Property> m_entries;
-    QString m_last;
-};
+TEST(CompoundFile, tableGoesOnBehindTheHeader)
+{
+    // 109 table sectors of 128 numbers fit the header; one sector is the directory's.
+    const struct
+    {
+        int bytes;
+        quint32 tableSectors, listSectors;
+    } cases[] = {{(109 * 127 - 1) * 512, 109, 0},
+                 {109 * 127 * 512, 110, 1},
+                 {(237 * 128 - 1 - 237 - 2) * 512, 237, 2}};
+    for (const auto &one : cases) {
+        CompoundFile file, again;
+        file.Create(QString());
+        file.MakeFile(QStringLiteral("large"));
+        file.WriteFile(QStringLiteral("large"), content(one.bytes));
+        QByteArray bytes = written(file), large;
+        CompoundFile::Header header;
+        ASSERT_TRUE(header.Read(biff::Bytes(bytes)));
+        EXPECT_EQ(header.tableSectors, one.tableSectors);
+        EXPECT_EQ(header.listSectors, one.listSectors);
+        ASSERT_TRUE(again.OpenBytes(bytes) && again.ReadFile(QStringLiteral("large"), &large));
+        EXPECT_EQ(large, content(one.bytes));
+    }
+}
+
+// Names below a directory entry in the order in which they are found, and the black entries on each way down,
+// -1 where their number differs or a red one stands below a red one.
+int blackHeight(biff::Bytes directory, quint32 entry, bool isBelowRed, QStringList *names)
+{
+    if (entry == CompoundFile::Property::none)
+        return 0;
+    biff::Bytes at = directory;
+    at.skip(entry * CompoundFile::Property::sizeBytes);
+    CompoundFile::Property property;
+    property.Read(at, false);
+    const int left = blackHeight(directory, property.left, !property.isBlack, names);
+    names->append(property.name);
+    const int right = blackHeight(directory, property.right, !property.isBlack, names);
+    const bool isSound = left >= 0 && left == right && (property.isBlack || !isBelowRed);
+    return isSound ? left + property.isBlack : -1;
+}
 
 TEST(CompoundFile, directoryIsABalancedTreeInTheOrderOfTheFormat)
 {
@@ -163,9 +122,16 @@ TEST(CompoundFile, directoryIsABalancedTreeInTheOrderOfTheFormat)
         for (int i = 0; i < streams; ++i)
             file.MakeFile((i % 2 ? QStringLiteral("b") : QStringLiteral("AA")) +
                           QString::number(i * 37 % 101));
-        Directory directory(written(file));
-        EXPECT_GE(directory.blackHeight(directory.first()), 0) << streams;
-        EXPECT_EQ(directory.count, streams);
+        const QByteArray bytes = written(file);
+        CompoundFile::Header header;
+        CompoundFile::Property root;
+        header.Read(biff::Bytes(bytes));
+        const QByteArray directory = bytes.mid(int(header.firstDirectorySector + 1) * 512); // in one piece
+        root.Read(biff::Bytes(directory), false);
+        QStringList names;
+        EXPECT_GE(blackHeight(biff::Bytes(directory), root.child, false, &names), 0) << streams;
+        EXPECT_EQ(names.size(), streams);
+        EXPECT_TRUE(std::is_sorted(names.begin(), names.end(), CompoundFile::PropertyTree::NameOrder()));
     }
 }
 
@@ -249,70 +215,59 @@ constexpr int sectorAt(int sector)
 constexpr int tableAt = sectorAt(13), miniTableAt = sectorAt(11), directoryAt = sectorAt(12);
 constexpr int bigEntryAt = directoryAt + 128, tinyEntryAt = directoryAt + 256;
 
-struct DamageCase
+TEST(CompoundFile, damageIsMetByACleanNo)
 {
-    const char *name;
-    int at;
-    quint32 value; // of 32 bits
-    const char *tree;
-};
-class Damage : public testing::TestWithParam<DamageCase>
-{
-};
-
-TEST_P(Damage, isMetByACleanNo)
-{
-    QByteArray bytes = sample();
-    ASSERT_EQ(bytes.size(), sectorAt(14));
-    ASSERT_EQ(treeOf(bytes), "/big=5000 /tiny=200 ");
-    qToLittleEndian(GetParam().value, bytes.data() + GetParam().at);
-    EXPECT_EQ(treeOf(bytes), GetParam().tree);
+    const QByteArray whole = sample();
+    ASSERT_EQ(whole.size(), sectorAt(14));
+    constexpr const char *sound = "/big=5000 /tiny=200 ";
+    ASSERT_EQ(treeOf(whole), sound);
+    constexpr const char *closed = "(closed)";
+    constexpr const char *bigDamaged = "/big=(damaged) /tiny=200 ";
+    constexpr const char *tinyDamaged = "/big=5000 /tiny=(damaged) ";
+    const struct
+    {
+        const char *name;
+        int at;
+        quint32 value; // of 32 bits
+        const char *tree;
+    } cases[] = {{"signature", 0, 0, closed},
+                 {"byte order reversed", 28, 0x0009FEFF, closed},
+                 {"sectors of 1024 bytes", 28, 0x000AFFFE, closed},
+                 {"sectors of 2 to 65535 bytes", 28, 0xFFFFFFFE, closed},
+                 {"table sectors counted wrong", 44, 0xFFFFFFFF, sound},
+                 {"directory outside", 48, 14, closed},
+                 {"directory in data", 48, 0, closed},
+                 {"mini table outside", 60, 1000, tinyDamaged},
+                 {"list not needed", 68, 3, sound},
+                 {"table outside", 76, 14, closed},
+                 {"no table", 76, 0xFFFFFFFF, closed},
+                 {"chain meets itself", tableAt + 4 * 2, 2, bigDamaged},
+                 {"chain goes back", tableAt + 4 * 8, 0, bigDamaged},
+                 {"chain goes back behind the end", tableAt + 4 * 9, 0, sound},
+                 {"chain ends early", tableAt + 4 * 5, 0xFFFFFFFE, bigDamaged},
+                 {"chain runs into a free sector", tableAt + 4 * 5, 0xFFFFFFFF, bigDamaged},
+                 {"chain leaves the file", tableAt + 4 * 5, 14, bigDamaged},
+                 {"chain of the directory meets itself", tableAt + 4 * 12, 12, closed},
+                 {"chain of the mini stream ends early", directoryAt + 116, 0xFFFFFFFE, tinyDamaged},
+                 {"small chain meets itself", miniTableAt, 0, tinyDamaged},
+                 {"small chain leaves the mini stream", miniTableAt + 4, 4, tinyDamaged},
+                 {"size beyond the file", bigEntryAt + 120, 0x7FFFFFFF, bigDamaged},
+                 {"size of four gigabytes", bigEntryAt + 120, 0xFFFFFFFF, bigDamaged},
+                 {"size beyond the chain", bigEntryAt + 120, 5121, bigDamaged},
+                 {"upper half of the size is ignored", bigEntryAt + 124, 7, sound},
+                 {"start outside", bigEntryAt + 116, 14, bigDamaged},
+                 {"mini stream too short", directoryAt + 120, 128, tinyDamaged},
+                 {"left is itself", bigEntryAt + 68, 1, sound},
+                 {"right is the root", bigEntryAt + 72, 0, sound},
+                 {"child is outside", directoryAt + 76, 99, ""},
+                 {"root is a stream", directoryAt + 64, 0x01020016, closed},
+                 {"second is unused", tinyEntryAt + 64, 0x01000000, "/big=5000 "}};
+    for (const auto &one : cases) {
+        QByteArray bytes = whole;
+        qToLittleEndian(one.value, bytes.data() + one.at);
+        EXPECT_EQ(treeOf(bytes), one.tree) << one.name;
+    }
 }
-
-constexpr const char *closed = "(closed)";
-constexpr const char *bigDamaged = "/big=(damaged) /tiny=200 ";
-constexpr const char *tinyDamaged = "/big=5000 /tiny=(damaged) ";
-constexpr const char *sound = "/big=5000 /tiny=200 ";
-INSTANTIATE_TEST_SUITE_P(Header, Damage,
-                         testing::Values(DamageCase{"signature", 0, 0, closed},
-                                         DamageCase{"byteOrderReversed", 28, 0x0009FEFF, closed},
-                                         DamageCase{"sectorsOf1024Bytes", 28, 0x000AFFFE, closed},
-                                         DamageCase{"sectorsOf2To65535Bytes", 28, 0xFFFFFFFE, closed},
-                                         DamageCase{"tableSectorsCountedWrong", 44, 0xFFFFFFFF, sound},
-                                         DamageCase{"directoryOutside", 48, 14, closed},
-                                         DamageCase{"directoryInData", 48, 0, closed},
-                                         DamageCase{"miniTableOutside", 60, 1000, tinyDamaged},
-                                         DamageCase{"listNotNeeded", 68, 3, sound},
-                                         DamageCase{"tableOutside", 76, 14, closed},
-                                         DamageCase{"noTable", 76, 0xFFFFFFFF, closed}),
-                         caseName<DamageCase>);
-INSTANTIATE_TEST_SUITE_P(
-    Chains, Damage,
-    testing::Values(DamageCase{"meetsItself", tableAt + 4 * 2, 2, bigDamaged},
-                    DamageCase{"goesBack", tableAt + 4 * 8, 0, bigDamaged},
-                    DamageCase{"goesBackBehindTheEnd", tableAt + 4 * 9, 0, sound},
-                    DamageCase{"endsEarly", tableAt + 4 * 5, 0xFFFFFFFE, bigDamaged},
-                    DamageCase{"runsIntoAFreeSector", tableAt + 4 * 5, 0xFFFFFFFF, bigDamaged},
-                    DamageCase{"leavesTheFile", tableAt + 4 * 5, 14, bigDamaged},
-                    DamageCase{"ofTheDirectoryMeetsItself", tableAt + 4 * 12, 12, closed},
-                    DamageCase{"ofTheMiniStreamEndsEarly", directoryAt + 116, 0xFFFFFFFE, tinyDamaged},
-                    DamageCase{"ofAMiniStreamMeetsItself", miniTableAt, 0, tinyDamaged},
-                    DamageCase{"ofAMiniStreamLeavesIt", miniTableAt + 4, 4, tinyDamaged}),
-    caseName<DamageCase>);
-INSTANTIATE_TEST_SUITE_P(
-    Entries, Damage,
-    testing::Values(DamageCase{"sizeBeyondTheFile", bigEntryAt + 120, 0x7FFFFFFF, bigDamaged},
-                    DamageCase{"sizeOfFourGigabytes", bigEntryAt + 120, 0xFFFFFFFF, bigDamaged},
-                    DamageCase{"sizeBeyondTheChain", bigEntryAt + 120, 5121, bigDamaged},
-                    DamageCase{"upperHalfOfTheSizeIsIgnored", bigEntryAt + 124, 7, sound},
-                    DamageCase{"startOutside", bigEntryAt + 116, 14, bigDamaged},
-                    DamageCase{"miniStreamTooShort", directoryAt + 120, 128, tinyDamaged},
-                    DamageCase{"leftIsItself", bigEntryAt + 68, 1, sound},
-                    DamageCase{"rightIsTheRoot", bigEntryAt + 72, 0, sound},
-                    DamageCase{"childIsOutside", directoryAt + 76, 99, ""},
-                    DamageCase{"rootIsAStream", directoryAt + 64, 0x01020016, closed},
-                    DamageCase{"secondIsUnused", tinyEntryAt + 64, 0x01000000, "/big=5000 "}),
-    caseName<DamageCase>);
 
 // A file with its table in front, then the directory, then one stream "s".
 QByteArray withTableInFront(const QByteArray &stream)

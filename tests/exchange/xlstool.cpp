@@ -1,6 +1,7 @@
 // What readers.py asks of the workbook classes.
 //
-//   kwxls cells FILE       one JSON array a line: ["sheet", name] and [row, column, "t" or "n", value]; ends with 1
+//   kwxls cells FILE       one JSON array a line: ["sheet", name] and [row, column, "t" or "n", value]; ends
+//   with 1
 //                          and the reason when the file is no workbook
 //   kwxls streams FILE     one line a stream of a compound file: its path and its size, -1 when it is damaged
 //   kwxls samples FOLDER   writes the workbooks that other programs have to read
@@ -66,8 +67,8 @@ int streams(const QString &path)
 // Each fills a workbook of one sheet, which may get more.
 void fillTiny(BasicExcel &book)
 {
-    const QString texts[] = {QStringLiteral("Task"),       QString::fromUtf8("任务 é \u0080 ÿ"),
-                             QStringLiteral("=1+1"),       QString::fromUtf8("\U0001F5D3 x \U00020000"),
+    const QString texts[] = {QStringLiteral("Task"),         QString::fromUtf8("任务 é \u0080 ÿ"),
+                             QStringLiteral("=1+1"),         QString::fromUtf8("\U0001F5D3 x \U00020000"),
                              QStringLiteral(" a\n\"b\",c "), QString::fromUtf8("’tis")};
     int row = 0;
     for (const QString &text : texts)
@@ -113,8 +114,9 @@ void fillLarge(BasicExcel &book)
 {
     for (int row = 0; row < 30000; ++row) {
         for (int column = 0; column < 25; ++column)
-            book.GetWorksheet(0)->Cell(row, column)->SetText(
-                QStringLiteral("cell %1 of row %2").arg(column).arg(row));
+            book.GetWorksheet(0)
+                ->Cell(row, column)
+                ->SetText(QStringLiteral("cell %1 of row %2").arg(column).arg(row));
     }
 }
 
