@@ -5,7 +5,6 @@ QStringList XLSXDataBase::s_xmlNameList;
 
 namespace {
 
-constexpr int sheetCount = 3;
 constexpr int maxNameUnits = 31;
 
 // What a program takes as a sheet's name; may be empty.

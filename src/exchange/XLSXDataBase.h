@@ -6,8 +6,10 @@
 #include <QPair>
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 class KWDocument;
+class PartWriter;
 
 // The parts of a spreadsheet package that do not depend on what its sheets hold, and its shared strings.
 //
@@ -16,6 +18,7 @@ class KWDocument;
 class KWGANTT_EXPORT XLSXDataBase
 {
 public:
+    static constexpr int sheetCount = 3;
     // The names of the three sheets, filled by the host before an export.
     static QStringList s_xmlNameList;
     // The three names as a workbook can take them: cut to 31 units, without forbidden characters, no two
@@ -54,12 +57,16 @@ public:
     bool praserShareStrXml(const QString &folder);
 
 protected:
-    // The index of a text among the shared strings, which takes it up when it is new.
+    // The index of a text among the shared strings, which takes it up, cleaned, when it is new.
     int sharedStringIndex(const QString &text);
+    // Forgets what the last export has left.
+    void startExport();
+    // Writes one part; `name` is relative to the package's folder. What fails is found in findings().
+    void writePart(const QString &name, const std::function<void(PartWriter &)> &write);
+    bool isWhole() const { return m_isWhole; }
+    void fail(const QString &place, const QString &what);
 
-    QString m_path; // each ends with "/"
-    QString m_xlPath;
-    QString m_sheetPath;
+    QString m_path; // the package's folder; ends with "/"
     QString m_currencyFormat;
     QString m_dateTimeFormat;
     KWDocument *m_document;
@@ -68,4 +75,7 @@ protected:
     int m_stringCells = 0; // written so far
     QList<QPair<int, QString>> m_numberFormats;
     Findings m_findings;
+
+private:
+    bool m_isWhole = true; // the package, as far as it is written
 };

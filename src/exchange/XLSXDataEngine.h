@@ -5,6 +5,9 @@
 #include <QDomNodeList>
 
 class KWTaskInfo;
+namespace planexport {
+enum class Value;
+}
 
 // A plan as a workbook of three sheets - tasks, resources, work assignments - and back.
 //
@@ -64,6 +67,11 @@ public:
     void updateTaskInfoParentID(KWTaskInfo *task);
 
 private:
+    QPair<int, QString> numberFormatOf(planexport::Value value) const;
+    int numberFormatIndex(planexport::Value value) const;
+    int styleOf(planexport::Value value) const;
+    int titleStyle() const;
+
     bool m_isRich = false;
     int m_titleCount = 0; // of the sheet being written
 };

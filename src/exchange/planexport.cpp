@@ -58,6 +58,42 @@ bool isMaterial(const Resource &resource)
     return resource.type != 0;
 }
 
+// What a column shows besides texts. Not durations, work, rates and maximum units: an import reads them
+// from the text, where the unit stands.
+Value valueOf(Sheet sheet, int field)
+{
+    if (sheet == exceltitles::ResourceSheet)
+        return field == Id ? Value::Number : field == CostPerUse ? Value::Money : Value::None;
+    if (sheet == exceltitles::AssignmentSheet)
+        return field == Work                         ? Value::Work
+               : field == Complete || field == Units ? Value::Percent
+                                                     : Value::None;
+    const columntypes::ColumnType *column = columntypes::find(field);
+    if (!column)
+        return Value::None;
+    switch (column->kind) {
+    case Kind::Whole:
+    case Kind::Flag:
+        return Value::Number;
+    case Kind::Percent:
+        return Value::Percent;
+    case Kind::Money:
+    case Kind::NumberText:
+        return Value::Money;
+    case Kind::StartDate:
+    case Kind::FinishDate:
+        return Value::Moment;
+    case Kind::Priority:
+    case Kind::Text:
+    case Kind::Duration:
+    case Kind::Work:
+    case Kind::Hyperlinks:
+    case Kind::Predecessors:
+        break;
+    }
+    return Value::None;
+}
+
 // The columns of a sheet: what field each title stands for, -1 for none.
 std::vector<int> fieldsOf(Sheet sheet)
 {
@@ -76,6 +112,17 @@ std::vector<int> fieldsOf(Sheet sheet)
     }
     return fields;
 }
+}
+
+std::vector<Value> valuesOfTitles()
+{
+    std::vector<Value> values;
+    for (const Sheet sheet :
+         {exceltitles::TaskSheet, exceltitles::ResourceSheet, exceltitles::AssignmentSheet}) {
+        for (const int field : fieldsOf(sheet))
+            values.push_back(valueOf(sheet, field));
+    }
+    return values;
 }
 
 // ---- Which rows there are ---------------------------------------------------------------------------------
@@ -141,6 +188,11 @@ void Rows::collectAssignments()
 int Rows::unreachedTasks() const
 {
     return m_document.taskCount() - int(m_tasks.size());
+}
+
+int Rows::deepest() const
+{
+    return m_depths.empty() ? 0 : *std::max_element(m_depths.begin(), m_depths.end());
 }
 
 // Every task of the list with its own assignments, or for a summary with those of the leaves below it, up to
@@ -280,74 +332,48 @@ QString Rows::assignmentText(const Assignment &assignment, int key) const
 Cell Rows::taskCell(const KWTaskInfo &task, int type, bool withValue) const
 {
     Cell cell{taskText(task, type)};
-    const columntypes::ColumnType *column =
-        withValue && !cell.text.isEmpty() ? columntypes::find(type) : nullptr;
-    if (!column)
+    if (!withValue || cell.text.isEmpty())
         return cell;
-    const auto set = [&cell](Value value, double number) {
-        cell.value = value;
-        cell.number = number;
-    };
-    switch (column->kind) {
-    case Kind::Whole:
-    case Kind::Flag:
-        set(Value::Number, columntypes::number(task, column->field));
-        break;
-    case Kind::Percent:
-        set(Value::Percent, columntypes::number(task, column->field));
-        break;
-    case Kind::Money:
-        set(Value::Money, columntypes::number(task, column->field));
-        break;
-    case Kind::NumberText:
-        set(Value::Money, columntypes::text(task, column->field).toDouble());
-        break;
-    case Kind::Work:
-        set(Value::Work, columntypes::number(task, column->field));
-        break;
-    case Kind::StartDate:
-    case Kind::FinishDate:
-        set(Value::Moment,
-            dayNumber(KWTaskInfo::showDateTime(&m_document, columntypes::secs(task, column->field),
-                                               column->kind == Kind::StartDate)));
-        break;
-    case Kind::Priority:
-    case Kind::Text:
-    case Kind::Duration: // the unit is read back from the text
-    case Kind::Hyperlinks:
-    case Kind::Predecessors:
-        break;
-    }
+    cell.value = valueOf(exceltitles::TaskSheet, type);
+    if (cell.value == Value::None)
+        return cell;
+    const columntypes::ColumnType &column = *columntypes::find(type);
+    if (cell.value == Value::Moment)
+        cell.number = dayNumber(KWTaskInfo::showDateTime(&m_document, columntypes::secs(task, column.field),
+                                                         column.kind == Kind::StartDate));
+    else if (column.kind == Kind::NumberText)
+        cell.number = columntypes::text(task, column.field).toDouble();
+    else
+        cell.number = columntypes::number(task, column.field);
     return cell;
 }
 
 Cell Rows::resourceCell(const ResourceInfo &resource, int key, bool withValue) const
 {
-    // Rates and maximum units are read back from the text.
     Cell cell{resourceText(resource, key)};
-    if (withValue && key == Id)
-        cell = {cell.text, Value::Number, double(resource.ID)};
-    else if (withValue && key == CostPerUse)
-        cell = {cell.text, Value::Money, resource.costPer};
+    if (!withValue)
+        return cell;
+    cell.value = valueOf(exceltitles::ResourceSheet, key);
+    cell.number = key == Id ? resource.ID : key == CostPerUse ? resource.costPer : 0;
     return cell;
 }
 
 Cell Rows::assignmentCell(const Assignment &assignment, int key, bool withValue) const
 {
     Cell cell{assignmentText(assignment, key)};
-    const Resource &resource = *assignment.resource;
-    const KWTaskInfo &owner = *assignment.owner;
     if (!withValue)
         return cell;
+    const Resource &resource = *assignment.resource;
+    const KWTaskInfo &owner = *assignment.owner;
+    cell.value = valueOf(exceltitles::AssignmentSheet, key);
     if (key == Complete)
-        return {cell.text, Value::Percent, assignment.task->Percent};
-    if (key == Units)
-        return {cell.text, isMaterial(resource) ? Value::Number : Value::Percent, resource.percent};
-    if (key == Work && isMaterial(resource))
-        return {cell.text, Value::Number, resource.percent};
-    if (key == Work)
-        return {cell.text, Value::Work,
-                cost::toHours(m_measures, cost::work(m_measures, owner, resource), owner.DurationUnits)};
+        cell.number = assignment.task->Percent;
+    else if (key == Units || isMaterial(resource))
+        cell.number = resource.percent;
+    else
+        cell.number = cost::toHours(m_measures, cost::work(m_measures, owner, resource), owner.DurationUnits);
+    if (cell.value != Value::None && key != Complete && isMaterial(resource))
+        cell.value = Value::Number;
     return cell;
 }
 

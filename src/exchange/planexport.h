@@ -21,9 +21,12 @@ struct Cell
 {
     QString text;
     Value value = Value::None;
-    double number =
-        0; // a moment counts days from 30 December 1899, a percentage is a fraction, work in hours
+    // A moment counts days from 30 December 1899, a percentage is a fraction, work counts in hours.
+    double number = 0;
 };
+
+// What the columns of the workbook's titles show besides texts, one entry for each title of each sheet.
+std::vector<Value> valuesOfTitles();
 
 // Takes the rows of one sheet.
 class RowSink
@@ -57,6 +60,7 @@ public:
     int count(exceltitles::Sheet sheet, int limit) const;
     // Those that no list of children leads to from the top; they are not written.
     int unreachedTasks() const;
+    int deepest() const; // depth of the outline; 0 for a flat one
 
     // Texts of one field: a column type, a key of a resource or of an assignment. Null for a field that there
     // is not.

@@ -1,4 +1,5 @@
 #include "support/xmlsink.h"
+#include "support/xmlencode.h"
 #include "support/xmlguard.h"
 #include <charconv>
 #include <cmath>
@@ -8,7 +9,6 @@ namespace {
 
 constexpr int flushBytes = 256 << 10;
 constexpr int bufferBytes = flushBytes + (64 << 10);
-constexpr int maxUnitBytes = 6; // of one UTF-16 unit, as an entity
 constexpr int maxNumberBytes = 32;
 
 // Seventeen significant digits, which read back as the same number, in at most maxNumberBytes.
@@ -21,68 +21,6 @@ char *appendNumber(char *to, double value)
     if (number == std::floor(number) && std::abs(number) < maxWhole)
         return std::to_chars(to, to + maxNumberBytes, qint32(number)).ptr;
     return std::to_chars(to, to + maxNumberBytes, number, std::chars_format::general, digits).ptr;
-}
-
-char *append(char *to, const char *text)
-{
-    const size_t length = std::strlen(text);
-    std::memcpy(to, text, length);
-    return to + length;
-}
-
-// What XML wants escaped in an attribute, so that it reads back as it was; null when nothing.
-const char *escapeOf(ushort unit)
-{
-    switch (unit) {
-    case '&':
-        return "&amp;";
-    case '<':
-        return "&lt;";
-    case '"':
-        return "&quot;";
-    case '\t':
-        return "&#x9;";
-    case '\n':
-        return "&#xa;";
-    case '\r':
-        return "&#xd;";
-    default:
-        return nullptr;
-    }
-}
-
-// One character, as UTF-8 or escaped; nothing for one that XML cannot carry. Moves `at` past it.
-char *encode(char *to, const ushort *&at, const ushort *end)
-{
-    const ushort unit = *at++;
-    if (unit < 0x80) {
-        if (const char *escape = escapeOf(unit))
-            return append(to, escape);
-        if (unit >= 0x20)
-            *to++ = char(unit);
-        return to;
-    }
-    if (unit < 0x800) {
-        *to++ = char(0xc0 | unit >> 6);
-        *to++ = char(0x80 | (unit & 0x3f));
-        return to;
-    }
-    if (QChar::isSurrogate(unit)) {
-        if (!QChar::isHighSurrogate(unit) || at == end || !QChar::isLowSurrogate(*at))
-            return to;
-        const uint code = QChar::surrogateToUcs4(unit, *at++);
-        *to++ = char(0xf0 | code >> 18);
-        *to++ = char(0x80 | (code >> 12 & 0x3f));
-        *to++ = char(0x80 | (code >> 6 & 0x3f));
-        *to++ = char(0x80 | (code & 0x3f));
-        return to;
-    }
-    if (unit >= 0xfffe)
-        return to;
-    *to++ = char(0xe0 | unit >> 12);
-    *to++ = char(0x80 | (unit >> 6 & 0x3f));
-    *to++ = char(0x80 | (unit & 0x3f));
-    return to;
 }
 }
 
@@ -224,9 +162,9 @@ void StreamSink::attribute(const char *name, const QString &value)
     while (at != end) {
         // A pair of units makes fewer bytes than two single ones, so a pair across the border has room too.
         const ushort *const stop = at + qMin<qint64>(piece, end - at);
-        char *to = room((piece + 1) * maxUnitBytes);
+        char *to = room((piece + 1) * xmlencode::maxUnitBytes);
         while (at < stop)
-            to = encode(to, at, end);
+            to = xmlencode::character(to, at, end);
         used(to);
     }
     put("\"", 1);
