@@ -48,22 +48,44 @@ void write(Sink &sink, const Table &table, const Record &record)
     });
 }
 
+template <typename Row, typename Record>
+void readOne(const Row &row, const XmlText &text, double scale, Record &record)
+{
+    if (text.isEmpty())
+        return;
+    auto value = plain(record.*row.member);
+    xmltext::read(text, value);
+    if constexpr (std::is_same_v<decltype(value), double>) {
+        if (row.uses & ScreenScaled)
+            value *= scale;
+    }
+    record.*row.member = value;
+}
+
 // An absent or empty attribute leaves its member as it was.
 template <typename Source, typename Table, typename Record>
 void read(Source &source, const Table &table, Record &record)
 {
     const double scale = UnitUtil::dpiScale96();
+    forEach(table, Xml, [&](const auto &row) { readOne(row, source.text(row.name), scale, record); });
+}
+
+// The same for whole files, where looking each attribute up would be most of the work.
+template <typename Table, typename Record>
+void read(TreeSource &source, const Table &table, Record &record)
+{
+    const double scale = UnitUtil::dpiScale96();
+    constexpr size_t count = std::tuple_size_v<Table>;
+    std::array<const char *, count> names = {};
+    size_t size = 0;
+    forEach(table, Xml, [&](const auto &row) { names[size++] = row.name; });
+    std::fill(names.begin() + size, names.end(), ""); // no attribute has this name
+    std::array<const char *, count> values;
+    source.texts(names, values);
+    size_t i = 0;
     forEach(table, Xml, [&](const auto &row) {
-        const XmlText text = source.text(row.name);
-        if (text.isEmpty())
-            return;
-        auto value = plain(record.*row.member);
-        xmltext::read(text, value);
-        if constexpr (std::is_same_v<decltype(value), double>) {
-            if (row.uses & ScreenScaled)
-                value *= scale;
-        }
-        record.*row.member = value;
+        const char *const value = values[i++];
+        readOne(row, XmlText(value, int(std::strlen(value))), scale, record);
     });
 }
 

@@ -84,23 +84,28 @@ bool Scan::markup()
     return tag();
 }
 
+// What ends a run of plain bytes inside a tag.
+const struct TagMarks
+{
+    bool is[256] = {};
+    TagMarks()
+    {
+        for (const char mark : {'<', '>', '"', '\''})
+            is[uchar(mark)] = true;
+    }
+} tagMarks;
+
 bool Scan::tag()
 {
     const bool isEndTag = startsWith("</");
     for (const char *p = m_at + 1; p != m_end; ++p) {
+        if (!tagMarks.is[uchar(*p)])
+            continue;
         if (*p == '<') {
             m_at = p;
             return fail("'<' inside a tag");
         }
-        if (*p == '"' || *p == '\'') {
-            const auto *close = static_cast<const char *>(std::memchr(p + 1, *p, size_t(m_end - p - 1)));
-            // A parser that took the quote for something else must not find markup in here either.
-            if (!close || std::memchr(p, '<', size_t(close - p))) {
-                m_at = p;
-                return fail("an attribute value does not end");
-            }
-            p = close;
-        } else if (*p == '>') {
+        if (*p == '>') {
             const bool isEmptyElement = !isEndTag && p[-1] == '/';
             if (isEndTag && --m_depth < 0)
                 return fail("an end tag without its element");
@@ -111,8 +116,29 @@ bool Scan::tag()
             m_at = p + 1;
             return true;
         }
+        const char quote = *p;
+        const char *close = p + 1;
+        // A parser that took the quote for something else must not find markup in here either.
+        while (close != m_end && *close != quote && *close != '<')
+            ++close;
+        if (close == m_end || *close == '<') {
+            m_at = p;
+            return fail("an attribute value does not end");
+        }
+        p = close;
     }
     return fail("a tag does not end");
+}
+
+// Whether none of eight bytes is 0 or beyond ASCII; most of any file is like that.
+bool isPlainWord(const uchar *bytes)
+{
+    constexpr quint64 ones = 0x0101010101010101u;
+    constexpr quint64 highBits = ones << 7;
+    quint64 word = 0;
+    std::memcpy(&word, bytes, sizeof word);
+    // Taking 1 from each byte sets the high bit of a byte that was 0; the high bits are all clear before.
+    return ((word | (word - ones)) & highBits) == 0;
 }
 
 // The first byte that is no sound UTF-8 or no character for XML; -1 when there is none.
@@ -121,6 +147,10 @@ int firstBadByte(const QByteArray &text)
     const auto *bytes = reinterpret_cast<const uchar *>(text.constData());
     const int size = text.size();
     for (int i = 0; i < size;) {
+        if (size - i >= 8 && isPlainWord(bytes + i)) {
+            i += 8;
+            continue;
+        }
         const uint lead = bytes[i];
         if (lead < 0x80) {
             if (lead == 0)

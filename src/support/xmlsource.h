@@ -1,6 +1,7 @@
 #pragma once
 #include "support/xmltext.h"
 #include <QDomElement>
+#include <array>
 #include <pugixml.hpp>
 
 // Two views of an XML element with the same members, for reading one element of a DOM and whole documents
@@ -39,6 +40,24 @@ public:
     {
         const char *const value = m_element.attribute(attribute, m_hint).value();
         return XmlText(value, int(std::strlen(value)));
+    }
+    // The same for many: values[i] becomes the text of names[i], "" when the element has no such attribute.
+    // One pass when they were written in this order, whatever was left out.
+    template <size_t Count>
+    void texts(const std::array<const char *, Count> &names, std::array<const char *, Count> &values) const
+    {
+        values.fill("");
+        size_t expected = 0;
+        for (pugi::xml_attribute one = m_element.first_attribute(); one; one = one.next_attribute()) {
+            const char *const name = one.name();
+            for (size_t tried = 0, i = expected; tried < Count; ++tried, i = i + 1 == Count ? 0 : i + 1) {
+                if (std::strcmp(names[i], name) == 0) {
+                    values[i] = one.value();
+                    expected = i + 1 == Count ? 0 : i + 1;
+                    break;
+                }
+            }
+        }
     }
     TreeSource firstChild() const { return TreeSource(elementFrom(m_element.first_child())); }
     TreeSource nextSibling() const { return TreeSource(elementFrom(m_element.next_sibling())); }

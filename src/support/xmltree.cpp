@@ -19,33 +19,68 @@ bool isSame(const char *a, const char *b)
     return std::strcmp(a, b) == 0;
 }
 
-// Elements of one kind carry the same attributes in the same order, so most are known to be sound from the
-// last.
+// Finds attributes that stand twice in an element. Elements of one kind carry the same attributes in the same
+// order, some of them left out now and then, so nearly all are known to be sound from one that was looked at.
 class AttributeCheck
 {
 public:
     bool isSound(pugi::xml_node element)
     {
+        Names &known = knownOf(element.name());
+        return isAmong(element, known) || isSoundByItself(element, known);
+    }
+
+private:
+    using Names = std::vector<const char *>;
+
+    Names &knownOf(const char *element)
+    {
+        constexpr size_t maxKinds =
+            16; // documents of ours have fewer, and looking through more would be slow
+        for (auto &[name, names] : m_kinds) {
+            if (isSame(name, element))
+                return names;
+        }
+        if (m_kinds.size() == maxKinds)
+            return m_kinds.back().second;
+        return m_kinds.emplace_back(element, Names()).second;
+    }
+
+    // Whether the element has some of the names, in their order.
+    static bool isAmong(pugi::xml_node element, const Names &names)
+    {
+        auto at = names.begin();
+        for (pugi::xml_attribute one = element.first_attribute(); one; one = one.next_attribute()) {
+            const char *const name = one.name();
+            while (at != names.end() && !isSame(*at, name))
+                ++at;
+            if (at == names.end())
+                return false;
+            ++at;
+        }
+        return true;
+    }
+
+    bool isSoundByItself(pugi::xml_node element, Names &known)
+    {
         m_names.clear();
-        for (pugi::xml_attribute attribute : element.attributes())
-            m_names.push_back(attribute.name());
-        if (std::equal(m_names.begin(), m_names.end(), m_sound.begin(), m_sound.end(), isSame))
-            return true;
+        for (pugi::xml_attribute one = element.first_attribute(); one; one = one.next_attribute())
+            m_names.push_back(one.name());
         m_sorted = m_names;
         std::sort(m_sorted.begin(), m_sorted.end(),
                   [](const char *a, const char *b) { return std::strcmp(a, b) < 0; });
         if (std::adjacent_find(m_sorted.begin(), m_sorted.end(), isSame) != m_sorted.end())
             return false;
-        // The children of an element stand between it and the next of its kind: they have few attributes.
-        if (m_names.size() >= m_sound.size())
-            m_sound.swap(m_names);
+        // Comparing with more than the elements of documents have would take longer than sorting does.
+        constexpr size_t maxKnown = 64;
+        if (m_names.size() >= known.size() && m_names.size() <= maxKnown)
+            known.swap(m_names);
         return true;
     }
 
-private:
-    std::vector<const char *> m_names;
-    std::vector<const char *> m_sorted;
-    std::vector<const char *> m_sound;
+    std::vector<std::pair<const char *, Names>> m_kinds; // element and the most attributes it had
+    Names m_names;
+    Names m_sorted;
 };
 
 // The element after `element` in the order of the text, below `root`; null at the end.
