@@ -65,4 +65,4 @@ build() {
 
 tools_packages=(g++ cmake ninja-build pkg-config)
 library_packages=(qtbase5-dev libzip-dev libpugixml-dev tzdata)
-test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev)
+test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev python3)

@@ -10,3 +10,5 @@ int loadStructure(const QString &path);
 int makePackage(const QString &path);
 int savePackage(const QString &path);
 int checkPackage(const QString &path);
+// Saves as autosave does, over a file of a folder named "autosave".
+int saveBackup(const QString &path);

@@ -2,8 +2,12 @@
 #include "hostile/entries.h"
 #include "hostile/followups.h"
 #include "hostile/smallplan.h"
+#include "kwfilepathmanager.h"
 #include "model/kwtaskinfo.h"
+#include <QFile>
+#include <QFileInfo>
 #include <cstdio>
+#include <functional>
 
 int makePackage(const QString &path)
 {
@@ -13,7 +17,10 @@ int makePackage(const QString &path)
     return document.save(path) ? 0 : 1;
 }
 
-int savePackage(const QString &path)
+namespace {
+
+// Changes the plan in the file, has it saved and says what came of it.
+int changeAndSave(const QString &path, const std::function<bool(KWDocument &)> &save)
 {
     KWDocument document;
     bool isSaved = false;
@@ -22,18 +29,36 @@ int savePackage(const QString &path)
         for (KWTaskInfo *task : document.taskList())
             task->Name = QString::fromLatin1(smallplan::newName);
         document.setModified(true);
-        isSaved = document.save(QString());
+        isSaved = save(document);
         isModified = document.isModified();
     }
     say("result", isSaved ? "true" : "false");
     say("modified", isModified ? 1 : 0);
     return 0;
 }
+}
+
+int savePackage(const QString &path)
+{
+    return changeAndSave(path, [](KWDocument &document) { return document.save(QString()); });
+}
+
+int saveBackup(const QString &path)
+{
+    return changeAndSave(path, [&path](KWDocument &document) {
+        const QString folder = QFileInfo(path).absolutePath();
+        KWFilePathManager::setConfigRoot(QFileInfo(folder).absolutePath());
+        // The name of a backup is made of chance; a link leads from it to the file that is looked at.
+        const QString backup = folder + QLatin1Char('/') + document.backupName() + QLatin1String(".kwpx");
+        const bool isSaved = QFile::link(path, backup) && document.saveBackup();
+        QFile::remove(backup);
+        return isSaved;
+    });
+}
 
 int checkPackage(const QString &path)
 {
     KWDocument document;
-    KWDocument expected;
     const char *found = "neither";
     if (document.loadFromKWGT(path)) {
         for (const auto &[name, said] :
