@@ -110,6 +110,22 @@ void KWDocument::insertTaskInfoList(int row, KWTaskInfo *task)
     listChanged();
 }
 
+void KWDocument::insertTasks(int pos, const QList<KWTaskInfo *> &tasks, const QList<double> &heights)
+{
+    const int place = qBound(0, pos, m_tasks.size());
+    if (m_rowColumnData) {
+        m_rowColumnData->setRowHeightCount(m_tasks.size());
+        QList<double> rows = heights.mid(0, tasks.size());
+        while (rows.size() < tasks.size())
+            rows.append(RowColumnData::defaultRowHeight);
+        m_rowColumnData->insertRowHeights(place, rows);
+    }
+    for (KWTaskInfo *task : tasks)
+        join(task);
+    m_tasks = m_tasks.mid(0, place) + tasks + m_tasks.mid(place);
+    listChanged();
+}
+
 void KWDocument::replaceByID(quint32 id, KWTaskInfo *task)
 {
     if (id != 0)

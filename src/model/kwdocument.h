@@ -89,13 +89,16 @@ public:
     int taskCount() const { return m_tasks.size(); }
     void appendTaskInfoList(KWTaskInfo *task);          // takes the task over
     void insertTaskInfoList(int row, KWTaskInfo *task); // takes the task over
+    // Takes the tasks over, before the one at `pos`, each with its row height (30 where there is none).
+    void insertTasks(int pos, const QList<KWTaskInfo *> &tasks, const QList<double> &heights);
     // Take the task over; the replaced record is not deleted and belongs to the caller again.
     void replaceByID(quint32 id, KWTaskInfo *task); // the first task with that ID
     void replaceAt(int pos, KWTaskInfo *task);
     // Delete the task and its row height. Nothing else: neither the outline nor links are told.
     void removeTaskInfoByID(quint32 id); // the last task with that ID
     void removeTaskInfoAt(int row);
-    void clearTaskInfoList(); // row heights stay
+    void removeTasks(const TaskIndex &ids); // removeTaskInfoByID for each of the IDs
+    void clearTaskInfoList();               // row heights stay
 
     // ---- Look-ups -----------------------------------------------------------------------------------------
     KWTaskInfo *getTaskInfoAt(int pos) const;
@@ -234,7 +237,6 @@ private:
     Caches &withIndex() const; // the caches with their tables of IDs, rows or row edges up to date
     Caches &withRows() const;
     Caches &withBottoms() const;
-    void removeTasks(const TaskIndex &ids);
     KWTaskInfo *newTask(quint32 start, quint32 finish, int level, quint32 parentId) const;
     void completeNewTask(KWTaskInfo *task, int pos);
     quint32 newFinish(const KWTaskInfo &like, bool sameLength);

@@ -4,7 +4,6 @@
 #include "model/outline.h"
 #include "resources/cost.h"
 #include "resources/kwtaskinfo_cost.h"
-#include "resources/names.h"
 #include "schedule/kwtaskcollection.h"
 #include "schedule/localclock.h"
 #include "support/kwclock.h"
@@ -469,24 +468,10 @@ void KWDocument::removeTasks(const TaskIndex &ids)
 
 // ---- Costs ------------------------------------------------------------------------------------------------
 
-// Work, cost, remaining cost and resource names of a task and its ancestors, nearest first, after what is
-// below them changed. All is summed anew from the leaves; baselines stay.
 void KWDocument::updateCostsFrom(KWTaskInfo *task)
 {
-    if (!task)
-        return;
-    const CostPass pass(*this);
-    if (task->isParent()) {
-        pass.sumWithoutBaseline(*task);
-    } else {
-        // It has lost its last child: a leaf again, with the assignments it has.
-        pass.updateCostAndWork(*task);
-        task->Resources = names::ofAssignments(*task);
-    }
-    for (KWTaskInfo *ancestor : pass.above(*task)) {
-        if (ancestor->isParent())
-            pass.sumWithoutBaseline(*ancestor);
-    }
+    if (task)
+        CostPass(*this).sumFrom({task});
 }
 
 // ---- Copies -----------------------------------------------------------------------------------------------

@@ -74,6 +74,25 @@ std::vector<KWTaskInfo *> ancestors(const Tasks &tasks, const KWTaskInfo &task)
     return found;
 }
 
+std::vector<KWTaskInfo *> withAncestors(const Tasks &tasks, const std::vector<KWTaskInfo *> &changed)
+{
+    TaskIndex seen;
+    std::vector<int> found;
+    for (const KWTaskInfo *task : changed) {
+        int pos = tasks.index.posOf(task->ID);
+        while (pos >= 0 && seen.add(tasks.list[pos]->ID)) {
+            found.push_back(pos);
+            const quint32 parent = tasks.list[pos]->ParentID;
+            pos = parent == 0 ? -1 : tasks.index.posOf(parent);
+        }
+    }
+    std::sort(found.rbegin(), found.rend());
+    std::vector<KWTaskInfo *> ordered;
+    for (const int pos : found)
+        ordered.push_back(tasks.list[pos]);
+    return ordered;
+}
+
 KWTaskInfo *commonSummary(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b)
 {
     TaskIndex aboveB;

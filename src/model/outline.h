@@ -28,6 +28,9 @@ bool anyDescendant(const Tasks &tasks, const KWTaskInfo &task,
                    const std::function<bool(KWTaskInfo *)> &visit);
 // Ancestors, nearest first; stops at an unknown ID and at a task met before, the task itself included.
 std::vector<KWTaskInfo *> ancestors(const Tasks &tasks, const KWTaskInfo &task);
+// These tasks and all above them, each once; the last in the list comes first, so that in a sound outline
+// what is below comes before what is above.
+std::vector<KWTaskInfo *> withAncestors(const Tasks &tasks, const std::vector<KWTaskInfo *> &changed);
 // The nearest ancestor of a that is also one of b; null when there is none.
 KWTaskInfo *commonSummary(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b);
 

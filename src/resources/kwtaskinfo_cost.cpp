@@ -166,6 +166,23 @@ void CostPass::joinAncestorNames(const KWTaskInfo &task) const
     }
 }
 
+// ---- Several branches -------------------------------------------------------------------------------------
+
+void CostPass::sumFrom(const std::vector<KWTaskInfo *> &changed) const
+{
+    for (KWTaskInfo *task : changed) {
+        if (task->isParent())
+            continue;
+        // It has lost its last child: a leaf again, with the assignments it has.
+        updateCostAndWork(*task);
+        task->Resources = names::ofAssignments(*task);
+    }
+    for (KWTaskInfo *task : outline::withAncestors(m_tasks, changed)) {
+        if (task->isParent())
+            sumWithoutBaseline(*task);
+    }
+}
+
 // ---- One assignment ---------------------------------------------------------------------------------------
 
 double KWTaskInfo::resourceWork(KWDocument *document, const Resource *resource) const

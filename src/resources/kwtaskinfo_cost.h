@@ -44,6 +44,11 @@ public:
     void sumAll(KWTaskInfo &summary) const;
     void joinAncestorNames(const KWTaskInfo &task) const;
 
+    // ---- Several branches ---------------------------------------------------------------------------------
+    // Work, cost, remaining cost and names of these tasks and of all above them, each once, after what is
+    // below them changed. All is summed anew from the leaves; baselines stay.
+    void sumFrom(const std::vector<KWTaskInfo *> &changed) const;
+
 private:
     void sumWithoutBaseline(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const;
 

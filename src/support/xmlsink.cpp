@@ -76,8 +76,9 @@ void DomSink::attribute(const char *name, const QList<quint32> &value)
 
 // ---- Text -------------------------------------------------------------------------------------------------
 
-StreamSink::StreamSink(QIODevice &device)
+StreamSink::StreamSink(QIODevice &device, int blanksPerLevel)
     : m_device(device)
+    , m_blanksPerLevel(blanksPerLevel)
     , m_buffer(bufferBytes, Qt::Uninitialized)
 {
     const char head[] = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n";
@@ -107,8 +108,7 @@ void StreamSink::put(const char *text, int size)
 
 void StreamSink::startLine(int level)
 {
-    constexpr int blanksPerLevel = 4;
-    const int blanks = level * blanksPerLevel;
+    const int blanks = level * m_blanksPerLevel;
     char *to = room(blanks);
     std::memset(to, ' ', size_t(blanks));
     used(to + blanks);

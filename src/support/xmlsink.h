@@ -32,11 +32,11 @@ private:
     QDomElement m_element;
 };
 
-// Writes a whole file, each element on a line of its own, four blanks of indent a level.
+// Writes a whole file, each element on a line of its own, indented by so many blanks a level.
 class StreamSink
 {
 public:
-    explicit StreamSink(QIODevice &device);
+    explicit StreamSink(QIODevice &device, int blanksPerLevel = 4);
     void open(const char *element);
     void close();
     void attribute(const char *name, const QString &value);
@@ -57,6 +57,7 @@ private:
     void flush();
 
     QIODevice &m_device;
+    int m_blanksPerLevel;
     QByteArray m_buffer;
     int m_size = 0;
     QList<const char *> m_open;

@@ -55,6 +55,12 @@ void RowColumnData::insertRowHeightByPos(int pos, double height)
     m_rowHeights.insert(place, height);
 }
 
+void RowColumnData::insertRowHeights(int pos, const QList<double> &heights)
+{
+    const int place = qBound(0, pos, m_rowHeights.size());
+    setRowHeights(m_rowHeights.mid(0, place) + heights + m_rowHeights.mid(place));
+}
+
 // Heights are kept by pos: with hidden tasks above, the row's number would be another task's place.
 void RowColumnData::insertRowHeightByRow(int row, double height)
 {

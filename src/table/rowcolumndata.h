@@ -67,6 +67,7 @@ public:
     void replaceRowHeightByRow(int row, double height);
     void insertRowHeightByPos(int pos, double height);
     void insertRowHeightByRow(int row, double height);
+    void insertRowHeights(int pos, const QList<double> &heights);
     void appendRowHeight(double height);
     void removeRowHeightAt(int pos);
     // `count` entries one after the other, from place `from` + i to place `to` + i.

@@ -39,6 +39,18 @@ void readColumn(Source &source, RowColumnData::ColumnData &column)
     column.width *= UnitUtil::dpiScale96();
 }
 
+// Replaces the columns by those of a "ColumnList".
+template <typename Source>
+void readColumns(const Source &list, RowColumnData &table)
+{
+    table.clearColDataList();
+    for (Source each = list.firstChild(); !each.isNull(); each = each.nextSibling()) {
+        auto *column = new RowColumnData::ColumnData;
+        readColumn(each, *column);
+        table.appendColumnData(column);
+    }
+}
+
 template <typename Source>
 void read(const Source &source, RowColumnData &table, bool skipRowHeights)
 {
@@ -47,12 +59,7 @@ void read(const Source &source, RowColumnData &table, bool skipRowHeights)
             if (!skipRowHeights)
                 table.setRowHeights(heights(child.text("RowHeight")));
         } else if (child.is("ColumnList")) {
-            table.clearColDataList();
-            for (Source each = child.firstChild(); !each.isNull(); each = each.nextSibling()) {
-                auto *column = new RowColumnData::ColumnData;
-                readColumn(each, *column);
-                table.appendColumnData(column);
-            }
+            readColumns(child, table);
         }
     }
 }

@@ -1,0 +1,333 @@
+#include "editing/clipbdmanager.h"
+#include "editing/clipboardxml.h"
+#include "editing/pastedbranches.h"
+#include "editing/pastednames.h"
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "model/outline.h"
+#include "resources/cost.h"
+#include "resources/kwtaskinfo_cost.h"
+#include "runinglog.h"
+#include "schedule/kwtaskcollection.h"
+#include "schedule/rollup.h"
+#include "schedule/timescale.h"
+#include "table/rowcolumndata.h"
+#include <QClipboard>
+#include <QCryptographicHash>
+#include <QGuiApplication>
+#include <QMimeData>
+
+namespace {
+
+QString mimeType()
+{
+    return QString::fromLatin1(clipboardxml::mimeType);
+}
+
+// Null when the program has none.
+QClipboard *clipboard()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) ? QGuiApplication::clipboard()
+                                                                         : nullptr;
+}
+
+QByteArray digestOf(const QByteArray &bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
+}
+
+outline::Tasks tasksOf(const KWDocument &document)
+{
+    return {document.taskList(), document.taskIndex()};
+}
+
+// From another resource sheet: without assignments the money would have no reason.
+void dropAssignments(KWTaskInfo &task)
+{
+    task.clearResources();
+    task.Resources.clear();
+    task.Cost = 0;
+    task.Work = 0;
+    task.RemainingCost = 0;
+}
+}
+
+// ---- What is copied ---------------------------------------------------------------------------------------
+
+struct ClipbdManager::Selection
+{
+    TaskIndex ids;
+    Selection(const KWDocument &document, const QList<int> &rows)
+    {
+        for (const int row : rows) {
+            if (const KWTaskInfo *task = document.getTaskInfoByRow(row))
+                ids.add(task->ID);
+        }
+    }
+};
+
+bool ClipbdManager::isReady() const
+{
+    return m_document && m_document->taskCollection() && m_document->rowColumnData();
+}
+
+void ClipbdManager::topTaskListByMultiRow(QList<int> &rows)
+{
+    if (!isReady() || rows.isEmpty())
+        return;
+    m_topTasks.clear();
+    const Selection selection(*m_document, rows);
+    TaskIndex added;
+    for (const int row : qAsConst(rows)) {
+        const KWTaskInfo *task = m_document->getTaskInfoByRow(row);
+        if (task && added.add(task->ID))
+            addTopTask(task, selection);
+    }
+}
+
+void ClipbdManager::appendTopTaskList(KWTaskInfo *task, QList<int> &rows)
+{
+    if (isReady() && task && !isTopTask(task))
+        addTopTask(task, Selection(*m_document, rows));
+}
+
+void ClipbdManager::addTopTask(const KWTaskInfo *task, const Selection &selection)
+{
+    for (const KWTaskInfo *ancestor : outline::ancestors(tasksOf(*m_document), *task)) {
+        if (selection.ids.contains(ancestor->ID))
+            return;
+    }
+    m_topTasks.append(task->ID);
+}
+
+bool ClipbdManager::isTopTask(KWTaskInfo *task) const
+{
+    return task && m_topTasks.contains(task->ID);
+}
+
+void ClipbdManager::getCopyIDList(QList<quint32> &ids, QList<int> &rows)
+{
+    putOnClipboard(ids, rows);
+}
+
+bool ClipbdManager::putOnClipboard(QList<quint32> &ids, QList<int> &rows)
+{
+    if (!isReady() || rows.isEmpty())
+        return false;
+    m_sourceDocument = m_document;
+    topTaskListByMultiRow(rows);
+
+    const outline::Tasks all = tasksOf(*m_document);
+    TaskIndex listed;
+    for (const quint32 id : qAsConst(ids))
+        listed.add(id);
+    const auto add = [&](quint32 id) {
+        if (listed.add(id))
+            ids.append(id);
+    };
+    for (const quint32 id : qAsConst(m_topTasks)) {
+        add(id);
+        for (const KWTaskInfo *below : outline::descendants(all, *all.byId(id)))
+            add(below->ID);
+    }
+    QList<KWTaskInfo *> tasks;
+    for (const quint32 id : qAsConst(ids)) {
+        if (KWTaskInfo *task = all.byId(id))
+            tasks.append(task);
+    }
+    QClipboard *target = clipboard();
+    if (tasks.isEmpty() || !target)
+        return false;
+    const QByteArray bytes = clipboardxml::write(*m_document, tasks);
+    auto *data = new QMimeData;
+    data->setData(mimeType(), bytes);
+    target->setMimeData(data, QClipboard::Clipboard);
+    m_written = digestOf(bytes);
+    return true;
+}
+
+// ---- Copy and cut -----------------------------------------------------------------------------------------
+
+bool ClipbdManager::copy(QList<int> &rows)
+{
+    QList<quint32> ids;
+    return putOnClipboard(ids, rows);
+}
+
+bool ClipbdManager::cut(QList<int> &rows)
+{
+    QList<quint32> ids;
+    if (!putOnClipboard(ids, rows))
+        return false;
+    const outline::Tasks tasks = tasksOf(*m_document);
+    TaskIndex leavingIds;
+    std::vector<KWTaskInfo *> leaving;
+    for (const quint32 id : qAsConst(ids)) {
+        leavingIds.add(id);
+        leaving.push_back(tasks.byId(id));
+    }
+    TaskIndex parentIds;
+    std::vector<KWTaskInfo *> parents; // that stay and lose children
+    for (const KWTaskInfo *task : leaving) {
+        KWTaskInfo *parent = task->ParentID == 0 ? nullptr : tasks.byId(task->ParentID);
+        if (parent && !leavingIds.contains(parent->ID) && parentIds.add(parent->ID))
+            parents.push_back(parent);
+    }
+    outline::cutLinks(tasks, leaving, leavingIds);
+    m_document->removeTasks(leavingIds);
+    const outline::Tasks left = tasksOf(*m_document);
+    for (KWTaskInfo *parent : parents) {
+        outline::removeChilds(*parent, leavingIds);
+        const auto isThere = [&](quint32 id) { return left.byId(id) != nullptr; };
+        if (std::none_of(parent->Childs.cbegin(), parent->Childs.cend(), isThere))
+            parent->font.setWeight(QFont::Normal);
+    }
+    updateSummaries(parents);
+    return true;
+}
+
+// After what is below these tasks has changed.
+void ClipbdManager::updateSummaries(const std::vector<KWTaskInfo *> &changed)
+{
+    KWTaskCollection &collection = *m_document->taskCollection();
+    CostPass(*m_document).sumFrom(changed);
+    collection.updateOptionTaskTime();
+    const timescale::Scale scale = collection.scale();
+    const outline::Tasks tasks = tasksOf(*m_document);
+    for (KWTaskInfo *task : outline::withAncestors(tasks, changed)) {
+        if (task->isParent())
+            task->setPercent(rollup::percent(scale.calendar(), tasks, *task));
+    }
+    collection.updateRageAndTaskPoint();
+    m_document->setModified(true);
+}
+
+// ---- Paste ------------------------------------------------------------------------------------------------
+
+// Where pasted tasks go, found before any of them is there.
+struct ClipbdManager::Place
+{
+    int pos = 0;
+    int level = 1;
+    KWTaskInfo *parent = nullptr; // null: top level
+    int child = 0;                // place among the parent's children
+};
+
+ClipbdManager::Place ClipbdManager::placeAt(int row) const
+{
+    Place place;
+    place.pos = m_document->taskCount();
+    const KWTaskInfo *target = m_document->getTaskInfoByRow(row);
+    if (!target)
+        return place;
+    place.pos = m_document->getPosByRow(row);
+    place.level = target->Level;
+    KWTaskInfo *parent = target->ParentID == 0 ? nullptr : m_document->getTaskInfoByID(target->ParentID);
+    const int child = parent ? parent->Childs.indexOf(target->ID) : -1;
+    // A damaged file may hold a child that its parent does not name.
+    if (child >= 0 && parent != target) {
+        place.parent = parent;
+        place.child = child;
+    }
+    return place;
+}
+
+bool ClipbdManager::paste(int row)
+{
+    const QClipboard *source = isReady() ? clipboard() : nullptr;
+    const QMimeData *data = source ? source->mimeData(QClipboard::Clipboard) : nullptr;
+    if (!data || !data->hasFormat(mimeType()))
+        return false;
+    const QByteArray bytes = data->data(mimeType());
+    clipboardxml::Content content;
+    QString error;
+    if (!content.read(bytes, &error)) {
+        RuningLog::log(QLatin1String("Clipboard not read: ") + error);
+        return false;
+    }
+    const bool isOwn = digestOf(bytes) == m_written;
+    const QList<KWTaskInfo *> tasks = content.takeTasks();
+    for (KWTaskInfo *task : tasks) {
+        if (!isOwn)
+            dropAssignments(*task);
+    }
+
+    const Place place = placeAt(row);
+    quint32 greatestId = m_document->maxTaskID();
+    for (const KWTaskInfo *task : tasks)
+        greatestId = qMax(greatestId, task->ID.value());
+    pasted::NewIds ids(m_document->taskIndex(), greatestId);
+    pasted::Branches branches(tasks);
+    std::vector<KWTaskInfo *> tops;
+    QList<quint32> topIds;
+    // Then those that no branch holds, since they are in a ring or their parent does not name them.
+    for (const bool isLeftOver : {false, true}) {
+        for (int pos = 0; pos < tasks.size(); ++pos) {
+            if (branches.isNumbered(pos) || !(isLeftOver || branches.isTop(pos)))
+                continue;
+            KWTaskInfo *top = tasks[pos];
+            const qint64 levels = qint64(place.level) - top->Level;
+            top->ParentID = place.parent ? place.parent->ID.value() : 0;
+            top->Level = place.level;
+            branches.number(pos, levels, ids);
+            tops.push_back(top);
+            topIds.append(top->ID);
+        }
+    }
+    branches.relink();
+    for (KWTaskInfo *task : branches.robbed()) {
+        if (!task->isParent())
+            task->font.setWeight(QFont::Normal);
+    }
+
+    content.giveColumns(*m_document->rowColumnData());
+    m_document->insertTasks(place.pos, tasks, content.heights());
+    std::vector<KWTaskInfo *> changed = branches.robbed();
+    if (place.parent) {
+        QList<quint32> &children = place.parent->Childs;
+        children = children.mid(0, place.child) + topIds + children.mid(place.child);
+        for (KWTaskInfo *top : tops) {
+            if (!top->BaselineCost.isEmpty())
+                top->updateParentStrBaseCost(m_document, cost::baselineValue(top->BaselineCost));
+        }
+        // They have the same ancestors.
+        tops.front()->updateParentBaselineStartAndFinish(m_document);
+        changed.push_back(place.parent);
+    }
+    pasted::makeNamesDifferent(m_document->taskList(), tasks);
+    updateSummaries(changed);
+    return true;
+}
+
+// ---- Steps of pasting -------------------------------------------------------------------------------------
+
+void ClipbdManager::recurveTaskChildID(KWTaskInfo *task, int levelDelta, QList<KWTaskInfo *> &pasted)
+{
+    if (!m_document || !task)
+        return;
+    quint32 greatestId = m_document->maxTaskID();
+    for (const KWTaskInfo *each : qAsConst(pasted))
+        greatestId = qMax(greatestId, each->ID.value());
+    pasted::NewIds ids(m_document->taskIndex(), greatestId);
+    pasted::Branches(pasted).numberBelow(*task, levelDelta, ids);
+}
+
+void ClipbdManager::updateSubTaskHideID(KWTaskInfo *task, quint32 oldID, quint32 newID)
+{
+    if (!m_document || !task)
+        return;
+    for (KWTaskInfo *below : outline::descendants(tasksOf(*m_document), *task)) {
+        if (below->HideID == oldID)
+            below->HideID = newID;
+    }
+}
+
+void ClipbdManager::delDependOrDependOn(KWTaskInfo *task, QList<KWTaskInfo *> &oldTasks,
+                                        QList<KWTaskInfo *> &newTasks)
+{
+    if (!m_document || !task || oldTasks.isEmpty() || newTasks.isEmpty())
+        return;
+    const TaskIndex oldIds(oldTasks);
+    task->Depends = pasted::relinked(task->Depends, oldIds, newTasks);
+    task->Predecessors = pasted::relinked(task->Predecessors, oldIds, newTasks);
+}
