@@ -1,6 +1,6 @@
 // Measures the scheduling operations on generated projects, each on one core.
 //
-// Every line gives the best of several runs: seconds, microseconds a task, the growth from the size before,
+// Every line gives the best of several runs: seconds of processor time, microseconds a task, the growth from the size before,
 // and the time divided by a bare kernel's in the same run where the two do the same work.
 #include "costs.h"
 #include "generator.h"
