@@ -150,6 +150,20 @@ double toHours(const Measures &measures, double work, unsigned int unit)
     }
 }
 
+quint32 secsOfHours(const Measures &measures, double hours, unsigned int unit)
+{
+    Measures counted = measures;
+    if (counted.hoursPerDay == 0)
+        counted.hoursPerDay = measures.calendar.finishHour() - measures.calendar.startHour();
+    const double hoursOfUnit = toHours(counted, 1, unit);
+    // A year of work has fewer hours than a year of the clock, so both sizes of the unit count.
+    constexpr qint64 secsPerYear = qint64(365) * 86400;
+    const double unitsPerYear = duration::value(measures.calendar, secsPerYear, unit);
+    if (hoursOfUnit == 0 || unitsPerYear == 0)
+        return 0;
+    return truncatedSecs(std::floor(hours / hoursOfUnit * (double(secsPerYear) / unitsPerYear) + 0.5));
+}
+
 quint32 workSecs(const KWTaskInfo &task, const Resource &resource)
 {
     return resource.type == 0 ? truncatedSecs(task.DurationSecs * resource.percent) : 0;

@@ -28,6 +28,9 @@ struct Total
 
 // Work in the unit (0 year .. 6 minute) as hours; 0 for an unknown unit.
 double toHours(const Measures &measures, double work, unsigned int unit);
+// The other way, as the seconds of a duration in that unit, rounded; the span of a day counts where it has no
+// working hours.
+quint32 secsOfHours(const Measures &measures, double hours, unsigned int unit);
 // The seconds of work that an assignment has by the length of its task; none for a material.
 quint32 workSecs(const KWTaskInfo &task, const Resource &resource);
 // The work in units of the task's duration.

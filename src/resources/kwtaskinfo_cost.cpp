@@ -69,7 +69,7 @@ void CostPass::updateResourceName(KWTaskInfo &task) const
     joinAncestorNames(task);
 }
 
-Resource *CostPass::assign(KWTaskInfo &task, const QString &name, const ResourceInfo *entry) const
+Resource *CostPass::append(KWTaskInfo &task, const QString &name, const ResourceInfo *entry)
 {
     auto *resource = new Resource;
     if (entry) {
@@ -84,7 +84,12 @@ Resource *CostPass::assign(KWTaskInfo &task, const QString &name, const Resource
     resource->name = name;
     resource->workSecs = cost::workSecs(task, *resource);
     task.resourceList.append(resource);
+    return resource;
+}
 
+Resource *CostPass::assign(KWTaskInfo &task, const QString &name, const ResourceInfo *entry) const
+{
+    Resource *resource = append(task, name, entry);
     const double added = cost::ofAssignment(m_measures, task, *resource);
     const double work = cost::work(m_measures, task, *resource);
     updateParentCostAndWork(task, added, work, false);

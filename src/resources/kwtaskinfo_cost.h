@@ -30,7 +30,9 @@ public:
     void updateRemainCost(KWTaskInfo &task) const;
     void updateParentCostAndWork(KWTaskInfo &task, double costChange, double workChange, bool force) const;
     void updateResourceName(KWTaskInfo &task) const;
-    // Appends an assignment made from the entry (null: none of that name); names are left to the caller.
+    // Appends an assignment made from the entry (null: none of that name) and changes no sum.
+    static Resource *append(KWTaskInfo &task, const QString &name, const ResourceInfo *entry);
+    // The same, with the sums; names are left to the caller.
     Resource *assign(KWTaskInfo &task, const QString &name, const ResourceInfo *entry) const;
     // Takes the assignment out of the list and out of the sums; names are left to the caller.
     void remove(KWTaskInfo &task, Resource *resource) const;
@@ -48,6 +50,11 @@ public:
     // Work, cost, remaining cost and names of these tasks and of all above them, each once, after what is
     // below them changed. All is summed anew from the leaves; baselines stay.
     void sumFrom(const std::vector<KWTaskInfo *> &changed) const;
+
+    // ---- All tasks (resources/kwtaskinfo_sumup.cpp) -------------------------------------------------------
+    // Costs and work of every task that has assignments, and of the summaries from their leaves. A summary
+    // with an assigned leaf loses assignments of its own and shows the leaves' names.
+    void sumUp() const;
 
 private:
     void sumWithoutBaseline(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const;

@@ -25,13 +25,14 @@ int after(int id)
 }
 }
 
-void Distinct::add(const QString &name)
+bool Distinct::add(const QString &name)
 {
     const QString trimmed = name.trimmed();
     if (trimmed.isEmpty() || m_seen.contains(trimmed))
-        return;
+        return false;
     m_seen.insert(trimmed);
     m_list.append(trimmed);
+    return true;
 }
 
 void Distinct::addAssignmentsOf(const KWTaskInfo &task)

@@ -14,7 +14,7 @@ namespace names {
 class Distinct
 {
 public:
-    void add(const QString &name);
+    bool add(const QString &name); // whether it is new
     void addAssignmentsOf(const KWTaskInfo &task);
     // The names of the leaves among the tasks.
     void addLeaves(const std::vector<KWTaskInfo *> &tasks);
@@ -36,6 +36,7 @@ public:
     explicit Unique(const QVector<ResourceInfo *> &infos);
 
     int nextId() const { return m_nextId; }
+    bool has(const QString &name) const { return m_names.contains(name.trimmed()); }
     // A free name, see ResourceInfoData::differentSuffixResourceName.
     QString different(const QString &name) const;
     void add(const QString &name, int id);

@@ -22,6 +22,25 @@ enum class Kind {
     Predecessors
 };
 
+// How an imported cell becomes the field; the moments are those a user sees, and a cell that is empty changes
+// nothing.
+enum class Import {
+    None,           // what the field shows follows from others
+    Text,           // as it stands
+    Whole,          // a whole number
+    Number,         // the first number of the text
+    NumberText,     // the same, kept as a text
+    OwnId,          // unique among the tasks before it
+    OwnName,        // unique among the tasks before it
+    StartOnWorkday, // moved to a working day
+    StartAsShown,   // left on the day it names
+    Finish,         // a last moment, moved to a working day
+    Duration,       // only the unit: the length follows from start and finish
+    Percent,
+    Hyperlinks,
+    RowTags // of predecessors
+};
+
 // None where the text takes more than one field.
 using Field = std::variant<std::monostate, quint32 KWTaskInfo::*, qint32 KWTaskInfo::*, bool KWTaskInfo::*,
                            double KWTaskInfo::*, QString KWTaskInfo::*, TrackedField<quint32> KWTaskInfo::*>;
@@ -31,6 +50,7 @@ struct ColumnType
     const char *meaning; // for messages; what users see are the titles
     Kind kind;
     Field field;
+    Import import;
 };
 
 constexpr int count = 25;
@@ -41,4 +61,8 @@ const ColumnType *find(int type);
 double number(const KWTaskInfo &task, const Field &field);
 quint32 secs(const KWTaskInfo &task, const Field &field);
 QString text(const KWTaskInfo &task, const Field &field); // empty where it is no text
+// What does not fit becomes the nearest value that does; nothing happens where the field is of another kind.
+void setNumber(KWTaskInfo &task, const Field &field, double value);
+void setSecs(KWTaskInfo &task, const Field &field, quint32 secs);
+void setText(KWTaskInfo &task, const Field &field, const QString &text);
 }

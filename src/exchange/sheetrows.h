@@ -1,0 +1,31 @@
+#pragma once
+#include <QString>
+#include <vector>
+
+// The cells of a worksheet, row by row, whatever kind of workbook they come from.
+namespace sheetrows {
+
+struct Cell
+{
+    int column = 0; // from 1
+    QString text;
+    bool isNumber = false; // the text is a finite number that the workbook holds as one
+};
+
+struct Row
+{
+    int number = 0; // from 1, the titles
+    std::vector<Cell> cells;
+};
+
+// One sheet, read once from its first row to its last.
+class Source
+{
+public:
+    virtual ~Source() = default;
+    // Fills in the next row, in the order of the file; numbers may repeat or go back. False at the end.
+    virtual bool next(Row &row) = 0;
+    // Why the sheet ended early; empty when it did not.
+    virtual QString error() const { return QString(); }
+};
+}
