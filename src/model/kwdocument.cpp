@@ -181,6 +181,18 @@ void KWDocument::clearTaskInfoList()
         leave(leaving.takeLast(), true);
 }
 
+void KWDocument::replaceTaskInfoList(const QList<KWTaskInfo *> &tasks)
+{
+    for (KWTaskInfo *task : tasks)
+        join(task);
+    const QList<KWTaskInfo *> replaced = m_tasks;
+    m_tasks = tasks;
+    listChanged();
+    constexpr bool destroy = true;
+    for (KWTaskInfo *task : replaced)
+        leave(task, destroy);
+}
+
 // ---- Files ------------------------------------------------------------------------------------------------
 
 void KWDocument::setFilePath(const QString &path, const QString &secondPath)

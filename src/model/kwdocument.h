@@ -99,6 +99,9 @@ public:
     void removeTaskInfoAt(int row);
     void removeTasks(const TaskIndex &ids); // removeTaskInfoByID for each of the IDs
     void clearTaskInfoList();               // row heights stay
+    // The list becomes these tasks, each of them once. New ones are taken over, those that are not in it any
+    // more deleted; row heights stay.
+    void replaceTaskInfoList(const QList<KWTaskInfo *> &tasks);
 
     // ---- Look-ups -----------------------------------------------------------------------------------------
     KWTaskInfo *getTaskInfoAt(int pos) const;

@@ -13,6 +13,7 @@
 
 class KWDocument;
 class Resource;
+class UndoItemData;
 
 // One task: a row of the task table and a bar of the chart.
 //
@@ -81,6 +82,11 @@ public:
     void saveTo(QDomElement &parent, unsigned int version) const;
     // Attributes that are absent or empty leave their fields as they were; IDs join those in the lists. True.
     bool parse(const QDomElement &element, unsigned int version);
+
+    // ---- Undo records (editing/kwtaskinfo_undo.cpp) -------------------------------------------------------
+    // All values but the assignments. A record of another make is left aside.
+    void getUndoVal(UndoItemData *item) const;
+    void setUndoVal(const UndoItemData *item);
 
     // ---- Children and links, by ID ------------------------------------------------------------------------
     // Reading outside a list gives 0, writing outside it does nothing, insertions are clamped to it and leave
@@ -190,48 +196,50 @@ public:
     bool recurveShowOrHide(KWDocument *document, KWTaskInfo *summary, KWTaskInfo *task, bool hide);
 
     // ---- Assignments (resources/kwtaskinfo_assign.cpp) ----------------------------------------------------
-    // Names are compared trimmed; of several assignments of one name the first counts. What only changes the list
-    // leaves costs and names to the caller.
-    Resource *getResourceAt(int index) const;         // null outside the list
+    // Names are compared trimmed; of several assignments of one name the first counts. What only changes the
+    // list leaves costs and names to the caller.
+    Resource *getResourceAt(int index) const; // null outside the list
     Resource *getResourceByName(const QString &name) const;
     bool isHaveResource() const { return !resourceList.isEmpty(); }
     static bool isResourceContains(const QList<Resource *> &resources, const Resource *resource);
     bool isActiveTaskResource(const QString &name) const { return getResourceByName(name) != nullptr; }
-    bool isSubHaveResource(KWDocument *document) const;   // this task or any below it
-    // Appends the assignments of the leaves below this task, each with its leaf; those of one name are not merged.
+    bool isSubHaveResource(KWDocument *document) const; // this task or any below it
+    // Appends the assignments of the leaves below this task, each with its leaf; those of one name are not
+    // merged.
     void allSubTaskResourceList(KWDocument *document,
                                 QList<QPair<KWTaskInfo *, Resource *>> &assignments) const;
     // Assigns a resource with the rates of its sheet entry, or takes it away; rolls costs and names up. A
     // summary takes no assignments.
     void addOrDelResourceByName(KWDocument *document, const QString &name, bool add);
-    void deleteResourceByID(int id);                  // every assignment of that sheet ID
-    void clearResources();                            // gives back every use and empties the list
-    // New records with the same values, for copies that must not follow later edits; the caller owns their uses.
+    void deleteResourceByID(int id); // every assignment of that sheet ID
+    void clearResources();           // gives back every use and empties the list
+    // New records with the same values, for copies that must not follow later edits; the caller owns their
+    // uses.
     QList<Resource *> cloneResources() const;
     // Working seconds of each assignment from the task's duration.
     void updateResourceWorkSecs(KWDocument *document);
 
-    // The names text of this task and of its ancestors. A summary shows the distinct names of the leaves below it
-    // and loses assignments of its own.
+    // The names text of this task and of its ancestors. A summary shows the distinct names of the leaves
+    // below it and loses assignments of its own.
     void updateResourceName(KWDocument *document);
-    void basisSubUpdateResourceName(KWDocument *document);      // this summary alone
-    void subTaskResourceName(KWDocument *document, QStringList &names) const;   // appends those not yet in it
+    void basisSubUpdateResourceName(KWDocument *document);                    // this summary alone
+    void subTaskResourceName(KWDocument *document, QStringList &names) const; // appends those not yet in it
     // The ancestors alone; with `own` false as if this task and what is below it had left.
     void updateParentResources(KWDocument *document, bool own);
-    void outdentUpateParentResources(KWDocument *document);     // the direct parent, as if this task had left
+    void outdentUpateParentResources(KWDocument *document); // the direct parent, as if this task had left
     // A task that holds the new name already loses the assignment of the old one.
     void replaceResourceName(KWDocument *document, const QString &oldName, const QString &newName);
 
     // ---- Cost and work (resources/kwtaskinfo_cost.cpp) ----------------------------------------------------
     // Work counts in the task's own duration unit, a summary's in hours. Without a document: nothing, and 0.
     double resourceWork(KWDocument *document, const Resource *resource) const;
-    double transforHourWork(KWDocument *document, double work) const;           // unit of the task -> hours
+    double transforHourWork(KWDocument *document, double work) const; // unit of the task -> hours
     double resourceCost(KWDocument *document, const Resource *resource) const;
     // From the assignments, or for a summary from the leaves; ancestors take the change, then remaining cost.
     void updateCostAndWork(KWDocument *document);
     void updateRemainCost(KWDocument *document);
-    // Add a change to every ancestor. Work changes come in this task's unit when it is a leaf or with `force`, else
-    // in hours.
+    // Add a change to every ancestor. Work changes come in this task's unit when it is a leaf or with
+    // `force`, else in hours.
     void updateParentCostAndWork(KWDocument *document, double costChange, double workChange, bool force);
     void updateParentCompletCost(KWDocument *document, double change);
     void updateParentStrBaseCost(KWDocument *document, double change);
@@ -239,7 +247,7 @@ public:
     void basisSubUpdateCostAndWork(KWDocument *document);
     void basisSubUpdateCompletCost(KWDocument *document);
     void basisSubUpdateStrBaseCost(KWDocument *document);
-    void basisSubUpdateFromSomeColumn(KWDocument *document);    // all of them, names and baseline dates
+    void basisSubUpdateFromSomeColumn(KWDocument *document); // all of them, names and baseline dates
     // This task's values join its ancestors or leave them.
     void updateParentInfoFromSomeColumn(KWDocument *document, bool added, bool namesByCaller);
 

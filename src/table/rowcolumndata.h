@@ -10,16 +10,21 @@
 #include <vector>
 
 class KWDocument;
+class UndoColData;
+class UndoItemData;
 
 // The task table's row heights and columns.
 class KWGANTT_EXPORT RowColumnData
 {
 public:
-    struct ColumnData
+    struct KWGANTT_EXPORT ColumnData
     {
         TrackedField<bool> isHide = false;
         TrackedField<QString> title; // also says what the column shows, see typeOfTitle
         double width = 0;            // pixels at the current screen scale
+
+        void getUndoColVal(UndoColData *column) const;
+        void setUndoColVal(const UndoColData *column);
     };
 
     // Column type -> title. Filled by the host before a document is created.
@@ -78,6 +83,11 @@ public:
     const QList<double> &rowHeights() const { return m_rowHeights; }
     // Changes with every change of the heights but an addition at the end.
     quint64 revision() const { return m_revision; }
+
+    // ---- Undo records (table/rowcolumndata_undo.cpp) ------------------------------------------------------
+    // The row height of the record's task; nothing happens when there is no such task.
+    void getUndoRowVal(UndoItemData *item) const;
+    void setUndoRowVal(const UndoItemData *item);
 
     // ---- Cells (table/celltext.cpp) -----------------------------------------------------------------------
     // The text at a visible row and a column number; empty when there is no such task or column.

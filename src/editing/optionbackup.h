@@ -1,0 +1,25 @@
+#pragma once
+#include "editing/undoitems.h"
+#include <QtGlobal>
+
+class KWDocument;
+
+// Backups of a document's options.
+namespace optionbackup {
+
+// What the chart rewrites on its own when tasks change: the project's span, and the scale that follows it.
+struct Chart
+{
+    quint32 startDate = 0;
+    quint32 finishDate = 0;
+    quint32 majorUnit = 0;
+    quint32 minorUnit = 0;
+    qint32 unitWidth = 0; // pixels
+};
+Chart chartOf(const KWDocument &document);
+void restore(KWDocument &document, const Chart &backup);
+
+// All options that files keep, the working time and the calendars.
+UndoOptionItemData optionsOf(const KWDocument &document);
+void restore(KWDocument &document, const UndoOptionItemData &backup);
+}

@@ -1,0 +1,335 @@
+#include "editing/taskaction.h"
+#include "editing/actionmanager.h"
+#include "editing/optionbackup.h"
+#include "editing/sheetbackup.h"
+#include "editing/tasksnapshot.h"
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "model/taskindex.h"
+#include "schedule/kwtaskcollection.h"
+#include "schedule/linkgraph.h"
+#include "table/rowcolumndata.h"
+#include <optional>
+#include <vector>
+
+struct TaskAction::Backups
+{
+    std::vector<UndoItemData> tasks;
+    TaskIndex taskIds;
+    std::vector<UndoTaskResources> assignments;
+    TaskIndex assignmentIds;
+    std::optional<TaskSnapshot> allTasks;
+    std::optional<optionbackup::Chart> chart;
+    std::optional<UndoOptionItemData> options;
+    std::optional<QVector<UndoColData>> columns;
+    sheetbackup::Entries entries;
+    std::optional<sheetbackup::Sheet> sheet;
+    std::vector<UndoEditResourceName> names;
+};
+
+namespace {
+
+UndoItemData valuesOf(const KWDocument &document, const KWTaskInfo &task)
+{
+    UndoItemData item;
+    task.getUndoVal(&item);
+    document.rowColumnData()->getUndoRowVal(&item);
+    return item;
+}
+
+UndoTaskResources assignmentsOf(const KWTaskInfo &task)
+{
+    UndoTaskResources item;
+    item.taskID = task.ID;
+    item.resources.reserve(task.resourceList.size());
+    for (const Resource *resource : task.resourceList)
+        item.resources.append(*resource);
+    return item;
+}
+
+QVector<UndoColData> columnsOf(const RowColumnData &table)
+{
+    QVector<UndoColData> columns(table.columns().size());
+    for (int pos = 0; pos < columns.size(); ++pos)
+        table.getColumnDataByPos(pos)->getUndoColVal(&columns[pos]);
+    return columns;
+}
+
+// The whole list: a move or a file may have changed its order and length.
+void setColumns(const QVector<UndoColData> &columns, RowColumnData &table)
+{
+    if (columns.size() != table.columns().size()) {
+        table.clearColDataList();
+        for (int pos = 0; pos < columns.size(); ++pos)
+            table.appendColumnData(new RowColumnData::ColumnData);
+    }
+    for (int pos = 0; pos < columns.size(); ++pos) {
+        RowColumnData::ColumnData column;
+        column.setUndoColVal(&columns[pos]);
+        RowColumnData::oldToNewColValue(&column, table.getColumnDataByPos(pos));
+    }
+}
+}
+
+TaskAction::TaskAction(KWDocument *document, const QString &name, unsigned int type)
+    : KWOpeAction(document, name)
+    , m_type(type)
+    , m_backups(std::make_unique<Backups>())
+{
+}
+
+TaskAction::~TaskAction() = default;
+
+bool TaskAction::unExecute()
+{
+    return document() && swapData();
+}
+
+// ---- Recorders --------------------------------------------------------------------------------------------
+
+bool TaskAction::isExist(quint32 taskID) const
+{
+    return m_backups->taskIds.contains(taskID);
+}
+
+void TaskAction::addChangeTaskInfo(KWTaskInfo *task)
+{
+    if (document() && task && m_backups->taskIds.add(task->ID))
+        m_backups->tasks.push_back(valuesOf(*document(), *task));
+}
+
+void TaskAction::addTaskInfoHyperlink(KWTaskInfo *task)
+{
+    addChangeTaskInfo(task); // the hyperlinks are among the values
+}
+
+void TaskAction::addTaskAllResources(KWTaskInfo *task)
+{
+    if (task && m_backups->assignmentIds.add(task->ID))
+        m_backups->assignments.push_back(assignmentsOf(*task));
+}
+
+void TaskAction::backupAffected(KWTaskInfo *task)
+{
+    const int pos = document() && task ? document()->getPosByID(task->ID) : -1;
+    if (pos < 0)
+        return;
+    if (!m_backups->chart)
+        m_backups->chart = optionbackup::chartOf(*document());
+    // What can push goes along the links and the outline, which the events of the tasks lead along.
+    const outline::Tasks tasks{document()->taskList(), document()->taskIndex()};
+    const linkgraph::EventNetwork network(tasks, {pos});
+    for (const linkgraph::EventNetwork::Node &node : network.nodes()) {
+        addChangeTaskInfo(tasks.list[node.pos]);
+        addTaskAllResources(tasks.list[node.pos]);
+    }
+}
+
+void TaskAction::backupAllTaskData()
+{
+    if (!document() || m_backups->allTasks)
+        return;
+    m_backups->allTasks = document()->actionManager().takeSnapshot();
+    if (!m_backups->chart)
+        m_backups->chart = optionbackup::chartOf(*document());
+}
+
+void TaskAction::backupAllColData()
+{
+    if (document() && !m_backups->columns)
+        m_backups->columns = columnsOf(*document()->rowColumnData());
+}
+
+void TaskAction::addDocResource(ResourceInfo *info)
+{
+    if (!document() || !info)
+        return;
+    UndoDocResourceItem item = sheetbackup::entry(*document(), *info);
+    for (const UndoDocResourceItem &recorded : m_backups->entries) {
+        if (recorded.exists == item.exists && recorded.info.ID == item.info.ID &&
+            recorded.index == item.index)
+            return;
+        // Its assignments are recorded with the other entry of that name.
+        if (recorded.info.name.trimmed() == item.info.name.trimmed())
+            item.resources.clear();
+    }
+    m_backups->entries.push_back(item);
+}
+
+void TaskAction::backupAllDocResources()
+{
+    if (document() && !m_backups->sheet) {
+        m_backups->sheet =
+            sheetbackup::Sheet{sheetbackup::infosOf(*document()), document()->actionManager().takeSnapshot()};
+    }
+}
+
+void TaskAction::addEditTaskResourceName(ResourceInfo *info)
+{
+    if (!info)
+        return;
+    for (const UndoEditResourceName &recorded : m_backups->names) {
+        if (recorded.ID == info->ID)
+            return;
+    }
+    m_backups->names.push_back({info->ID, info->name});
+}
+
+void TaskAction::backupAllOption()
+{
+    if (document() && !m_backups->options)
+        m_backups->options = optionbackup::optionsOf(*document());
+}
+
+void TaskAction::getAllContainResrourceTask(const ResourceInfo *info,
+                                            QVector<UndoResource> &assignments) const
+{
+    if (document() && info)
+        sheetbackup::appendAssignments(*document(), info->name, assignments);
+}
+
+void TaskAction::clearUndoItemDatas()
+{
+    m_backups->tasks.clear();
+    m_backups->taskIds = TaskIndex();
+    m_backups->assignments.clear();
+    m_backups->assignmentIds = TaskIndex();
+    m_backups->allTasks.reset();
+    m_backups->chart.reset();
+}
+
+void TaskAction::clearUndoColDatas()
+{
+    m_backups->columns.reset();
+}
+
+void TaskAction::clearUndoDocResources()
+{
+    m_backups->entries.clear();
+    m_backups->sheet.reset();
+    m_backups->names.clear();
+}
+
+// ---- The swap ---------------------------------------------------------------------------------------------
+
+bool TaskAction::swapData()
+{
+    if (!document())
+        return false;
+    // All of the present state is read before any of it changes: kinds of backups may overlap.
+    auto current = std::make_unique<Backups>(now());
+    restore(*m_backups, *current);
+    m_backups = std::move(current);
+    return true;
+}
+
+// The document's state, of the kinds that the action has.
+TaskAction::Backups TaskAction::now() const
+{
+    KWDocument &document = *this->document();
+    Backups current;
+    if (m_backups->allTasks) // single tasks are left aside from now on
+        current.allTasks = document.actionManager().takeSnapshot();
+    else
+        addSingleTasks(current);
+    if (m_backups->chart)
+        current.chart = optionbackup::chartOf(document);
+    if (m_backups->options)
+        current.options = optionbackup::optionsOf(document);
+    if (m_backups->columns)
+        current.columns = columnsOf(*document.rowColumnData());
+    current.entries = sheetbackup::now(document, m_backups->entries);
+    if (m_backups->sheet) {
+        current.sheet =
+            sheetbackup::Sheet{sheetbackup::infosOf(document), document.actionManager().takeSnapshot()};
+    }
+    for (const UndoEditResourceName &backup : m_backups->names) {
+        const ResourceInfo *info = document.resourceInfoData()->getResourceInfoByID(backup.ID);
+        current.names.push_back({backup.ID, info ? info->name : backup.name});
+    }
+    return current;
+}
+
+void TaskAction::addSingleTasks(Backups &current) const
+{
+    const KWDocument &document = *this->document();
+    current.taskIds = m_backups->taskIds;
+    current.assignmentIds = m_backups->assignmentIds;
+    for (const UndoItemData &backup : m_backups->tasks) {
+        // A task that is not there keeps its record for another time.
+        const KWTaskInfo *task = document.getTaskInfoByID(backup.ID);
+        current.tasks.push_back(task ? valuesOf(document, *task) : backup);
+    }
+    for (const UndoTaskResources &backup : m_backups->assignments) {
+        const KWTaskInfo *task = document.getTaskInfoByID(backup.taskID);
+        current.assignments.push_back(task ? assignmentsOf(*task) : backup);
+    }
+}
+
+namespace {
+
+void restoreAllTasks(KWDocument &document, const TaskSnapshot &backup, const TaskSnapshot &current)
+{
+    KWTaskCollection &collection = *document.taskCollection();
+    const KWTaskInfo *active = collection.getTaskInfoActive();
+    const quint32 activeId = active ? active->ID.value() : 0;
+    collection.setTaskInfoActive(nullptr);
+    backup.restore(document, current);
+    if (active)
+        collection.setTaskInfoActive(document.getTaskInfoByID(activeId));
+}
+
+void restoreNames(KWDocument &document, const std::vector<UndoEditResourceName> &backups,
+                  const std::vector<UndoEditResourceName> &current, bool withAssignments)
+{
+    for (std::size_t i = 0; i < backups.size(); ++i) {
+        const UndoEditResourceName &backup = backups[i];
+        if (ResourceInfo *info = document.resourceInfoData()->getResourceInfoByID(backup.ID))
+            info->name = backup.name;
+        if (withAssignments && current[i].name != backup.name)
+            document.replaceTaskResourceName(current[i].name, backup.name);
+    }
+}
+}
+
+void TaskAction::restore(const Backups &backups, const Backups &current)
+{
+    KWDocument &document = *this->document();
+    if (backups.chart)
+        optionbackup::restore(document, *backups.chart);
+    if (backups.options)
+        optionbackup::restore(document, *backups.options);
+    if (backups.columns)
+        setColumns(*backups.columns, *document.rowColumnData());
+    if (backups.allTasks)
+        restoreAllTasks(document, *backups.allTasks, *current.allTasks);
+
+    // Every task has its own assignments back already; else the sheet's come first, and those of single
+    // tasks, which are exact, last.
+    const bool withTasks = !backups.allTasks;
+    if (backups.sheet)
+        sheetbackup::restore(document, *backups.sheet, *current.sheet, withTasks);
+    else
+        sheetbackup::restore(document, backups.entries, current.entries, withTasks);
+    const bool renamesAssignments = withTasks && !backups.sheet && backups.entries.empty();
+    restoreNames(document, backups.names, current.names, renamesAssignments);
+    if (withTasks) {
+        for (const UndoTaskResources &backup : backups.assignments) {
+            KWTaskInfo *task = document.getTaskInfoByID(backup.taskID);
+            if (!task)
+                continue;
+            task->clearResources();
+            for (const Resource &resource : backup.resources)
+                task->resourceList.append(new Resource(resource));
+        }
+        for (const UndoItemData &backup : backups.tasks) {
+            if (KWTaskInfo *task = document.getTaskInfoByID(backup.ID)) {
+                task->setUndoVal(&backup);
+                document.rowColumnData()->setUndoRowVal(&backup);
+            }
+        }
+    } else {
+        document.actionManager().setSnapshot(*backups.allTasks);
+        document.taskCollection()->updateRageAndTaskPoint();
+    }
+}

@@ -1,0 +1,55 @@
+#pragma once
+#include "editing/kwopeaction.h"
+#include "editing/undoitems.h"
+#include <memory>
+
+class KWTaskInfo;
+
+// The undoable edit: backups of what it changes, each kind optional.
+//
+// A recorder is called before the change. Of what is recorded twice the first backup stays, null is ignored.
+// Costs belong to the tasks: whoever changes rates records the tasks that they reach as well.
+class KWGANTT_EXPORT TaskAction : public KWOpeAction
+{
+public:
+    TaskAction(KWDocument *document, const QString &name, unsigned int type);
+    ~TaskAction() override;
+
+    bool execute() override { return unExecute(); }
+    bool unExecute() override; // false without a document
+    unsigned int type() const { return m_type; }
+
+    // ---- Recorders ----------------------------------------------------------------------------------------
+    void addChangeTaskInfo(KWTaskInfo *task); // all values of one task but its assignments
+    bool isExist(quint32 taskID) const;       // whether the values of that task are recorded
+    void addTaskInfoHyperlink(KWTaskInfo *task);
+    void addTaskAllResources(KWTaskInfo *task); // all assignments of one task
+    // What a change of the task can push, and the summaries above all of these: values, assignments, scale.
+    void backupAffected(KWTaskInfo *task);
+    // Every task with all that belongs to it. An action that has this leaves single tasks aside.
+    void backupAllTaskData();
+    void backupAllColData();
+    void addDocResource(ResourceInfo *info); // one entry of the sheet with its assignments
+    void backupAllDocResources();            // the whole sheet and every task's assignments
+    void addEditTaskResourceName(ResourceInfo *info);
+    void backupAllOption(); // calendars, working time, options
+
+    // The assignments of an entry's name on all tasks, in document order; appended.
+    void getAllContainResrourceTask(const ResourceInfo *info, QVector<UndoResource> &assignments) const;
+
+    void clearUndoItemDatas();
+    void clearUndoColDatas();
+    void clearUndoDocResources();
+
+    // Exchanges every backup with the document's state. Only a backup of every task refreshes the chart.
+    bool swapData();
+
+private:
+    struct Backups;
+    Backups now() const;
+    void addSingleTasks(Backups &current) const;
+    void restore(const Backups &backups, const Backups &current);
+
+    unsigned int m_type;
+    std::unique_ptr<Backups> m_backups;
+};

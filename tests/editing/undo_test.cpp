@@ -1,0 +1,303 @@
+// The stacks of actions, and what each kind of backup brings back.
+#include "editing/taskaction.h"
+#include "model/kwtaskinfo.h"
+#include "resources/resource.h"
+#include "resources/resourceinfodata.h"
+#include "schedule/kwcalendar.h"
+#include "schedule/kwtaskcollection.h"
+#include "support/casename.h"
+#include "support/project.h"
+#include "support/savedtext.h"
+#include "table/rowcolumndata.h"
+#include <functional>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int editType = 7;
+constexpr bool clearRedo = true;
+
+class Undo : public testing::Test
+{
+protected:
+    Undo()
+    {
+        ActionManager::s_undoString[editType] = QStringLiteral("Edit");
+        KWDocument::s_config = KWConfig();
+    }
+};
+
+// ---- Stacks -----------------------------------------------------------------------------------------------
+
+// Writes down what becomes of it.
+class Traced : public KWOpeAction
+{
+public:
+    Traced(const char *name, std::string &trace, bool succeeds = true)
+        : KWOpeAction(nullptr, QString::fromUtf8(name))
+        , m_trace(trace)
+        , m_succeeds(succeeds)
+    {
+    }
+    ~Traced() override { note("~"); }
+    bool execute() override { return note(" redo "); }
+    bool unExecute() override { return note(" undo "); }
+
+private:
+    bool note(const char *what)
+    {
+        m_trace += what + name().toStdString();
+        return m_succeeds;
+    }
+    std::string &m_trace;
+    bool m_succeeds;
+};
+
+TEST_F(Undo, stacksKeepTheirOrderAndTheirDepth)
+{
+    KWDocument::s_config.setValue(QStringLiteral("UndoLevel"), 3);
+    std::string trace;
+    KWDocument document;
+    ActionManager &actions = document.actionManager();
+    for (const char *name : {"a", "b", "c", "d"})
+        actions.addUndoAction(new Traced(name, trace), clearRedo);
+    actions.addUndoAction(nullptr, clearRedo);
+    EXPECT_EQ(trace, "~a");
+    EXPECT_EQ(actions.undoActionNames().join(QString()), QStringLiteral("dcb"));
+    EXPECT_TRUE(document.isModified());
+
+    trace.clear();
+    document.setModified(false);
+    actions.undo(0);
+    actions.undo(-1);
+    EXPECT_EQ(trace, "");
+    EXPECT_FALSE(document.isModified());
+    actions.undo(5);
+    EXPECT_EQ(trace, " undo d undo c undo b");
+    EXPECT_TRUE(document.isModified());
+    actions.redo();
+    actions.redo();
+    EXPECT_EQ(actions.undoActionNames().join(QString()), QStringLiteral("cb"));
+    EXPECT_EQ(actions.redoActions().size(), 1);
+
+    trace.clear();
+    actions.addUndoAction(new Traced("e", trace, false), clearRedo);
+    actions.undo(1);
+    EXPECT_EQ(trace, "~d undo e~e");
+    EXPECT_TRUE(actions.redoActions().isEmpty());
+    actions.redo();
+    EXPECT_EQ(actions.undoActions().size(), 2);
+}
+
+TEST_F(Undo, recordsOneActionAtATime)
+{
+    KWTaskInfo stray;
+    ActionManager::addChangeTaskInfo(&stray);
+    ActionManager::addUndoAction();
+    auto document = std::make_unique<KWDocument>();
+    ActionManager &actions = document->actionManager();
+    ActionManager::preUndoAction(document.get(), editType + 1, 0); // has no name
+    ActionManager::preUndoAction(nullptr, editType, 0);
+    EXPECT_EQ(ActionManager::pendingAction(), nullptr);
+    ActionManager::preUndoAction(document.get(), editType, 1);
+    ActionManager::preUndoAction(document.get(), editType, 2);
+    ActionManager::addChangeTaskInfo(nullptr);
+    ActionManager::addUndoAction();
+    ActionManager::addUndoAction();
+    ASSERT_EQ(actions.undoActions().size(), 1);
+    EXPECT_EQ(static_cast<TaskAction *>(actions.undoActions().first())->type(), 2u);
+    // Nothing was recorded, so nothing changes, and that succeeds.
+    actions.undo(1);
+    EXPECT_EQ(actions.redoActions().size(), 1);
+    ActionManager::preUndoAction(document.get(), editType, 0);
+    document.reset();
+    EXPECT_EQ(ActionManager::pendingAction(), nullptr);
+}
+
+// ---- Kinds of backups -------------------------------------------------------------------------------------
+
+struct EditCase
+{
+    const char *name;
+    std::function<void(KWDocument &)> record;
+    std::function<void(KWDocument &)> edit;
+};
+
+class UndoneEdits : public Undo, public testing::WithParamInterface<EditCase>
+{
+protected:
+    UndoneEdits()
+        : m_project("Mon-Fri 8-12 13-17", "Build\n"
+                                          "  Walls 2d\n"
+                                          "  Roof 3d after Walls\n"
+                                          "Paint 2d after Roof\n"
+                                          "Clean 1d after Paint\n")
+    {
+        for (int type = 0; type < 24; ++type)
+            RowColumnData::s_columnNames.insert(type, QStringLiteral("Column ") + QString::number(type));
+        KWDocument &document = m_project.document();
+        document.rowColumnData()->initColumnDataList();
+        for (const char *name : {"Ann", "Bob"}) {
+            auto *info = new ResourceInfo;
+            info->name = QString::fromUtf8(name);
+            info->ID = document.resourceInfoData()->maxID();
+            info->cost = 10 + info->ID;
+            document.resourceInfoData()->appendResourceInfo(info);
+        }
+        for (const auto &[task, name] :
+             {std::pair{"Walls", "Bob"}, {"Walls", "Ann"}, {"Roof", "Ann"}, {"Paint", "Bob"}})
+            m_project.task(task).addOrDelResourceByName(&document, QString::fromUtf8(name), true);
+        document.rowColumnData()->setRowHeights({30, 37.5, 30, 12.25, 30});
+        m_project.task("Roof").hyperlinks.autoAddHyperlink();
+        m_project.task("Paint").Resources = QStringLiteral("as a file had it");
+        document.calendars.append(new KWCalendar);
+        document.calendars.first()->dayTimes.append(new KWDayTime(0, 3600));
+        document.taskCollection()->updateTaskCollection();
+        document.taskCollection()->setTaskInfoActive(&m_project.task("Paint"));
+    }
+    Project m_project;
+};
+
+TEST_P(UndoneEdits, comeBackAndGoAgain)
+{
+    KWDocument &document = m_project.document();
+    const std::string before = savedText(document);
+    ActionManager::preUndoAction(&document, editType, 0);
+    GetParam().record(document);
+    GetParam().edit(document);
+    GetParam().record(document); // twice: the first backup stays
+    ActionManager::addUndoAction();
+    const std::string after = savedText(document);
+    ASSERT_NE(before, after);
+    for (int round = 0; round < 2; ++round) {
+        document.actionManager().undo(1);
+        EXPECT_EQ(savedText(document), before);
+        const KWTaskInfo *active = document.taskCollection()->getTaskInfoActive();
+        EXPECT_TRUE(active && active->Name == QLatin1String("Paint"));
+        document.actionManager().redo();
+        EXPECT_EQ(savedText(document), after);
+    }
+}
+
+void recordAll(KWDocument &)
+{
+    ActionManager::backAllTaskData();
+}
+
+ResourceInfo &ann(KWDocument &document)
+{
+    return *document.resourceInfoData()->infos[0];
+}
+
+void recordAnn(KWDocument &document)
+{
+    if (!document.resourceInfoData()->infos.isEmpty())
+        ActionManager::addDocResource(&ann(document));
+}
+
+void recordSheet(KWDocument &)
+{
+    ActionManager::backupAllDocResources();
+}
+
+void recordSecond(KWDocument &document)
+{
+    ActionManager::addChangeTaskInfo(document.getTaskInfoAt(1));
+    ActionManager::addTaskAllResources(document.getTaskInfoAt(1));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, UndoneEdits,
+    testing::Values(
+        EditCase{"valuesOfATask", recordSecond,
+                 [](KWDocument &document) {
+                     KWTaskInfo &task = *document.getTaskInfoAt(1);
+                     task.Start = 0xfffffff0;
+                     task.Notes = QStringLiteral("damp");
+                     task.Priority = -3;
+                     task.font.setItalic(true);
+                     task.hyperlinks.autoAddHyperlink();
+                     document.rowColumnData()->replaceRowHeight(1, 41.125);
+                     task.getResourceAt(0)->percent = 0.25;
+                     task.deleteResourceByID(1);
+                 }},
+        EditCase{"aChangeWithAllItPushes",
+                 [](KWDocument &document) { ActionManager::backupAffected(document.getTaskInfoAt(1)); },
+                 [](KWDocument &document) {
+                     document.getTaskInfoAt(1)->stretch(&document, document.getTaskInfoAt(1)->x2 + 500, true);
+                     document.taskCollection()->updateOptionTaskTime();
+                 }},
+        EditCase{"anOutlineEdit", recordAll,
+                 [](KWDocument &document) {
+                     document.removeTaskByRow(1);
+                     document.insertTaskByRow(1);
+                     document.getTaskInfoByRow(1)->stretch(&document, 9000, true); // zooms out
+                     document.taskCollection()->updateTaskCollection();
+                 }},
+        EditCase{"anIdAndSingleTasksWithTheList",
+                 [](KWDocument &document) {
+                     recordAll(document);
+                     recordSecond(document);
+                 },
+                 [](KWDocument &document) {
+                     document.getTaskInfoAt(1)->Name = QStringLiteral("Fence");
+                     document.getTaskInfoAt(4)->ID = 77;
+                 }},
+        EditCase{"assignmentsInPlaceWithTheList", recordAll,
+                 [](KWDocument &document) { document.getTaskInfoAt(2)->getResourceAt(0)->percent = 0.5; }},
+        EditCase{"columns", [](KWDocument &) { ActionManager::backupAllColData(); },
+                 [](KWDocument &document) {
+                     document.rowColumnData()->moveColumnDataList(0, 3);
+                     document.rowColumnData()->setAllColDataHide();
+                 }},
+        EditCase{"fewerColumns", [](KWDocument &) { ActionManager::backupAllColData(); },
+                 [](KWDocument &document) { document.rowColumnData()->clearColDataList(); }},
+        EditCase{"ratesOfAnEntry", recordAnn,
+                 [](KWDocument &document) {
+                     ann(document).costPer = 5;
+                     for (KWTaskInfo *task : document.taskList()) {
+                         if (Resource *assigned = task->getResourceByName(ann(document).name))
+                             assigned->costPer = 5;
+                     }
+                 }},
+        EditCase{"anEntryThatGoesWithItsAssignments", recordAnn,
+                 [](KWDocument &document) {
+                     for (KWTaskInfo *task : document.taskList())
+                         task->deleteResourceByID(ann(document).ID);
+                     document.resourceInfoData()->deleteResourceByName(ann(document).name);
+                 }},
+        EditCase{"aRenameToTheNameOfAnother",
+                 [](KWDocument &document) {
+                     recordAnn(document);
+                     for (int pos = 0; pos < 3; ++pos) // their costs and texts change
+                         ActionManager::addChangeTaskInfo(document.getTaskInfoAt(pos));
+                 },
+                 [](KWDocument &document) {
+                     document.replaceTaskResourceName(ann(document).name, QStringLiteral("Bob"));
+                     ann(document).name = QStringLiteral("Bob");
+                 }},
+        EditCase{"aRename",
+                 [](KWDocument &document) { ActionManager::addEditTaskResourceName(&ann(document)); },
+                 [](KWDocument &document) {
+                     document.replaceTaskResourceName(ann(document).name, QStringLiteral("Anna"));
+                     ann(document).name = QStringLiteral("Anna");
+                 }},
+        EditCase{"theSheet", recordSheet,
+                 [](KWDocument &document) {
+                     document.resourceInfoData()->clearResourceInfoData();
+                     document.resourceInfoData()->appendResourceInfo(new ResourceInfo);
+                     document.getTaskInfoAt(2)->clearResources();
+                     document.getTaskInfoAt(4)->resourceList.append(new Resource);
+                 }},
+        EditCase{"calendarsAndOptions", [](KWDocument &) { ActionManager::backupAllOption(); },
+                 [](KWDocument &document) {
+                     document.WorkDay[5] = true;
+                     document.workTimes.last()->finish = 64800;
+                     document.calendars.first()->dayTimes.append(new KWDayTime(7200, 10800));
+                     document.calendars.append(new KWCalendar);
+                     document.BaselineCost = 0.1;
+                     document.UnitWidth = 55;
+                     document.Auto = true;
+                 }}),
+    caseName<EditCase>);
+}
