@@ -1,7 +1,7 @@
 #include "kwzip.h"
 #include "kwfilepathmanager.h"
 #include "support/atomicfile.h"
-#include "support/kwziplimits.h"
+#include "support/kwlimits.h"
 #include "support/ziprules.h"
 #include "zipnulscan.h"
 #include <QDir>

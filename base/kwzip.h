@@ -11,7 +11,7 @@ public:
     static bool zip(const QString &archive, const QString &folder);
     // Unpacks into an existing folder. Refuses the whole archive, before anything is written, when an entry
     // would leave the folder, is no plain file or folder, stands there twice, or goes past a limit of
-    // kwziplimits.h.
+    // kwlimits.h.
     static bool unZip(const QString &archive, const QString &folder);
     // What the last call that returned false found wrong; empty after a success.
     static QString lastError();

@@ -1,5 +1,5 @@
 #include "xmlparser.h"
-#include "support/kwziplimits.h"
+#include "support/kwlimits.h"
 #include "runinglog.h"
 #include "support/atomicfile.h"
 #include "support/xmlguard.h"
@@ -22,7 +22,7 @@ bool XmlParser::loadFile(const QString &path, QDomDocument &document)
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return false;
-    if (file.size() > kwzip::maxEntryBytes)
+    if (file.size() > xmlguard::maxDomBytes)
         return refuse(path, QStringLiteral("too large"));
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)

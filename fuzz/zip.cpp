@@ -2,7 +2,7 @@
 // again.
 #include "fuzz.h"
 #include "kwzip.h"
-#include "support/kwziplimits.h"
+#include "support/kwlimits.h"
 #include <QDirIterator>
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,5 +1,5 @@
 #pragma once
-#include "support/kwziplimits.h"
+#include "support/kwlimits.h"
 #include "support/xmltree.h"
 #include <QList>
 #include <memory>

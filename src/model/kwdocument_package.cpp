@@ -5,7 +5,7 @@
 #include "kwzip.h"
 #include "model/kwdocument_xml.h"
 #include "runinglog.h"
-#include "support/kwziplimits.h"
+#include "support/kwlimits.h"
 #include "support/xmlsink.h"
 #include "support/xmltree.h"
 #include "support/ziprules.h"

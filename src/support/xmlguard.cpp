@@ -28,6 +28,7 @@ private:
     const char *m_at;
     const char *const m_end;
     int m_depth = 0;
+    int m_nodes = 0;
     QString m_error;
 };
 
@@ -64,11 +65,15 @@ bool Scan::run()
         m_at = next;
         if (!markup())
             return false;
+        if (m_nodes > xmlguard::maxNodes)
+            return fail("there are too many elements and attributes");
     }
 }
 
 bool Scan::markup()
 {
+    if (!startsWith("</"))
+        ++m_nodes;
     if (startsWith("<!--")) {
         m_at += 4;
         return skipPast("-->", "a comment does not end");
@@ -126,6 +131,7 @@ bool Scan::tag()
             return fail("an attribute value does not end");
         }
         p = close;
+        ++m_nodes;
     }
     return fail("a tag does not end");
 }

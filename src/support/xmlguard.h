@@ -1,4 +1,5 @@
 #pragma once
+#include "support/kwlimits.h"
 #include <QByteArray>
 #include <QString>
 
@@ -6,12 +7,11 @@
 // The base library is built from this file too, so it knows nothing but Qt.
 namespace xmlguard {
 
-constexpr int maxDepth = 100;
-
-// One linear scan: refuses a DOCTYPE, elements nested deeper than maxDepth, text that is not sound UTF-8,
-// characters that XML cannot carry at all (NUL, U+FFFE, U+FFFF), and tags that are never closed. Not a
-// parser: text it accepts may still be no XML. Hand it to the parser decoded as UTF-8, since an encoding
-// named in the text could show the parser other characters than those seen here.
+// One linear scan: refuses a DOCTYPE, elements nested deeper than maxDepth, more than maxNodes elements and
+// attributes, text that is not sound UTF-8, characters that XML cannot carry at all (NUL, U+FFFE, U+FFFF),
+// and tags that are never closed. Not a parser: text it accepts may still be no XML. Hand it to the parser
+// decoded as UTF-8, since an encoding named in the text could show the parser other characters than those
+// seen here.
 bool isSafe(const QByteArray &text, QString *error = nullptr);
 // The text without what XML 1.0 cannot carry: control characters but tab, newline and return, U+FFFE, U+FFFF
 // and lone surrogates. Unchanged (shared) when there is nothing to remove.

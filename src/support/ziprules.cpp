@@ -1,5 +1,5 @@
 #include "support/ziprules.h"
-#include "support/kwziplimits.h"
+#include "support/kwlimits.h"
 #include <cctype>
 #include <climits>
 

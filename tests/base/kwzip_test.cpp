@@ -1,5 +1,5 @@
 #include "kwzip.h"
-#include "support/kwziplimits.h"
+#include "support/kwlimits.h"
 #include "support/filesizelimit.h"
 #include "support/folder.h"
 #include "support/rawzip.h"
