@@ -1,4 +1,5 @@
 #include "exchange/XLSXDataBase.h"
+#include "exchange/xlsxsheet.h"
 #include "support/xmlguard.h"
 
 QStringList XLSXDataBase::s_xmlNameList;
@@ -59,18 +60,8 @@ QStringList XLSXDataBase::sheetNames()
 
 int XLSXDataBase::convertCharToNum(const QString &reference)
 {
-    constexpr int maxLetters = 2;
-    constexpr int letters = 26;
-    int number = 0;
-    int count = 0;
-    for (const QChar unit : reference) {
-        if (unit >= QLatin1Char('0') && unit <= QLatin1Char('9'))
-            continue;
-        if (unit < QLatin1Char('A') || unit > QLatin1Char('Z') || ++count > maxLetters)
-            return 0;
-        number = number * letters + (unit.unicode() - 'A' + 1);
-    }
-    return number;
+    const QByteArray bytes = reference.toUtf8();
+    return xlsx::columnOf(bytes.constData(), bytes.size());
 }
 
 XLSXDataBase::XLSXDataBase(KWDocument *document)

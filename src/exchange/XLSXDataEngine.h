@@ -3,6 +3,7 @@
 #include <QDomDocument>
 #include <QDomElement>
 #include <QDomNodeList>
+#include <QMap>
 
 class KWTaskInfo;
 namespace planexport {
@@ -50,8 +51,11 @@ public:
     // False leaves the document as it was: no archive, or no title of the task sheet is known.
     bool importData(const QString &path);
 
-    // Passes the number formats of an unpacked package to parseFormatType.
+    // Passes the number formats of an unpacked package to parseFormatType. False when the part cannot be
+    // read.
     bool parseStylesXml(const QString &folder);
+    // The formats of dates and times among them, by their id.
+    const QMap<int, QString> &dateFormats() const { return m_dateFormats; }
     // The date-time format in Qt's letters; empty for a format that shows no date or time.
     static QString parseFormatType(const QString &formatCode);
     // Reads the worksheets of a folder that ends with "/", in the order of their numbers.
@@ -73,5 +77,6 @@ private:
     int titleStyle() const;
 
     bool m_isRich = false;
+    QMap<int, QString> m_dateFormats;
     int m_titleCount = 0; // of the sheet being written
 };

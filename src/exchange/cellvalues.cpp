@@ -39,7 +39,9 @@ std::optional<double> number(const Cell &cell)
 {
     if (!cell.isNumber)
         return numberOfText(cell.text);
-    return cell.text.size() > maxUnits ? std::nullopt : finite(cell.text.toDouble());
+    bool isNumber = false;
+    const double value = cell.text.toDouble(&isNumber);
+    return isNumber ? finite(value) : std::nullopt;
 }
 
 std::optional<qint64> whole(const Cell &cell)

@@ -1,0 +1,186 @@
+// A workbook read back into a plan.
+#include "exchange/XLSXDataEngine.h"
+#include "exchange/planimport.h"
+#include "exchange/xlsxsheet.h"
+#include "kwtemporarydir.h"
+#include "kwzip.h"
+#include "model/kwdocument.h"
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <memory>
+
+using exceltitles::Sheet;
+
+namespace {
+
+// A folder that goes with the object.
+class UnpackedBook
+{
+public:
+    UnpackedBook()
+        : m_fallback(m_folder.isValid() ? nullptr : new KWTemporaryDir)
+    {
+    }
+    QString path() const { return (m_fallback ? m_fallback->path() : m_folder.path()) + QLatin1Char('/'); }
+    bool unpack(const QString &archive) { return KWZip::unZip(archive, path()); }
+
+private:
+    QTemporaryDir m_folder;
+    const std::unique_ptr<KWTemporaryDir> m_fallback;
+};
+
+const QString worksheets = QStringLiteral("xl/worksheets/");
+
+// The sheets of a folder, ready to be read.
+class OpenSheets
+{
+public:
+    // The strings must outlive the object.
+    OpenSheets(const QString &folder, const QStringList &strings, Findings &findings)
+    {
+        const auto count = std::size_t(exceltitles::SheetCount);
+        for (const QString &file : xlsx::sheetFiles(folder)) {
+            if (m_sources.size() == count)
+                break;
+            QString error;
+            auto source = std::make_unique<xlsx::SheetSource>(xlsx::readPart(folder + file, &error), strings);
+            if (!error.isEmpty())
+                findings.add(file, error, QStringLiteral("not read"));
+            // Other XML among the sheets is none, a sheet that is spoilt is one all the same.
+            if (source->isWorksheet() || !source->error().isEmpty())
+                m_sources.push_back(std::move(source));
+        }
+        for (std::size_t sheet = 0; sheet < m_sources.size(); ++sheet)
+            m_book.sheets[sheet] = m_sources[sheet].get();
+        // The part that says it stands one folder up.
+        m_book.is1904 = xlsx::is1904(xlsx::readPart(folder + QLatin1String("../workbook.xml"), nullptr));
+    }
+    const planimport::Book &book() const { return m_book; }
+
+private:
+    std::vector<std::unique_ptr<xlsx::SheetSource>> m_sources;
+    planimport::Book m_book;
+};
+
+void importRows(KWDocument *document, Sheet sheet, bool hasRows, const QDomNodeList &rowNodes,
+                const QStringList &strings, Findings &findings)
+{
+    if (!document || !hasRows || rowNodes.isEmpty())
+        return;
+    constexpr bool is1904 = false;
+    xlsx::DomSheetSource source(rowNodes, strings);
+    planimport::importSheet(*document, sheet, source, is1904, &findings);
+}
+}
+
+bool XLSXDataEngine::initExcelTitles(const QString &path)
+{
+    UnpackedBook unpacked;
+    m_findings.clear();
+    if (!unpacked.unpack(path)) {
+        m_findings.add(path, KWZip::lastError());
+        return false;
+    }
+    praserShareStrXml(unpacked.path());
+    if (m_document)
+        planimport::readTitles(*m_document,
+                               OpenSheets(unpacked.path() + worksheets, m_sharedStrings, m_findings).book());
+    return true;
+}
+
+bool XLSXDataEngine::importData(const QString &path)
+{
+    UnpackedBook unpacked;
+    m_findings.clear();
+    if (!unpacked.unpack(path)) {
+        m_findings.add(path, KWZip::lastError(), QStringLiteral("nothing imported"));
+        return false;
+    }
+    praserShareStrXml(unpacked.path());
+    parseStylesXml(unpacked.path());
+    return praserSheetXml(unpacked.path() + worksheets, m_sharedStrings);
+}
+
+bool XLSXDataEngine::praserSheetXml(const QString &folder, const QStringList &sharedStrings)
+{
+    if (!m_document)
+        return false;
+    const OpenSheets sheets(folder, sharedStrings, m_findings);
+    return planimport::importBook(*m_document, sheets.book(), &m_findings);
+}
+
+void XLSXDataEngine::createDocTaskInfo(int, int columns, const QDomNodeList &rowNodes,
+                                       const QStringList &sharedStrings)
+{
+    importRows(m_document, exceltitles::TaskSheet, columns > 0, rowNodes, sharedStrings, m_findings);
+}
+
+void XLSXDataEngine::createDocResource(int rows, int columns, const QDomNodeList &rowNodes,
+                                       const QStringList &sharedStrings)
+{
+    importRows(m_document, exceltitles::ResourceSheet, rows > 0 && columns > 0, rowNodes, sharedStrings,
+               m_findings);
+}
+
+void XLSXDataEngine::createWorkAssign(int rows, int columns, const QDomNodeList &rowNodes,
+                                      const QStringList &sharedStrings)
+{
+    importRows(m_document, exceltitles::AssignmentSheet, rows > 0 && columns > 0, rowNodes, sharedStrings,
+               m_findings);
+}
+
+void XLSXDataEngine::updateTaskInfoParentID(KWTaskInfo *task)
+{
+    if (m_document && task)
+        planimport::placeByLevel(*m_document, *task);
+}
+
+// ---- Number formats ---------------------------------------------------------------------------------------
+
+bool XLSXDataEngine::parseStylesXml(const QString &folder)
+{
+    m_dateFormats.clear();
+    QList<QPair<int, QString>> codes;
+    const bool isRead =
+        xlsx::readNumberFormats(xlsx::readPart(folder + (folder.endsWith(QLatin1Char('/')) ? "" : "/") +
+                                                   QLatin1String("xl/styles.xml"),
+                                               nullptr),
+                                codes);
+    for (const auto &[id, code] : qAsConst(codes)) {
+        const QString format = parseFormatType(code);
+        if (!format.isEmpty())
+            m_dateFormats.insert(id, format);
+    }
+    return isRead;
+}
+
+QString XLSXDataEngine::parseFormatType(const QString &formatCode)
+{
+    static const QString plainDate = QStringLiteral("yyyy-MM-dd");
+    static const QRegularExpression dateCode(QStringLiteral(
+        "[yY]{2}|\\bm\\b|\\bmm\\b|\\bmmm\\b|h:mm|hh|ss|\\[\\$-F800\\]|\\[\\$-804\\]|\\[\\$-F400\\]"));
+    static const QRegularExpression localeTag(QStringLiteral("^\\[\\$-.*\\]"));
+    static const QRegularExpression monthWords[] = {QRegularExpression(QStringLiteral("\\bm\\b")),
+                                                    QRegularExpression(QStringLiteral("\\bmmm\\b")),
+                                                    QRegularExpression(QStringLiteral("\\bmmmm\\b"))};
+    static const QString months[] = {QStringLiteral("M"), QStringLiteral("MMM"), QStringLiteral("MMMM")};
+    // Kept on purpose: minutes are told by a colon beside them and by nothing else.
+    static const QRegularExpression monthDigits(QStringLiteral("(?<!:)mm(?!:)"));
+
+    if (formatCode.contains(QChar(0x5e74))) // 年, year
+        return plainDate;
+    if (!formatCode.contains(dateCode))
+        return QString();
+    if (formatCode.contains(QChar(0x6708)) || formatCode.contains(QChar(0x65e5))) // 月 month, 日 day
+        return plainDate;
+    QString format = formatCode;
+    format.remove(localeTag);
+    format.replace(QLatin1String("AM/PM"), QLatin1String("ap"), Qt::CaseInsensitive);
+    format.remove(QLatin1String(";@"));
+    format.remove(QLatin1Char('\\'));
+    for (std::size_t i = 0; i < std::size(months); ++i)
+        format.replace(monthWords[i], months[i]);
+    if (format != QLatin1String("mm"))
+        format.replace(monthDigits, QStringLiteral("MM"));
+    return format;
+}

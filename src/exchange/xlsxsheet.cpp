@@ -1,0 +1,384 @@
+#include "exchange/xlsxsheet.h"
+#include "support/kwziplimits.h"
+#include "support/xmlguard.h"
+#include <QDir>
+#include <QDomElement>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+
+using sheetrows::Cell;
+using sheetrows::Row;
+
+namespace xlsx {
+namespace {
+
+bool isDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+// The number that a row gives itself; the one after the row before for all other texts.
+int rowNumberOf(const QByteArray &text, int before)
+{
+    bool isNumber = false;
+    const int number = text.toInt(&isNumber);
+    return isNumber && number > 0 ? number : before + 1;
+}
+
+bool looksLikeNumber(const QString &text)
+{
+    bool hasDigit = false;
+    for (const QChar sign : text) {
+        const ushort c = sign.unicode();
+        if (c >= '0' && c <= '9')
+            hasDigit = true;
+        else if (c != '.' && c != '-' && c != '+' && c != 'e' && c != 'E')
+            return false;
+    }
+    return hasDigit;
+}
+
+// "2026-03-16T08:00:00.000Z" as the program's date texts are written.
+QString plainDate(const QString &text)
+{
+    constexpr int length = 19;
+    QString plain = text.left(length);
+    const int timeAt = plain.indexOf(QLatin1Char('T'));
+    if (timeAt >= 0)
+        plain[timeAt] = QLatin1Char(' ');
+    return plain.endsWith(QLatin1Char('Z')) ? plain.chopped(1) : plain;
+}
+
+// sheet2 stands before sheet10.
+struct NumberedName
+{
+    QString stem;
+    int number = -1;
+    QString name;
+
+    explicit NumberedName(const QString &file)
+        : name(file)
+    {
+        stem = QFileInfo(file).completeBaseName();
+        int digits = 0;
+        while (digits < stem.size() && stem.at(stem.size() - 1 - digits).isDigit())
+            ++digits;
+        bool isNumber = false;
+        const int read = stem.right(digits).toInt(&isNumber);
+        if (isNumber) {
+            number = read;
+            stem.chop(digits);
+        }
+    }
+    bool operator<(const NumberedName &other) const
+    {
+        return std::tie(stem, number, name) < std::tie(other.stem, other.number, other.name);
+    }
+};
+}
+
+int columnOf(const char *reference, int size)
+{
+    constexpr int maxLetters = 2;
+    constexpr int letters = 26;
+    int column = 0;
+    int count = 0;
+    for (const char *at = reference; at != reference + size; ++at) {
+        if (isDigit(*at))
+            continue;
+        if (*at < 'A' || *at > 'Z' || ++count > maxLetters)
+            return 0;
+        column = column * letters + (*at - 'A' + 1);
+    }
+    return column;
+}
+
+// ---- Parts ------------------------------------------------------------------------------------------------
+
+QByteArray readPart(const QString &path, QString *error)
+{
+    QFile file(path);
+    const auto fail = [error](const QString &what) {
+        if (error)
+            *error = what;
+        return QByteArray();
+    };
+    if (!QFileInfo(path).isFile())
+        return fail(QStringLiteral("there is no such part"));
+    if (file.size() > kwzip::maxEntryBytes)
+        return fail(QStringLiteral("the part is too large"));
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(file.errorString());
+    return XmlPull::toUtf8(file.readAll());
+}
+
+QString withoutEscapes(const QString &text)
+{
+    constexpr int escapeLength = 7; // _x000D_
+    const QLatin1String mark("_x00");
+    int at = text.indexOf(mark);
+    if (at < 0)
+        return text;
+    QString plain = text.left(at);
+    while (at < text.size()) {
+        bool isNumber = false;
+        const QStringRef part = text.midRef(at, escapeLength);
+        const ushort code = part.startsWith(mark) && part.endsWith(QLatin1Char('_'))
+                                ? part.mid(2, 4).toUShort(&isNumber, 16)
+                                : 0;
+        constexpr ushort escapedUnderscore = 0x5f; // before what only looks like an escape
+        constexpr ushort firstPrintable = 0x20;
+        if (isNumber && part.size() == escapeLength && (code < firstPrintable || code == escapedUnderscore)) {
+            plain += QChar(code);
+            at += escapeLength;
+        } else {
+            plain += text.at(at++);
+        }
+    }
+    return xmlguard::clean(plain);
+}
+
+bool readSharedStrings(const QByteArray &part, QStringList &strings, QString *error)
+{
+    constexpr int entryDepth = 2;
+    XmlPull xml(part);
+    QString entry;
+    for (XmlPull::Token token = xml.next(); token != XmlPull::Finished; token = xml.next()) {
+        if (token == XmlPull::Failed) {
+            if (error)
+                *error = xml.error();
+            return false;
+        }
+        if (token == XmlPull::Begin && xml.depth() == entryDepth) {
+            if (xml.is("si"))
+                entry.clear();
+            else
+                xml.skip();
+        } else if (token == XmlPull::Begin && xml.is("rPh")) {
+            xml.skip();
+        } else if (token == XmlPull::Begin && xml.is("t")) {
+            const QString text = xml.textOfElement();
+            entry = entry.isEmpty() ? text : entry + text;
+        } else if (token == XmlPull::End && xml.depth() == entryDepth) {
+            strings.append(withoutEscapes(entry));
+        }
+    }
+    return true;
+}
+
+bool is1904(const QByteArray &part)
+{
+    XmlPull xml(part);
+    XmlPull::Token token = xml.next();
+    while (token != XmlPull::Finished && token != XmlPull::Failed) {
+        if (token == XmlPull::Begin && xml.is("workbookPr")) {
+            const QString flag = xml.attribute("date1904");
+            return flag == QLatin1String("1") || flag == QLatin1String("true");
+        }
+        token = xml.next();
+    }
+    return false;
+}
+
+bool readNumberFormats(const QByteArray &part, QList<QPair<int, QString>> &formats)
+{
+    XmlPull xml(part);
+    XmlPull::Token token = xml.next();
+    while (token != XmlPull::Finished && token != XmlPull::Failed) {
+        if (token == XmlPull::Begin && xml.is("numFmt"))
+            formats.append({xml.attribute("numFmtId").toInt(), xml.attribute("formatCode")});
+        token = xml.next();
+    }
+    return token == XmlPull::Finished;
+}
+
+QStringList sheetFiles(const QString &folder)
+{
+    std::vector<NumberedName> names;
+    for (const QString &file : QDir(folder).entryList({QStringLiteral("*.xml")}, QDir::Files, QDir::Name))
+        names.emplace_back(file);
+    std::sort(names.begin(), names.end());
+    QStringList files;
+    for (const NumberedName &name : names)
+        files.append(name.name);
+    return files;
+}
+
+// ---- Cells ------------------------------------------------------------------------------------------------
+
+CellKind CellKind::of(const QByteArray &typeAttribute)
+{
+    if (typeAttribute == "s")
+        return {Shared};
+    if (typeAttribute.isEmpty() || typeAttribute == "n")
+        return {Number};
+    return {typeAttribute == "d" ? Date : Text};
+}
+
+Cell cellOf(int column, CellKind kind, const QString &value, const QStringList &strings)
+{
+    switch (kind.type) {
+    case CellKind::Shared: {
+        bool isNumber = false;
+        const int index = value.trimmed().toInt(&isNumber);
+        return {column, isNumber ? strings.value(index) : QString(), false};
+    }
+    case CellKind::Number: {
+        const QString trimmed = value.trimmed();
+        return looksLikeNumber(trimmed) ? Cell{column, trimmed, true} : Cell{column, value, false};
+    }
+    case CellKind::Date:
+        return {column, plainDate(value), false};
+    case CellKind::Text:
+        break;
+    }
+    return {column, withoutEscapes(value), false};
+}
+
+// ---- A worksheet as text ----------------------------------------------------------------------------------
+
+SheetSource::SheetSource(const QByteArray &part, const QStringList &strings)
+    : m_strings(strings)
+    , m_xml(part)
+{
+    m_isWorksheet = m_xml.next() == XmlPull::Begin && m_xml.is("worksheet");
+}
+
+bool SheetSource::next(Row &row)
+{
+    constexpr int rowDepth = 3; // in sheetData in the worksheet
+    row.cells.clear();
+    while (!m_hasEnded) {
+        const XmlPull::Token token = m_xml.next();
+        if (token == XmlPull::Begin && m_xml.depth() == rowDepth && m_xml.is("row")) {
+            m_rowNumber = row.number = rowNumberOf(m_xml.rawAttribute("r"), m_rowNumber);
+            m_column = 0;
+        } else if (token == XmlPull::Begin && m_xml.depth() == rowDepth + 1 && m_xml.is("c")) {
+            readCell(row);
+        } else if (token == XmlPull::End && m_xml.depth() == rowDepth && m_xml.is("row")) {
+            return true;
+        } else if (token == XmlPull::Begin && m_xml.depth() == 2 && !m_xml.is("sheetData")) {
+            m_xml.skip();
+        } else if (token == XmlPull::Finished || token == XmlPull::Failed) {
+            m_hasEnded = true;
+        }
+    }
+    return false;
+}
+
+void SheetSource::readCell(Row &row)
+{
+    const int cellDepth = m_xml.depth();
+    const QByteArray reference = m_xml.rawAttribute("r");
+    const bool isPlaced = m_xml.hasAttribute("r");
+    const CellKind kind = CellKind::of(m_xml.rawAttribute("t"));
+    const int column = isPlaced ? columnOf(reference.constData(), reference.size()) : m_column + 1;
+    if (column > 0)
+        m_column = column;
+
+    QString value;
+    QString inlineText;
+    bool hasValue = false;
+    bool hasInlineText = false;
+    for (XmlPull::Token token = m_xml.next(); token != XmlPull::Finished && token != XmlPull::Failed;
+         token = m_xml.next()) {
+        if (token == XmlPull::End && m_xml.depth() == cellDepth)
+            break;
+        if (token != XmlPull::Begin)
+            continue;
+        if (m_xml.is("v") && !hasValue) {
+            value = m_xml.textOfElement();
+            hasValue = true;
+        } else if (m_xml.is("is") && !hasInlineText) {
+            inlineText = readInlineText();
+            hasInlineText = true;
+        } else {
+            m_xml.skip();
+        }
+    }
+    if (column > 0 && hasInlineText)
+        row.cells.push_back({column, withoutEscapes(inlineText), false});
+    else if (column > 0 && hasValue)
+        row.cells.push_back(cellOf(column, kind, value, m_strings));
+}
+
+QString SheetSource::readInlineText()
+{
+    QString text;
+    const int depth = m_xml.depth();
+    for (XmlPull::Token token = m_xml.next(); token != XmlPull::Finished && token != XmlPull::Failed;
+         token = m_xml.next()) {
+        if (token == XmlPull::End && m_xml.depth() == depth)
+            break;
+        if (token == XmlPull::Begin && m_xml.is("t"))
+            text += m_xml.textOfElement();
+        else if (token == XmlPull::Begin && m_xml.is("rPh"))
+            m_xml.skip();
+    }
+    return text;
+}
+
+// ---- A worksheet as a DOM ---------------------------------------------------------------------------------
+
+namespace {
+
+QString localName(const QDomNode &node)
+{
+    const QString name = node.nodeName();
+    return name.mid(name.indexOf(QLatin1Char(':')) + 1);
+}
+
+QDomElement firstChild(const QDomElement &parent, const char *name)
+{
+    QDomElement child = parent.firstChildElement();
+    while (!child.isNull() && localName(child) != QLatin1String(name))
+        child = child.nextSiblingElement();
+    return child;
+}
+
+// The texts of the "t" elements, runs included.
+QString inlineTextOf(const QDomElement &inlineString)
+{
+    QString text;
+    for (QDomElement child = inlineString.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement()) {
+        if (localName(child) == QLatin1String("t"))
+            text += child.text();
+        else if (localName(child) == QLatin1String("r"))
+            text += inlineTextOf(child);
+    }
+    return text;
+}
+}
+
+bool DomSheetSource::next(Row &row)
+{
+    row.cells.clear();
+    if (m_next >= m_rows.count())
+        return false;
+    const QDomElement rowElement = m_rows.at(m_next++).toElement();
+    m_rowNumber = row.number = rowNumberOf(rowElement.attribute(QStringLiteral("r")).toLatin1(), m_rowNumber);
+    int before = 0;
+    for (QDomElement cell = rowElement.firstChildElement(); !cell.isNull();
+         cell = cell.nextSiblingElement()) {
+        if (localName(cell) != QLatin1String("c"))
+            continue;
+        const QByteArray reference = cell.attribute(QStringLiteral("r")).toUtf8();
+        const int column = cell.hasAttribute(QStringLiteral("r"))
+                               ? columnOf(reference.constData(), reference.size())
+                               : before + 1;
+        if (column < 1)
+            continue;
+        before = column;
+        const QDomElement inlineString = firstChild(cell, "is");
+        const QDomElement value = firstChild(cell, "v");
+        if (!inlineString.isNull())
+            row.cells.push_back({column, withoutEscapes(inlineTextOf(inlineString)), false});
+        else if (!value.isNull())
+            row.cells.push_back(cellOf(column, CellKind::of(cell.attribute(QStringLiteral("t")).toLatin1()),
+                                       value.text(), m_strings));
+    }
+    return true;
+}
+}

@@ -1,0 +1,332 @@
+#include "support/xmlpull.h"
+#include "support/xmlguard.h"
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+const char *skipBlanks(const char *at, const char *end)
+{
+    while (at != end && isBlank(*at))
+        ++at;
+    return at;
+}
+
+struct Entity
+{
+    const char *name;
+    char character;
+};
+constexpr Entity entities[] = {{"amp;", '&'}, {"lt;", '<'}, {"gt;", '>'}, {"quot;", '"'}, {"apos;", '\''}};
+
+// Reads what follows an "&"; null for what is no entity of XML.
+const char *readEntity(const char *at, const char *end, QString &text)
+{
+    for (const Entity &entity : entities) {
+        const std::size_t length = std::strlen(entity.name);
+        if (std::size_t(end - at) >= length && std::memcmp(at, entity.name, length) == 0) {
+            text += QLatin1Char(entity.character);
+            return at + length;
+        }
+    }
+    if (at == end || *at != '#')
+        return nullptr;
+    const bool isHex = ++at != end && *at == 'x';
+    if (isHex)
+        ++at;
+    constexpr int longest = 8; // digits of any character, zeros before them included
+    const char *const semicolon = std::find(at, at + std::min<std::ptrdiff_t>(longest, end - at), ';');
+    if (semicolon == end || *semicolon != ';')
+        return nullptr;
+    bool isNumber = false;
+    const uint code = QByteArray(at, int(semicolon - at)).toUInt(&isNumber, isHex ? 16 : 10);
+    if (!isNumber)
+        return nullptr;
+    constexpr uint lastCode = 0x10ffff;
+    if (code <= lastCode)
+        text += QString::fromUcs4(&code, 1);
+    return semicolon + 1;
+}
+
+QString decoded(const char *at, const char *end, bool isCharacterData)
+{
+    QString text;
+    for (const char *plain = at;; ++at) {
+        const bool isEntity = at != end && *at == '&' && !isCharacterData;
+        const bool isReturn = at != end && *at == '\r';
+        if (at != end && !isEntity && !isReturn)
+            continue;
+        text += QString::fromUtf8(plain, int(at - plain));
+        if (at == end)
+            return text;
+        plain = at + 1;
+        if (isReturn) {
+            if (plain == end || *plain != '\n')
+                text += QLatin1Char('\n');
+        } else if (const char *const after = readEntity(plain, end, text)) {
+            plain = after;
+            at = after - 1;
+        } else {
+            text += QLatin1Char('&');
+        }
+    }
+}
+
+// Most texts need nothing of this.
+bool isPlain(const char *at, const char *end)
+{
+    return std::all_of(at, end, [](char c) { return c != '&' && uchar(c) >= 0x20; });
+}
+
+QString toText(const char *at, int size, bool isCharacterData)
+{
+    const char *const end = at + size;
+    return isPlain(at, end) ? QString::fromUtf8(at, size)
+                            : xmlguard::clean(decoded(at, end, isCharacterData));
+}
+}
+
+bool XmlPull::Slice::operator==(const char *text) const
+{
+    return std::strncmp(data, text, std::size_t(size)) == 0 && text[size] == '\0';
+}
+
+bool XmlPull::Slice::operator==(const Slice &other) const
+{
+    return size == other.size && std::memcmp(data, other.data, std::size_t(size)) == 0;
+}
+
+XmlPull::XmlPull(const QByteArray &utf8)
+    : m_bytes(utf8)
+    , m_at(m_bytes.constData())
+    , m_end(m_at + m_bytes.size())
+{
+    m_hasFailed = !xmlguard::isSafe(m_bytes, &m_error);
+}
+
+XmlPull::Token XmlPull::fail()
+{
+    m_hasFailed = true;
+    m_error = QStringLiteral("byte %1: no sound XML").arg(m_at - m_bytes.constData());
+    return Failed;
+}
+
+// Behind the mark; false when there is none.
+bool XmlPull::skipPast(const char *mark)
+{
+    const auto *found = static_cast<const char *>(
+        memmem(m_at, std::size_t(m_end - m_at), mark, std::strlen(mark)));
+    if (found)
+        m_at = found + std::strlen(mark);
+    return found != nullptr;
+}
+
+bool XmlPull::startsWith(const char *mark) const
+{
+    const std::size_t length = std::strlen(mark);
+    return std::size_t(m_end - m_at) >= length && std::memcmp(m_at, mark, length) == 0;
+}
+
+XmlPull::Token XmlPull::next()
+{
+    if (m_hasFailed)
+        return Failed;
+    if (m_popsOnNext) {
+        m_open.pop_back();
+        m_popsOnNext = false;
+    }
+    if (m_closesAtOnce) {
+        m_closesAtOnce = false;
+        m_popsOnNext = true;
+        return End;
+    }
+    while (m_at != m_end) {
+        if (*m_at != '<') {
+            const auto *next = static_cast<const char *>(std::memchr(m_at, '<', std::size_t(m_end - m_at)));
+            const char *const begin = m_at;
+            m_at = next ? next : m_end;
+            if (!m_open.empty()) {
+                m_text = {begin, int(m_at - begin)};
+                m_isCharacterData = false;
+                return Text;
+            }
+            // Nothing but blanks stands beside the root.
+            if (skipBlanks(begin, m_at) != m_at)
+                return fail();
+        } else if (startsWith("<!--")) {
+            m_at += 4;
+            if (!skipPast("-->"))
+                return fail();
+        } else if (startsWith("<?")) {
+            if (!skipPast("?>"))
+                return fail();
+        } else if (startsWith("<![CDATA[")) {
+            m_at += 9;
+            const char *const begin = m_at;
+            if (m_open.empty() || !skipPast("]]>"))
+                return fail();
+            m_text = {begin, int(m_at - begin) - 3};
+            m_isCharacterData = true;
+            return Text;
+        } else {
+            return m_at + 1 != m_end && m_at[1] == '/' ? endTag() : beginTag();
+        }
+    }
+    return m_open.empty() && m_hadRoot ? Finished : fail();
+}
+
+// Past the "<", at a name.
+XmlPull::Token XmlPull::beginTag()
+{
+    if (m_open.empty() && m_hadRoot)
+        return fail();
+    m_hadRoot = true;
+    const char *const begin = m_at + 1;
+    const char *at = begin;
+    const char *prefixEnd = nullptr;
+    for (; at != m_end && *at != '>' && *at != '/' && !isBlank(*at); ++at) {
+        if (*at == ':')
+            prefixEnd = at + 1;
+    }
+    if (at == begin || at == m_end)
+        return fail();
+    const Slice full{begin, int(at - begin)};
+    m_name = prefixEnd ? Slice{prefixEnd, int(at - prefixEnd)} : full;
+    m_at = at;
+    m_attributes.clear();
+    if (!readAttributes(m_end))
+        return fail();
+    m_open.push_back(full);
+    return Begin;
+}
+
+// Up to the end of the tag.
+bool XmlPull::readAttributes(const char *end)
+{
+    while (true) {
+        m_at = skipBlanks(m_at, end);
+        if (m_at == end)
+            return false;
+        if (*m_at == '>') {
+            ++m_at;
+            return true;
+        }
+        if (*m_at == '/') {
+            m_closesAtOnce = true;
+            ++m_at;
+            if (m_at == end || *m_at != '>')
+                return false;
+            continue;
+        }
+        const char *const begin = m_at;
+        while (m_at != end && *m_at != '=' && *m_at != '>' && *m_at != '/' && !isBlank(*m_at))
+            ++m_at;
+        const Slice name{begin, int(m_at - begin)};
+        m_at = skipBlanks(m_at, end);
+        if (name.size == 0 || m_at == end || *m_at != '=')
+            return false;
+        m_at = skipBlanks(m_at + 1, end);
+        if (m_at == end || (*m_at != '"' && *m_at != '\''))
+            return false;
+        const auto *close =
+            static_cast<const char *>(std::memchr(m_at + 1, *m_at, std::size_t(end - m_at - 1)));
+        if (!close)
+            return false;
+        m_attributes.push_back({name, {m_at + 1, int(close - m_at - 1)}});
+        m_at = close + 1;
+    }
+}
+
+XmlPull::Token XmlPull::endTag()
+{
+    const char *const begin = m_at + 2;
+    const auto *close = static_cast<const char *>(std::memchr(begin, '>', std::size_t(m_end - begin)));
+    if (!close || m_open.empty())
+        return fail();
+    const char *end = close;
+    while (end != begin && isBlank(end[-1]))
+        --end;
+    const Slice full{begin, int(end - begin)};
+    if (!(full == m_open.back()))
+        return fail();
+    const auto *colon = static_cast<const char *>(std::memchr(begin, ':', std::size_t(end - begin)));
+    m_name = colon ? Slice{colon + 1, int(end - colon - 1)} : full;
+    m_at = close + 1;
+    m_popsOnNext = true;
+    return End;
+}
+
+const XmlPull::Attribute *XmlPull::find(const char *name) const
+{
+    for (const Attribute &attribute : m_attributes) {
+        if (attribute.name == name)
+            return &attribute;
+    }
+    return nullptr;
+}
+
+QString XmlPull::attribute(const char *name) const
+{
+    const Attribute *found = find(name);
+    return found ? toText(found->value.data, found->value.size, false) : QString();
+}
+
+QByteArray XmlPull::rawAttribute(const char *name) const
+{
+    const Attribute *found = find(name);
+    return found ? QByteArray::fromRawData(found->value.data, found->value.size) : QByteArray();
+}
+
+QString XmlPull::text() const
+{
+    return toText(m_text.data, m_text.size, m_isCharacterData);
+}
+
+bool XmlPull::skip()
+{
+    const int outer = depth() - 1;
+    Token token = next();
+    while (token != Finished && token != Failed && !(token == End && depth() == outer + 1))
+        token = next();
+    return token == End;
+}
+
+QString XmlPull::textOfElement()
+{
+    QString joined;
+    const int inner = depth();
+    for (Token token = next(); token != Finished && token != Failed; token = next()) {
+        if (token == End && depth() == inner)
+            break;
+        if (token == Text && depth() == inner)
+            joined = joined.isEmpty() ? text() : joined + text();
+    }
+    return joined;
+}
+
+QByteArray XmlPull::toUtf8(const QByteArray &bytes)
+{
+    const auto startsWithBytes = [&bytes](const char *mark, int size) {
+        return bytes.size() >= size && std::memcmp(bytes.constData(), mark, std::size_t(size)) == 0;
+    };
+    if (startsWithBytes("\xef\xbb\xbf", 3))
+        return bytes.mid(3);
+    const bool isBig = startsWithBytes("\xfe\xff", 2) || startsWithBytes("\0<", 2);
+    const bool isLittle = startsWithBytes("\xff\xfe", 2) || startsWithBytes("<\0", 2);
+    if (!isBig && !isLittle)
+        return bytes;
+    QString text(bytes.size() / 2, Qt::Uninitialized);
+    for (int i = 0; i < text.size(); ++i) {
+        const uchar first = uchar(bytes.at(2 * i));
+        const uchar second = uchar(bytes.at(2 * i + 1));
+        text[i] = QChar(isBig ? first << 8 | second : second << 8 | first);
+    }
+    if (text.startsWith(QChar(QChar::ByteOrderMark)))
+        text.remove(0, 1);
+    return text.toUtf8();
+}

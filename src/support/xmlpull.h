@@ -1,0 +1,75 @@
+#pragma once
+#include <QByteArray>
+#include <QString>
+#include <vector>
+
+// Reads XML text from its first element to its last without building anything, for parts too large for a
+// tree.
+//
+// Names of elements come without their prefix. Takes what xmlguard takes; tags that do not match, a second
+// root and attributes that are none end the reading. Entities other than those of XML itself stay as they are
+// written.
+class XmlPull
+{
+public:
+    enum Token { Begin, End, Text, Finished, Failed };
+
+    // The bytes are shared and kept.
+    explicit XmlPull(const QByteArray &utf8);
+
+    Token next();
+    QString error() const { return m_error; } // why it failed; empty when it did not
+    // ---- At Begin and End ---------------------------------------------------------------------------------
+    bool is(const char *name) const { return m_name == name; }
+    // Open elements, this one included.
+    int depth() const { return int(m_open.size()); }
+    // ---- At Begin -----------------------------------------------------------------------------------------
+    bool hasAttribute(const char *name) const { return find(name) != nullptr; }
+    QString attribute(const char *name) const; // empty when there is none
+    // As it stands in the text, entities and all, for short values.
+    QByteArray rawAttribute(const char *name) const;
+    // ---- At Text ------------------------------------------------------------------------------------------
+    QString text() const; // without the characters that XML cannot carry
+    // Goes on to the end of the element that has begun; false when the text fails.
+    bool skip();
+    // The texts up to the end of the element that has begun, those of its children left out.
+    QString textOfElement();
+
+    // Text of a part as UTF-8 without a byte order mark; UTF-16 is told by its mark or by the first "<".
+    static QByteArray toUtf8(const QByteArray &bytes);
+
+private:
+    struct Slice
+    {
+        const char *data = nullptr;
+        int size = 0;
+        bool operator==(const char *text) const;
+        bool operator==(const Slice &other) const;
+    };
+    struct Attribute
+    {
+        Slice name;
+        Slice value;
+    };
+    Token fail();
+    Token beginTag();
+    Token endTag();
+    bool readAttributes(const char *end);
+    const Attribute *find(const char *name) const;
+    bool startsWith(const char *mark) const;
+    bool skipPast(const char *mark);
+
+    QByteArray m_bytes;
+    const char *m_at;
+    const char *const m_end;
+    std::vector<Slice> m_open; // names with their prefixes
+    std::vector<Attribute> m_attributes;
+    QString m_error;
+    Slice m_name;
+    Slice m_text;
+    bool m_isCharacterData = false;
+    bool m_closesAtOnce = false; // an empty element has begun
+    bool m_popsOnNext = false;   // an element has ended
+    bool m_hadRoot = false;
+    bool m_hasFailed = false;
+};
