@@ -16,7 +16,7 @@ bool XLSXDataBase::praserShareStrXml(const QString &folder)
     QString error;
     const QByteArray part = xlsx::readPart(path, &error);
     if (!error.isEmpty() || !xlsx::readSharedStrings(part, m_sharedStrings, &error)) {
-        m_findings.add(name, error, QStringLiteral("its texts are empty"));
+        m_findings.add(name, error, QStringLiteral("not read"));
         return false;
     }
     return true;

@@ -96,7 +96,9 @@ bool XLSXDataEngine::importData(const QString &path)
         m_findings.add(path, KWZip::lastError(), QStringLiteral("nothing imported"));
         return false;
     }
-    praserShareStrXml(unpacked.path());
+    // Without its texts a sheet would take the names of all tasks away.
+    if (!praserShareStrXml(unpacked.path()))
+        return false;
     parseStylesXml(unpacked.path());
     return praserSheetXml(unpacked.path() + worksheets, m_sharedStrings);
 }

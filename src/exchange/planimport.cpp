@@ -184,6 +184,12 @@ bool importBook(KWDocument &document, const Book &book, Findings *findings)
             book.sheets[sheet] && readers[sheet]->read(*book.sheets[sheet]) && readers[sheet]->isKnown();
         setTitles(Sheet(sheet), readers[sheet]->titles());
     }
+    if (tasks.hasBlankTitles()) {
+        if (findings)
+            findings->add(text("task sheet"), text("the cells of its first row are empty"),
+                          text("nothing imported"));
+        return true;
+    }
     if (!isUsed[exceltitles::TaskSheet]) {
         if (findings)
             findings->add(text("task sheet"), text("no title of its first row is known"),

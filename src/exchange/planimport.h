@@ -25,7 +25,8 @@ void readTitles(KWDocument &document, const Book &book);
 
 // Rebuilds the title tables and replaces the document's tasks, and the resources and assignments of those
 // sheets that hold any known title. False leaves the document as it was: the task sheet is missing, cannot be
-// read, or has no title that is known. The findings may be null.
+// read, or has no title that is known. A task sheet whose titles are all empty texts says nothing: true, and
+// the document as it was too. The findings may be null.
 bool importBook(KWDocument &document, const Book &book, Findings *findings);
 // One sheet into a document that has the others; the title tables stay. The same rules.
 bool importSheet(KWDocument &document, exceltitles::Sheet sheet, sheetrows::Source &source, bool is1904,

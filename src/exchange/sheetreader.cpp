@@ -42,6 +42,12 @@ bool Reader::read(Source &source)
     return source.error().isEmpty();
 }
 
+bool Reader::hasBlankTitles() const
+{
+    return !m_titles.empty() && std::all_of(m_titles.begin(), m_titles.end(),
+                                            [](const Cell &cell) { return cell.text.isEmpty(); });
+}
+
 void Reader::readTitles(const Row &row)
 {
     m_hasTitles = true;

@@ -27,6 +27,8 @@ public:
     bool read(Source &source);
     // Whether the title row has a title that is known.
     bool isKnown() const { return m_isKnown; }
+    // Whether it has title cells, and all of them empty.
+    bool hasBlankTitles() const;
     // The cells of row 1.
     const std::vector<Cell> &titles() const { return m_titles; }
 

@@ -27,7 +27,8 @@ struct Entry
 const Entry entries[] = {
     {"autosave.check", checkPackage}, {"autosave.make", makePackage},    {"autosave.save", saveBackup},
     {"kwpx.check", checkPackage},     {"kwpx.load", loadPackage},        {"kwpx.make", makePackage},
-    {"kwpx.save", savePackage},       {"kwpx.structure", loadStructure},
+    {"kwpx.save", savePackage},       {"kwpx.structure", loadStructure}, {"xlsx.import", importXlsx},
+    {"xlsx.titles", readXlsxTitles},
 };
 
 // Without a folder for it in the environment Qt makes one among the temporary files and leaves it there.

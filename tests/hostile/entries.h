@@ -12,3 +12,6 @@ int savePackage(const QString &path);
 int checkPackage(const QString &path);
 // Saves as autosave does, over a file of a folder named "autosave".
 int saveBackup(const QString &path);
+// workbooks.cpp
+int importXlsx(const QString &path);
+int readXlsxTitles(const QString &path);

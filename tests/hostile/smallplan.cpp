@@ -1,11 +1,24 @@
 #include "hostile/smallplan.h"
+#include "exchange/exceltitles.h"
 #include "model/kwtaskinfo.h"
+#include "resources/resourceinfodata.h"
 #include "support/folder.h"
 #include "support/sortedxml.h"
 #include "table/rowcolumndata.h"
 #include <QTemporaryDir>
 
 namespace smallplan {
+namespace {
+
+template <std::size_t count>
+void fillKeys(const char *const (&titles)[count], QMap<int, QString> &names, QStringList &list)
+{
+    for (const char *title : titles) {
+        names.insert(list.size(), QString::fromLatin1(title));
+        list.append(QString::fromLatin1(title));
+    }
+}
+}
 
 void fillTitles()
 {
@@ -16,6 +29,13 @@ void fillTitles()
         "BaseFinish", "BaseCost",   "Level",      "Predecessors"};
     for (int type = 0; type < int(std::size(titles)); ++type)
         RowColumnData::s_columnNames.insert(type, QString::fromLatin1(titles[type]));
+
+    static const char *const resourceTitles[] = {"ID",       "Name",   "Units", "Type",  "Rate",
+                                                 "Overtime", "PerUse", "Group", "Email", "Notes"};
+    static const char *const assignmentTitles[] = {"Task", "Resource", "Complete", "Work", "Units"};
+    fillKeys(resourceTitles, ExcelTitles::s_resourcNames, ExcelTitles::s_strResourceList);
+    fillKeys(assignmentTitles, ExcelTitles::s_workAssignNames, ExcelTitles::s_strWorkAssignList);
+    ResourceInfoData::s_typeItems = {{0, QStringLiteral("Work")}, {1, QStringLiteral("Material")}};
 }
 
 void fill(KWDocument &document, const char *name)
