@@ -1,5 +1,6 @@
 // The task as an XML element: through a DOM, and through the text and the tree that whole documents use.
 #include "model/kwtaskinfo_xml.h"
+#include "model/randomdocument.h"
 #include "support/casename.h"
 #include "support/sortedxml.h"
 #include "support/xmlsink.h"
@@ -7,10 +8,7 @@
 #include "support/xmltree.h"
 #include <QBuffer>
 #include <QDomDocument>
-#include <cmath>
 #include <gtest/gtest.h>
-#include <limits>
-#include <random>
 
 namespace {
 
@@ -47,85 +45,12 @@ std::string shown(const KWTaskInfo &task)
     return sortedXml(viaDom(document, task));
 }
 
-QString randomText(std::mt19937 &random)
-{
-    static const char *const pieces[] = {
-        "a",    "Design phase", ";",    "<&>\"'", "\n",           "\t",
-        "\r",   "%1%2",         "]]>",  "  ",     "\xe5\xb7\xa5", "\xf0\x9f\x93\x85",
-        "\x01", "\x1f",         "&#1;", "=",      "\xef\xbf\xbd", "\x7f"};
-    QString text;
-    for (int count = int(random() % 5); count > 0; --count)
-        text += utf8(pieces[random() % std::size(pieces)]);
-    if (random() % 16 == 0)
-        text += QChar(0xd800 + int(random() % 0x800));
-    if (random() % 16 == 0)
-        text += QChar(0xfffe + int(random() % 2));
-    return text;
-}
-
-double randomNumber(std::mt19937 &random)
-{
-    static const double odd[] = {0.0,
-                                 -0.0,
-                                 0.1,
-                                 1.0 / 3,
-                                 1e-5,
-                                 1e20,
-                                 -1e308,
-                                 5e-324,
-                                 123456789.125,
-                                 999999999.0,
-                                 1e9,
-                                 std::numeric_limits<double>::quiet_NaN(),
-                                 std::numeric_limits<double>::infinity()};
-    return random() % 2 ? odd[random() % std::size(odd)]
-                        : std::ldexp(double(random()), int(random() % 80) - 60);
-}
-
-void randomise(KWTaskInfo &task, std::mt19937 &random)
-{
-    fields::forEach(fields::taskFields, fields::Xml, [&](const auto &row) {
-        using Value = std::decay_t<decltype(fields::plain(task.*row.member))>;
-        if constexpr (std::is_same_v<Value, QString>)
-            task.*row.member = randomText(random);
-        else if constexpr (std::is_same_v<Value, double>)
-            task.*row.member = randomNumber(random);
-        else if constexpr (std::is_same_v<Value, QList<quint32>>)
-            for (int count = int(random() % 4); count > 0; --count)
-                (task.*row.member).append(quint32(random()));
-        else
-            task.*row.member = static_cast<Value>(quint32(random()));
-    });
-    task.font.setFamily(QLatin1Char('F') + randomText(random)); // an empty family cannot be told from none
-    task.font.setPointSize(1 + int(random() % 40));
-    task.font.setWeight(int(random() % 100));
-    task.font.setItalic(random() % 2);
-    task.font.setUnderline(random() % 2);
-    for (int count = int(random() % 3); count > 0; --count) {
-        auto *link = new KWHyperlink;
-        link->ID = qint32(random());
-        link->isDefault = random() % 2;
-        link->name = randomText(random);
-        link->address = randomText(random);
-        link->extraInfo = randomText(random);
-        task.hyperlinks.appendHyperlink(link);
-    }
-    for (int count = int(random() % 3); count > 0; --count) {
-        auto *resource = new Resource;
-        resource->name = randomText(random);
-        resource->percent = randomNumber(random);
-        resource->workSecs = quint32(random());
-        resource->cost = randomNumber(random);
-        task.resourceList.append(resource);
-    }
-}
-
 TEST(TaskXml, TextAndDomSayTheSameOfAnyTask)
 {
     std::mt19937 random(7);
     for (int run = 0; run < 300; ++run) {
         KWTaskInfo task;
-        randomise(task, random);
+        randomdocument::fill(task, random);
         QDomDocument document;
         const std::string dom = sortedXml(viaDom(document, task));
         const QByteArray text = viaText(task);
