@@ -155,7 +155,7 @@ int convert(Console &console)
         scheduleMissing(console, plan);
         plan::refresh(plan, progressOf(console));
     }
-    return writePlan(console, plan);
+    return writeWithSides(console, plan);
 }
 
 int help(Console &console)

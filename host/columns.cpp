@@ -1,5 +1,6 @@
 #include "columns.h"
 #include "datetext.h"
+#include "format/dataformat.h"
 #include "model/kwtaskinfo.h"
 #include "texts.h"
 
@@ -147,6 +148,36 @@ QString notesText(const Sheet &sheet, int pos)
     return sheet.plan.task(pos)->Notes;
 }
 
+QString workText(const Sheet &sheet, int pos)
+{
+    return DataFormat::formatNumber(plan::workHours(sheet.plan, *sheet.plan.task(pos)), 0, 2, 1) +
+           QLatin1Char('h');
+}
+
+QString moneyText(double amount)
+{
+    return DataFormat::formatNumber(amount, 3, 2, 1);
+}
+
+template <double KWTaskInfo::*member>
+QString costText(const Sheet &sheet, int pos)
+{
+    return moneyText(sheet.plan.task(pos)->*member);
+}
+
+QString baseCostText(const Sheet &sheet, int pos)
+{
+    const QString &text = sheet.plan.task(pos)->BaselineCost;
+    return text.isEmpty() ? text : moneyText(text.toDouble());
+}
+
+template <quint32 KWTaskInfo::*member, shown::Clock (*clock)(const Plan &, quint32)>
+QString baseText(const Sheet &sheet, int pos)
+{
+    const quint32 secs = sheet.plan.task(pos)->*member;
+    return secs == 0 ? QString() : momentText(sheet, clock(sheet.plan, secs), clock == shown::startOf);
+}
+
 constexpr Column table[] = {
     {"number", "#", true, numberText},
     {"critical", "", false, markText},
@@ -165,6 +196,12 @@ constexpr Column table[] = {
     {"predecessors", "After", false, predecessorsText},
     {"successors", "Before", false, successorsText},
     {"resources", "Resources", false, resourcesText},
+    {"work", "Work", true, workText},
+    {"cost", "Cost", true, costText<&KWTaskInfo::Cost>},
+    {"remaining", "Remaining", true, costText<&KWTaskInfo::RemainingCost>},
+    {"base-start", "Base start", false, baseText<&KWTaskInfo::BaseStart, shown::startOf>},
+    {"base-finish", "Base finish", false, baseText<&KWTaskInfo::BaseFinish, shown::endOf>},
+    {"base-cost", "Base cost", true, baseCostText},
     {"notes", "Notes", false, notesText},
 };
 }

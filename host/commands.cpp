@@ -6,6 +6,7 @@
 #include "schedule/kwtaskcollection.h"
 #include "support/findings.h"
 #include "texts.h"
+#include <QFileInfo>
 
 namespace commands {
 
@@ -65,6 +66,32 @@ int writePlan(Console &console, Plan &plan)
     return written(console, text.toUtf8());
 }
 
+int writeWithSides(Console &console, Plan &plan)
+{
+    const Options &options = console.options();
+    std::vector<planfile::Side> sides;
+    if (options.format == Options::Csv && !options.output.isEmpty())
+        sides = planfile::sidesOf(plan, options.output);
+    for (const planfile::Side &side : sides) {
+        if (QFileInfo::exists(side.path) && !options.force) {
+            console.error(t("%1: exists already and stays as it is").arg(side.path),
+                          t("--force replaces it"));
+            return Console::CannotWrite;
+        }
+    }
+    if (const int code = writePlan(console, plan))
+        return code;
+    QStringList names;
+    for (const planfile::Side &side : sides) {
+        if (!console.replaceFile(side.path, side.bytes, true))
+            return Console::CannotWrite;
+        names.append(side.path);
+    }
+    if (!names.isEmpty())
+        console.note(t("also written: %1").arg(names.join(QLatin1String(", "))));
+    return Console::Done;
+}
+
 int loadForChange(Console &console, const QString &file, Plan &plan)
 {
     const Options &options = console.options();
@@ -105,7 +132,7 @@ int writeChanged(Console &console, Plan &plan, const QString &summary)
     } else {
         if (options.format != Options::Package)
             plan::refresh(plan, progressOf(console));
-        code = writePlan(console, plan);
+        code = writeWithSides(console, plan);
     }
     if (code == Console::Done)
         console.note(summary);

@@ -20,6 +20,8 @@ void scheduleMissing(Console &console, Plan &plan);
 int loadPlan(Console &console, const QString &file, Plan &plan);
 // In the format that was asked for.
 int writePlan(Console &console, Plan &plan);
+// The same, and where a CSV file is asked for also what stands beside it.
+int writeWithSides(Console &console, Plan &plan);
 // Loads a plan that is going to be changed in its document: dates stand, and its chart is its own.
 int loadForChange(Console &console, const QString &file, Plan &plan);
 // Where the changed plan goes: into its file, another one, or to standard output. `summary` goes to standard

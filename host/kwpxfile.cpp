@@ -79,7 +79,8 @@ planrows::Row rowOf(KWDocument &document, const KWTaskInfo &task, Numbering &num
 bool namesCalendar(const Options &options)
 {
     return !options.calendarFile.isEmpty() || !options.days.isEmpty() || !options.hours.isEmpty() ||
-           !options.holidays.isEmpty() || !options.start.isEmpty();
+           !options.holidays.isEmpty() || !options.start.isEmpty() || !options.resourcesFile.isEmpty() ||
+           !options.assignmentsFile.isEmpty();
 }
 }
 
@@ -96,8 +97,9 @@ bool isPackage(const QString &path)
 int load(const QString &path, Console &console, Plan &plan)
 {
     if (namesCalendar(console.options())) {
-        console.error(t("%1: a package brings its own calendar").arg(path),
-                      t("leave --calendar, --days, --hours, --holiday and --start out"));
+        console.error(
+            t("%1: a package brings its own calendar and resources").arg(path),
+            t("leave --calendar, --days, --hours, --holiday, --start, --resources and --assignments out"));
         return Console::WrongUse;
     }
     KWDocument &document = *plan.document;

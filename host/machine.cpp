@@ -3,6 +3,8 @@
 #include "datetext.h"
 #include "format/dataformat.h"
 #include "model/kwtaskinfo.h"
+#include "sheetfile.h"
+#include "sheettext.h"
 #include "shown.h"
 #include "support/findings.h"
 #include <QTimeZone>
@@ -14,7 +16,7 @@ namespace {
 // A field of one task: its name in both forms and whether its text is a bare JSON value.
 struct Field
 {
-    const char *csvTitle;
+    const char *csvTitle; // empty: not part of the CSV form
     const char *jsonName;
     bool bare;
     QString (*text)(const Plan &plan, const shown::Times &times, int pos);
@@ -62,7 +64,7 @@ const Field fields[] = {
     {"Predecessors", "predecessors", false,
      [](const Plan &p, const shown::Times &, int pos) { return joined(p.task(pos)->Predecessors); }},
     {"Resources", "resources", false,
-     [](const Plan &p, const shown::Times &, int pos) { return p.task(pos)->Resources; }},
+     [](const Plan &p, const shown::Times &, int pos) { return sheetfile::columnText(p, *p.task(pos)); }},
     {"Summary", "summary", true,
      [](const Plan &p, const shown::Times &, int pos) { return flag(p.task(pos)->isParent()); }},
     {"Milestone", "milestone", true,
@@ -102,6 +104,20 @@ const Field fields[] = {
          return number(
              qMax<qint64>(0, plan::workingMinutes(p, p.task(pos)->Finish, p.task(pos)->LateFinish)));
      }},
+    {"", "workHours", true,
+     [](const Plan &p, const shown::Times &, int pos) {
+         return sheettext::numberText(plan::workHours(p, *p.task(pos)));
+     }},
+    {"", "cost", true,
+     [](const Plan &p, const shown::Times &, int pos) { return sheettext::numberText(p.task(pos)->Cost); }},
+    {"", "remainingCost", true,
+     [](const Plan &p, const shown::Times &, int pos) {
+         return sheettext::numberText(p.task(pos)->RemainingCost);
+     }},
+    {"", "baselineCost", true,
+     [](const Plan &p, const shown::Times &, int pos) {
+         return sheettext::numberText(p.task(pos)->BaselineCost.toDouble());
+     }},
 };
 
 QByteArray member(const char *name, const QByteArray &value)
@@ -136,6 +152,7 @@ QByteArray planMembers(const Plan &plan)
     }
     members.append(member("taskCount", QByteArray::number(plan.taskCount())));
     members.append(member("linkCount", QByteArray::number(plan.links)));
+    members.append(member("cost", sheettext::numberText(plan.document->getToltalCost()).toUtf8()));
     return members.join(",\n");
 }
 
@@ -176,12 +193,14 @@ QByteArray csv(const Plan &plan)
     const shown::Times times(plan);
     QStringList titles;
     for (const Field &field : fields)
-        titles.append(QLatin1String(field.csvTitle));
+        if (*field.csvTitle)
+            titles.append(QLatin1String(field.csvTitle));
     QByteArray bytes = titles.join(QLatin1Char(',')).toUtf8() + '\n';
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
         QStringList cells;
         for (const Field &field : fields)
-            cells.append(::csv::quoted(field.text(plan, times, pos)));
+            if (*field.csvTitle)
+                cells.append(::csv::quoted(field.text(plan, times, pos)));
         bytes += cells.join(QLatin1Char(',')).toUtf8() + '\n';
     }
     return bytes;

@@ -178,6 +178,16 @@ const Option optionTable[] = {
          o.start = v;
          return !v.isEmpty();
      }},
+    {"resources", "", "FILE", Planning,
+     [](Options &o, const QString &v) {
+         o.resourcesFile = v;
+         return !v.isEmpty();
+     }},
+    {"assignments", "", "FILE", Planning,
+     [](Options &o, const QString &v) {
+         o.assignmentsFile = v;
+         return !v.isEmpty();
+     }},
     {"unit", "", "d|h|min", Planning, setUnit},
     {"columns", "", "LIST", Showing,
      [](Options &o, const QString &v) {

@@ -35,6 +35,9 @@ struct Options
     QString hours;
     QStringList holidays;
     QString start;
+    // The resource sheet of a CSV plan.
+    QString resourcesFile;
+    QString assignmentsFile;
 
     // What is shown.
     QStringList columns;

@@ -74,4 +74,6 @@ quint32 firstStart(const Plan &plan);
 quint32 lastFinish(const Plan &plan);
 // Whole working minutes from one moment to another, negative when they stand the other way round.
 qint64 workingMinutes(const Plan &plan, quint32 from, quint32 to);
+// The task's work in hours; that of a leaf is kept in the unit of its duration.
+double workHours(const Plan &plan, const KWTaskInfo &task);
 }

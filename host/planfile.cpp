@@ -2,6 +2,8 @@
 #include "console.h"
 #include "kwpxfile.h"
 #include "model/kwtaskinfo.h"
+#include "resources/resourceinfodata.h"
+#include "sheetfile.h"
 #include "shown.h"
 #include "support/findings.h"
 #include "texts.h"
@@ -36,17 +38,15 @@ QString projectName(const Plan &plan)
     return name;
 }
 
-// The file named by the option, else NAME.calendar.json or calendar.json beside the plan; empty when there is
-// none.
-QString calendarPath(const QString &planPath, const Options &options)
+// The file named by the option, else for "calendar.json" NAME.calendar.json or calendar.json beside the plan;
+// empty when there is none.
+QString sidePath(const QString &planPath, const QString &named, const char *side)
 {
-    if (!options.calendarFile.isEmpty())
-        return options.calendarFile;
-    if (planPath == QLatin1String("-"))
-        return QString();
+    if (!named.isEmpty() || planPath == QLatin1String("-"))
+        return named;
     const QFileInfo info(planPath);
     for (const QString &name :
-         {info.completeBaseName() + QLatin1String(".calendar.json"), QStringLiteral("calendar.json")}) {
+         {info.completeBaseName() + QLatin1Char('.') + QLatin1String(side), QString::fromLatin1(side)}) {
         const QFileInfo candidate(info.dir().filePath(name));
         if (candidate.isFile())
             return candidate.filePath();
@@ -63,7 +63,7 @@ int wrongOption(Console &console, const char *option, const QString &value, cons
 int readCalendar(const QString &planPath, Console &console, Plan &plan, Findings &findings)
 {
     const Options &options = console.options();
-    const QString path = calendarPath(planPath, options);
+    const QString path = sidePath(planPath, options.calendarFile, "calendar.json");
     if (!path.isEmpty()) {
         QByteArray json;
         QString error;
@@ -87,7 +87,8 @@ int readCalendar(const QString &planPath, Console &console, Plan &plan, Findings
     return Console::Done;
 }
 
-int readRows(const QString &path, Console &console, Plan &plan, Findings &findings)
+// Console::Done with the file's cells, or the exit code after telling why there are none.
+int readTable(const QString &path, Console &console, csv::Table &table)
 {
     const csv::Limits limits;
     QByteArray bytes;
@@ -98,12 +99,18 @@ int readRows(const QString &path, Console &console, Plan &plan, Findings &findin
     }
     csv::Fault fault;
     const qint64 total = bytes.size();
-    if (!csv::parse(bytes, plan.table, fault, limits,
-                    [&console, total](qint64 done) { console.progress(t("reading"), done, total); })) {
-        const QString place = fault.line > 0 ? t("line %1").arg(fault.line) + QLatin1String(": ") : QString();
-        console.error(path + QLatin1String(": ") + place + fault.what, fault.hint);
-        return Console::CannotRead;
-    }
+    if (csv::parse(bytes, table, fault, limits,
+                   [&console, total](qint64 done) { console.progress(t("reading"), done, total); }))
+        return Console::Done;
+    const QString place = fault.line > 0 ? t("line %1").arg(fault.line) + QLatin1String(": ") : QString();
+    console.error(path + QLatin1String(": ") + place + fault.what, fault.hint);
+    return Console::CannotRead;
+}
+
+int readRows(const QString &path, Console &console, Plan &plan, Findings &findings)
+{
+    if (const int code = readTable(path, console, plan.table))
+        return code;
     Findings errors;
     if (!planrows::read(plan.table, plan.rows, errors, findings)) {
         console.list(path, errors);
@@ -112,6 +119,35 @@ int readRows(const QString &path, Console &console, Plan &plan, Findings &findin
     // Only writing into the file needs its cells again.
     if (!console.options().inPlace)
         plan.table = csv::Table();
+    return Console::Done;
+}
+
+// The resource sheet and the assignments, where the plan has any.
+int readSheet(const QString &planPath, Console &console, Plan &plan, Findings &findings)
+{
+    const Options &options = console.options();
+    const QString resources = sidePath(planPath, options.resourcesFile, "resources.csv");
+    if (resources.isEmpty())
+        return Console::Done;
+    const QString assignments = sidePath(planPath, options.assignmentsFile, "assignments.csv");
+    csv::Table table;
+    QString error;
+    if (const int code = readTable(resources, console, table))
+        return code;
+    if (!sheetfile::readResources(table, plan, findings, error)) {
+        console.error(resources + QLatin1String(": ") + error, t("--resources FILE names another sheet"));
+        return Console::CannotRead;
+    }
+    if (assignments.isEmpty()) {
+        sheetfile::assignFromColumn(plan, findings);
+        return Console::Done;
+    }
+    if (const int code = readTable(assignments, console, table))
+        return code;
+    if (!sheetfile::readAssignments(table, plan, findings, error)) {
+        console.error(assignments + QLatin1String(": ") + error, t("--assignments FILE names another file"));
+        return Console::CannotRead;
+    }
     return Console::Done;
 }
 
@@ -220,7 +256,29 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
         return Console::CannotSchedule;
     }
     plan.name = projectName(plan);
-    return Console::Done;
+    return readSheet(path, console, plan, findings);
+}
+
+std::vector<Side> sidesOf(const Plan &plan, const QString &path)
+{
+    const QFileInfo info(path);
+    if (!path.endsWith(QLatin1String(".csv")) || (info.exists() && !info.isFile()))
+        return {};
+    const WorkingTime usual;
+    const bool hasSheet = !plan.document->resourceInfoData()->infos.isEmpty();
+    const QByteArray calendar = workingtime::toJson(plan.workingTime);
+    std::vector<Side> sides;
+    // Where nothing is to be said, an older file beside the plan must not say it.
+    const auto add = [&](const char *name, bool needed, const QByteArray &bytes) {
+        if (needed || !sidePath(path, QString(), name).isEmpty())
+            sides.push_back(
+                {info.dir().filePath(info.completeBaseName() + QLatin1Char('.') + QLatin1String(name)),
+                 bytes});
+    };
+    add("calendar.json", calendar != workingtime::toJson(usual), calendar);
+    add("resources.csv", hasSheet, sheetfile::resources(plan));
+    add("assignments.csv", hasSheet, sheetfile::assignments(plan));
+    return sides;
 }
 
 QByteArray rewritten(const Plan &plan)

@@ -13,6 +13,15 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings);
 // All bytes of a file, or of standard input for "-". False with a sentence in `error`.
 bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &error);
 
+// What a CSV plan cannot hold goes into files beside it, where load() finds them again: NAME.calendar.json,
+// NAME.resources.csv, NAME.assignments.csv.
+struct Side
+{
+    QString path;
+    QByteArray bytes;
+};
+std::vector<Side> sidesOf(const Plan &plan, const QString &path);
+
 // The file's cells with the dates as they stand now, in the file's own delimiter and line ends.
 QByteArray rewritten(const Plan &plan);
 }

@@ -143,4 +143,9 @@ qint64 workingMinutes(const Plan &plan, quint32 from, quint32 to)
     const qint64 minutes = (qint64(secs) + 30) / 60;
     return forward ? minutes : -minutes;
 }
+
+double workHours(const Plan &plan, const KWTaskInfo &task)
+{
+    return task.isParent() ? task.Work : task.transforHourWork(plan.document.get(), task.Work);
+}
 }

@@ -1,6 +1,7 @@
 #include "report.h"
 #include "bars.h"
 #include "datetext.h"
+#include "format/dataformat.h"
 #include "model/kwtaskinfo.h"
 #include "texts.h"
 #include "textwidth.h"
@@ -306,6 +307,9 @@ QString title(const Plan &plan, const shown::Times &times, const Style &style)
                      QLatin1String(" - ") +
                      datetext::dateText(range.last, datetext::Weekday | datetext::Year));
         first.append(t("critical path %1").arg(criticalLength(plan)));
+        const double cost = plan.document->getToltalCost();
+        if (cost != 0)
+            first.append(t("cost %1").arg(DataFormat::formatNumber(cost, 3, 2, 1)));
         int holidays = 0;
         int extraDays = 0;
         countExceptions(plan, range, holidays, extraDays);

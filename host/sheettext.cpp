@@ -1,5 +1,4 @@
 #include "sheettext.h"
-#include "format/dataformat.h"
 #include <cmath>
 
 namespace sheettext {
@@ -51,17 +50,21 @@ bool parseType(const QString &text, int &type)
     return type == 1 || word == QLatin1String("work");
 }
 
-QString rateText(const Rate &rate, bool material)
+QString numberText(double number)
 {
-    const QString amount = DataFormat::formatNumber(rate.amount, 0, 4, 1);
-    if (material || rate.unit < 0 || rate.unit >= int(std::size(unitTexts)))
-        return amount;
-    return amount + QLatin1Char('/') + QLatin1String(unitTexts[rate.unit]);
+    constexpr int digits = 12;
+    return QString::number(std::isfinite(number) ? number : 0, 'g', digits);
 }
 
-QString unitsText(double units, bool material)
+QString rateText(const Rate &rate)
 {
-    return material ? DataFormat::formatNumber(units, 0, 4, 1)
-                    : DataFormat::formatNumber(units * 100, 0, 2, 1) + QLatin1Char('%');
+    const bool known = rate.unit >= 0 && rate.unit < int(std::size(unitTexts));
+    return numberText(rate.amount) +
+           (known ? QLatin1Char('/') + QLatin1String(unitTexts[rate.unit]) : QString());
+}
+
+QString unitsText(double units)
+{
+    return numberText(units * 100) + QLatin1Char('%');
 }
 }

@@ -19,8 +19,8 @@ bool parseUnits(const QString &text, double &units);
 // "work", "material": 0 or 1.
 bool parseType(const QString &text, int &type);
 bool parseMoney(const QString &text, double &amount);
-// "50/h"; without a unit for a material.
-QString rateText(const Rate &rate, bool material);
-// "100%", or the plain quantity of a material.
-QString unitsText(double units, bool material);
+// The shortest text of the number, up to 12 digits.
+QString numberText(double number);
+QString rateText(const Rate &rate); // "50/h"
+QString unitsText(double units);    // "50%"
 }

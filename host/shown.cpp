@@ -15,7 +15,7 @@ int driverOf(const Plan &plan, const KWTaskInfo &milestone)
     int driver = nobody;
     for (const quint32 id : milestone.Predecessors) {
         const int pos = plan.posOf(id);
-        if (pos < 0 || plan::workingMinutes(plan, plan.task(pos)->Finish, milestone.Start) > 0)
+        if (pos < 0 || plan::workingMinutes(plan, plan.task(pos)->Finish, milestone.Start) != 0)
             continue;
         if (driver == nobody || !plan.task(pos)->Milestone)
             driver = pos;

@@ -25,15 +25,16 @@ namespace workingtime {
 
 namespace {
 
+constexpr const char *weekdays[] = {"monday", "tuesday",  "wednesday", "thursday",
+                                    "friday", "saturday", "sunday"};
+
 // The weekday a word names, 0 = Monday; -1 when it names none. Three letters and more of the English name do,
 // and the short name of the chosen language.
 int weekdayNamed(const QString &word)
 {
-    static const char *const names[] = {"monday", "tuesday",  "wednesday", "thursday",
-                                        "friday", "saturday", "sunday"};
     const QString lower = word.trimmed().toLower();
     for (int day = 0; day < 7; ++day) {
-        if (lower.size() >= 3 && QLatin1String(names[day]).startsWith(lower))
+        if (lower.size() >= 3 && QLatin1String(weekdays[day]).startsWith(lower))
             return day;
         if (lower == texts::current().weekdays.value(day).toLower())
             return day;
@@ -232,6 +233,29 @@ bool read(const QByteArray &json, WorkingTime &result, Findings &warnings, QStri
         return false;
     warnAboutHours(root, result, warnings);
     return true;
+}
+
+QByteArray toJson(const WorkingTime &workingTime)
+{
+    QJsonObject week;
+    for (int day = 0; day < 7; ++day)
+        week.insert(QLatin1String(weekdays[day]), workingTime.week[std::size_t(day)]);
+    QStringList hours;
+    for (const WorkingTime::Interval &interval : workingTime.hours)
+        hours.append(datetext::timeText(interval.startSecs) + QLatin1Char('-') +
+                     datetext::timeText(interval.finishSecs));
+    QJsonArray exceptions;
+    for (const WorkingTime::Exception &exception : workingTime.exceptions)
+        exceptions.append(QJsonObject{{QStringLiteral("from"), exception.from.toString(Qt::ISODate)},
+                                      {QStringLiteral("to"), exception.to.toString(Qt::ISODate)},
+                                      {QStringLiteral("works"), exception.works},
+                                      {QStringLiteral("name"), exception.name}});
+    QJsonObject root{{QStringLiteral("days"), week}, {QStringLiteral("exceptions"), exceptions}};
+    WorkingTime check;
+    // A package may hold intervals that are none.
+    if (parseHours(hours.join(QLatin1Char(',')), check))
+        root.insert(QStringLiteral("hours"), hours.join(QLatin1Char(',')));
+    return QJsonDocument(root).toJson();
 }
 
 bool parseDays(const QString &text, WorkingTime &result)

@@ -49,6 +49,9 @@ constexpr int mostExceptions = 10000;
 // cannot follow is added to `warnings`.
 bool read(const QByteArray &json, WorkingTime &result, Findings &warnings, QString &error);
 
+// A calendar file that read() takes back.
+QByteArray toJson(const WorkingTime &workingTime);
+
 // "Mon-Fri", "Mon-Thu,Sat", "none"; "08:00-12:00,13:00-17:00"; "2026-12-25" or "2026-12-24..2026-12-31".
 bool parseDays(const QString &text, WorkingTime &result);
 bool parseHours(const QString &text, WorkingTime &result);
