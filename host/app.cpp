@@ -3,11 +3,15 @@
 #include "commands.h"
 #include "edit.h"
 #include "explain.h"
+#include "invariants.h"
 #include "kwpxfile.h"
 #include "machine.h"
 #include "model/kwtaskinfo.h"
 #include "planfile.h"
 #include "report.h"
+#include "schedule/kwtaskcollection.h"
+#include "sheetfile.h"
+#include "sheetreport.h"
 #include "support/findings.h"
 #include "taskref.h"
 #include "texts.h"
@@ -30,6 +34,11 @@ int show(Console &console)
                              "%1 tasks have no start: the plan is shown scheduled"));
     }
     plan::refresh(plan, progressOf(console));
+    if (console.options().resources)
+        return written(console, console.options().format == Options::Json ? sheetreport::json(plan)
+                                : console.options().format == Options::Csv
+                                    ? sheetfile::resources(plan)
+                                    : sheetreport::text(plan, styleOf(console)).toUtf8());
     if (const int early = plan::countEarlyTasks(plan))
         console.warning(file + QLatin1String(": ") +
                             counted(early, "%1 task starts before its predecessor finishes",
@@ -75,6 +84,7 @@ int load(Console &console)
     Findings findings;
     if (const int code = planfile::load(console.options().arguments.first(), console, plan, findings))
         return code;
+    invariants::check(*plan.document, findings);
     scheduleMissing(console, plan);
     plan::refresh(plan, progressOf(console));
     tell(console, plan, findings);
@@ -86,6 +96,18 @@ int load(Console &console)
     return written(console, data, answerIsNo ? Console::AnswerIsNo : Console::Done);
 }
 
+// Links that a package holds already, and that make tasks wait for each other.
+bool tellRings(Console &console, const Plan &plan)
+{
+    const QList<QList<quint32>> rings = plan.document->taskCollection()->linkRings();
+    for (const QList<quint32> &ring : rings)
+        console.error(
+            t("%1: tasks wait for each other: %2").arg(plan.file, taskref::ring(*plan.document, ring)),
+            t("remove one of these links with 'kwgantt edit %1 unlink TASK TASK'; nothing was changed")
+                .arg(plan.file));
+    return !rings.isEmpty();
+}
+
 int schedule(Console &console)
 {
     const Options &options = console.options();
@@ -95,6 +117,8 @@ int schedule(Console &console)
     if (const int code = planfile::load(file, console, plan, findings))
         return code;
     tell(console, plan, findings);
+    if (tellRings(console, plan))
+        return Console::CannotSchedule;
     plan::schedule(plan, options.asSoonAsPossible ? plan::AsSoonAsPossible : plan::AsGiven,
                    progressOf(console));
     plan::refresh(plan, progressOf(console));
@@ -207,17 +231,31 @@ int version(Console &console)
 
 int runCommand(Console &console)
 {
+    editverbs::fillUndoNames();
     struct Command
     {
         const char *name;
         int (*run)(Console &);
     };
-    static constexpr Command commands[] = {
-        {"show", show},       {"load", load},           {"schedule", schedule},   {"explain", explainTask},
-        {"convert", convert}, {"edit", commands::edit}, {"formats", listFormats}, {"columns", listColumns},
-        {"help", help},       {"version", version},
+    static constexpr Command table[] = {
+        {"show", show},
+        {"load", load},
+        {"schedule", schedule},
+        {"explain", explainTask},
+        {"convert", convert},
+        {"edit", edit},
+        {"new", newPlan},
+        {"diff", compare},
+        {"baseline", keepBaseline},
+        {"copy-branch", copyBranch},
+        {"recover", recover},
+        {"completion", completion},
+        {"formats", listFormats},
+        {"columns", listColumns},
+        {"help", help},
+        {"version", version},
     };
-    for (const Command &command : commands)
+    for (const Command &command : table)
         if (console.options().command == QLatin1String(command.name))
             return command.run(console);
     return Console::Bug;

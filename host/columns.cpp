@@ -2,6 +2,7 @@
 #include "datetext.h"
 #include "format/dataformat.h"
 #include "model/kwtaskinfo.h"
+#include "sheettext.h"
 #include "texts.h"
 
 namespace columns {
@@ -154,21 +155,16 @@ QString workText(const Sheet &sheet, int pos)
            QLatin1Char('h');
 }
 
-QString moneyText(double amount)
-{
-    return DataFormat::formatNumber(amount, 3, 2, 1);
-}
-
 template <double KWTaskInfo::*member>
 QString costText(const Sheet &sheet, int pos)
 {
-    return moneyText(sheet.plan.task(pos)->*member);
+    return sheettext::moneyText(sheet.plan.task(pos)->*member);
 }
 
 QString baseCostText(const Sheet &sheet, int pos)
 {
     const QString &text = sheet.plan.task(pos)->BaselineCost;
-    return text.isEmpty() ? text : moneyText(text.toDouble());
+    return text.isEmpty() ? text : sheettext::moneyText(text.toDouble());
 }
 
 template <quint32 KWTaskInfo::*member, shown::Clock (*clock)(const Plan &, quint32)>

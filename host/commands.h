@@ -29,4 +29,10 @@ int loadForChange(Console &console, const QString &file, Plan &plan);
 int writeChanged(Console &console, Plan &plan, const QString &summary);
 
 int edit(Console &console);
+int newPlan(Console &console);
+int compare(Console &console);
+int keepBaseline(Console &console);
+int recover(Console &console);
+int copyBranch(Console &console);
+int completion(Console &console);
 }

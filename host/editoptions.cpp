@@ -11,8 +11,7 @@ namespace editverbs {
 
 namespace {
 
-// ---- Calendar
-// -----------------------------------------------------------------------------------------------
+// ---- Calendar ---------------------------------------------------------------------------------------------
 
 // Tasks keep their length in working time and move off the days off.
 template <typename Change>
@@ -69,8 +68,7 @@ bool addException(Edit &edit, bool works)
     });
 }
 
-// ---- Options
-// ------------------------------------------------------------------------------------------------
+// ---- Options ----------------------------------------------------------------------------------------------
 
 bool readUnit(const QString &text, quint32 &unit)
 {

@@ -1,4 +1,6 @@
 #include "edit.h"
+#include "editing/actionmanager.h"
+#include "editing/clipbdmanager.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
 #include "taskref.h"
@@ -9,8 +11,7 @@ namespace editverbs {
 
 namespace {
 
-// ---- The outline
-// --------------------------------------------------------------------------------------------
+// ---- The outline ------------------------------------------------------------------------------------------
 
 // The task's row. Only a task that is shown has one: -1 with a fault.
 int rowOf(Edit &edit, quint32 id)
@@ -140,8 +141,7 @@ bool move(Edit &edit)
     return true;
 }
 
-// ---- Values
-// -------------------------------------------------------------------------------------------------
+// ---- Values -----------------------------------------------------------------------------------------------
 
 bool rename(Edit &edit)
 {
@@ -155,8 +155,7 @@ bool set(Edit &edit)
            setTaskFields(edit, *edit.task(), values);
 }
 
-// ---- Links
-// --------------------------------------------------------------------------------------------------
+// ---- Links ------------------------------------------------------------------------------------------------
 
 bool link(Edit &edit)
 {
@@ -207,8 +206,7 @@ bool unlink(Edit &edit)
     return true;
 }
 
-// ---- The whole plan
-// -----------------------------------------------------------------------------------------
+// ---- The whole plan ---------------------------------------------------------------------------------------
 
 void setBaseline(KWTaskInfo &task, bool keep)
 {
@@ -249,10 +247,69 @@ bool schedule(Edit &edit)
     return true;
 }
 
-// ---- The table
-// ----------------------------------------------------------------------------------------------
+// ---- Going back, and the clipboard ------------------------------------------------------------------------
 
-enum TaskArguments { NoTask, OneTask, TaskAndMore, SomeTasks, AnyTasks };
+bool undo(Edit &edit)
+{
+    int steps = 0;
+    if (!countOf(edit, 0, steps))
+        return false;
+    ActionManager &actions = edit.document.actionManager();
+    if (actions.undoActions().isEmpty())
+        return edit.refuse(t("nothing to undo"), t("undo takes back the edits before it"));
+    actions.undo(steps);
+    return true;
+}
+
+bool redo(Edit &edit)
+{
+    int steps = 0;
+    if (!countOf(edit, 0, steps))
+        return false;
+    ActionManager &actions = edit.document.actionManager();
+    if (actions.redoActions().isEmpty())
+        return edit.refuse(t("nothing to redo"), t("redo follows undo, with no other edit between them"));
+    for (; steps > 0 && !actions.redoActions().isEmpty(); --steps)
+        actions.redo();
+    return true;
+}
+
+bool rowsOf(Edit &edit, QList<int> &rows)
+{
+    for (const quint32 id : qAsConst(edit.tasks)) {
+        rows.append(rowOf(edit, id));
+        if (rows.last() < 0)
+            return false;
+    }
+    return true;
+}
+
+bool copy(Edit &edit)
+{
+    QList<int> rows;
+    return rowsOf(edit, rows) &&
+           (edit.document.clipbdManager().copy(rows) || edit.refuse(t("the tasks cannot be copied")));
+}
+
+bool cutBranches(Edit &edit)
+{
+    QList<int> rows;
+    return rowsOf(edit, rows) &&
+           (edit.document.clipbdManager().cut(rows) || edit.refuse(t("the tasks cannot be cut")));
+}
+
+bool paste(Edit &edit)
+{
+    const int row = edit.tasks.isEmpty() ? -1 : rowOf(edit, edit.tasks.first());
+    if (!edit.tasks.isEmpty() && row < 0)
+        return false;
+    return edit.document.clipbdManager().paste(row) ||
+           edit.refuse(t("nothing to paste"), t("copy or cut tasks first"));
+}
+
+// ---- The table --------------------------------------------------------------------------------------------
+
+enum TaskArguments { NoTask, MaybeTask, OneTask, TaskAndMore, SomeTasks, AnyTasks };
 
 // What an edit changes, and so what is kept of before it.
 enum Backup : unsigned {
@@ -298,9 +355,9 @@ constexpr Verb verbs[] = {
     {"link", TaskAndMore, 0, 0, Affected, link, "TASK TASK...", "each one waits for the one before it"},
     {"unlink", SomeTasks, 0, 0, Affected, unlink, "TASK [TASK...]",
      "the links from each to the next; of one task, all its links"},
-    {"assign", OneTask, 1, 2, Affected | Sheet, assign, "TASK RESOURCE [UNITS]",
+    {"assign", OneTask, 1, 2, Affected, assign, "TASK RESOURCE [UNITS]",
      "UNITS: 50% of the time, or a number of a material"},
-    {"unassign", OneTask, 0, 1, Affected | Sheet, unassign, "TASK [RESOURCE]", "one resource, or all"},
+    {"unassign", OneTask, 0, 1, Affected, unassign, "TASK [RESOURCE]", "one resource, or all"},
     {"resource add", NoTask, 1, any, Sheet, addResource, "NAME [FIELD=VALUE...]",
      "type=work|material rate=50/h overtime=70/h per-use=20 units=100% group= email= notes="},
     {"resource set", NoTask, 2, any, AllTasks | Sheet, setResource, "NAME FIELD=VALUE...",
@@ -325,6 +382,12 @@ constexpr Verb verbs[] = {
     {"baseline clear", AnyTasks, 0, 0, AllTasks | Settings,
      [](Edit &edit) { return changeBaseline(edit, false); }, "[TASK...]", ""},
     {"schedule", NoTask, 0, 0, AllTasks, schedule, "", "moves every task behind its predecessors"},
+    {"copy", SomeTasks, 0, 0, Nothing, copy, "TASK...", "the tasks with all that is below them"},
+    {"cut", SomeTasks, 0, 0, AllTasks, cutBranches, "TASK...", "the same, and removes them"},
+    {"paste", MaybeTask, 0, 0, AllTasks | Columns, paste, "[TASK]",
+     "above TASK, or at the end, with new IDs and names"},
+    {"undo", NoTask, 0, 1, Nothing, undo, "[N]", "takes the last N edits back, at most all of them"},
+    {"redo", NoTask, 0, 1, Nothing, redo, "[N]", "makes them again"},
 };
 
 // "resource add" is one verb in two words.
@@ -347,6 +410,29 @@ QStringList verbNames()
     return names;
 }
 
+int codeOf(const Verb &verb)
+{
+    return int(&verb - verbs) + 1;
+}
+
+// Keeps what the verb is going to change.
+void record(const Verb &verb, const Edit &edit)
+{
+    if (verb.backup == Nothing)
+        return;
+    ActionManager::preUndoAction(&edit.document, codeOf(verb), 0);
+    if (verb.backup & AllTasks)
+        ActionManager::backAllTaskData();
+    for (int i = 0; (verb.backup & Affected) && i < edit.tasks.size(); ++i)
+        ActionManager::backupAffected(edit.task(i));
+    if (verb.backup & Sheet)
+        ActionManager::backupAllDocResources();
+    if (verb.backup & Settings)
+        ActionManager::backupAllOption();
+    if (verb.backup & Columns)
+        ActionManager::backupAllColData();
+}
+
 QString usage(const Verb &verb)
 {
     return (QLatin1String(verb.name) + QLatin1Char(' ') + QLatin1String(verb.arguments)).trimmed();
@@ -354,7 +440,9 @@ QString usage(const Verb &verb)
 
 bool takeTasks(const Verb &verb, Edit &edit)
 {
-    int wanted = verb.tasks == NoTask ? 0 : verb.tasks == OneTask ? 1 : edit.words.size();
+    int wanted = edit.words.size();
+    if (verb.tasks == NoTask || verb.tasks == OneTask || verb.tasks == MaybeTask)
+        wanted = qMin(wanted, verb.tasks == NoTask ? 0 : 1);
     const int least = verb.tasks == TaskAndMore                          ? 2
                       : verb.tasks == SomeTasks || verb.tasks == OneTask ? 1
                                                                          : 0;
@@ -392,7 +480,19 @@ bool run(Plan &plan, const QStringList &words, options::Fault &fault)
         return false;
     }
     Edit edit{plan, *plan.document, {}, words.mid(length), fault};
-    return takeTasks(*verb, edit) && verb->run(edit);
+    if (!takeTasks(*verb, edit))
+        return false;
+    record(*verb, edit);
+    if (!verb->run(edit))
+        return false;
+    ActionManager::addUndoAction();
+    return true;
+}
+
+void fillUndoNames()
+{
+    for (const Verb &verb : verbs)
+        ActionManager::s_undoString.insert(codeOf(verb), QLatin1String(verb.name));
 }
 
 QString helpText()

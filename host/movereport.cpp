@@ -3,6 +3,7 @@
 #include "model/kwtaskinfo.h"
 #include "report.h"
 #include "texts.h"
+#include "texttable.h"
 #include "textwidth.h"
 
 namespace report {
@@ -65,43 +66,19 @@ QString moves(const Plan &plan, const Style &style)
 {
     if (plan.moves.empty())
         return QString();
-    struct Line
-    {
-        QString number, name, start, finish, reason;
-    };
-    std::vector<Line> lines{{QStringLiteral("#"), t("Task"), t("Start"), t("Finish"), t("Because")}};
+    TextTable table({QStringLiteral(">#"), t("Task"), t("Start"), t("Finish"), t("Because")});
     const shown::Times times(plan);
     for (const Plan::Move &move : plan.moves) {
         const KWTaskInfo *task = plan.task(move.pos);
         const bool milestone = task->Milestone && !task->isParent();
         const shown::Clock oldStart = shown::startOf(plan, move.oldStart);
         const shown::Clock oldFinish = shown::finishOf(plan, move.oldFinish);
-        lines.push_back(
-            {QString::number(move.pos + 1), shortName(task, style),
-             change(plan, oldStart, times.start(move.pos), true, style),
-             milestone ? QString() : change(plan, oldFinish, times.finish(move.pos), false, style),
-             because(plan, move, style)});
+        table.add({QString::number(move.pos + 1), shortName(task, style),
+                   change(plan, oldStart, times.start(move.pos), true, style),
+                   milestone ? QString() : change(plan, oldFinish, times.finish(move.pos), false, style),
+                   because(plan, move, style)});
     }
-    int widths[4] = {0, 0, 0, 0};
-    for (const Line &line : lines) {
-        widths[0] = qMax(widths[0], textwidth::of(line.number));
-        widths[1] = qMax(widths[1], textwidth::of(line.name));
-        widths[2] = qMax(widths[2], textwidth::of(line.start));
-        widths[3] = qMax(widths[3], textwidth::of(line.finish));
-    }
-    const QString gap = QStringLiteral("  ");
-    QString text;
-    for (const Line &line : lines) {
-        QString row = textwidth::padded(line.number, widths[0], true) + gap +
-                      textwidth::padded(line.name, widths[1]) + gap +
-                      textwidth::padded(line.start, widths[2]) + gap +
-                      textwidth::padded(line.finish, widths[3]) + gap;
-        row += line.reason;
-        while (row.endsWith(QLatin1Char(' ')))
-            row.chop(1);
-        text += row + QLatin1Char('\n');
-    }
-    return text;
+    return table.text();
 }
 
 QString movesSummary(const Plan &plan, const Style &style)

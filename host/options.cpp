@@ -17,6 +17,8 @@ enum Group : unsigned {
     Explaining = 32,
     Changing = 64, // commands that write a changed plan
     Editing = 128,
+    Making = 256,
+    Copying = 512,
 };
 
 struct Command
@@ -38,6 +40,12 @@ constexpr Command commandTable[] = {
     {"explain", "", Everywhere | Planning | Explaining, 2, 2, "FILE TASK"},
     {"convert", "", Everywhere | Planning, 2, 2, "IN OUT"},
     {"edit", "", Everywhere | Planning | Showing | Changing | Editing, 1, mostWords, "FILE EDIT"},
+    {"new", "", Everywhere | Making, 1, 1, "OUT"},
+    {"diff", "", Everywhere | Planning, 2, 2, "A B"},
+    {"baseline", "", Everywhere | Planning | Changing, 1, mostWords, "FILE [list|set|clear] [TASK...]"},
+    {"copy-branch", "", Everywhere | Planning | Changing | Copying, 3, mostWords, "FROM TASK... INTO"},
+    {"recover", "", Everywhere, 0, 1, "[COPY]"},
+    {"completion", "", Everywhere, 0, 0, ""},
     {"formats", "", Everywhere, 0, 0, ""},
     {"columns", "", Everywhere, 0, 0, ""},
     {"help", "", Everywhere, 0, 1, "[COMMAND]"},
@@ -180,8 +188,9 @@ const Option optionTable[] = {
      }},
     {"resources", "", "FILE", Planning,
      [](Options &o, const QString &v) {
+         o.resources = v.isEmpty();
          o.resourcesFile = v;
-         return !v.isEmpty();
+         return true;
      }},
     {"assignments", "", "FILE", Planning,
      [](Options &o, const QString &v) {
@@ -216,6 +225,12 @@ const Option optionTable[] = {
      [](Options &o, const QString &) { return o.inPlace = true; }},
     {"dry-run", "", nullptr, Scheduling | Changing,
      [](Options &o, const QString &) { return o.dryRun = true; }},
+    {"sample", "", nullptr, Making, [](Options &o, const QString &) { return o.sample = true; }},
+    {"before", "", "TASK", Copying,
+     [](Options &o, const QString &v) {
+         o.before = v;
+         return !v.isEmpty();
+     }},
     {"script", "", "FILE", Editing,
      [](Options &o, const QString &v) {
          o.script = v;
@@ -299,6 +314,7 @@ struct Words
 bool split(const QStringList &words, Words &result, Fault &fault)
 {
     QStringList &rest = result.rest;
+    const auto isShow = [&rest] { return rest.value(0) == QLatin1String("show"); };
     for (int i = 0; i < words.size(); ++i) {
         const QString &word = words.at(i);
         if (word == QLatin1String("--")) {
@@ -327,6 +343,8 @@ bool split(const QStringList &words, Words &result, Fault &fault)
         Given entry{option, written, QString()};
         if (option->value && equals >= 0)
             entry.value = word.mid(equals + 1);
+        else if (isShow() && name == QLatin1String("resources"))
+            ; // shows the sheet; a file stands behind '='
         else if (option->value && i + 1 < words.size())
             entry.value = words.at(++i);
         else if (option->value)
@@ -402,9 +420,10 @@ bool parse(const QStringList &arguments, Options &result, Fault &fault)
     if (rest.size() > command->mostArguments)
         return fail(fault, t("'%1' is one word too many for '%2'").arg(rest.at(command->mostArguments), name),
                     helpHint(result.command));
-    const bool isConvert = result.command == QLatin1String("convert");
+    const bool isConvert =
+        result.command == QLatin1String("convert") || result.command == QLatin1String("new");
     if (isConvert)
-        result.output = rest.at(1);
+        result.output = rest.last();
     setFormatByName(result);
     if (isConvert && result.format == Options::Table)
         return fail(fault, t("'%1' names no format that can be written").arg(result.output),
@@ -418,6 +437,11 @@ QStringList commands()
     for (const Command &command : commandTable)
         names.append(QLatin1String(command.name));
     return names;
+}
+
+QStringList optionNames()
+{
+    return optionNames(~0u);
 }
 
 QString nearest(const QString &word, const QStringList &candidates)

@@ -49,8 +49,11 @@ struct Options
     bool critical = false;
     bool bars = true;
     bool plain = false;
+    bool resources = false; // the sheet instead of the tasks
 
     QString script; // edits, one a line
+    bool sample = false;
+    QString before; // the task that a branch is copied above
 
     // Scheduling.
     bool dryRun = false;
@@ -71,6 +74,7 @@ struct Fault
 bool parse(const QStringList &arguments, Options &result, Fault &fault);
 // The commands, the aliases left out.
 QStringList commands();
+QStringList optionNames(); // "--force"
 // The candidate that `word` was probably meant to be; empty when none is close.
 QString nearest(const QString &word, const QStringList &candidates);
 }

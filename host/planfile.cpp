@@ -271,9 +271,7 @@ std::vector<Side> sidesOf(const Plan &plan, const QString &path)
     // Where nothing is to be said, an older file beside the plan must not say it.
     const auto add = [&](const char *name, bool needed, const QByteArray &bytes) {
         if (needed || !sidePath(path, QString(), name).isEmpty())
-            sides.push_back(
-                {info.dir().filePath(info.completeBaseName() + QLatin1Char('.') + QLatin1String(name)),
-                 bytes});
+            sides.push_back({path.chopped(3) + QLatin1String(name), bytes});
     };
     add("calendar.json", calendar != workingtime::toJson(usual), calendar);
     add("resources.csv", hasSheet, sheetfile::resources(plan));

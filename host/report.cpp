@@ -1,8 +1,8 @@
 #include "report.h"
 #include "bars.h"
 #include "datetext.h"
-#include "format/dataformat.h"
 #include "model/kwtaskinfo.h"
+#include "sheettext.h"
 #include "texts.h"
 #include "textwidth.h"
 #include <QTimeZone>
@@ -309,7 +309,7 @@ QString title(const Plan &plan, const shown::Times &times, const Style &style)
         first.append(t("critical path %1").arg(criticalLength(plan)));
         const double cost = plan.document->getToltalCost();
         if (cost != 0)
-            first.append(t("cost %1").arg(DataFormat::formatNumber(cost, 3, 2, 1)));
+            first.append(t("cost %1").arg(sheettext::moneyText(cost)));
         int holidays = 0;
         int extraDays = 0;
         countExceptions(plan, range, holidays, extraDays);

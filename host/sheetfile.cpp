@@ -42,8 +42,7 @@ bool parsePercent(QString text, double &units)
     return sheettext::parseUnits(text, units);
 }
 
-// ---- Resources
-// ----------------------------------------------------------------------------------------------
+// ---- Resources --------------------------------------------------------------------------------------------
 
 struct SheetColumn
 {
@@ -115,8 +114,7 @@ std::array<int, std::size(sheetColumns)> sheetPlaces(const csv::Table &table)
     return columnsOf(table, titles);
 }
 
-// ---- Assignments
-// --------------------------------------------------------------------------------------------
+// ---- Assignments ------------------------------------------------------------------------------------------
 
 class Assigner
 {

@@ -1,4 +1,5 @@
 #include "sheettext.h"
+#include "format/dataformat.h"
 #include <cmath>
 
 namespace sheettext {
@@ -54,6 +55,11 @@ QString numberText(double number)
 {
     constexpr int digits = 12;
     return QString::number(std::isfinite(number) ? number : 0, 'g', digits);
+}
+
+QString moneyText(double amount)
+{
+    return DataFormat::formatNumber(amount, 3, 2, 1);
 }
 
 QString rateText(const Rate &rate)

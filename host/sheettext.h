@@ -21,6 +21,7 @@ bool parseType(const QString &text, int &type);
 bool parseMoney(const QString &text, double &amount);
 // The shortest text of the number, up to 12 digits.
 QString numberText(double number);
+QString moneyText(double amount);   // "8,020.5"
 QString rateText(const Rate &rate); // "50/h"
 QString unitsText(double units);    // "50%"
 }

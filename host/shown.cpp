@@ -53,6 +53,12 @@ QString Clock::iso() const
     return date.toString(Qt::ISODate) + QLatin1Char('T') + datetext::timeText(secs);
 }
 
+QString Clock::text() const
+{
+    return datetext::dateText(date, datetext::TwoDigitDay | datetext::Year) + QLatin1Char(' ') +
+           datetext::timeText(secs);
+}
+
 Clock startOf(const Plan &plan, quint32 secs)
 {
     const quint32 working = KWTaskCollection::moveForwarstartOnDayOff(plan.document.get(), secs, true);

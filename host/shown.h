@@ -19,6 +19,7 @@ struct Clock
     }
     // "2026-01-05T08:00", readable as a start or a finish again.
     QString iso() const;
+    QString text() const; // "13 Mar 2026 17:00"
 };
 
 // A start never stands in a break, a finish belongs to the day that it ends.

@@ -35,25 +35,21 @@ QString named(const KWDocument &document, quint32 id)
         .arg(pos < 0 ? QString() : document.getTaskInfoAt(pos)->Name.trimmed());
 }
 
-namespace {
-
-// The whole ring, but for the middle of a very long one.
-QString ringText(const KWDocument &document, const QList<quint32> &ring)
+QString ring(const KWDocument &document, const QList<quint32> &ids)
 {
     constexpr int longest = 12;
     QStringList names;
-    for (int i = 0; i < ring.size(); ++i) {
-        if (ring.size() > longest && i == longest / 2) {
-            const int left = ring.size() - longest;
+    for (int i = 0; i < ids.size(); ++i) {
+        if (ids.size() > longest && i == longest / 2) {
+            const int left = ids.size() - longest;
             names.append(counted(left, "(%1 more task)", "(%1 more tasks)"));
             i += left;
         }
-        names.append(named(document, ring.at(i)));
+        names.append(named(document, ids.at(i)));
     }
-    if (!ring.isEmpty())
-        names.append(named(document, ring.first()));
+    if (!ids.isEmpty())
+        names.append(named(document, ids.first()));
     return names.join(QString::fromUtf8(" \u2192 "));
-}
 }
 
 options::Fault refusal(const KWDocument &document, const KWTaskLink &link)
@@ -70,7 +66,7 @@ options::Fault refusal(const KWDocument &document, const KWTaskLink &link)
     case LinkRefusal::OwnSubtask:
         return {t("predecessor %1 is the summary that holds this task").arg(other), below};
     case LinkRefusal::Loop:
-        return {t("tasks would wait for each other: %1").arg(ringText(document, link.ring)),
+        return {t("tasks would wait for each other: %1").arg(ring(document, link.ring)),
                 t("remove one of these links")};
     case LinkRefusal::Missing:
     case LinkRefusal::None:

@@ -14,17 +14,24 @@ QMap<QString, QString> helpTopics()
   kwgantt explain FILE TASK    why a task is when it is, and why it is critical or not
   kwgantt convert IN OUT       writes a plan as .kwpx, .csv or .json
   kwgantt edit FILE EDIT       changes a plan: tasks, links, resources, calendar; --script FILE with many edits
+  kwgantt new OUT              an empty plan; --sample: a small one
+  kwgantt diff A B             what is different between two versions of a plan
+  kwgantt baseline FILE        how far the plan is from its baseline; set and clear it
+  kwgantt copy-branch FROM TASK... INTO   copies tasks from one plan into another
+  kwgantt recover [COPY]       the autosave copies; copies one back
   kwgantt formats | columns    what can be read and written; what a table can show
   kwgantt help [COMMAND]       this text, or one command with its options
   kwgantt version
 
 FILE is a CSV plan ('-' reads standard input): titles in the first row, in any order and case, such as
 ID, WBS, Level, Name, Start, Finish, Duration (3d 12h 30min 1.5w 2mon), Percent, Predecessors (joined by ;),
-Resources, Milestone, Notes. A calendar stands beside it as NAME.calendar.json or calendar.json.
+Resources, Milestone, Notes. A calendar stands beside it as NAME.calendar.json or calendar.json, and so do
+the resource sheet and the assignments: NAME.resources.csv, NAME.assignments.csv.
 TASK is the row number shown, #ID, or a name.
 
 Calendar   --calendar FILE  --days Mon-Fri  --hours 08:00-12:00,13:00-17:00  --holiday DATE[..DATE]
            --start DATE (where tasks without a start begin)
+Resources  --resources FILE  --assignments FILE (of a CSV plan)
 Output     -o FILE  --force (replaces it)  --csv  --json  --to csv|json|table  -q  -v
            --color auto|always|never  --ascii  --progress auto|always|never  --log FILE
 Place      --tz ZONE  --now TIME  --lang LANGUAGE
@@ -43,6 +50,8 @@ The dates are those of the file; a plan with tasks that have no start is shown s
   --level N        only tasks down to this outline level
   --critical       only critical tasks and their summaries
   --all            collapsed tasks, too
+  --resources      the resource sheet instead: work, cost, and the days on which somebody has too much to do
+                   (--resources=FILE reads the sheet of a CSV plan from FILE)
   --no-bars        the table alone
   --plain          the table alone, without title, legend and cut names, for other programs
   --unit d|h|min   the unit of slack (d: below half a tenth of a day counts as none)
@@ -53,7 +62,7 @@ Example: kwgantt show plan.csv --critical --scale week
         {QStringLiteral("load"), text(R"(kwgantt load FILE - reads and checks the plan and sums it up
 
 What is wrong but can be lived with is told on standard error; a file that cannot be read as a plan gives
-exit code 3. 'kwgantt check FILE' does the same and gives exit code 1 when anything was found, or when a
+exit code 3. Of a package it checks what must hold: IDs, outline, links, row heights, assignments. 'kwgantt check FILE' does the same and gives exit code 1 when anything was found, or when a
 task starts before a predecessor finishes.
 
   --check          exit code 1 when anything was found
@@ -92,6 +101,9 @@ Example: kwgantt explain plan.csv "Order parts"
 The input's format is found from its content, the output's from its name: .kwpx, .csv or .json. Tasks without a
 start are placed as 'kwgantt schedule' does.
 
+A CSV plan holds tasks alone: its calendar, resources and assignments are written beside it, where they are
+found again.
+
   --force          replaces OUT
 
 Example: kwgantt convert plan.csv plan.kwpx
@@ -112,6 +124,48 @@ Examples: kwgantt edit plan.kwpx set 5 duration=3d start=2026-03-02 -i
           kwgantt edit plan.csv add "Order parts" duration=2d -o plan.kwpx
 
 )")},
+        {QStringLiteral("new"), text(R"(kwgantt new OUT - an empty plan as .kwpx or .csv
+
+  --sample         a small plan with links and resources, from next Monday on
+  --force          replaces OUT
+)")},
+        {QStringLiteral("diff"), text(R"(kwgantt diff A B - what is different between two versions of a plan
+
+Tasks belong together by ID and name, then by a name that stands once, then by ID. Exit code 1 when anything
+is different.
+
+  added, gone      only one of the plans has the task
+  renamed, placed  another name, another summary
+  slipped, moved   it finishes later; its dates changed otherwise
+  changed          duration, done, cost, resources, notes, predecessors
+  --json           for other programs
+)")},
+        {QStringLiteral("baseline"), text(R"(kwgantt baseline FILE - how far the plan is from its baseline
+kwgantt baseline FILE set|clear [TASK...]
+
+The baseline remembers dates and costs, of all tasks or of TASK with what is below it.
+
+  -i, --in-place   writes the package FILE itself (set, clear)
+  -o OUT           writes another file
+  --json           for other programs
+)")},
+        {QStringLiteral("copy-branch"),
+         text(R"(kwgantt copy-branch FROM TASK... INTO - copies tasks from one plan into another
+
+Each TASK goes with all that is below it. The copies get new IDs and, where a name is taken, new names; links
+among them stay. Assignments stay behind: they belong to the other plan's resource sheet.
+
+  --before TASK    above this task of INTO; at the end otherwise
+  -i, --in-place   writes the package INTO itself
+  -o OUT           writes another file
+)")},
+        {QStringLiteral("recover"), text(R"(kwgantt recover - lists the autosave copies
+kwgantt recover COPY -o FILE.kwpx
+
+COPY is a number of the list or a file name. The copy is read before it is written.
+)")},
+        {QStringLiteral("completion"),
+         text("kwgantt completion - a script that completes commands and options in bash\n")},
         {QStringLiteral("formats"), text("kwgantt formats - what can be read and written\n")},
         {QStringLiteral("columns"), text("kwgantt columns - what 'show --columns' can show\n")},
         {QStringLiteral("help"),
