@@ -267,7 +267,7 @@ QString Rows::taskText(const KWTaskInfo &task, int type) const
         return predecessorText(task);
     // By address, since that is what an import takes each part of the text for.
     constexpr bool linkAddresses = true;
-    return celltext::ofType(m_document, task, type, {m_dateFormat, linkAddresses});
+    return celltext::ofType(m_document, task, type, {m_dateFormat, linkAddresses, &m_measures.calendar});
 }
 
 QString Rows::resourceText(const ResourceInfo &resource, int key) const
@@ -339,8 +339,9 @@ Cell Rows::taskCell(const KWTaskInfo &task, int type, bool withValue) const
         return cell;
     const columntypes::ColumnType &column = *columntypes::find(type);
     if (cell.value == Value::Moment)
-        cell.number = dayNumber(KWTaskInfo::showDateTime(&m_document, columntypes::secs(task, column.field),
-                                                         column.kind == Kind::StartDate));
+        cell.number = dayNumber(celltext::shownMoment(m_document, m_measures.calendar,
+                                                      columntypes::secs(task, column.field),
+                                                      column.kind == Kind::StartDate));
     else if (column.kind == Kind::NumberText)
         cell.number = columntypes::text(task, column.field).toDouble();
     else

@@ -3,12 +3,14 @@
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/duration.h"
+#include "schedule/worktime.h"
 #include "table/columntypes.h"
 #include "table/rowcolumndata.h"
 #include <QLocale>
 
 using columntypes::ColumnType;
 using columntypes::Kind;
+using worktime::WorkCalendar;
 
 namespace {
 
@@ -26,17 +28,23 @@ QString unitName(unsigned int unit)
     return KWDocument::getNameByMinorUnit(unit, longName);
 }
 
-QString dateText(KWDocument &document, quint32 secs, bool start, const QString &format)
+const WorkCalendar &calendarOf(KWDocument &document, const celltext::Style &style)
+{
+    return style.calendar ? *style.calendar : document.workCalendar();
+}
+
+QString dateText(KWDocument &document, quint32 secs, bool start, const celltext::Style &style)
 {
     if (secs == 0) // not set
         return QString();
-    return QLocale::c().toString(KWTaskInfo::showDateTime(&document, secs, start), format);
+    return QLocale::c().toString(celltext::shownMoment(document, calendarOf(document, style), secs, start),
+                                 style.dateFormat);
 }
 
-QString durationText(KWDocument &document, const KWTaskInfo &task)
+QString durationText(const WorkCalendar &calendar, const KWTaskInfo &task)
 {
     constexpr int decimals = 1;
-    const double value = KWTaskInfo::getDurValueByTaskInfo(&document, &task);
+    const double value = duration::ofTask(calendar, task.Start, task.Finish, task.DurationUnits);
     return DataFormat::formatNumber(value, 0, decimals, 1) + unitName(task.DurationUnits);
 }
 
@@ -53,6 +61,26 @@ bool hasCosts(KWDocument &document, const KWTaskInfo &task)
 }
 }
 
+QDateTime celltext::shownMoment(KWDocument &document, const WorkCalendar &calendar, quint32 secs, bool start)
+{
+    LocalClock::Wall shown;
+    if (start) {
+        shown = calendar.clock().wall(worktime::secsDayTransHour(calendar, secs));
+    } else {
+        const worktime::HourPoint last = worktime::toHourClock(calendar, qint64(secs) - 1);
+        const int secsOfDay = int(last.secs % LocalClock::secsPerDay);
+        // There and back, since a clock change may skip this time.
+        shown = calendar.clock().wall(calendar.clock().moment(last.day, secsOfDay - secsOfDay % 60));
+    }
+    QDateTime moment(LocalClock::dateOf(shown.day), QTime::fromMSecsSinceStartOfDay(shown.secs * 1000),
+                     Qt::UTC);
+    if (shown.secs == 0) { // also the clock's word for a later first moment of a date
+        const QDateTime exact = KWTaskInfo::showDateTime(&document, secs, start);
+        moment = QDateTime(exact.date(), exact.time(), Qt::UTC);
+    }
+    return moment;
+}
+
 QString celltext::ofType(KWDocument &document, const KWTaskInfo &task, int type, const Style &style)
 {
     const ColumnType *column = columntypes::find(type);
@@ -65,11 +93,11 @@ QString celltext::ofType(KWDocument &document, const KWTaskInfo &task, int type,
     case Kind::Text:
         return columntypes::text(task, column->field);
     case Kind::StartDate:
-        return dateText(document, columntypes::secs(task, column->field), true, style.dateFormat);
+        return dateText(document, columntypes::secs(task, column->field), true, style);
     case Kind::FinishDate:
-        return dateText(document, columntypes::secs(task, column->field), false, style.dateFormat);
+        return dateText(document, columntypes::secs(task, column->field), false, style);
     case Kind::Duration:
-        return durationText(document, task);
+        return durationText(calendarOf(document, style), task);
     case Kind::Percent:
         return percentText(number());
     case Kind::Priority:

@@ -238,4 +238,26 @@ TEST_F(Cells, areFoundByVisibleRowAndColumn)
     EXPECT_EQ(table.itemText(1, 0), "3");
     EXPECT_EQ(RowColumnData(nullptr).itemText(0, 0), "");
 }
+
+// Across clock changes and zones without midnights, in working days that end at any hour.
+TEST_F(Cells, ShowMomentsLikeShowDateTime)
+{
+    for (const char *hours : {"8-12 13-17", "0-24", "22-24", "0-2 3-5"}) {
+        Project p((std::string("Mon-Fri ") + hours).c_str(), "A\n");
+        KWDocument &document = p.document();
+        quint32 secs = 1;
+        for (int i = 0; i < 20000; ++i) {
+            secs = secs * 1664525 + 1013904223;
+            if (i % 4 == 0) // near a midnight
+                secs = secs / 3600 * 3600;
+            for (const bool start : {true, false}) {
+                const QDateTime slow = KWTaskInfo::showDateTime(&document, secs, start);
+                const QDateTime quick = celltext::shownMoment(document, document.workCalendar(), secs, start);
+                ASSERT_TRUE(quick.date() == slow.date() && quick.time() == slow.time())
+                    << hours << ' ' << secs << ' ' << start << ' ' << qPrintable(slow.toString(Qt::ISODate))
+                    << ' ' << qPrintable(quick.toString(Qt::ISODate));
+            }
+        }
+    }
+}
 }
