@@ -12,7 +12,8 @@ class TrackedField
 {
 public:
     TrackedField() = default;
-    TrackedField(T value)
+    // Explicit, so that a field and a plain value can stand on both sides of a "?:".
+    explicit TrackedField(T value)
         : m_value(value)
     {
     }

@@ -19,9 +19,17 @@ class KWGANTT_EXPORT RowColumnData
 public:
     struct KWGANTT_EXPORT ColumnData
     {
-        TrackedField<bool> isHide = false;
+        TrackedField<bool> isHide;
         TrackedField<QString> title; // also says what the column shows, see typeOfTitle
         double width = 0;            // pixels at the current screen scale
+
+        ColumnData() = default;
+        ColumnData(bool hide, const QString &columnTitle, double columnWidth)
+            : isHide(hide)
+            , title(columnTitle)
+            , width(columnWidth)
+        {
+        }
 
         void getUndoColVal(UndoColData *column) const;
         void setUndoColVal(const UndoColData *column);
