@@ -225,8 +225,9 @@ public:
     void updateAllParentPercent();
 
     // ---- Resources and costs (resources/kwdocument_cost.cpp) ----------------------------------------------
-    void updateResourcesName();       // every task's names text
-    void updateCostCompletCostWork(); // remaining cost of every task, then every summary's sums
+    void updateResourcesName();          // every task's names text
+    void updateCostCompletCostWork();    // remaining cost of every task, then every summary's sums
+    void basisSubUpdateFromSomeColumn(); // every summary's sums, names and baseline from the leaves below it
     void replaceTaskResourceName(const QString &oldName, const QString &newName); // on every task
     double getToltalCost() const;                                                 // of the top-level tasks
     double getCostToCompletion() const;

@@ -27,6 +27,14 @@ void KWDocument::updateCostCompletCostWork()
     const CostPass pass(*this);
     for (KWTaskInfo *task : taskList())
         pass.updateRemainCost(*task);
+    basisSubUpdateFromSomeColumn();
+}
+
+void KWDocument::basisSubUpdateFromSomeColumn()
+{
+    if (!m_taskCollection)
+        return;
+    const CostPass pass(*this);
     for (KWTaskInfo *task : taskList()) {
         if (task->isParent())
             pass.sumAll(*task);
