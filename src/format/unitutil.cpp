@@ -45,14 +45,12 @@ double pixelsPerUnit(unsigned int code)
     }
 }
 
-constexpr unsigned int unitCount = 14;
-
 // A name nobody knows gives unitCount, a code that converts nothing. Asking for its key would register it.
 unsigned int unitCode(const QString &unit)
 {
     const QString name = unit.toLower();
     unsigned int code = 0;
-    while (code < unitCount && UnitUtil::unitStr(code) != name)
+    while (code < UnitUtil::unitCount && UnitUtil::unitStr(code) != name)
         ++code;
     return code;
 }

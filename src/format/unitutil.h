@@ -8,6 +8,8 @@
 class KWGANTT_EXPORT UnitUtil
 {
 public:
+    static constexpr unsigned int unitCount = 14; // codes 0 to 13
+
     static bool s_inited;
     static double s_pixelRatio;
     static int s_cacheWidth;

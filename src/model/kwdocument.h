@@ -213,9 +213,9 @@ public:
     void clearCalendar();
     double getDurationValue(quint32 start, quint32 finish, unsigned int unit, bool rounded);
     unsigned int getMinorUnit() const; // 0 year .. 6 minute
-    // Names for the codes above, filled by the host; the short names are built in.
+    // Names for the codes above, English ones until the host fills its own in; the short names are built in.
     static QMap<unsigned int, QString> s_longUnitNames;
-    static QString getNameByMinorUnit(unsigned int unit, bool longName);
+    static QString getNameByMinorUnit(unsigned int unit, bool longName = false); // empty past 6
     void updateDependTask(bool byTag);
     void updateAllTaskEarlyLate();
     void updateSlackAndUnit(unsigned int unit);

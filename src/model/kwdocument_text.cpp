@@ -83,7 +83,10 @@ QVector<int> hits(const QTextDocument &document, const Search &search, const QSt
 }
 }
 
-QMap<unsigned int, QString> KWDocument::s_longUnitNames;
+QMap<unsigned int, QString> KWDocument::s_longUnitNames{
+    {0, QStringLiteral("Year")},  {1, QStringLiteral("Quarter")}, {2, QStringLiteral("Month")},
+    {3, QStringLiteral("Week")},  {4, QStringLiteral("Workday")}, {5, QStringLiteral("Hour")},
+    {6, QStringLiteral("Minute")}};
 
 QString KWDocument::getNameByMinorUnit(unsigned int unit, bool longName)
 {

@@ -1,15 +1,17 @@
 #include "settings/kwprintconfig.h"
-#include "quarkmanager.h"
 #include "settings/kwprintconfig_xml.h"
 #include "support/xmlsink.h"
 #include "support/xmlsource.h"
 
 void printxml::readUnit(const XmlText &text, quint32 &code)
 {
-    // Only looked up: a file must not make its texts the names of units.
-    const int quark = QuarkManager::findQuark(text.toString());
-    if (quark >= 0 && quark < QuarkManager::unitQuarkCount)
-        code = quint32(quark);
+    // Asking for the key of a text would make it a name in the table of units.
+    const QString name = text.toString();
+    quint32 unit = 0;
+    while (unit < UnitUtil::unitCount && (name.isEmpty() || UnitUtil::unitStr(unit) != name))
+        ++unit;
+    if (unit < UnitUtil::unitCount)
+        code = unit;
 }
 
 bool printxml::isTrue(const XmlText &text)

@@ -152,12 +152,14 @@ TEST(TextWidth, elidesOnlyWhatDoesNotFit)
     EXPECT_TRUE(elided.startsWith(utf8("A r")) && elided.endsWith(QChar(0x2026))) << elided.toStdString();
 }
 
-TEST(UnitNameTexts, shortOnesAreBuiltInAndLongOnesTheHosts)
+TEST(UnitNameTexts, areEnglishUntilTheHostFillsLongOnesIn)
 {
     QString names;
-    for (unsigned int unit = 0; unit < 8; ++unit)
-        names += KWDocument::getNameByMinorUnit(unit, false) + QLatin1Char(' ');
-    EXPECT_EQ(names.toStdString(), "y q mon w d h min  ");
+    for (const bool longNames : {false, true}) {
+        for (unsigned int unit = 0; unit < 8; ++unit)
+            names += KWDocument::getNameByMinorUnit(unit, longNames) + QLatin1Char(' ');
+    }
+    EXPECT_EQ(names.toStdString(), "y q mon w d h min  Year Quarter Month Week Workday Hour Minute  ");
     KWDocument::s_longUnitNames = {{4, utf8("Arbeitstag")}, {7, utf8("beyond")}};
     EXPECT_EQ(KWDocument::getNameByMinorUnit(4, true).toStdString(), "Arbeitstag");
     EXPECT_EQ(KWDocument::getNameByMinorUnit(7, true), QString());
