@@ -2,8 +2,8 @@
 #include "exchange/XLSXDataBase.h"
 #include "exchange/packageparts.h"
 #include "exchange/partwriter.h"
+#include "exchange/planexport.h"
 #include "support/kwclock.h"
-#include "support/xmlguard.h"
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -81,16 +81,6 @@ bool isBlankSensitive(const QString &text)
 {
     return !text.isEmpty() && (text.at(0).isSpace() || text.at(text.size() - 1).isSpace() ||
                                text.contains(QLatin1Char('\n')) || text.contains(QLatin1Char('\r')));
-}
-
-// As a cell can hold it.
-QString cellText(const QString &text)
-{
-    constexpr int maxUnits = 32767;
-    QString cleaned = xmlguard::clean(text);
-    if (cleaned.size() > maxUnits)
-        cleaned.truncate(cleaned.at(maxUnits - 1).isHighSurrogate() ? maxUnits - 1 : maxUnits);
-    return cleaned;
 }
 }
 
@@ -258,7 +248,7 @@ void XLSXDataBase::createOthers()
 
 int XLSXDataBase::sharedStringIndex(const QString &text)
 {
-    const QString cleaned = cellText(text);
+    const QString cleaned = planexport::cellText(text);
     const auto known = m_stringIndex.constFind(cleaned);
     if (known != m_stringIndex.constEnd())
         return *known;

@@ -6,6 +6,7 @@
 #include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/duration.h"
+#include "support/xmlguard.h"
 #include "table/celltext.h"
 #include "table/columntypes.h"
 #include <algorithm>
@@ -93,8 +94,16 @@ Value valueOf(Sheet sheet, int field)
     }
     return Value::None;
 }
+}
 
-// The columns of a sheet: what field each title stands for, -1 for none.
+QString cellText(const QString &text)
+{
+    QString cleaned = xmlguard::clean(text);
+    if (cleaned.size() > maxUnits)
+        cleaned.truncate(cleaned.at(maxUnits - 1).isHighSurrogate() ? maxUnits - 1 : maxUnits);
+    return cleaned;
+}
+
 std::vector<int> fieldsOf(Sheet sheet)
 {
     const QList<ExcelData *> &titles = exceltitles::workbookTitles(sheet);
@@ -111,7 +120,6 @@ std::vector<int> fieldsOf(Sheet sheet)
             fields[std::size_t(column)] = column;
     }
     return fields;
-}
 }
 
 std::vector<Value> valuesOfTitles()

@@ -25,6 +25,13 @@ struct Cell
     double number = 0;
 };
 
+// As a cell can hold it: without control characters, cut to `maxUnits`, not within a pair. Null stays null.
+QString cellText(const QString &text);
+constexpr int maxUnits = 32767; // UTF-16
+
+// The field of each title of the workbook: a column type, a key of a resource or of an assignment; -1 for
+// none.
+std::vector<int> fieldsOf(exceltitles::Sheet sheet);
 // What the columns of the workbook's titles show besides texts, one entry for each title of each sheet.
 std::vector<Value> valuesOfTitles();
 

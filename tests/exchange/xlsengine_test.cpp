@@ -1,0 +1,159 @@
+// Plans as XLS workbooks: the same rows as in any workbook, the limits of the format, files replaced in one
+// step.
+#include "exchange/BasicExcel.h"
+#include "exchange/XLSDataEngine.h"
+#include "exchange/XLSXDataBase.h"
+#include "exchange/planexport.h"
+#include "resources/resourceinfodata.h"
+#include "support/filesizelimit.h"
+#include "support/folder.h"
+#include "support/project.h"
+#include "support/rawbiff.h"
+#include "table/columntypes.h"
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+using exceltitles::Sheet;
+using YExcel::BasicExcel;
+using YExcel::BasicExcelWorksheet;
+
+// Titles are "T0".. for tasks, "R0".. for resources, "A0".. for assignments.
+class XlsEngine : public testing::Test
+{
+protected:
+    XlsEngine()
+    {
+        for (int type = 0; type < columntypes::count; ++type)
+            RowColumnData::s_columnNames.insert(type, QStringLiteral("T%1").arg(type));
+        for (int key = 0; key < 10; ++key)
+            ExcelTitles::s_resourcNames.insert(key, QStringLiteral("R%1").arg(key));
+        for (int key = 0; key < 5; ++key)
+            ExcelTitles::s_workAssignNames.insert(key, QStringLiteral("A%1").arg(key));
+        // As new sheets are named.
+        XLSXDataBase::s_xmlNameList = QStringList{"Sheet2", "Sheet1", "Sheet3"};
+        setTitles("T0 T1 T23 T24", "R0 R1 R2", "A0 A1 A2 A3 A4");
+    }
+    ~XlsEngine() override
+    {
+        setTitles("", "", "");
+        RowColumnData::s_columnNames.clear();
+        ExcelTitles::s_resourcNames.clear();
+        ExcelTitles::s_workAssignNames.clear();
+        XLSXDataBase::s_xmlNameList.clear();
+    }
+    static void setTitles(const QString &tasks, const QString &resources, const QString &assignments)
+    {
+        int sheet = 0;
+        for (const QString &titles : {tasks, resources, assignments}) {
+            QList<ExcelData *> &list = exceltitles::workbookTitles(Sheet(sheet++));
+            ExcelTitles::clearExcelTitles(list);
+            for (const QString &title : titles.split(' ', Qt::SkipEmptyParts)) {
+                list.append(new ExcelData);
+                list.last()->name = title;
+            }
+        }
+    }
+    static void assign(Project &p, const char *task, const char *resource)
+    {
+        auto *info = new ResourceInfo;
+        info->ID = p.document().resourceInfoData()->maxID();
+        info->name = resource;
+        p.document().resourceInfoData()->appendResourceInfo(info);
+        p.task(task).addOrDelResourceByName(&p.document(), resource, true);
+    }
+    QString file() const { return m_folder.path() + "/plän.xls"; }
+    std::string written() const
+    {
+        return QString::fromStdString(rawbiff::textOf(folder::get(file()))).replace('"', '\'').toStdString();
+    }
+
+    QTemporaryDir m_folder;
+};
+
+constexpr char plan[] = "House\n  Walls 2d\n  Roof 1d after Walls\n";
+constexpr char week[] = "Mon-Fri 8-12 13-17, start 2024-06-03";
+
+TEST_F(XlsEngine, WritesTheRowsOfAPlanAsTexts)
+{
+    Project p(week, plan);
+    assign(p, "Walls", "Ann");
+    XLSDataEngine engine(&p.document());
+    ASSERT_TRUE(engine.exportData(file()));
+    EXPECT_TRUE(engine.findings().isEmpty());
+    const char *const expected =
+        "Sheet2: A1='T0' B1='T1' C1='T23' D1='T24' A2='1' B2='House' C2='1' "
+        "A3='2' B3='Walls' C3='2' A4='3' B4='Roof' C4='2' D4='2' | "
+        "Sheet1: A1='R0' B1='R1' C1='R2' A2='1' B2='Ann' C2='100%' | "
+        "Sheet3: A1='A0' B1='A1' C1='A2' D1='A3' E1='A4' A2='House' B2='Ann' C2='0%' D2='16 h' E2='100%' "
+        "A3='Walls' B3='Ann' C3='0%' D3='16 h' E3='100%'";
+    EXPECT_EQ(written(), expected);
+
+    // The writers for one task, one sheet and one row put the same cells there.
+    BasicExcel book, whole;
+    book.New(3);
+    ASSERT_TRUE(whole.LoadBytes(folder::get(file())));
+    EXPECT_EQ(engine.parserTaskCont(&p.task("House"), 1, 1, book.GetWorksheet(0)), 4);
+    engine.parserResourceCont(book.GetWorksheet(1));
+    engine.setWorkAssignCellCont(1, &p.task("House"), p.task("Walls").resourceList.first(),
+                                 book.GetWorksheet(2));
+    engine.setWorkAssignCellCont(2, &p.task("Walls"), p.task("Walls").resourceList.first(),
+                                 book.GetWorksheet(2));
+    for (int sheet = 0; sheet < 3; ++sheet) {
+        for (int row = 1; row < whole.GetWorksheet(sheet)->GetTotalRows(); ++row) {
+            for (int column = 0; column < 5; ++column)
+                EXPECT_EQ(book.GetWorksheet(sheet)->Cell(row, column)->GetText(),
+                          whole.GetWorksheet(sheet)->Cell(row, column)->GetText());
+        }
+    }
+    XLSDataEngine::setCellCont(0, 0, book.GetWorksheet(0), QString());
+    XLSDataEngine::setCellCont(65536, 0, book.GetWorksheet(0), "x");
+    XLSDataEngine::setCellCont(0, 1, book.GetWorksheet(0), QString(32768, 'x'));
+    XLSDataEngine::setCellCont(0, 2, nullptr, "x");
+    EXPECT_EQ(book.GetWorksheet(0)->NextRow(0), 1);
+}
+
+TEST_F(XlsEngine, SaysWhatTheFormatCannotHold)
+{
+    Project p(week, plan);
+    XLSDataEngine engine(&p.document());
+    // The pair stands over the border.
+    p.task("Roof").Name = QString(32766, 'x') + QString::fromUtf8("\U0001F5D3") + "\x01";
+    QString titles = "T1";
+    for (int column = 2; column <= 257; ++column)
+        titles += " more" + QString::number(column);
+    setTitles(titles, "", "");
+    ASSERT_TRUE(engine.exportData(file()));
+    ASSERT_EQ(engine.findings().count(), 2);
+    EXPECT_EQ(engine.findings().list()[0].what, "there are 257 columns, of which the first 256 are written");
+    EXPECT_EQ(engine.findings().list()[1].place, "Sheet2, row 4, column 1");
+    EXPECT_EQ(engine.findings().list()[1].what, "a text of 32769 characters is cut to 32767");
+    BasicExcel book;
+    ASSERT_TRUE(book.LoadBytes(folder::get(file())));
+    EXPECT_EQ(book.GetWorksheet(0)->Cell(3, 0)->GetText(), QString(32766, 'x'));
+    EXPECT_EQ(book.GetWorksheet(0)->GetTotalCols(), 256);
+
+    // What cannot be written leaves the file.
+    const QByteArray before = folder::get(file());
+    setTitles("T1", "", "");
+    KWDocument large;
+    for (quint32 id = 1; id <= 65536; ++id) {
+        auto *task = new KWTaskInfo;
+        task->ID = id;
+        large.appendTaskInfoList(task);
+    }
+    XLSDataEngine tooMany(&large);
+    EXPECT_FALSE(tooMany.exportData(file()));
+    EXPECT_EQ(tooMany.findings().list().value(0).what,
+              "the sheet 'Sheet2' holds 65536 rows, and there are more");
+    EXPECT_FALSE(XLSDataEngine(nullptr).exportData(file()));
+    EXPECT_FALSE(engine.exportData(file() + "/below.xls"));
+    EXPECT_FALSE(engine.findings().isEmpty());
+    {
+        const FileSizeLimit fullDisk(2000);
+        EXPECT_FALSE(engine.exportData(file()));
+    }
+    EXPECT_EQ(folder::get(file()), before);
+}
+}
