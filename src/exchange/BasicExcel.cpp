@@ -194,6 +194,21 @@ int BasicExcelWorksheet::NextRow(int row) const
     return -1;
 }
 
+int BasicExcelWorksheet::NextColumn(int row, int column) const
+{
+    if (!isInside(row, qMax(column, 0)))
+        return -1;
+    for (auto run = m_runs.lower_bound(keyOf(row, qMax(column, 0))); run != m_runs.end(); ++run) {
+        for (const BasicExcelCell &cell : run->second.cells) {
+            if (cell.m_row != row)
+                return -1;
+            if (cell.m_column >= column && cell.Type() != BasicExcelCell::UNDEFINED)
+                return cell.m_column;
+        }
+    }
+    return -1;
+}
+
 int BasicExcelWorksheet::GetTotalRows() const
 {
     count();

@@ -78,6 +78,8 @@ public:
     const BasicExcelCell *Cell(int row, int column) const;
     // The first row from `row` on that holds something; -1 when there is none. Passes over gaps at once.
     int NextRow(int row) const;
+    // The same in one row, from `column` on.
+    int NextColumn(int row, int column) const;
     // False when the name is not possible, or another sheet has it.
     bool Rename(const char *name);
     bool Rename(const wchar_t *name);

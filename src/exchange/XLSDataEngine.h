@@ -8,6 +8,7 @@ class KWTaskInfo;
 class Resource;
 
 namespace YExcel {
+class BasicExcel;
 class BasicExcelWorksheet;
 }
 
@@ -55,7 +56,7 @@ public:
     // The text of a column's title: numbers with six significant digits, "" for what is neither number nor
     // text.
     static QString getColNameByColumn(int column, const YExcel::BasicExcelWorksheet *sheet);
-    // Builders for one sheet, of which the first `rows` and `columns` are read.
+    // Builders for one sheet, of which the first `rows` and `columns` are read; day numbers count from 1900.
     void createDocTaskInfo(int rows, int columns, YExcel::BasicExcelWorksheet *sheet);
     void createDocResource(int rows, int columns, YExcel::BasicExcelWorksheet *sheet);
     void createWorkAssign(int rows, int columns, YExcel::BasicExcelWorksheet *sheet);
@@ -64,6 +65,8 @@ public:
 
 private:
     void writeSheet(int which, YExcel::BasicExcelWorksheet *sheet);
+    void readSheet(int which, int rows, int columns, const YExcel::BasicExcelWorksheet *sheet);
+    bool load(YExcel::BasicExcel *book, const QString &path);
 
     KWDocument *m_document;
     Findings m_findings;

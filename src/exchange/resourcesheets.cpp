@@ -94,7 +94,7 @@ void ResourceSheet::apply(int row, const KnownCell &known, ResourceInfo &info)
         return;
     }
     case Name:
-        info.name = cell.text;
+        info.name = cell.asText();
         return;
     case MaxUnits:
         // Kept on purpose: a percentage even without its sign.
@@ -118,13 +118,13 @@ void ResourceSheet::apply(int row, const KnownCell &known, ResourceInfo &info)
         readAmount(row, cell, any, whole, info.costPer);
         return;
     case Group:
-        info.group = cell.text;
+        info.group = cell.asText();
         return;
     case Email:
-        info.email = cell.text;
+        info.email = cell.asText();
         return;
     case Notes:
-        info.notes = cell.text;
+        info.notes = cell.asText();
         return;
     default:
         return;
@@ -188,10 +188,10 @@ void AssignmentSheet::addRow(int row, const std::vector<KnownCell> &cells)
         const Cell &cell = *known.cell;
         switch (known.field) {
         case TaskName:
-            assignment.task = cell.text;
+            assignment.task = cell.asText();
             break;
         case ResourceName:
-            assignment.resource = cell.text.trimmed();
+            assignment.resource = cell.asText().trimmed();
             break;
         case Work:
             assignment.work = amountOf(row, cell, cellvalues::number(cell));

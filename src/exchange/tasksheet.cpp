@@ -121,7 +121,7 @@ void TaskSheet::apply(const KnownCell &known, Staged &staged)
     case Import::None:
         return;
     case Import::Text:
-        columntypes::setText(task, type.field, cell.text);
+        columntypes::setText(task, type.field, cell.asText());
         return;
     case Import::OwnId:
         readId(cell, staged);
@@ -175,8 +175,8 @@ void TaskSheet::readName(const Cell &cell, Staged &staged)
 {
     if (!staged.task->Name.isEmpty())
         return;
-    staged.task->Name = m_names.take(cell.text);
-    if (staged.task->Name != cell.text)
+    staged.task->Name = m_names.take(cell.asText());
+    if (staged.task->Name != cell.asText())
         report(staged.row, &cell, text("is the name of another task"), text("named ") + staged.task->Name);
 }
 

@@ -25,9 +25,20 @@ struct Entry
 
 // A line each, sorted; the functions are declared in entries.h.
 const Entry entries[] = {
-    {"autosave.check", checkPackage}, {"autosave.make", makePackage},    {"autosave.save", saveBackup},
-    {"kwpx.check", checkPackage},     {"kwpx.load", loadPackage},        {"kwpx.make", makePackage},
-    {"kwpx.save", savePackage},       {"kwpx.structure", loadStructure}, {"xlsx.import", importXlsx},
+    {"autosave.check", checkPackage},
+    {"autosave.make", makePackage},
+    {"autosave.save", saveBackup},
+    {"kwpx.check", checkPackage},
+    {"kwpx.load", loadPackage},
+    {"kwpx.make", makePackage},
+    {"kwpx.save", savePackage},
+    {"kwpx.structure", loadStructure},
+    {"xls.check", checkXls},
+    {"xls.import", importXls},
+    {"xls.make", makeXls},
+    {"xls.save", saveXls},
+    {"xls.titles", readXlsTitles},
+    {"xlsx.import", importXlsx},
     {"xlsx.titles", readXlsxTitles},
 };
 

@@ -15,3 +15,9 @@ int saveBackup(const QString &path);
 // workbooks.cpp
 int importXlsx(const QString &path);
 int readXlsxTitles(const QString &path);
+// xlsbooks.cpp
+int importXls(const QString &path);
+int readXlsTitles(const QString &path);
+int makeXls(const QString &path);
+int saveXls(const QString &path);
+int checkXls(const QString &path);
