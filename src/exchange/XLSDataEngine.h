@@ -67,6 +67,8 @@ private:
     void writeSheet(int which, YExcel::BasicExcelWorksheet *sheet);
     void readSheet(int which, int rows, int columns, const YExcel::BasicExcelWorksheet *sheet);
     bool load(YExcel::BasicExcel *book, const QString &path);
+    // What is wrong with the file, which the text may name already; false.
+    bool fail(const QString &path, const QString &what, const QString &hint = QString());
 
     KWDocument *m_document;
     Findings m_findings;

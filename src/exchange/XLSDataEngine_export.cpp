@@ -63,20 +63,24 @@ XLSDataEngine::XLSDataEngine(KWDocument *document)
 
 XLSDataEngine::~XLSDataEngine() = default;
 
+bool XLSDataEngine::fail(const QString &path, const QString &what, const QString &hint)
+{
+    const QString named = path + QLatin1String(": ");
+    m_findings.add(path, what.startsWith(named) ? what.mid(named.size()) : what, hint);
+    return false;
+}
+
 bool XLSDataEngine::exportData(const QString &path)
 {
     m_findings.clear();
-    const auto fail = [this, &path](const QString &what, const QString &hint = QString()) {
-        m_findings.add(path, what, hint);
-        return false;
-    };
     if (!m_document)
-        return fail(QStringLiteral("there is no document"));
+        return fail(path, QStringLiteral("there is no document"));
     const planexport::Rows rows(*m_document);
     const QStringList names = XLSXDataBase::sheetNames();
     for (const Sheet sheet : allSheets) {
         if (titleRows + rows.count(sheet, biff::rowLimit) > biff::rowLimit)
-            return fail(QStringLiteral("the sheet '%1' holds %2 rows, and there are more")
+            return fail(path,
+                        QStringLiteral("the sheet '%1' holds %2 rows, and there are more")
                             .arg(names[sheet])
                             .arg(biff::rowLimit),
                         QStringLiteral("an XLSX workbook has room for them"));
@@ -101,7 +105,7 @@ bool XLSDataEngine::exportData(const QString &path)
     }
     for (std::size_t i = 0; i < std::size(allSheets); ++i)
         book.DeleteWorksheet(0);
-    return book.SaveAs(QFile::encodeName(path).constData()) || fail(book.ErrorText());
+    return book.SaveAs(QFile::encodeName(path).constData()) || fail(path, book.ErrorText());
 }
 
 void XLSDataEngine::setCellCont(int row, int column, BasicExcelWorksheet *sheet, const QString &text)

@@ -109,8 +109,7 @@ bool XLSDataEngine::load(BasicExcel *book, const QString &path)
     m_findings.clear();
     if (m_document && book->Load(QFile::encodeName(path).constData()))
         return true;
-    m_findings.add(path, m_document ? book->ErrorText() : QStringLiteral("there is no document"));
-    return false;
+    return fail(path, m_document ? book->ErrorText() : QStringLiteral("there is no document"));
 }
 
 bool XLSDataEngine::initExcelTitles(const QString &path)

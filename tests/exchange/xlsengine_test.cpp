@@ -156,4 +156,104 @@ TEST_F(XlsEngine, SaysWhatTheFormatCannotHold)
     }
     EXPECT_EQ(folder::get(file()), before);
 }
+
+// A workbook of one sheet whose rows are lines, cells joined by "|"; "=" begins a number, with a point a
+// double.
+QByteArray workbook(const QString &lines)
+{
+    BasicExcel book;
+    book.New(1);
+    int row = 0;
+    for (const QString &line : lines.split('\n')) {
+        int column = 0;
+        for (const QString &cell : line.split('|')) {
+            YExcel::BasicExcelCell *to = book.GetWorksheet(0)->Cell(row, column++);
+            if (!cell.startsWith('='))
+                to->SetWString(cell.toStdWString().c_str());
+            else if (cell.contains('.'))
+                to->SetDouble(cell.mid(1).toDouble());
+            else
+                to->SetInteger(cell.mid(1).toInt());
+        }
+        ++row;
+    }
+    return book.ToBytes();
+}
+
+TEST_F(XlsEngine, ReadsNumbersAsTheirColumnsNeedThem)
+{
+    RowColumnData::s_columnNames[7] = "2024";
+    RowColumnData::s_columnNames[19] = "1.5";
+    Project p(week, plan);
+    XLSDataEngine engine(&p.document());
+    ASSERT_TRUE(folder::put(
+        file(), workbook("T0|=2024|=1.5|T2|T1|T22\n"
+                         "=1234567.0|=12345678|=1234567.0|=45446.666666666664|\U0001F5D3|=0.1234567\n"
+                         "=7654321|=0.1|x||=3.0|=12345678.5")));
+    ASSERT_TRUE(engine.importData(file())) << engine.findings().list().value(0).what.toStdString();
+    const auto shown = [&p] {
+        QStringList all;
+        for (const KWTaskInfo *task : p.document().taskList())
+            all << QStringLiteral("%1 %2 %3 %4 %5")
+                       .arg(task->ID)
+                       .arg(task->Name, task->Resources, task->Notes, task->BaselineCost);
+        return all.join('\n').toStdString();
+    };
+    EXPECT_EQ(shown(), "1234567 \U0001F5D3 12345678 1.23457e+06 0.1234567\n7654321 3 0.1 x 12345678.5");
+    EXPECT_EQ(p.dates().substr(0, 16), "\U0001F5D3 3 Jun 16:00");
+    BasicExcel book;
+    ASSERT_TRUE(book.LoadBytes(folder::get(file())));
+    EXPECT_EQ(XLSDataEngine::getColNameByColumn(1, book.GetWorksheet(0)), "2024");
+    EXPECT_EQ(XLSDataEngine::getColNameByColumn(2, book.GetWorksheet(0)), "1.5");
+    EXPECT_EQ(XLSDataEngine::getColNameByColumn(9, book.GetWorksheet(0)), "");
+    EXPECT_EQ(XLSDataEngine::getColNameByColumn(256, nullptr), "");
+    // The builder for one sheet reads as far as it is told.
+    engine.createDocTaskInfo(2, 2, book.GetWorksheet(0));
+    EXPECT_EQ(shown(), "1234567  12345678  ");
+    // The same day in a workbook that counts from 1904: "T2", and below it a packed integer.
+    rawbiff::Book raw{rawbiff::record(0x0022, "w1"), rawbiff::record(0x00FC, "u1 u1 w2 00 5432"), {}};
+    raw.sheets = {rawbiff::record(0x00FD, "w0 w0 w15 u0") + rawbiff::record(0x027E, "w1 w0 w15 u175938")};
+    ASSERT_TRUE(folder::put(file(), raw.file()) && engine.importData(file()));
+    EXPECT_EQ(p.dates(), " 3 Jun - 3 Jun\n");
+}
+
+TEST_F(XlsEngine, LeavesThePlanAloneWhenThereIsNone)
+{
+    Project p(week, plan);
+    const std::string before = p.dates();
+    XLSDataEngine engine(&p.document());
+    for (const QByteArray &bytes : {QByteArray("no workbook"), workbook("t0|t1\n=1|x"), workbook("")}) {
+        folder::put(file(), bytes);
+        EXPECT_FALSE(engine.importData(file()));
+        EXPECT_FALSE(engine.findings().isEmpty());
+    }
+    EXPECT_EQ(p.dates(), before);
+    folder::put(file(), "no workbook");
+    EXPECT_FALSE(engine.initExcelTitles(file()));
+    EXPECT_EQ(engine.findings().list().value(0).what, "is no compound file");
+    folder::put(file(), workbook("T1|what\nx|y"));
+    EXPECT_TRUE(engine.initExcelTitles(file()));
+    ASSERT_EQ(ExcelTitles::s_excelTaskTitles.size(), 2);
+    EXPECT_EQ(ExcelTitles::s_excelTaskTitles[1]->pos, 1);
+    EXPECT_EQ(ExcelTitles::s_excelResourceTitles.size(), 0);
+    EXPECT_EQ(p.dates(), before);
+}
+
+TEST_F(XlsEngine, BringsBackTheSamePlan)
+{
+    Project p(
+        week,
+        "House\n  Walls 2d\n  Roof 4h 50% after Walls\n  Ready milestone after Roof\n任务 3d after Ready\n");
+    assign(p, "Walls", "Ann");
+    setTitles("T24 T23 T5 T4 T3 T2 T1 T0", "R0 R1 R2", "A0 A1 A2 A3 A4");
+    ASSERT_TRUE(XLSDataEngine(&p.document()).exportData(file()));
+    const QByteArray before = folder::get(file());
+    const std::string dates = p.dates();
+    XLSDataEngine engine(&p.document());
+    ASSERT_TRUE(engine.importData(file()));
+    EXPECT_TRUE(engine.findings().isEmpty()) << engine.findings().list()[0].what.toStdString();
+    EXPECT_EQ(p.dates(), dates);
+    ASSERT_TRUE(engine.exportData(file()));
+    EXPECT_EQ(folder::get(file()), before);
+}
 }
