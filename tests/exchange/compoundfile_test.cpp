@@ -261,7 +261,9 @@ TEST(CompoundFile, damageIsMetByACleanNo)
                  {"right is the root", bigEntryAt + 72, 0, sound},
                  {"child is outside", directoryAt + 76, 99, ""},
                  {"root is a stream", directoryAt + 64, 0x01020016, closed},
-                 {"second is unused", tinyEntryAt + 64, 0x01000000, "/big=5000 "}};
+                 {"second is unused", tinyEntryAt + 64, 0x01000000, "/big=5000 "},
+        {"second has no name", tinyEntryAt + 64, 0x01020002, "/big=5000 "},
+        {"second is named like a path", tinyEntryAt, 0x0069002F, "/big=5000 "}};
     for (const auto &one : cases) {
         QByteArray bytes = whole;
         qToLittleEndian(one.value, bytes.data() + one.at);

@@ -15,6 +15,13 @@ bool isStorage(const CompoundFile::Property &property)
     return property.kind == CompoundFile::Property::Storage || property.kind == CompoundFile::Property::Root;
 }
 
+// Any other name would make a path lead elsewhere, for a walk through the storages in circles.
+bool canStandInPath(const QString &name)
+{
+    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..") &&
+           !name.contains(QLatin1Char('/'));
+}
+
 // The table entries of one sector at the end of `table`.
 void appendNumbers(biff::Bytes sector, std::vector<quint32> *table)
 {
@@ -178,7 +185,7 @@ bool CompoundFile::PropertyTree::Build(const QVector<Property> &entries)
         isTaken[visit.entry] = true;
         const Property &entry = entries.at(int(visit.entry));
         const bool isKnown = entry.kind == Property::Storage || entry.kind == Property::Stream;
-        if (isKnown && Child(visit.parent, entry.name) < 0) {
+        if (isKnown && canStandInPath(entry.name) && Child(visit.parent, entry.name) < 0) {
             const int node = Add(visit.parent, entry.name, Property::Kind(entry.kind));
             m_nodes[size_t(node)].property = entry;
             if (entry.kind == Property::Storage)

@@ -122,7 +122,7 @@ public:
         };
 
         PropertyTree();
-        // Takes what the root leads to. False when the first entry is no root.
+        // Takes what the root leads to and a path can name. False when the first entry is no root.
         bool Build(const QVector<Property> &entries);
         const Node &At(int node) const { return m_nodes[size_t(node)]; }
         Node &At(int node) { return m_nodes[size_t(node)]; }
