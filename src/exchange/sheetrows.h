@@ -9,8 +9,8 @@ struct Cell
 {
     int column = 0; // from 1
     QString text;
-    bool isNumber = false; // the text is a finite number that the workbook holds as one
-    QString shown;         // the number as a column of texts takes it; null for the text itself
+    bool isNumber = false;     // the text is a finite number that the workbook holds as one
+    QString shown = QString(); // the number as a column of texts takes it; null for the text itself
 
     const QString &asText() const { return shown.isNull() ? text : shown; }
 };
