@@ -126,6 +126,7 @@ def main():
     ap.add_argument("--jobs", type=int, default=1)
     ap.add_argument("--slack", type=float, default=1.0, help="multiplies the time limits (sanitizer builds: 5, valgrind: 40)")
     ap.add_argument("--no-address-limit", dest="address", action="store_false")
+    ap.add_argument("--under", default="", help="a program to run the driver under, with its options")
     ap.add_argument("--report", default="run.csv")
     ap.add_argument("--quiet", action="store_true")
     own, driver = sys.argv[1:], None
@@ -137,7 +138,7 @@ def main():
         ap.error("no driver after --")
     a.driver = driver
     a.corpus = os.path.abspath(a.corpus)
-    a.driver = [os.path.abspath(x) if os.path.isfile(x) else x for x in a.driver]
+    a.driver = a.under.split() + [os.path.abspath(x) if os.path.isfile(x) else x for x in a.driver]
     rows = list(csv.DictReader(open(os.path.join(a.corpus, "expected.csv"), newline="")))
     rows = [r for r in rows if (not a.only or any(r["file"].startswith(p) for p in a.only)) and (not a.entry or r["entry"] in a.entry)]
     if os.environ.get("KW_HOSTILE_LONG", "0") == "0":
