@@ -1,5 +1,6 @@
 #pragma once
 #include "kwgantt_export.h"
+#include "resources/resource.h"
 #include <QList>
 #include <QMap>
 #include <QString>
