@@ -10,6 +10,7 @@
 #include "kwzip.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "plantitles.h"
 #include "report.h"
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -56,34 +57,6 @@ private:
                                : QStringLiteral("repeated %1").arg(row * column % 1000);
     }
 };
-
-void fillTitles()
-{
-    const char *const names[] = {"ID",       "Name", "Start", "Finish", "Duration",
-                                 "Complete", "",     "Who",   "",       "Cost",
-                                 "",         "Work", "",      "",       "",
-                                 "",         "",     "",      "",       "",
-                                 "",         "",     "",      "Level",  "Predecessors"};
-    for (int type = 0; type < int(std::size(names)); ++type) {
-        if (*names[type])
-            RowColumnData::s_columnNames.insert(type, QString::fromLatin1(names[type]));
-    }
-    RowColumnData::s_columnNames.insert(18, QStringLiteral("Critical"));
-    for (const char *name : {"Task", "Resource", "Complete", "Work", "Units"})
-        ExcelTitles::s_workAssignNames.insert(ExcelTitles::s_workAssignNames.size(),
-                                              QString::fromLatin1(name));
-    for (int key = 0; key < 10; ++key)
-        ExcelTitles::s_resourcNames.insert(key, QStringLiteral("Field %1").arg(key));
-    const auto fill = [](exceltitles::Sheet sheet, const QMap<int, QString> &titles) {
-        for (const QString &title : titles) {
-            exceltitles::workbookTitles(sheet).append(new ExcelData);
-            exceltitles::workbookTitles(sheet).last()->name = title;
-        }
-    };
-    fill(exceltitles::TaskSheet, RowColumnData::s_columnNames);
-    fill(exceltitles::ResourceSheet, ExcelTitles::s_resourcNames);
-    fill(exceltitles::AssignmentSheet, ExcelTitles::s_workAssignNames);
-}
 
 void sayMemory(const QString &file)
 {
@@ -142,7 +115,7 @@ int main(int argc, char **argv)
     QGuiApplication application(argc, argv);
     const std::string operation = argc > 1 ? argv[1] : "all";
     const int rows = argc > 2 ? std::atoi(argv[2]) : 100000;
-    fillTitles();
+    plantitles::fill();
     Report report;
     for (int size = rows / 10; size <= rows; size += rows - rows / 10) {
         for (const bool isPacked : {false, true}) {

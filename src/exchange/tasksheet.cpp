@@ -130,13 +130,13 @@ void TaskSheet::apply(const KnownCell &known, Staged &staged)
         readName(cell, staged);
         return;
     case Import::StartOnWorkday:
-        columntypes::setSecs(task, type.field, secsOf(cell, StartOnWorkday, staged.row));
+        readMoment(known, StartOnWorkday, staged);
         return;
     case Import::StartAsShown:
-        columntypes::setSecs(task, type.field, secsOf(cell, StartAsShown, staged.row));
+        readMoment(known, StartAsShown, staged);
         return;
     case Import::Finish:
-        columntypes::setSecs(task, type.field, secsOf(cell, Finish, staged.row));
+        readMoment(known, Finish, staged);
         return;
     case Import::Duration:
         readDuration(cell, staged);
@@ -260,21 +260,33 @@ void TaskSheet::readTags(const Cell &cell, Staged &staged)
 
 // ---- Moments ----------------------------------------------------------------------------------------------
 
-// Plans name the same moments again and again.
-quint32 TaskSheet::secsOf(const Cell &cell, MomentUse use, int row)
+void TaskSheet::readMoment(const KnownCell &known, MomentUse use, Staged &staged)
 {
-    QHash<QString, quint32> &known = m_secsOf[use][cell.isNumber ? 1 : 0];
+    const columntypes::Field &field = columntypes::find(known.field)->field;
+    const Moment moment = momentOf(*known.cell, use, staged.row);
+    columntypes::setSecs(*staged.task, field, moment.secs);
+    if (field == columntypes::Field(&KWTaskInfo::Start))
+        staged.start = moment;
+    else if (field == columntypes::Field(&KWTaskInfo::Finish))
+        staged.finish = moment;
+}
+
+// Plans name the same moments again and again.
+TaskSheet::Moment TaskSheet::momentOf(const Cell &cell, MomentUse use, int row)
+{
+    QHash<QString, Moment> &known = m_moments[use][cell.isNumber ? 1 : 0];
     const auto found = known.constFind(cell.text);
     if (found != known.constEnd())
         return *found;
     const std::optional<QDateTime> shown = cellvalues::moment(cell, m_is1904);
     if (!shown) {
         report(row, &cell, text("is no date from 1970 to 2106"), text("today"));
-        return stored(KWClock::now().date().startOfDay(), use);
+        const QDateTime today = KWClock::now().date().startOfDay();
+        return {stored(today, use), today.toSecsSinceEpoch()};
     }
-    const quint32 secs = stored(*shown, use);
-    known.insert(cell.text, secs);
-    return secs;
+    const Moment moment{stored(*shown, use), shown->toSecsSinceEpoch()};
+    known.insert(cell.text, moment);
+    return moment;
 }
 
 // From the moment that a user sees to the one that a task has.
@@ -322,7 +334,10 @@ void TaskSheet::complete(Staged &staged)
     if (task.Start == 0)
         task.Start = stored(KWClock::now().date().startOfDay(), StartOnWorkday);
     const bool isAfterStart = task.Finish > task.Start;
-    staged.takesNoTime = staged.takesNoTime && !isAfterStart;
+    // A finish at the beginning of a day is the end of the one before, which days off may move past the
+    // start.
+    staged.takesNoTime =
+        staged.takesNoTime && (!isAfterStart || staged.finish.shownSecs <= staged.start.shownSecs);
     if (staged.takesNoTime) {
         // A milestone is as long as can be told apart from no time at all.
         task.Finish = worktime::clampSecs(qint64(task.Start) + 1);

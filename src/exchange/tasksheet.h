@@ -66,11 +66,18 @@ protected:
     void addRow(int row, const std::vector<sheetrows::KnownCell> &cells) override;
 
 private:
+    struct Moment
+    {
+        quint32 secs = 0;     // as a task has it
+        qint64 shownSecs = 0; // as the cell has it
+    };
     struct Staged
     {
         std::unique_ptr<KWTaskInfo> task;
         quint32 id = 0;
         int row = 0;
+        Moment start;
+        Moment finish;
         bool takesNoTime = false;
         std::size_t wantedEnd = 0; // the entries of m_wantedTags up to here, from those of the task before
         std::size_t wantedBegin = 0;
@@ -85,7 +92,8 @@ private:
     void readTags(const sheetrows::Cell &cell, Staged &staged);
     void readNumber(const sheetrows::KnownCell &known, Staged &staged);
     void complete(Staged &staged);
-    quint32 secsOf(const sheetrows::Cell &cell, MomentUse use, int row);
+    void readMoment(const sheetrows::KnownCell &known, MomentUse use, Staged &staged);
+    Moment momentOf(const sheetrows::Cell &cell, MomentUse use, int row);
     quint32 stored(const QDateTime &shown, MomentUse use) const;
     int posOfTag(quint32 tag) const; // -1 when the row holds no task
 
@@ -96,7 +104,7 @@ private:
     std::vector<quint32> m_wantedTags;
     UniqueNames m_names;
     UniqueIds m_ids;
-    QHash<QString, quint32> m_secsOf[momentUses][2]; // by text; the second is for numbers
+    QHash<QString, Moment> m_moments[momentUses][2]; // by text; the second is for numbers
     qint64 m_tagUnits = 0;                           // of text that was searched for tags
     int m_hyperlinks = 0;
 };

@@ -2,6 +2,9 @@
 #include "exchange/planexport.h"
 #include "resources/resource.h"
 #include "resources/resourceinfodata.h"
+#include "schedule/kwcalendar.h"
+#include "schedule/kwtaskcollection.h"
+#include "schedule/randomplan.h"
 #include "support/gridbook.h"
 #include "support/kwclock.h"
 #include "support/project.h"
@@ -120,5 +123,255 @@ TEST_F(PlanImport, BuildsOutlineAndLinksFromLevelsAndRows)
     EXPECT_FALSE(import("name|LEVEL\nZ|1"));
     EXPECT_EQ(document->taskCount(), 6);
     EXPECT_FALSE(document->isModified());
+}
+
+struct CellCase
+{
+    const char *title;
+    const char *cell;
+    const char *shown;
+    bool isFaulty = false;
+    bool is1904 = false;
+};
+
+class CellOfATask : public PlanImport, public testing::WithParamInterface<CellCase>
+{
+};
+
+// The document works Monday to Friday, 8 to 12 and 13 to 17; today is Saturday, 9 March 2024.
+TEST_P(CellOfATask, BecomesItsField)
+{
+    const CellCase &param = GetParam();
+    ASSERT_TRUE(
+        import((std::string("Name|") + param.title + "\nA|" + param.cell).c_str(), "", "", param.is1904));
+    const KWTaskInfo &task = *document->getTaskInfoAt(0);
+    const int type = RowColumnData::s_columnNames.key(QString::fromLatin1(param.title));
+    const QString shown =
+        type == 11 ? QString::number(task.Work) : planexport::Rows(*document).taskText(task, type);
+    EXPECT_EQ(shown.toStdString(), param.shown);
+    EXPECT_EQ(!findings.isEmpty(), param.isFaulty) << found();
+}
+
+const CellCase cellCases[] = {
+    {"Start", "2024-03-06 10:30", "2024-03-06 10:30"},
+    {"Start", "=45357.4375", "2024-03-06 10:30"},
+    {"Start", "=43895.4375", "2024-03-06 10:30", false, true},
+    {"Start", "45357.4375", "2024-03-11 08:00", true}, // a text is no day number
+    {"Start", "=45357.99999999", "2024-03-07 08:00"},
+    {"Start", "2024/3/9", "2024-03-11 08:00"}, // a Saturday
+    {"Start", "2024-03-06 06:00", "2024-03-06 08:00"},
+    {"Start", "2024-03-06 18:00", "2024-03-07 08:00"},
+    {"Start", "=1e308", "2024-03-11 08:00", true},
+    {"Start", "=2", "2024-03-11 08:00", true}, // 1900
+    {"Start", "1969-12-30", "2024-03-11 08:00", true},
+    {"Start", "", "2024-03-11 08:00"},
+    {"Finish", "2024-03-15 17:00", "2024-03-15 17:00"},
+    {"Finish", "2024-03-15 17:30", "2024-03-15 17:00"},
+    {"Finish", "2024-03-15 18:00", "2024-03-15 17:00"},
+    {"Finish", "2024-03-15", "2024-03-15 17:00"},
+    {"Finish", "=45366", "2024-03-15 17:00"},
+    {"Finish", "2024-03-16 10:00", "2024-03-18 10:00"}, // a Saturday
+    {"Finish", "2024-03-14 12:30", "2024-03-14 12:30"},
+    {"Finish", "2024-03-01", "2024-03-11 17:00"}, // not after the start
+    {"Finish", "31/31/2024", "2024-03-11 17:00", true},
+    {"Duration", "3 day", "1d"},
+    {"Duration", "9h", "8h"},
+    {"Duration", "2 Week", "0.2w"},
+    {"Duration", "=7", "1d"},
+    {"Duration", "3 moons", "1d", true},
+    {"Complete", "50%", "50%"},
+    {"Complete", "=0.125", "12.5%"},
+    {"Complete", "1,200 %", "100%"},
+    {"Complete", "-3%", "0%"},
+    {"Complete", "half", "0%", true},
+    {"Priority", "3High", "3"},
+    {"Names", "Ann; Bob", "Ann; Bob"},
+    {"Links", " www.a.com;; b ", "www.a.com;b"},
+    {"Work", "1,016.5 h", "1016.5"},
+    {"EarlyStart", "2020-01-01", "2024-03-11 08:00"}, // the start, not a field of its own
+    {"LateStart", "2024-03-09 10:30", "2024-03-11 10:30"},
+    {"LateFinish", "2024-03-09 10:30", "2024-03-11 10:30"},
+    {"StartSlack", " 3d", "3d"},
+    {"Critical", "=1", "1"},
+    {"BaseStart", "2024-03-09 10:30", "2024-03-09 10:30"},
+    {"BaseFinish", "2024-03-09 10:30", "2024-03-11 10:30"},
+    {"BaseCost", "$ 1,234.50", "1,234.5"},
+    {"Level", "2.9", "2"},
+    {"Level", "=99999999999", "2147483647"},
+    {"ID", "=4294967295", "4294967295"},
+    {"ID", "4294967296", "1", true},
+    {"ID", "=-1", "1", true},
+};
+INSTANTIATE_TEST_SUITE_P(All, CellOfATask, testing::ValuesIn(cellCases));
+
+TEST_F(PlanImport, ReadsResourcesAndAssignments)
+{
+    ASSERT_TRUE(import("Name|Start|Finish|Duration|Level\n"
+                       "All|2024-03-04|2024-03-05|2d|1\n"
+                       "Dig|2024-03-04|2024-03-05|2d|2\n"
+                       "Pay|2024-03-04|2024-03-04|60min|2\n"
+                       "Dig|2024-03-04 17:00|2024-03-04 17:00|0d|2",
+                       "ID|Name|Units|Type|Rate|Overtime|PerUse|Email\n"
+                       "3|Ann|200%|Work|$1,000.5/d|3/x|-2|a@b\n"
+                       "3| Ann |=2||7|x||\n"
+                       "||50|Material|/h|2/min|5|c\n"
+                       "9||||||||\n"
+                       "|||||||\n"
+                       "||||||| d",
+                       "Task|Resource|Complete|Work|Units\n"
+                       "All|Ann|0%|1 h|100%\n"
+                       "Dig|Ann ||4 h|50%\n"
+                       "Dig|Resource3|||3\n"
+                       "Pay|Ann||90 min|\n"
+                       "Pay|Zoe|||=0.5\n"
+                       "Nobody|Ann\n"
+                       "Dig|Ann||-4 h|inf"));
+    std::string text;
+    for (const ResourceInfo *info : document->resourceInfoData()->infos) {
+        const auto number = [](double value) { return QString::number(value); };
+        text += QStringList{number(info->ID),           info->name,
+                            number(info->unit),         number(info->type),
+                            number(info->cost),         number(info->costUnit),
+                            number(info->overtimeCost), number(info->overtimeUnit),
+                            number(info->costPer),      info->email}
+                    .join('|')
+                    .toStdString() +
+                '\n';
+    }
+    EXPECT_EQ(text, "3|Ann|2|0|1000.5|2|3|1|-2|a@b\n"
+                    "4|Ann5|0.02|0|7|1|0|1|0|\n"
+                    "5|Resource3|0.5|1|0|1|2|0|5|c\n"
+                    "9|Resource4|1|0|0|1|0|1|0|\n"
+                    "10|Resource6|1|0|0|1|0|1|0|d\n");
+    text.clear();
+    for (const KWTaskInfo *task : document->taskList()) {
+        text += QStringLiteral("%1 %2 cost %3 left %4 work %5:")
+                    .arg(task->Name, task->Resources)
+                    .arg(task->Cost)
+                    .arg(task->RemainingCost)
+                    .arg(task->Work)
+                    .toStdString();
+        for (const Resource *resource : task->resourceList)
+            text += QStringLiteral(" %1 x%2 %3s")
+                        .arg(resource->name)
+                        .arg(resource->percent)
+                        .arg(resource->workSecs)
+                        .toStdString();
+        text += task->Milestone ? " milestone\n" : "\n";
+    }
+    // Half a day of Ann at 1000.5 and half of her -2 for a use; the material at 0, 5 for a use; 1.5 h of Ann,
+    // half the task's day of Zoe.
+    EXPECT_EQ(text, "All Ann; Resource3; Zoe cost 689.844 left 689.844 work 9.5:\n"
+                    "Dig Ann; Resource3 cost 504.25 left 504.25 work 0.5: Ann x0.5 43200s Resource3 x3 0s\n"
+                    "Pay Ann; Zoe cost 185.594 left 185.594 work 330: Ann x1 5400s Zoe x0.5 14400s\n"
+                    "Dig4  cost 0 left 0 work 0: milestone\n");
+    EXPECT_EQ(found(),
+              "task sheet, row 5, 'Name': 'Dig' is the name of another task; named Dig4\n"
+              "resource sheet, row 2, 'Overtime': '3/x' has no known unit of time; money for an hour\n"
+              "resource sheet, row 3, 'ID': '3' cannot be the ID; the next free ID\n"
+              "resource sheet, row 3, 'Overtime': 'x' is no rate; left out\n"
+              "resource sheet, row 3: Ann is the name of another resource; named Ann5\n"
+              "resource sheet, row 4, 'Rate': '/h' is no rate; left out\n"
+              "assignment sheet, row 8, 'Work': '-4 h' is no amount; left out\n"
+              "assignment sheet, row 8, 'Units': 'inf' is no amount; left out\n"
+              "assignment sheet, row 6: there is no resource Zoe; assigned without a rate\n"
+              "assignment sheet, row 7: there is no task Nobody; left out\n");
+}
+
+// Keeps the rows that an export writes, as an import reads them.
+class Sheet : public planexport::RowSink, public sheetrows::Source
+{
+public:
+    void begin(int, int) override {}
+    void row(int number, int, const std::vector<planexport::Cell> &cells) override
+    {
+        sheetrows::Row row;
+        row.number = number;
+        for (const planexport::Cell &cell : cells) {
+            const bool isNumber = cell.value != planexport::Value::None;
+            row.cells.push_back({int(row.cells.size()) + 1,
+                                 isNumber ? QString::number(cell.number, 'g', 17) : cell.text, isNumber});
+            m_text += (row.cells.size() > 1 ? "|" : "") + cell.text.toStdString();
+        }
+        m_text += '\n';
+        m_rows.push_back(row);
+    }
+    bool next(sheetrows::Row &row) override
+    {
+        if (m_next == m_rows.size())
+            return false;
+        row = m_rows[m_next++];
+        return true;
+    }
+    const std::string &text() const { return m_text; }
+
+private:
+    std::vector<sheetrows::Row> m_rows;
+    std::size_t m_next = 0;
+    std::string m_text;
+};
+
+void assignAtRandom(KWDocument &plan, std::mt19937 &random)
+{
+    for (int i = 0; i < 4; ++i) {
+        auto *info = new ResourceInfo;
+        info->ID = i + 1;
+        info->name = QStringLiteral("R%1").arg(i);
+        info->type = i / 3;
+        info->cost = randomplan::between(random, 0, 100);
+        info->costUnit = randomplan::between(random, 0, 4);
+        info->costPer = 2.5;
+        plan.resourceInfoData()->appendResourceInfo(info);
+    }
+    for (KWTaskInfo *task : plan.taskList()) {
+        task->Name = QStringLiteral("T%1").arg(task->ID.value());
+        task->setPercent(randomplan::between(random, 0, 8) / 8.0);
+        for (int i = randomplan::between(random, 0, 2); i > 0 && !task->isParent(); --i) {
+            task->addOrDelResourceByName(&plan, QStringLiteral("R%1").arg(randomplan::between(random, 0, 3)),
+                                         true);
+            task->resourceList.last()->percent = randomplan::between(random, 1, 8) / 4.0;
+        }
+        task->updateCostAndWork(&plan);
+    }
+    for (int i = 0; i < plan.taskCount(); ++i)
+        plan.taskCollection()->taskDependTask(
+            plan.getTaskInfoAt(randomplan::between(random, 0, plan.taskCount() - 1)),
+            plan.getTaskInfoAt(randomplan::between(random, 0, plan.taskCount() - 1)));
+    plan.updateDependTask(false); // in the order of the IDs, as an import leaves the links
+}
+
+// A plan goes to a workbook and comes back as the same plan, from texts as from values.
+TEST_F(PlanImport, TakesBackWhatAnExportWrites)
+{
+    std::mt19937 random(5);
+    for (int sheet = 0; sheet < exceltitles::SheetCount; ++sheet) {
+        const QMap<int, QString> &titles = sheet == 0   ? RowColumnData::s_columnNames
+                                           : sheet == 1 ? ExcelTitles::s_resourcNames
+                                                        : ExcelTitles::s_workAssignNames;
+        for (const QString &title : titles)
+            exceltitles::workbookTitles(exceltitles::Sheet(sheet)).append(new ExcelData{0, -1, title});
+    }
+    for (int round = 0; round < 60; ++round) {
+        const bool withValues = round % 2 == 1;
+        std::unique_ptr<KWDocument> plan = randomplan::plan(random, 12, 4);
+        assignAtRandom(*plan, random);
+        std::string texts[2];
+        for (std::string &text : texts) {
+            const planexport::Rows rows(text.empty() && &text == texts ? *plan : *document);
+            Sheet sheets[exceltitles::SheetCount];
+            for (int sheet = 0; sheet < exceltitles::SheetCount; ++sheet) {
+                rows.write(exceltitles::Sheet(sheet), sheets[sheet], 1000, withValues);
+                text += sheets[sheet].text();
+            }
+            if (&text == texts) {
+                document = std::make_unique<KWDocument>();
+                for (KWCalendar *calendar : qAsConst(plan->calendars))
+                    document->calendars.append(new KWCalendar(*calendar));
+                ASSERT_TRUE(planimport::importBook(*document, {{&sheets[0], &sheets[1], &sheets[2]}, false},
+                                                   nullptr));
+            }
+        }
+        ASSERT_EQ(texts[0], texts[1]) << "round " << round;
+    }
 }
 }
