@@ -1,5 +1,5 @@
 #include "exchange/xlsxsheet.h"
-#include "support/kwziplimits.h"
+#include "support/kwlimits.h"
 #include "support/xmlguard.h"
 #include <QDir>
 #include <QDomElement>
