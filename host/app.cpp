@@ -117,6 +117,11 @@ int schedule(Console &console)
     if (const int code = planfile::load(file, console, plan, findings))
         return code;
     tell(console, plan, findings);
+    if (options.inPlace && !plan.isPackage && plan.table.rows.empty()) {
+        console.error(t("%1: a workbook cannot be changed in place").arg(file),
+                      t("-o PLAN.kwpx writes the plan as a package"));
+        return Console::WrongUse;
+    }
     if (tellRings(console, plan))
         return Console::CannotSchedule;
     plan::schedule(plan, options.asSoonAsPossible ? plan::AsSoonAsPossible : plan::AsGiven,
@@ -214,10 +219,12 @@ int listColumns(Console &console)
 
 int listFormats(Console &console)
 {
-    const QString text = t("kwpx   reads and writes: the whole document as a package") + QLatin1Char('\n') +
-                         t("csv    reads and writes: a row a task, titles in the first row, UTF-8") +
-                         QLatin1Char('\n') + t("json   writes") + QLatin1Char('\n') +
-                         t("table  writes: text for people") + QLatin1Char('\n');
+    const QString text =
+        t("kwpx   reads and writes: the whole document as a package") + QLatin1Char('\n') +
+        t("csv    reads and writes: a row a task, titles in the first row, UTF-8") + QLatin1Char('\n') +
+        t("xlsx   reads and writes: a workbook with a sheet each of tasks, resources and assignments") +
+        QLatin1Char('\n') + t("json   writes") + QLatin1Char('\n') + t("table  writes: text for people") +
+        QLatin1Char('\n');
     return written(console, text.toUtf8());
 }
 

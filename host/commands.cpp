@@ -6,6 +6,7 @@
 #include "schedule/kwtaskcollection.h"
 #include "support/findings.h"
 #include "texts.h"
+#include "workbookfile.h"
 #include <QFileInfo>
 
 namespace commands {
@@ -53,6 +54,9 @@ int writePlan(Console &console, Plan &plan)
     if (options.format == Options::Package)
         return kwpxfile::save(console, plan, options.output, options.force) ? Console::Done
                                                                             : Console::CannotWrite;
+    if (options.format == Options::Xlsx)
+        return workbookfile::save(console, plan, options.output, workbookfile::Xlsx) ? Console::Done
+                                                                                     : Console::CannotWrite;
     if (options.format == Options::Csv)
         return written(console, machine::csv(plan));
     if (options.format == Options::Json)
@@ -70,7 +74,7 @@ int writeWithSides(Console &console, Plan &plan)
 {
     const Options &options = console.options();
     std::vector<planfile::Side> sides;
-    if (options.format == Options::Csv && !options.output.isEmpty())
+    if (!options.output.isEmpty())
         sides = planfile::sidesOf(plan, options.output);
     for (const planfile::Side &side : sides) {
         if (QFileInfo::exists(side.path) && !options.force) {
@@ -103,7 +107,7 @@ int loadForChange(Console &console, const QString &file, Plan &plan)
     if (const int code = loadPlan(console, file, plan))
         return code;
     if (!plan.isPackage && options.inPlace) {
-        console.error(t("%1: a CSV plan cannot be changed in place").arg(file),
+        console.error(t("%1: only a package can be changed in place").arg(file),
                       t("-o PLAN.kwpx writes it as a package"));
         return Console::WrongUse;
     }

@@ -1,5 +1,6 @@
 #include "options.h"
 #include "texts.h"
+#include <QHash>
 #include <algorithm>
 #include <numeric>
 #include <vector>
@@ -19,6 +20,7 @@ enum Group : unsigned {
     Editing = 128,
     Making = 256,
     Copying = 512,
+    Converting = 1024,
 };
 
 struct Command
@@ -38,7 +40,7 @@ constexpr Command commandTable[] = {
     {"load", "check", Everywhere | Planning | Checking, 1, 1, "FILE"},
     {"schedule", "", Everywhere | Planning | Showing | Scheduling | Checking, 1, 1, "FILE"},
     {"explain", "", Everywhere | Planning | Explaining, 2, 2, "FILE TASK"},
-    {"convert", "", Everywhere | Planning, 2, 2, "IN OUT"},
+    {"convert", "", Everywhere | Planning | Converting, 2, 2, "IN OUT"},
     {"edit", "", Everywhere | Planning | Showing | Changing | Editing, 1, mostWords, "FILE EDIT"},
     {"new", "", Everywhere | Making, 1, 1, "OUT"},
     {"diff", "", Everywhere | Planning, 2, 2, "A B"},
@@ -225,6 +227,11 @@ const Option optionTable[] = {
      [](Options &o, const QString &) { return o.inPlace = true; }},
     {"dry-run", "", nullptr, Scheduling | Changing,
      [](Options &o, const QString &) { return o.dryRun = true; }},
+    {"sheets", "", "rich|plain", Converting | Changing,
+     [](Options &o, const QString &v) {
+         o.richSheets = v == QLatin1String("rich");
+         return o.richSheets || v == QLatin1String("plain");
+     }},
     {"sample", "", nullptr, Making, [](Options &o, const QString &) { return o.sample = true; }},
     {"before", "", "TASK", Copying,
      [](Options &o, const QString &v) {
@@ -372,13 +379,11 @@ void setFormatByName(Options &options)
 {
     if (options.formatGiven)
         return;
-    const QString suffix = options.output.section(QLatin1Char('.'), -1).toLower();
-    if (suffix == QLatin1String("csv"))
-        options.format = Options::Csv;
-    else if (suffix == QLatin1String("json"))
-        options.format = Options::Json;
-    else if (suffix == QLatin1String("kwpx"))
-        options.format = Options::Package;
+    static const QHash<QString, Options::Format> formats{{QStringLiteral("csv"), Options::Csv},
+                                                         {QStringLiteral("json"), Options::Json},
+                                                         {QStringLiteral("kwpx"), Options::Package},
+                                                         {QStringLiteral("xlsx"), Options::Xlsx}};
+    options.format = formats.value(options.output.section(QLatin1Char('.'), -1).toLower(), options.format);
 }
 }
 
@@ -427,7 +432,7 @@ bool parse(const QStringList &arguments, Options &result, Fault &fault)
     setFormatByName(result);
     if (isConvert && result.format == Options::Table)
         return fail(fault, t("'%1' names no format that can be written").arg(result.output),
-                    t("end it in .kwpx, .csv or .json"));
+                    t("end it in .kwpx, .csv, .json or .xlsx"));
     return checkTogether(result, fault);
 }
 

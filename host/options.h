@@ -7,7 +7,7 @@
 struct Options
 {
     enum When { Auto, Always, Never };
-    enum Format { Table, Csv, Json, Package };
+    enum Format { Table, Csv, Json, Package, Xlsx, Xls };
     static constexpr int everyLevel = 0;
 
     QString command;       // "help" when none is given
@@ -53,7 +53,8 @@ struct Options
 
     QString script; // edits, one a line
     bool sample = false;
-    QString before; // the task that a branch is copied above
+    bool richSheets = false; // workbooks with typed cells, widths and groups
+    QString before;          // the task that a branch is copied above
 
     // Scheduling.
     bool dryRun = false;

@@ -7,6 +7,7 @@
 #include "shown.h"
 #include "support/findings.h"
 #include "texts.h"
+#include "workbookfile.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -201,6 +202,27 @@ void setCell(QStringList &cells, int column, const QString &text)
 }
 }
 
+namespace {
+
+// The calendar comes from beside the workbook: dates are read by it.
+int loadWorkbook(const QString &path, Console &console, Plan &plan, Findings &findings)
+{
+    if (const int code = readCalendar(path, console, plan, findings))
+        return code;
+    if (!plan.workingTime.hasWorkday() || plan.workingTime.hoursPerDay() == 0) {
+        console.error(t("%1: no working time: nothing can be scheduled").arg(path),
+                      t("--days, --hours and --calendar give the working time"));
+        return Console::CannotSchedule;
+    }
+    workingtime::apply(plan.workingTime, *plan.document);
+    plan::countSlackIn(plan, plan.slackUnit);
+    if (const int code = workbookfile::load(path, console, plan, findings))
+        return code;
+    plan.name = projectName(plan);
+    return Console::Done;
+}
+}
+
 bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &error)
 {
     QFile file(path);
@@ -241,6 +263,8 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
         plan.name = projectName(plan);
         return Console::Done;
     }
+    if (workbookfile::kindOf(path) == workbookfile::Xlsx)
+        return loadWorkbook(path, console, plan, findings);
     int code = readRows(path, console, plan, findings);
     if (code == Console::Done)
         code = readCalendar(path, console, plan, findings);
@@ -262,7 +286,9 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
 std::vector<Side> sidesOf(const Plan &plan, const QString &path)
 {
     const QFileInfo info(path);
-    if (!path.endsWith(QLatin1String(".csv")) || (info.exists() && !info.isFile()))
+    const bool isTable = path.endsWith(QLatin1String(".csv"));
+    const bool isWorkbook = path.endsWith(QLatin1String(".xlsx")) || path.endsWith(QLatin1String(".xls"));
+    if (!(isTable || isWorkbook) || (info.exists() && !info.isFile()))
         return {};
     const WorkingTime usual;
     const bool hasSheet = !plan.document->resourceInfoData()->infos.isEmpty();
@@ -271,9 +297,11 @@ std::vector<Side> sidesOf(const Plan &plan, const QString &path)
     // Where nothing is to be said, an older file beside the plan must not say it.
     const auto add = [&](const char *name, bool needed, const QByteArray &bytes) {
         if (needed || !sidePath(path, QString(), name).isEmpty())
-            sides.push_back({path.chopped(3) + QLatin1String(name), bytes});
+            sides.push_back({path.left(path.lastIndexOf(QLatin1Char('.')) + 1) + QLatin1String(name), bytes});
     };
     add("calendar.json", calendar != workingtime::toJson(usual), calendar);
+    if (isWorkbook)
+        return sides;
     add("resources.csv", hasSheet, sheetfile::resources(plan));
     add("assignments.csv", hasSheet, sheetfile::assignments(plan));
     return sides;

@@ -1,5 +1,8 @@
 #include "texts.h"
+#include "exchange/XLSXDataBase.h"
+#include "exchange/exceltitles.h"
 #include "model/kwdocument.h"
+#include "resources/resourceinfodata.h"
 #include "table/rowcolumndata.h"
 
 namespace {
@@ -40,6 +43,12 @@ void fillLibraryTables()
 {
     KWDocument::s_longUnitNames = current().longUnitNames;
     RowColumnData::s_columnNames = current().columnTitles;
+    ResourceInfoData::s_typeItems = current().resourceTypes;
+    ExcelTitles::s_resourcNames = current().resourceTitles;
+    ExcelTitles::s_strResourceList = current().resourceTitles.values();
+    ExcelTitles::s_workAssignNames = current().assignmentTitles;
+    ExcelTitles::s_strWorkAssignList = current().assignmentTitles.values();
+    XLSXDataBase::s_xmlNameList = current().sheetNames;
 }
 }
 

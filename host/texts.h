@@ -13,6 +13,10 @@ struct LanguageTexts
     QString code;                              // "en"
     QMap<unsigned int, QString> longUnitNames; // by duration unit
     QMap<int, QString> columnTitles;           // by the table's column type
+    QMap<int, QString> resourceTitles;         // of a workbook's sheet of resources, by field
+    QMap<int, QString> assignmentTitles;       // of its sheet of assignments
+    QStringList sheetNames;                    // tasks, resources, assignments
+    QMap<int, QString> resourceTypes;          // 0 work, 1 material
     QStringList months;                        // twelve short names
     QStringList weekdays;                      // seven short names, Monday first
     QStringList weekdayLetters;                // the same in one column each

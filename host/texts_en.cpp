@@ -12,7 +12,7 @@ QMap<QString, QString> helpTopics()
   kwgantt load FILE            reads and checks the plan and sums it up (check: exit code 1 on findings)
   kwgantt schedule FILE        moves every task behind its predecessors; late dates, slack, critical path
   kwgantt explain FILE TASK    why a task is when it is, and why it is critical or not
-  kwgantt convert IN OUT       writes a plan as .kwpx, .csv or .json
+  kwgantt convert IN OUT       writes a plan as .kwpx, .csv, .xlsx or .json
   kwgantt edit FILE EDIT       changes a plan: tasks, links, resources, calendar; --script FILE with many edits
   kwgantt new OUT              an empty plan; --sample: a small one
   kwgantt diff A B             what is different between two versions of a plan
@@ -23,10 +23,11 @@ QMap<QString, QString> helpTopics()
   kwgantt help [COMMAND]       this text, or one command with its options
   kwgantt version
 
-FILE is a CSV plan ('-' reads standard input): titles in the first row, in any order and case, such as
-ID, WBS, Level, Name, Start, Finish, Duration (3d 12h 30min 1.5w 2mon), Percent, Predecessors (joined by ;),
-Resources, Milestone, Notes. A calendar stands beside it as NAME.calendar.json or calendar.json, and so do
-the resource sheet and the assignments: NAME.resources.csv, NAME.assignments.csv.
+FILE is a package (.kwpx), a workbook (.xlsx, .xls) or a CSV plan ('-' reads standard input): titles in the
+first row, in any order and case, such as ID, WBS, Level, Name, Start, Finish, Duration (3d 12h 30min 1.5w 2mon),
+Percent, Predecessors (joined by ;), Resources, Milestone, Notes. A calendar stands beside it as
+NAME.calendar.json or calendar.json, the resource sheet and the assignments as NAME.resources.csv and
+NAME.assignments.csv.
 TASK is the row number shown, #ID, or a name.
 
 Calendar   --calendar FILE  --days Mon-Fri  --hours 08:00-12:00,13:00-17:00  --holiday DATE[..DATE]
@@ -98,12 +99,17 @@ Example: kwgantt explain plan.csv "Order parts"
 )")},
         {QStringLiteral("convert"), text(R"(kwgantt convert IN OUT - writes a plan in another format
 
-The input's format is found from its content, the output's from its name: .kwpx, .csv or .json. Tasks without a
+The input's format is found from its content, the output's from its name: .kwpx, .csv, .json or .xlsx. Tasks without a
 start are placed as 'kwgantt schedule' does.
 
 A CSV plan holds tasks alone: its calendar, resources and assignments are written beside it, where they are
 found again.
 
+A workbook has a sheet each of tasks, resources and assignments, its columns told by their titles; the calendar
+is written beside it, too. What a workbook's cells could not give is listed on standard error.
+
+  --sheets rich    a workbook with dates and numbers as values, widths, filters and outline groups
+                   (plain: every cell is a text)
   --force          replaces OUT
 
 Example: kwgantt convert plan.csv plan.kwpx
@@ -191,7 +197,7 @@ const LanguageTexts &englishTexts()
          {4, QStringLiteral("Workday")},
          {5, QStringLiteral("Hour")},
          {6, QStringLiteral("Minute")}},
-        {{0, QStringLiteral("ID")},
+        {{0, QStringLiteral("Tag")},
          {1, QStringLiteral("Task Name")},
          {2, QStringLiteral("Start")},
          {3, QStringLiteral("Finish")},
@@ -216,6 +222,23 @@ const LanguageTexts &englishTexts()
          {22, QStringLiteral("Baseline Cost")},
          {23, QStringLiteral("Level")},
          {24, QStringLiteral("Predecessors")}},
+        {{0, QStringLiteral("ID")},
+         {1, QStringLiteral("Resource Name")},
+         {2, QStringLiteral("Max Units")},
+         {3, QStringLiteral("Type")},
+         {4, QStringLiteral("Rate")},
+         {5, QStringLiteral("Overtime Rate")},
+         {6, QStringLiteral("Cost per Use")},
+         {7, QStringLiteral("Group")},
+         {8, QStringLiteral("Email")},
+         {9, QStringLiteral("Notes")}},
+        {{0, QStringLiteral("Task")},
+         {1, QStringLiteral("Resource")},
+         {2, QStringLiteral("Complete")},
+         {3, QStringLiteral("Work")},
+         {4, QStringLiteral("Units")}},
+        words("Tasks Resources Assignments"),
+        {{0, QStringLiteral("Work")}, {1, QStringLiteral("Material")}},
         words("Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec"),
         words("Mon Tue Wed Thu Fri Sat Sun"),
         words("M T W T F S S"),

@@ -1,0 +1,102 @@
+#include "workbookfile.h"
+#include "console.h"
+#include "exchange/XLSXDataEngine.h"
+#include "exchange/exceltitles.h"
+#include "kwpxfile.h"
+#include "support/findings.h"
+#include "table/rowcolumndata.h"
+#include "texts.h"
+#include <QFile>
+#include <QFileInfo>
+
+namespace workbookfile {
+
+namespace {
+
+void append(QList<ExcelData *> &titles, int type, const QString &name)
+{
+    auto *title = new ExcelData;
+    title->type = type;
+    title->pos = titles.size();
+    title->name = name;
+    titles.append(title);
+}
+
+// All columns of the task table, hidden ones too, and the predecessors, which it has none for.
+void chooseColumns(const KWDocument &document)
+{
+    constexpr int predecessors = 24;
+    ExcelTitles::clearExcelTitles(ExcelTitles::s_excelTaskTitles);
+    for (const RowColumnData::ColumnData *column : document.rowColumnData()->columns())
+        append(ExcelTitles::s_excelTaskTitles, RowColumnData::typeOfTitle(column->title), column->title);
+    append(ExcelTitles::s_excelTaskTitles, predecessors, RowColumnData::s_columnNames.value(predecessors));
+    ExcelTitles::clearExcelTitles(ExcelTitles::s_excelResourceTitles);
+    for (const QString &title : qAsConst(ExcelTitles::s_strResourceList))
+        append(ExcelTitles::s_excelResourceTitles, 0, title);
+    ExcelTitles::clearExcelTitles(ExcelTitles::s_excelWorkTitles);
+    for (const QString &title : qAsConst(ExcelTitles::s_strWorkAssignList))
+        append(ExcelTitles::s_excelWorkTitles, 0, title);
+}
+
+template <typename Engine>
+bool import(KWDocument &document, const QString &path, Findings &findings)
+{
+    Engine engine(&document);
+    const bool read = engine.initExcelTitles(path) && engine.importData(path);
+    // The file stands in front of all of them anyway.
+    for (const Finding &finding : engine.findings().list())
+        findings.add(finding.place == path ? QString() : finding.place, finding.what, finding.hint);
+    return read;
+}
+}
+
+Kind kindOf(const QString &path)
+{
+    constexpr int longestMark = 8;
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return None;
+    const QByteArray mark = file.read(longestMark);
+    if (mark.startsWith("PK\x03\x04"))
+        return Xlsx;
+    return mark == "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1" ? Xls : None;
+}
+
+int load(const QString &path, Console &console, Plan &plan, Findings &findings)
+{
+    Findings own;
+    if (!import <XLSXDataEngine>(*plan.document, path, own)) {
+        if (own.isEmpty())
+            console.error(t("%1: not a plan: no title of the task sheet is known").arg(path),
+                          t("the first row holds titles such as %1")
+                              .arg(QStringList(RowColumnData::s_columnNames.values().mid(0, 5))
+                                       .join(QLatin1String(", "))));
+        console.list(path, own);
+        return Console::CannotRead;
+    }
+    for (const Finding &finding : own.list())
+        findings.add(finding.place, finding.what, finding.hint);
+    kwpxfile::describe(plan);
+    return Console::Done;
+}
+
+bool save(Console &console, Plan &plan, const QString &path, Kind kind)
+{
+    Q_UNUSED(kind);
+    const QFileInfo info(path);
+    if (info.exists() && (!info.isFile() || !console.options().force)) {
+        console.error(t("%1: exists already and stays as it is").arg(path),
+                      info.isFile() ? t("--force replaces it") : t("give a file name"));
+        return false;
+    }
+    chooseColumns(*plan.document);
+    XLSXDataEngine engine(plan.document.get());
+    engine.setRich(console.options().richSheets);
+    const bool written = engine.exportFile(path);
+    console.list(path, engine.findings());
+    if (!written && engine.findings().isEmpty())
+        console.error(t("%1: cannot be written").arg(path),
+                      t("the folder must exist and have room; nothing was changed"));
+    return written;
+}
+}
