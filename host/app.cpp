@@ -223,8 +223,8 @@ int listFormats(Console &console)
         t("kwpx   reads and writes: the whole document as a package") + QLatin1Char('\n') +
         t("csv    reads and writes: a row a task, titles in the first row, UTF-8") + QLatin1Char('\n') +
         t("xlsx   reads and writes: a workbook with a sheet each of tasks, resources and assignments") +
-        QLatin1Char('\n') + t("json   writes") + QLatin1Char('\n') + t("table  writes: text for people") +
-        QLatin1Char('\n');
+        QLatin1Char('\n') + t("xls    reads and writes: the same, at most 65,536 rows") + QLatin1Char('\n') +
+        t("json   writes") + QLatin1Char('\n') + t("table  writes: text for people") + QLatin1Char('\n');
     return written(console, text.toUtf8());
 }
 

@@ -54,9 +54,13 @@ int writePlan(Console &console, Plan &plan)
     if (options.format == Options::Package)
         return kwpxfile::save(console, plan, options.output, options.force) ? Console::Done
                                                                             : Console::CannotWrite;
-    if (options.format == Options::Xlsx)
-        return workbookfile::save(console, plan, options.output, workbookfile::Xlsx) ? Console::Done
-                                                                                     : Console::CannotWrite;
+    if (options.format == Options::Xlsx || options.format == Options::Xls) {
+        const bool isXlsx = options.format == Options::Xlsx;
+        return workbookfile::save(console, plan, options.output,
+                                  isXlsx ? workbookfile::Xlsx : workbookfile::Xls)
+                   ? Console::Done
+                   : Console::CannotWrite;
+    }
     if (options.format == Options::Csv)
         return written(console, machine::csv(plan));
     if (options.format == Options::Json)

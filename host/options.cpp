@@ -382,7 +382,8 @@ void setFormatByName(Options &options)
     static const QHash<QString, Options::Format> formats{{QStringLiteral("csv"), Options::Csv},
                                                          {QStringLiteral("json"), Options::Json},
                                                          {QStringLiteral("kwpx"), Options::Package},
-                                                         {QStringLiteral("xlsx"), Options::Xlsx}};
+                                                         {QStringLiteral("xlsx"), Options::Xlsx},
+                                                         {QStringLiteral("xls"), Options::Xls}};
     options.format = formats.value(options.output.section(QLatin1Char('.'), -1).toLower(), options.format);
 }
 }
@@ -432,7 +433,7 @@ bool parse(const QStringList &arguments, Options &result, Fault &fault)
     setFormatByName(result);
     if (isConvert && result.format == Options::Table)
         return fail(fault, t("'%1' names no format that can be written").arg(result.output),
-                    t("end it in .kwpx, .csv, .json or .xlsx"));
+                    t("end it in .kwpx, .csv, .xlsx, .xls or .json"));
     return checkTogether(result, fault);
 }
 

@@ -263,7 +263,7 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
         plan.name = projectName(plan);
         return Console::Done;
     }
-    if (workbookfile::kindOf(path) == workbookfile::Xlsx)
+    if (workbookfile::kindOf(path) != workbookfile::None)
         return loadWorkbook(path, console, plan, findings);
     int code = readRows(path, console, plan, findings);
     if (code == Console::Done)

@@ -12,7 +12,7 @@ QMap<QString, QString> helpTopics()
   kwgantt load FILE            reads and checks the plan and sums it up (check: exit code 1 on findings)
   kwgantt schedule FILE        moves every task behind its predecessors; late dates, slack, critical path
   kwgantt explain FILE TASK    why a task is when it is, and why it is critical or not
-  kwgantt convert IN OUT       writes a plan as .kwpx, .csv, .xlsx or .json
+  kwgantt convert IN OUT       writes a plan as .kwpx, .csv, .xlsx, .xls or .json
   kwgantt edit FILE EDIT       changes a plan: tasks, links, resources, calendar; --script FILE with many edits
   kwgantt new OUT              an empty plan; --sample: a small one
   kwgantt diff A B             what is different between two versions of a plan
@@ -99,7 +99,7 @@ Example: kwgantt explain plan.csv "Order parts"
 )")},
         {QStringLiteral("convert"), text(R"(kwgantt convert IN OUT - writes a plan in another format
 
-The input's format is found from its content, the output's from its name: .kwpx, .csv, .json or .xlsx. Tasks without a
+The input's format is found from its content, the output's from its name: .kwpx, .csv, .xlsx, .xls or .json. Tasks without a
 start are placed as 'kwgantt schedule' does.
 
 A CSV plan holds tasks alone: its calendar, resources and assignments are written beside it, where they are

@@ -1,5 +1,6 @@
 #include "workbookfile.h"
 #include "console.h"
+#include "exchange/XLSDataEngine.h"
 #include "exchange/XLSXDataEngine.h"
 #include "exchange/exceltitles.h"
 #include "kwpxfile.h"
@@ -38,14 +39,19 @@ void chooseColumns(const KWDocument &document)
         append(ExcelTitles::s_excelWorkTitles, 0, title);
 }
 
+// The file stands in front of all of them anyway.
+void collect(const Findings &found, const QString &path, Findings &findings)
+{
+    for (const Finding &finding : found.list())
+        findings.add(finding.place == path ? QString() : finding.place, finding.what, finding.hint);
+}
+
 template <typename Engine>
-bool import(KWDocument &document, const QString &path, Findings &findings)
+bool readWith(KWDocument &document, const QString &path, Findings &findings)
 {
     Engine engine(&document);
     const bool read = engine.initExcelTitles(path) && engine.importData(path);
-    // The file stands in front of all of them anyway.
-    for (const Finding &finding : engine.findings().list())
-        findings.add(finding.place == path ? QString() : finding.place, finding.what, finding.hint);
+    collect(engine.findings(), path, findings);
     return read;
 }
 }
@@ -65,7 +71,9 @@ Kind kindOf(const QString &path)
 int load(const QString &path, Console &console, Plan &plan, Findings &findings)
 {
     Findings own;
-    if (!import <XLSXDataEngine>(*plan.document, path, own)) {
+    KWDocument &document = *plan.document;
+    if (!(kindOf(path) == Xlsx ? readWith<XLSXDataEngine>(document, path, own)
+                               : readWith<XLSDataEngine>(document, path, own))) {
         if (own.isEmpty())
             console.error(t("%1: not a plan: no title of the task sheet is known").arg(path),
                           t("the first row holds titles such as %1")
@@ -82,7 +90,6 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
 
 bool save(Console &console, Plan &plan, const QString &path, Kind kind)
 {
-    Q_UNUSED(kind);
     const QFileInfo info(path);
     if (info.exists() && (!info.isFile() || !console.options().force)) {
         console.error(t("%1: exists already and stays as it is").arg(path),
@@ -90,11 +97,20 @@ bool save(Console &console, Plan &plan, const QString &path, Kind kind)
         return false;
     }
     chooseColumns(*plan.document);
-    XLSXDataEngine engine(plan.document.get());
-    engine.setRich(console.options().richSheets);
-    const bool written = engine.exportFile(path);
-    console.list(path, engine.findings());
-    if (!written && engine.findings().isEmpty())
+    Findings findings;
+    bool written = false;
+    if (kind == Xlsx) {
+        XLSXDataEngine engine(plan.document.get());
+        engine.setRich(console.options().richSheets);
+        written = engine.exportFile(path);
+        collect(engine.findings(), path, findings);
+    } else {
+        XLSDataEngine engine(plan.document.get());
+        written = engine.exportData(path);
+        collect(engine.findings(), path, findings);
+    }
+    console.list(path, findings);
+    if (!written && findings.isEmpty())
         console.error(t("%1: cannot be written").arg(path),
                       t("the folder must exist and have room; nothing was changed"));
     return written;
