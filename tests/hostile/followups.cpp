@@ -1,4 +1,5 @@
 #include "hostile/followups.h"
+#include "editing/actionmanager.h"
 #include "hostile/smallplan.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
@@ -7,6 +8,7 @@
 #include "table/rowcolumndata.h"
 #include <QTemporaryDir>
 #include <cstdio>
+#include <functional>
 
 void say(const std::string &key, const std::string &value)
 {
@@ -84,24 +86,37 @@ void readCells(KWDocument &document)
 {
     RowColumnData &table = *document.rowColumnData();
     for (int column = 0; column < table.columnCount(); ++column) {
-        for (int row = 0; row < table.rowCount(); ++row)
+        for (int row = 0; row < table.rowCount(); ++row) {
             table.getRowHeightByRow(row);
+            table.itemText(row, column);
+        }
         table.getColumnByName(table.getColumnDataByColumn(column)->title);
     }
 }
 
+// Each edit as one that can be undone.
 void editOutline(KWDocument &document)
 {
-    document.addTaskInfo();
-    const int last = document.visibleRowCount() - 1;
-    document.indentTaskByRow(last);
-    document.outdentTaskByRow(document.visibleRowCount() - 1);
-    document.moveUpByRow(document.visibleRowCount() - 1);
-    document.insertTaskByRow(0);
-    document.insertSubTaskByRow(0);
-    document.moveDownByRow(0);
-    document.removeTaskByRow(document.visibleRowCount() / 2);
-    document.removeTaskByRow(0);
+    constexpr int editType = 1;
+    ActionManager::s_undoString.insert(editType, QStringLiteral("Edit"));
+    const std::function<void()> edits[] = {[&] { document.addTaskInfo(); },
+                                           [&] { document.indentTaskByRow(document.visibleRowCount() - 1); },
+                                           [&] { document.outdentTaskByRow(document.visibleRowCount() - 1); },
+                                           [&] { document.moveUpByRow(document.visibleRowCount() - 1); },
+                                           [&] { document.insertTaskByRow(0); },
+                                           [&] { document.insertSubTaskByRow(0); },
+                                           [&] { document.moveDownByRow(0); },
+                                           [&] { document.removeTaskByRow(document.visibleRowCount() / 2); },
+                                           [&] { document.removeTaskByRow(0); }};
+    for (const auto &edit : edits) {
+        ActionManager::preUndoAction(&document, editType, 0);
+        ActionManager::backAllTaskData();
+        edit();
+        ActionManager::addUndoAction();
+    }
+    document.actionManager().undo(int(std::size(edits)));
+    for (size_t step = 0; step < std::size(edits); ++step)
+        document.actionManager().redo();
     // Whatever was done, there is one height a task.
     say("heights after edits",
         document.rowColumnData()->rowHeights().size() == document.taskCount() ? "ok" : "wrong");
