@@ -38,7 +38,10 @@ const Entry entries[] = {
     {"xls.make", makeXls},
     {"xls.save", saveXls},
     {"xls.titles", readXlsTitles},
+    {"xlsx.check", checkXlsx},
     {"xlsx.import", importXlsx},
+    {"xlsx.make", makeXlsx},
+    {"xlsx.save", saveXlsx},
     {"xlsx.titles", readXlsxTitles},
 };
 

@@ -21,3 +21,7 @@ int readXlsTitles(const QString &path);
 int makeXls(const QString &path);
 int saveXls(const QString &path);
 int checkXls(const QString &path);
+// workbooksaving.cpp
+int makeXlsx(const QString &path);
+int saveXlsx(const QString &path);
+int checkXlsx(const QString &path);
