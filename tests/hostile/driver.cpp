@@ -28,6 +28,7 @@ const Entry entries[] = {
     {"autosave.check", checkPackage},
     {"autosave.make", makePackage},
     {"autosave.save", saveBackup},
+    {"clip.paste", pasteClipboard},
     {"kwpx.check", checkPackage},
     {"kwpx.load", loadPackage},
     {"kwpx.make", makePackage},

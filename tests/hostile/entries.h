@@ -3,6 +3,8 @@
 
 // The calls that the driver makes, each on one file and in a file of its own; the result is the exit code.
 
+// clipboard.cpp
+int pasteClipboard(const QString &path);
 // packages.cpp
 int loadPackage(const QString &path);
 int loadStructure(const QString &path);
