@@ -3,6 +3,7 @@
 #include "hostile/followups.h"
 #include "hostile/smallplan.h"
 #include "model/kwtaskinfo.h"
+#include "schedule/kwtaskcollection.h"
 #include "support/folder.h"
 #include "table/rowcolumndata.h"
 #include <QClipboard>
@@ -31,20 +32,35 @@ int pasteClipboard(const QString &path)
     data->setData(QStringLiteral("application/vellum-xml"), folder::get(path));
     QGuiApplication::clipboard()->setMimeData(data);
 
+    constexpr int secondRow = 1;
+    constexpr int pasting = 1;
+    ActionManager::s_undoString.insert(pasting, QStringLiteral("Paste"));
+    document.taskCollection()->updateRageAndTaskPoint(); // which undo does too
     const std::string before = smallplan::textOf(document);
     const int count = document.taskCount();
-    constexpr int secondRow = 1;
+    ActionManager::preUndoAction(&document, pasting, 0);
+    ActionManager::backAllTaskData();
+    ActionManager::backupAllColData();
     const bool isPasted = document.clipbdManager().paste(secondRow);
     say("result", isPasted ? "true" : "false");
     if (!isPasted) {
+        ActionManager::clearUndoAction();
         say("document", smallplan::textOf(document) == before ? "same" : "changed");
         return 0;
     }
+    ActionManager::addUndoAction();
     say("pasted", document.taskCount() - count);
     if (!isSound(document)) {
         say("ids or heights", "wrong");
         return 1;
     }
+    const std::string after = smallplan::textOf(document);
+    document.actionManager().undo(1);
+    const bool isUndone = smallplan::textOf(document) == before;
+    document.actionManager().redo();
+    const bool isRedone = smallplan::textOf(document) == after;
+    say("undo", isUndone ? "same" : "differs");
+    say("redo", isRedone ? "same" : "differs");
     sayFactsAndOperate(document);
-    return 0;
+    return isUndone && isRedone ? 0 : 1;
 }
