@@ -104,8 +104,10 @@ void appendAssignments(const KWDocument &document, const QString &name, QVector<
 
 Entries now(const KWDocument &document, const Entries &backups)
 {
-    const ResourceInfoData &sheet = *document.resourceInfoData();
     Entries entries;
+    if (backups.empty())
+        return entries; // without a walk over the tasks
+    const ResourceInfoData &sheet = *document.resourceInfoData();
     Owners owners(sheet);
     for (const UndoDocResourceItem &backup : backups) {
         UndoDocResourceItem item;

@@ -123,6 +123,9 @@ void TaskAction::backupAffected(KWTaskInfo *task)
         addChangeTaskInfo(tasks.list[node.pos]);
         addTaskAllResources(tasks.list[node.pos]);
     }
+    // A link is written down at both of its ends.
+    for (const quint32 id : qAsConst(task->Predecessors))
+        addChangeTaskInfo(tasks.byId(id));
 }
 
 void TaskAction::backupAllTaskData()

@@ -24,7 +24,8 @@ public:
     bool isExist(quint32 taskID) const;       // whether the values of that task are recorded
     void addTaskInfoHyperlink(KWTaskInfo *task);
     void addTaskAllResources(KWTaskInfo *task); // all assignments of one task
-    // What a change of the task can push, and the summaries above all of these: values, assignments, scale.
+    // The task, what a change of it can push, and the summaries above all of these: values, assignments and
+    // the scale. Of the predecessors, whose links may change with it, the values.
     void backupAffected(KWTaskInfo *task);
     // Every task with all that belongs to it. An action that has this leaves single tasks aside.
     void backupAllTaskData();

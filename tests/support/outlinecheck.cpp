@@ -12,9 +12,10 @@ namespace {
 class Check
 {
 public:
-    Check(const KWDocument &document, bool withLevels)
+    Check(const KWDocument &document, bool withLevels, bool withDates)
         : m_document(document)
         , m_withLevels(withLevels)
+        , m_withDates(withDates)
     {
         for (const KWTaskInfo *task : document.taskList())
             m_byId.emplace(task->ID.value(), task);
@@ -63,7 +64,7 @@ private:
             start = std::min(start, child->Start);
             finish = std::max(finish, child->Finish);
         }
-        if (task.isParent() && (task.Start != start || task.Finish != finish))
+        if (m_withDates && task.isParent() && (task.Start != start || task.Finish != finish))
             fault(task, "does not span its children", task.Childs.size());
         if ((task.font.weight() == QFont::Bold) != task.isParent())
             fault(task, "has the font weight", task.font.weight());
@@ -115,12 +116,13 @@ private:
 
     const KWDocument &m_document;
     bool m_withLevels;
+    bool m_withDates;
     std::map<quint32, const KWTaskInfo *> m_byId;
     std::ostringstream m_out;
 };
 }
 
-std::string outlineFaults(const KWDocument &document, bool withLevels)
+std::string outlineFaults(const KWDocument &document, bool withLevels, bool withDates)
 {
-    return Check(document, withLevels).faults();
+    return Check(document, withLevels, withDates).faults();
 }

@@ -8,5 +8,5 @@
 // the children; one row height for each task. A line for each fault; empty when there is none.
 //
 // Children of a removed summary move up while what is below them keeps its level, so a document edited in
-// that way is checked without its levels.
-std::string outlineFaults(const KWDocument &document, bool withLevels);
+// that way is checked without its levels. A task added at the end leaves the dates of its summary alone.
+std::string outlineFaults(const KWDocument &document, bool withLevels, bool withDates = true);
