@@ -6,22 +6,23 @@
 #include <map>
 
 namespace sheetbackup {
+
+// IDs from files may repeat.
+ResourceInfo *find(const ResourceInfoData &sheet, qint32 id, int index)
+{
+    ResourceInfo *info = sheet.getResourceInfoAt(index);
+    return info && info->ID == id ? info : sheet.getResourceInfoByID(id);
+}
+
 namespace {
 
 // The place of a recorded entry in the sheet; -1 when it is not there.
 int placeOf(const ResourceInfoData &sheet, const UndoDocResourceItem &item)
 {
-    const auto hasId = [&](const ResourceInfo *info) { return info && info->ID == item.info.ID; };
-    // IDs from files may repeat.
-    if (hasId(sheet.getResourceInfoAt(item.index)))
-        return item.index;
-    const QString name = item.info.name.trimmed();
-    auto found = std::find_if(sheet.infos.begin(), sheet.infos.end(), hasId);
-    if (found == sheet.infos.end()) {
-        found = std::find_if(sheet.infos.begin(), sheet.infos.end(),
-                             [&](const ResourceInfo *info) { return info && info->name.trimmed() == name; });
-    }
-    return found == sheet.infos.end() ? -1 : int(found - sheet.infos.begin());
+    ResourceInfo *info = find(sheet, item.info.ID, item.index);
+    if (!info)
+        info = sheet.getResourceInfoByName(item.info.name);
+    return info ? sheet.infos.indexOf(info) : -1;
 }
 
 // Which recorded entry an assignment belongs to.

@@ -8,6 +8,9 @@ class KWDocument;
 // Backups of the resource sheet, with the assignments that follow its entries by name.
 namespace sheetbackup {
 
+// The entry with that ID, the one at `index` rather than another; null when there is none.
+ResourceInfo *find(const ResourceInfoData &sheet, qint32 id, int index);
+
 // An entry with its assignments as they stand; one that is not in the sheet is recorded as missing.
 UndoDocResourceItem entry(const KWDocument &document, const ResourceInfo &info);
 void appendAssignments(const KWDocument &document, const QString &name, QVector<UndoResource> &assignments);

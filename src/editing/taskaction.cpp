@@ -169,13 +169,14 @@ void TaskAction::backupAllDocResources()
 
 void TaskAction::addEditTaskResourceName(ResourceInfo *info)
 {
-    if (!info)
+    if (!document() || !info)
         return;
+    const int index = document()->resourceInfoData()->infos.indexOf(info);
     for (const UndoEditResourceName &recorded : m_backups->names) {
-        if (recorded.ID == info->ID)
+        if (recorded.ID == info->ID && recorded.index == index)
             return;
     }
-    m_backups->names.push_back({info->ID, info->name});
+    m_backups->names.push_back({info->ID, index, info->name});
 }
 
 void TaskAction::backupAllOption()
@@ -247,8 +248,8 @@ TaskAction::Backups TaskAction::now() const
             sheetbackup::Sheet{sheetbackup::infosOf(document), document.actionManager().takeSnapshot()};
     }
     for (const UndoEditResourceName &backup : m_backups->names) {
-        const ResourceInfo *info = document.resourceInfoData()->getResourceInfoByID(backup.ID);
-        current.names.push_back({backup.ID, info ? info->name : backup.name});
+        const ResourceInfo *info = sheetbackup::find(*document.resourceInfoData(), backup.ID, backup.index);
+        current.names.push_back({backup.ID, backup.index, info ? info->name : backup.name});
     }
     return current;
 }
@@ -287,7 +288,7 @@ void restoreNames(KWDocument &document, const std::vector<UndoEditResourceName> 
 {
     for (std::size_t i = 0; i < backups.size(); ++i) {
         const UndoEditResourceName &backup = backups[i];
-        if (ResourceInfo *info = document.resourceInfoData()->getResourceInfoByID(backup.ID))
+        if (ResourceInfo *info = sheetbackup::find(*document.resourceInfoData(), backup.ID, backup.index))
             info->name = backup.name;
         if (withAssignments && current[i].name != backup.name)
             document.replaceTaskResourceName(current[i].name, backup.name);

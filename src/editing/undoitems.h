@@ -64,11 +64,12 @@ public:
     QVector<Resource> resources;
 };
 
-// The name that an entry of the sheet, found by its ID, had.
+// The name that an entry of the sheet had.
 class KWGANTT_EXPORT UndoEditResourceName
 {
 public:
     qint32 ID = 0;
+    int index = -1; // its place in the sheet, for IDs that repeat
     QString name;
 };
 
