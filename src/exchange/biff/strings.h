@@ -2,13 +2,14 @@
 #include "exchange/biff/bytes.h"
 #include "exchange/biff/recordstream.h"
 #include "exchange/biff/text.h"
+#include "kwgantt_export.h"
 #include <QString>
 #include <vector>
 
 namespace biff {
 
 // Writes one record, which goes on in Continue records when it grows too long.
-class ContinuedSink
+class KWGANTT_EXPORT ContinuedSink
 {
 public:
     ContinuedSink(Sink &to, quint16 code);
@@ -44,7 +45,7 @@ enum StringFlags : quint8 { wideCharacters = 1, withPhonetic = 4, withRuns = 8 }
 namespace YExcel {
 
 // A string with an 8-bit length: names of sheets and fonts.
-class SmallString
+class KWGANTT_EXPORT SmallString
 {
 public:
     SmallString() = default;
@@ -63,7 +64,7 @@ private:
 };
 
 // A string with a 16-bit length: all text of cells. Runs of formatting and phonetic data are read over.
-class LargeString
+class KWGANTT_EXPORT LargeString
 {
 public:
     LargeString() = default;

@@ -1,4 +1,5 @@
 #pragma once
+#include "kwgantt_export.h"
 #include <QString>
 #include <cstddef>
 #include <memory>
@@ -8,7 +9,7 @@ namespace biff {
 
 // Immutable text that copies share: one byte a character when all are below U+0100, else UTF-16. A workbook
 // of a million cells is held in memory, so it knows only what it needs. Not for use from two threads.
-class Text
+class KWGANTT_EXPORT Text
 {
 public:
     Text() = default; // null, which is shorter than empty
