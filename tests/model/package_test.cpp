@@ -12,7 +12,6 @@
 #include "support/casename.h"
 #include "support/filesizelimit.h"
 #include "support/folder.h"
-#include "support/project.h"
 #include "support/sortedxml.h"
 #include "table/rowcolumndata.h"
 #include <QDir>
@@ -359,19 +358,4 @@ TEST_F(Package, RelationsOfOtherPartsAreWrittenInOneOrder)
     EXPECT_TRUE(KWDocument::s_mediaPath.endsWith(utf8("/media/")));
 }
 
-TEST_F(Package, ScheduledProjectSurvives)
-{
-    Project project("Mon-Fri 8-12 13-17, start 2024-03-04, off 2024-03-08", "Build\n"
-                                                                            "  Walls  2d 50%\n"
-                                                                            "  Roof 3d after Walls\n"
-                                                                            "Party milestone after Roof\n");
-    ASSERT_TRUE(project.document().save(path("plan.kwpx")));
-    KWDocument loaded;
-    ASSERT_TRUE(loaded.loadFromKWGT(path("plan.kwpx")));
-    EXPECT_EQ(shown(loaded), shown(project.document()));
-    // Nothing is out of date: scheduling it anew changes nothing.
-    loaded.taskCollection()->pushAllSuccessors();
-    loaded.updateAllTaskEarlyLate();
-    EXPECT_EQ(shown(loaded), shown(project.document()));
-}
 }

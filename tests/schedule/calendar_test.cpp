@@ -6,7 +6,6 @@
 #include "support/zone.h"
 #include <QDateTime>
 #include <QDomDocument>
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 namespace {
@@ -204,39 +203,6 @@ TEST(CalendarTables, takeTheFirstOfManyCalendars)
         ASSERT_EQ(calendar.hoursMask(day), ((1u << 24) - 1 - (1u << 12)) | extra)
             << date.toString().toStdString();
     }
-}
-
-TEST(CalendarTables, areMadeQuicklyFromAMillionCalendars)
-{
-    // Every one covers all dates; with a look at each date for each calendar this would take hours.
-    CalendarText text("Mon-Fri 8-12 13-17");
-    KWCalendar covering;
-    covering.startDate = QDate(1900, 1, 1);
-    covering.finishDate = QDate(2200, 1, 1);
-    covering.isException = true;
-    covering.isWork = false;
-    KWDayTime morning(28800, 36000);
-    KWDayTime evening(64800, 72000);
-    covering.dayTimes = {&morning, &evening};
-    KWCalendar holiday;
-    holiday.startDate = holiday.finishDate = QDate(2024, 5, 1);
-    holiday.isException = true;
-    QList<KWCalendar *> many = {&holiday};
-    for (int i = 0; i < 1000000; ++i)
-        many.append(&covering);
-    QElapsedTimer timer;
-    timer.start();
-    const worktime::Source source{text.workingDays, text.hours, many, false};
-    const worktime::WorkCalendar calendar(source, LocalClock::current());
-    worktime::WorkCalendar::digest(source);
-    EXPECT_LT(timer.elapsed(), 5000);
-    const int day = LocalClock::dayOf(QDate(2024, 5, 1));
-    EXPECT_TRUE(calendar.isWorkday(day));
-    EXPECT_FALSE(calendar.isWorkday(day + 1));
-    EXPECT_EQ(calendar.breakHours(day), 1);
-    EXPECT_EQ(calendar.breakHours(day + 1), 8);
-    EXPECT_TRUE(calendar.isWorkHour(day + 1, 19));
-    covering.dayTimes.clear();
 }
 
 TEST(CalendarTables, invalidDatesCoverWhatLiesBetweenThem)

@@ -105,51 +105,6 @@ qint64 plainChartEnd(quint32 lastUnit, unsigned int minor)
 
 // ---- Range ------------------------------------------------------------------------------------------------
 
-struct RangeCase
-{
-    const char *name;
-    unsigned int minor;
-    const char *start;
-    const char *finish;
-    const char *origin;
-    const char *lastUnit;
-};
-
-class Range : public testing::TestWithParam<RangeCase>
-{
-};
-
-TEST_P(Range, isPaddedToWholeUnits)
-{
-    const RangeCase &row = GetParam();
-    const LocalClock &clock = *LocalClock::current();
-    const quint32 origin = timerange::rangeStart(clock, secsOf(row.start), row.minor);
-    EXPECT_EQ(textOf(origin), textOf(secsOf(row.origin)));
-    EXPECT_EQ(textOf(timerange::rangeEnd(clock, secsOf(row.finish), origin, row.minor)),
-              textOf(secsOf(row.lastUnit)));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Units, Range,
-    testing::Values(
-        RangeCase{"shortOnDays", Day, "2024-03-04", "2024-03-09", "2024-03-03", "2024-03-13"},
-        RangeCase{"longOnDays", Day, "2024-03-04 13:00", "2024-06-01", "2024-03-03", "2024-06-01"},
-        RangeCase{"finishAfterMidnightOnDays", Day, "2024-03-04", "2024-06-01 00:01", "2024-03-03",
-                  "2024-06-02"},
-        RangeCase{"shortOnWeeks", Week, "2024-03-06", "2024-03-09", "2024-02-26", "2024-05-06"},
-        RangeCase{"longOnWeeks", Week, "2024-03-04", "2024-07-04", "2024-02-26", "2024-07-08"},
-        RangeCase{"shortOnMonths", Month, "2024-03-31", "2024-04-02", "2024-02-01", "2024-12-01"},
-        RangeCase{"longOnMonths", Month, "2024-03-31", "2026-01-01", "2024-02-01", "2026-01-01"},
-        RangeCase{"shortOnQuarters", Quarter, "2024-05-10", "2024-06-01", "2024-01-01", "2027-01-01"},
-        RangeCase{"longOnQuarters", Quarter, "2024-01-02", "2030-01-02", "2023-10-01", "2030-04-01"},
-        RangeCase{"shortOnYears", Year, "2024-05-10", "2024-06-01", "2023-01-01", "2033-01-01"},
-        RangeCase{"longOnYears", Year, "2024-05-10", "2041-01-01", "2023-01-01", "2041-01-01"},
-        RangeCase{"shortOnHours", Hour, "2024-03-04 10:00", "2024-03-04 12:00", "2024-03-03", "2024-03-05"},
-        RangeCase{"longOnHours", Hour, "2024-03-04", "2024-03-09", "2024-03-03", "2024-03-09"},
-        RangeCase{"onMinutesWithoutLeastSpan", Minute, "2024-03-04", "2024-03-04 12:00", "2024-03-03",
-                  "2024-03-05"}),
-    caseName<RangeCase>);
-
 RC_GTEST_PROP(RangeProperty, equalsThePlainRules, ())
 {
     const quint32 start = *anyMoment();
@@ -266,20 +221,6 @@ RC_GTEST_PROP(Mapping, equalsThePlainFormulas, ())
     }
 }
 
-TEST(Mapping, hourScaleSkipsTheNight)
-{
-    const auto project = projectOver(june, Hour, "2024-06-03", "2024-06-05");
-    const KWTaskCollection &scale = *project->document().taskCollection();
-    constexpr double dayPixels = 9 * 100; // 8 to 17
-    EXPECT_EQ(scale.hourPositionFromSecs(secsOf("2024-06-03 08:00")), dayPixels);
-    EXPECT_EQ(scale.hourPositionFromSecs(secsOf("2024-06-03 09:30")), dayPixels + 150);
-    EXPECT_EQ(scale.hourPositionFromSecs(secsOf("2024-06-03 06:30")), dayPixels + 50);
-    EXPECT_EQ(scale.hourPositionFromSecs(secsOf("2024-06-03 17:00")),
-              scale.hourPositionFromSecs(secsOf("2024-06-04 08:00")));
-    EXPECT_EQ(scale.minutePositionFromSecs(secsOf("2024-06-03 09:30")), (9 * 60 + 90) * 100.0);
-    EXPECT_EQ(scale.totalWidth(), 4 * dayPixels);
-}
-
 TEST(Mapping, hourScaleComesBackAcrossAClockChange)
 {
     const auto project = projectOver("Mon-Fri 8-12 13-17", Hour, "2024-03-04", "2024-04-06");
@@ -314,20 +255,6 @@ TEST(Mapping, roundsToTheMinuteAndGivesNothingOutsideTheClock)
     EXPECT_EQ(scale.secsFromPosition(std::numeric_limits<double>::infinity()), 0u);
     EXPECT_LE(lastSecs - scale.secsFromPosition(1e12), 60u);
     EXPECT_EQ(scale.dayPositionFromSecs(scale.minDateStart() - 1), 0.0);
-}
-
-TEST(Mapping, withoutADocumentIsNothing)
-{
-    KWTaskCollection scale(nullptr);
-    scale.updateTaskCollection();
-    scale.updateTooSmallTotalWidth(1000);
-    EXPECT_EQ(scale.secsFromPosition(10), 0u);
-    EXPECT_EQ(scale.positionFromSecs(1700000000), 0.0);
-    EXPECT_EQ(scale.dayPositionFromSecs(1700000000), 0.0);
-    EXPECT_EQ(scale.hourPositionFromSecs(1700000000), 0.0);
-    EXPECT_EQ(scale.minutePositionFromSecs(1700000000), 0.0);
-    KWTaskInfo task;
-    EXPECT_EQ(scale.getTaskPtBeginX(&task), 0.0);
 }
 
 // ---- Bars -------------------------------------------------------------------------------------------------
@@ -425,13 +352,6 @@ TEST(Width, saturatesAndNeverTurnsNegative)
     EXPECT_EQ(scale.secsFromPosition(100), 0u);
     scale.updateTooSmallTotalWidth(1000);
     EXPECT_EQ(scale.totalWidth(), 0);
-}
-
-TEST(Width, withoutWorkingHoursCancelsEdits)
-{
-    const auto project = projectOver("Mon-Fri 8-8", Hour, "2024-06-03", "2024-06-05");
-    EXPECT_EQ(project->document().taskCollection()->totalWidth(), 0);
-    EXPECT_EQ(project->document().taskCollection()->secsFromPosition(50), 0u);
 }
 
 TEST(Width, tooSmallForTheViewGrowsByWholeUnits)
@@ -588,32 +508,4 @@ INSTANTIATE_TEST_SUITE_P(
         ZoomCase{"farUnknownUnitEndsAtOnce", 9, lastSecs, 60, 5000, "major 9 minor 4294967295 width 20"}),
     caseName<ZoomCase>);
 
-TEST(AutoZoom, isOffWhenTheOptionIs)
-{
-    Project p(june, "Task 200d\n");
-    p.document().AutoZoom = false;
-    p.document().taskCollection()->updateTaskCollection();
-    EXPECT_EQ(zoomText(p.document()), "major 3 minor 0 width 100");
-    EXPECT_GT(p.document().taskCollection()->totalWidth(), 20000);
-}
-
-TEST(Range, survivesTasksAtTheEndsOfTheClock)
-{
-    for (unsigned int minor = 0; minor <= 9; ++minor) {
-        const auto project = projectOver(june, minor, "2024-06-03", "2024-06-05");
-        KWDocument &document = project->document();
-        KWTaskInfo &task = project->task("Task");
-        for (const auto &[start, finish] : {std::pair<quint32, quint32>{0, 0},
-                                            {0, lastSecs},
-                                            {lastSecs - 5, lastSecs},
-                                            {lastSecs, 0},
-                                            {lastSecs, lastSecs}}) {
-            task.Start = start;
-            task.Finish = finish;
-            document.taskCollection()->updateRageAndTaskPoint();
-            EXPECT_TRUE(task.x1 >= 0 && task.CountWidth == task.x2 - task.x1) << minor;
-            EXPECT_LE(document.taskCollection()->unitCount(Day), 49712);
-        }
-    }
-}
 }

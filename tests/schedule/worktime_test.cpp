@@ -215,18 +215,6 @@ TEST(Clocks, theEndOfADayKeepsItsDateUntilMidnight)
     }
 }
 
-TEST(Clocks, nearTheEndsOfTheTimeRange)
-{
-    Planned document("all 8-17");
-    for (const quint32 secs : {0u, 1u, 4294967294u, 4294967295u}) {
-        const quint32 hour = KWTaskInfo::secsDayTransHour(&document, secs);
-        EXPECT_NEAR(hour, secs, 86400.0);
-        EXPECT_NEAR(KWTaskInfo::secsHourTransDay(&document, hour), secs, 86400.0);
-    }
-    const QScopedValueRollback<bool> old(KWDocument::s_isOldVersion, true);
-    EXPECT_LE(KWTaskInfo::secsHourTransDay(&document, 0), 86400u) << "clamped, not wrapped";
-}
-
 // ---- Shown and typed times --------------------------------------------------------------------------------
 
 TEST(ShownTimes, ofStartsAndFinishes)
@@ -317,44 +305,6 @@ TEST(TimesOfDay, toSecondsAndBack)
 }
 
 // ---- Measures ---------------------------------------------------------------------------------------------
-
-TEST(Measures, ofPartDays)
-{
-    Planned document(office);
-    const auto off = [&](const char *from, const char *to) {
-        return KWTaskInfo::dayTimeStartToFinishOff(&document, at(from), at(to));
-    };
-    const auto work = [&](const char *from, const char *to) {
-        return KWTaskInfo::dayTimeStartToFinishWorkTime(&document, at(from), at(to));
-    };
-    EXPECT_EQ(off("2024-03-04 12:30", "2024-03-04 17:00"), 0.5);
-    EXPECT_EQ(off("2024-03-04 06:00", "2024-03-04 22:00"), 1.0);
-    EXPECT_EQ(off("2024-03-04 13:00", "2024-03-04 12:00"), 0.0);
-    EXPECT_EQ(work("2024-03-04 08:00", "2024-03-04 17:00"), 8.0);
-    EXPECT_EQ(work("2024-03-04 12:15", "2024-03-04 12:45"), 0.0);
-    EXPECT_EQ(work("2024-03-08 15:00", "2024-03-11 10:00"), 4.0);
-    EXPECT_EQ(work("2024-03-08 08:00", "2024-03-09 08:00"), 8.0)
-        << "the beginning of Saturday is Friday's end";
-    EXPECT_EQ(work("2024-03-09 08:00", "2024-03-09 12:00"), 0.0);
-    EXPECT_EQ(work("2024-03-11 10:00", "2024-03-08 15:00"), 0.0);
-}
-
-TEST(Measures, workingDaysBetweenStoredPoints)
-{
-    Planned document(office);
-    const auto days = [&](const char *from, const char *to) {
-        return KWTaskInfo::totalWorkDays(&document, secsOf(from), secsOf(to), 4);
-    };
-    EXPECT_EQ(days("2024-03-04", "2024-03-09"), 5.0);
-    EXPECT_EQ(days("2024-03-04", "2024-03-11"), 5.0);
-    EXPECT_EQ(days("2024-03-04", "2024-03-04 12:00"), 0.5) << "half past twelve counts from noon";
-    EXPECT_EQ(days("2024-03-08 16:00", "2024-03-12"), 1.375);
-    EXPECT_EQ(days("2024-03-09 06:00", "2024-03-10 06:00"), 0.0);
-    EXPECT_EQ(KWTaskInfo::totalWorkDays(nullptr, 0, 86400, 4), 0.0);
-    qDeleteAll(document.workTimes);
-    document.workTimes.clear();
-    EXPECT_EQ(days("2024-03-04", "2024-03-09"), 0.0) << "no hours";
-}
 
 TEST(Measures, equalThePlainRules)
 {

@@ -62,27 +62,6 @@ TEST(PrintConfig, LeavesOutWhatIsFalse)
                             "Width='210' Zoom='75'\n");
 }
 
-TEST(PrintConfig, SavedSettingsLoadBack)
-{
-    KWPrintConfig config;
-    config.Portrait = config.Toggle = true;
-    config.Background = false;
-    config.HSheet = -3;
-    config.VSheet = 32767;
-    config.Left = 0.1;
-    config.Unit = 10;
-    QDomDocument document;
-    KWPrintConfig loaded;
-    loaded.Zoom = 60;
-    loaded.parse(savedElement(document, config));
-    EXPECT_EQ(saved(loaded), saved(config));
-    EXPECT_EQ(loaded.Zoom, 60); // not saved with sheets
-    // Handed over without the element around it.
-    KWPrintConfig direct;
-    direct.parse(document.documentElement().firstChildElement());
-    EXPECT_EQ(saved(direct), saved(config));
-}
-
 struct Reading
 {
     const char *name;
