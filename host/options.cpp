@@ -190,8 +190,9 @@ const Option optionTable[] = {
      }},
     {"resources", "", "FILE", Planning,
      [](Options &o, const QString &v) {
-         o.resources = v.isEmpty();
-         o.resourcesFile = v;
+         o.resources = o.resources || v.isEmpty();
+         if (!v.isEmpty())
+             o.resourcesFile = v;
          return true;
      }},
     {"assignments", "", "FILE", Planning,
