@@ -193,12 +193,14 @@ void AssignmentSheet::addRow(int row, const std::vector<KnownCell> &cells)
         case ResourceName:
             assignment.resource = cell.asText().trimmed();
             break;
-        case Work:
-            assignment.work = amountOf(row, cell, cellvalues::number(cell));
-            assignment.workUnit = cellvalues::unit(cell.text, m_unitNames).value_or(duration::Hour);
+        case Work: {
+            const Amount work = amountOf(row, cell, Work);
+            assignment.work = work.value;
+            assignment.workUnit = work.unit;
             break;
+        }
         case Units:
-            assignment.units = amountOf(row, cell, cellvalues::fraction(cell));
+            assignment.units = amountOf(row, cell, Units).value;
             break;
         default:
             break;
@@ -207,12 +209,22 @@ void AssignmentSheet::addRow(int row, const std::vector<KnownCell> &cells)
     m_assignments.push_back(assignment);
 }
 
-std::optional<double> AssignmentSheet::amountOf(int row, const Cell &cell, std::optional<double> read) const
+AssignmentSheet::Amount AssignmentSheet::amountOf(int row, const Cell &cell, int field)
 {
-    if (read && *read >= 0)
-        return read;
-    report(row, &cell, text("is no amount"), text("left out"));
-    return std::nullopt;
+    QHash<QString, Amount> &known = m_amounts[field == Work ? 0 : 1][cell.isNumber ? 1 : 0];
+    const auto found = known.constFind(cell.text);
+    if (found != known.constEnd())
+        return *found;
+    Amount amount;
+    amount.value = field == Work ? cellvalues::number(cell) : cellvalues::fraction(cell);
+    amount.unit = cellvalues::unit(cell.text, m_unitNames).value_or(duration::Hour);
+    if (!amount.value || *amount.value < 0) {
+        report(row, &cell, text("is no amount"), text("left out"));
+        amount.value.reset();
+        return amount;
+    }
+    known.insert(cell.text, amount);
+    return amount;
 }
 
 void AssignmentSheet::reportRow(int row, const QString &what, const QString &instead) const

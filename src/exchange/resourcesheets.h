@@ -2,6 +2,7 @@
 #include "exchange/cellvalues.h"
 #include "exchange/sheetreader.h"
 #include "resources/names.h"
+#include <QHash>
 #include <QSet>
 #include <memory>
 #include <vector>
@@ -63,9 +64,16 @@ protected:
     void addRow(int row, const std::vector<sheetrows::KnownCell> &cells) override;
 
 private:
-    std::optional<double> amountOf(int row, const sheetrows::Cell &cell, std::optional<double> read) const;
+    // Workbooks repeat the same few amounts in every row.
+    struct Amount
+    {
+        std::optional<double> value;
+        unsigned int unit = 0;
+    };
+    Amount amountOf(int row, const sheetrows::Cell &cell, int field);
 
     cellvalues::UnitNames m_unitNames;
     std::vector<Assignment> m_assignments;
+    QHash<QString, Amount> m_amounts[2][2]; // of work and of units, each from texts and from numbers
 };
 }

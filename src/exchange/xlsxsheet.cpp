@@ -279,6 +279,7 @@ void SheetSource::readCell(Row &row)
 
     QString value;
     QString inlineText;
+    int index = -1; // of a shared string
     bool hasValue = false;
     bool hasInlineText = false;
     for (XmlPull::Token token = m_xml.next(); token != XmlPull::Finished && token != XmlPull::Failed;
@@ -288,7 +289,9 @@ void SheetSource::readCell(Row &row)
         if (token != XmlPull::Begin)
             continue;
         if (m_xml.is("v") && !hasValue) {
-            value = m_xml.textOfElement();
+            index = kind.type == CellKind::Shared ? m_xml.numberOfElement() : -1;
+            if (index < 0)
+                value = m_xml.textOfElement();
             hasValue = true;
         } else if (m_xml.is("is") && !hasInlineText) {
             inlineText = readInlineText();
@@ -299,6 +302,8 @@ void SheetSource::readCell(Row &row)
     }
     if (column > 0 && hasInlineText)
         row.cells.push_back({column, withoutEscapes(inlineText), false});
+    else if (column > 0 && index >= 0)
+        row.cells.push_back({column, m_strings.value(index), false});
     else if (column > 0 && hasValue)
         row.cells.push_back(cellOf(column, kind, value, m_strings));
 }
@@ -355,6 +360,9 @@ QString inlineTextOf(const QDomElement &inlineString)
 bool DomSheetSource::next(Row &row)
 {
     row.cells.clear();
+    // Comments may stand among the rows.
+    while (m_next < m_rows.count() && localName(m_rows.at(m_next)) != QLatin1String("row"))
+        ++m_next;
     if (m_next >= m_rows.count())
         return false;
     const QDomElement rowElement = m_rows.at(m_next++).toElement();

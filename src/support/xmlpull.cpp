@@ -119,8 +119,8 @@ XmlPull::Token XmlPull::fail()
 // Behind the mark; false when there is none.
 bool XmlPull::skipPast(const char *mark)
 {
-    const auto *found = static_cast<const char *>(
-        memmem(m_at, std::size_t(m_end - m_at), mark, std::strlen(mark)));
+    const auto *found =
+        static_cast<const char *>(memmem(m_at, std::size_t(m_end - m_at), mark, std::strlen(mark)));
     if (found)
         m_at = found + std::strlen(mark);
     return found != nullptr;
@@ -307,6 +307,20 @@ QString XmlPull::textOfElement()
             joined = joined.isEmpty() ? text() : joined + text();
     }
     return joined;
+}
+
+int XmlPull::numberOfElement()
+{
+    constexpr int maxDigits = 9;
+    const char *at = m_at;
+    int number = 0;
+    while (!m_closesAtOnce && at != m_end && at - m_at < maxDigits && *at >= '0' && *at <= '9')
+        number = number * 10 + (*at++ - '0');
+    if (at == m_at || m_end - at < 2 || at[0] != '<' || at[1] != '/')
+        return -1;
+    m_at = at;
+    next();
+    return number;
 }
 
 QByteArray XmlPull::toUtf8(const QByteArray &bytes)

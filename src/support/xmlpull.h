@@ -34,6 +34,8 @@ public:
     bool skip();
     // The texts up to the end of the element that has begun, those of its children left out.
     QString textOfElement();
+    // The same as a number, where the element holds nothing but digits; -1 and nothing read otherwise.
+    int numberOfElement();
 
     // Text of a part as UTF-8 without a byte order mark; UTF-16 is told by its mark or by the first "<".
     static QByteArray toUtf8(const QByteArray &bytes);

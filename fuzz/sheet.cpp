@@ -1,0 +1,92 @@
+// A worksheet, its shared strings and its number formats, one after the other and parted by NUL: whatever
+// they hold, reading ends, a refused book leaves the document alone, and what was imported saves and reads
+// back the same.
+#include "exchange/XLSXDataEngine.h"
+#include "exchange/exceltitles.h"
+#include "exchange/planimport.h"
+#include "exchange/xlsxsheet.h"
+#include "fuzz.h"
+#include "model/kwdocument_xml.h"
+#include "resources/resourceinfodata.h"
+#include "schedule/kwtaskcollection.h"
+#include "support/xmlsink.h"
+#include "support/xmltree.h"
+#include <QBuffer>
+#include <QGuiApplication>
+
+namespace {
+
+QByteArray textOf(const KWDocument &document)
+{
+    QByteArray text;
+    QBuffer buffer(&text);
+    FUZZ_CHECK(buffer.open(QIODevice::WriteOnly));
+    StreamSink sink(buffer);
+    documentxml::write(sink, document);
+    FUZZ_CHECK(sink.finish());
+    return text;
+}
+
+void fillTitles()
+{
+    const char *const titles[] = {"ID",       "Name",     "Start", "Finish", "Duration",
+                                  "Complete", "Priority", "Who",   "Links"};
+    for (int type = 0; type < int(std::size(titles)); ++type)
+        RowColumnData::s_columnNames.insert(type, QString::fromLatin1(titles[type]));
+    RowColumnData::s_columnNames.insert(23, QStringLiteral("Level"));
+    RowColumnData::s_columnNames.insert(24, QStringLiteral("After"));
+    ExcelTitles::s_resourcNames = {
+        {0, QStringLiteral("ID")}, {1, QStringLiteral("Name")}, {4, QStringLiteral("Start")}};
+    ExcelTitles::s_workAssignNames = {{0, QStringLiteral("Name")},
+                                      {1, QStringLiteral("Who")},
+                                      {3, QStringLiteral("Start")},
+                                      {4, QStringLiteral("Complete")}};
+}
+}
+
+int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    static int argumentCount = 1;
+    static char name[] = "fuzz_sheet";
+    static char *arguments[] = {name, nullptr};
+    static auto *const application = [] {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        fillTitles();
+        return new QGuiApplication(argumentCount, arguments);
+    }();
+    FUZZ_CHECK(application);
+
+    const QList<QByteArray> parts = QByteArray(reinterpret_cast<const char *>(data), int(size)).split('\0');
+    QStringList strings;
+    xlsx::readSharedStrings(XmlPull::toUtf8(parts.value(1)), strings, nullptr);
+    QList<QPair<int, QString>> formats;
+    xlsx::readNumberFormats(parts.value(2), formats);
+    for (const auto &format : qAsConst(formats))
+        XLSXDataEngine::parseFormatType(format.second);
+
+    // The one sheet is every sheet of the book, so that all readers see it.
+    KWDocument document;
+    document.DocGuid = QStringLiteral("same");
+    const QByteArray before = textOf(document);
+    xlsx::SheetSource tasks(parts.value(0), strings);
+    xlsx::SheetSource resources(parts.value(0), strings);
+    xlsx::SheetSource assignments(parts.value(0), strings);
+    Findings findings;
+    const bool isImported =
+        planimport::importBook(document, {{&tasks, &resources, &assignments}, false}, &findings);
+    if (!isImported) {
+        FUZZ_CHECK(textOf(document) == before);
+        return 0;
+    }
+    FUZZ_CHECK(document.rowColumnData()->rowHeights().size() == document.taskCount());
+    FUZZ_CHECK(document.taskCollection()->linkRings().isEmpty());
+    const QByteArray first = textOf(document);
+    XmlTree tree;
+    FUZZ_CHECK(tree.parse(first));
+    KWDocument again;
+    again.DocGuid = QStringLiteral("same");
+    TreeSource root = tree.root();
+    documentxml::read(root, again);
+    FUZZ_CHECK(textOf(again) == first);
+    return 0;
+}
