@@ -5,13 +5,13 @@
 #include "support/ziprules.h"
 #include "zipnulscan.h"
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QSet>
 #include <QVector>
 #include <algorithm>
 #include <climits>
+#include <filesystem>
 #include <memory>
 #include <sys/stat.h>
 #include <zip.h>
@@ -246,19 +246,27 @@ struct Source
 // All files below a folder and the folders that hold nothing, in the order of their names.
 bool collect(const QString &folder, QVector<Source> &sources)
 {
-    QDirIterator files(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        const QFileInfo info = files.fileInfo();
-        const QByteArray name = path.mid(folder.size() + 1).toUtf8();
+    // Unlike Qt's own, this iterator tells when a folder cannot be read.
+    namespace fs = std::filesystem;
+    const fs::path root(QFile::encodeName(folder).constData());
+    const int rootLength = QFile::decodeName(root.c_str()).size();
+    std::error_code error;
+    for (fs::recursive_directory_iterator entry(root, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const QString path = QFile::decodeName(entry->path().c_str());
+        const QFileInfo info(path);
+        const QByteArray name = path.mid(rootLength + 1).toUtf8();
         if (info.isSymLink() || (!info.isDir() && !info.isFile()))
             return fail(name, text("neither a plain file nor a plain folder"));
         if (!info.isDir())
             sources.append({name, path});
-        else if (QDir(path).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
+        else if (fs::is_empty(entry->path(), error))
             sources.append({name + '/', path});
+        if (error)
+            break;
     }
+    if (error)
+        return fail(text("a folder cannot be read: ") + QString::fromLocal8Bit(error.message().c_str()));
     if (sources.isEmpty())
         return fail(text("there is nothing to pack"));
     // The reader's rules, as far as they can be known before packing.

@@ -40,6 +40,7 @@ int makeXlsx(const QString &path)
 int saveXlsx(const QString &path)
 {
     KWDocument document;
+    document.setModified(true);
     bool isExported = false;
     if (XLSXDataEngine(&document).importData(path)) {
         for (KWTaskInfo *task : document.taskList())
