@@ -252,11 +252,12 @@ int XLSXDataBase::sharedStringIndex(const QString &text)
     const auto known = m_stringIndex.constFind(cleaned);
     if (known != m_stringIndex.constEnd())
         return *known;
-    if (text.size() > maxUnits && cleaned.size() >= maxUnits - 1) {
+    if (text.size() > planexport::maxUnits && cleaned.size() >= planexport::maxUnits - 1) {
         constexpr int shownUnits = 30;
-        m_findings.add(cleaned.left(shownUnits) + QChar(0x2026),
-                       QStringLiteral("a cell holds %1 characters, and there are more").arg(maxUnits),
-                       QStringLiteral("cut"));
+        m_findings.add(
+            cleaned.left(shownUnits) + QChar(0x2026),
+            QStringLiteral("a cell holds %1 characters, and there are more").arg(planexport::maxUnits),
+            QStringLiteral("cut"));
     }
     const int index = m_sharedStrings.size();
     m_stringIndex.insert(cleaned, index);
