@@ -92,6 +92,14 @@ TEST(CompoundFile, tableGoesOnBehindTheHeader)
         ASSERT_TRUE(header.Read(biff::Bytes(bytes)));
         EXPECT_EQ(header.tableSectors, one.tableSectors);
         EXPECT_EQ(header.listSectors, one.listSectors);
+        // The table lies in one piece. The list names each of its sectors, and goes on behind every 127.
+        const QByteArray listBytes = bytes.mid(int(header.firstListSector + 1) * 512);
+        biff::Bytes list(listBytes);
+        for (quint32 i = 109; i < one.tableSectors; ++i) {
+            EXPECT_EQ(list.u32(), header.tableSectorList[0] + i);
+            if ((i - 109) % 127 == 126)
+                list.skip(4);
+        }
         ASSERT_TRUE(again.OpenBytes(bytes) && again.ReadFile(QStringLiteral("large"), &large));
         EXPECT_EQ(large, content(one.bytes));
     }
@@ -262,8 +270,8 @@ TEST(CompoundFile, damageIsMetByACleanNo)
                  {"child is outside", directoryAt + 76, 99, ""},
                  {"root is a stream", directoryAt + 64, 0x01020016, closed},
                  {"second is unused", tinyEntryAt + 64, 0x01000000, "/big=5000 "},
-        {"second has no name", tinyEntryAt + 64, 0x01020002, "/big=5000 "},
-        {"second is named like a path", tinyEntryAt, 0x0069002F, "/big=5000 "}};
+                 {"second has no name", tinyEntryAt + 64, 0x01020002, "/big=5000 "},
+                 {"second is named like a path", tinyEntryAt, 0x0069002F, "/big=5000 "}};
     for (const auto &one : cases) {
         QByteArray bytes = whole;
         qToLittleEndian(one.value, bytes.data() + one.at);
