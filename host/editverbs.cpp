@@ -386,7 +386,7 @@ constexpr Verb verbs[] = {
     {"cut", SomeTasks, 0, 0, AllTasks, cutBranches, "TASK...", "the same, and removes them"},
     {"paste", MaybeTask, 0, 0, AllTasks | Columns, paste, "[TASK]",
      "above TASK, or at the end, with new IDs and names"},
-    {"undo", NoTask, 0, 1, Nothing, undo, "[N]", "takes the last N edits back, at most all of them"},
+    {"undo", NoTask, 0, 1, Nothing, undo, "[N]", "takes the last N edits back, of the 60 that are kept"},
     {"redo", NoTask, 0, 1, Nothing, redo, "[N]", "makes them again"},
 };
 

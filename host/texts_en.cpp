@@ -73,14 +73,14 @@ task starts before a predecessor finishes.
 
 A task keeps its start when it can: it is only moved later, to the end of the predecessor that finishes
 last, never earlier. A task without a start begins at the project's start. Prints the plan; what moved is
-summed up on standard error.
+summed up on standard error. Tasks that wait for each other in a ring of links give exit code 5.
 
   --asap           every task begins at the project's start, whatever the file says, and is moved from there:
                    the earliest dates that the links allow
   --dry-run        what would move, and because of what; nothing is written
   --check          the same, and exit code 1 when anything would move or was found
-  -i, --in-place   writes the new dates into FILE and leaves everything else in it as it is
-  -o FILE          writes the scheduled plan; the format follows the name (.csv, .json)
+  -i, --in-place   writes the new dates into FILE, a package or a CSV plan, and leaves everything else as it is
+  -o FILE          writes the scheduled plan; the format follows the name (.kwpx, .csv, .xlsx, .xls, .json)
   --unit d|h|min   the unit of slack
   and all options of 'kwgantt help show'
 
@@ -118,7 +118,7 @@ Example: kwgantt convert plan.csv plan.kwpx
 kwgantt edit FILE --script FILE
 
   -i, --in-place   writes the package FILE itself
-  -o OUT           writes another file; the format follows the name (.kwpx, .csv, .json)
+  -o OUT           writes another file; the format follows the name (.kwpx, .csv, .xlsx, .xls, .json)
   --dry-run        shows the changed plan and writes nothing
   --script FILE    one edit a line ('-' reads standard input); a line that begins with # says nothing
 
