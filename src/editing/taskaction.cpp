@@ -118,7 +118,13 @@ void TaskAction::backupAffected(KWTaskInfo *task)
         m_backups->chart = optionbackup::chartOf(*document());
     // What can push goes along the links and the outline, which the events of the tasks lead along.
     const outline::Tasks tasks{document()->taskList(), document()->taskIndex()};
-    const linkgraph::EventNetwork network(tasks, {pos});
+    // A summary above may begin earlier than its own predecessors allow, and is pushed with all it holds.
+    std::vector<int> starts = {pos};
+    for (const KWTaskInfo *ancestor : outline::ancestors(tasks, *task)) {
+        if (!ancestor->Predecessors.isEmpty())
+            starts.push_back(tasks.index.posOf(ancestor->ID));
+    }
+    const linkgraph::EventNetwork network(tasks, starts);
     for (const linkgraph::EventNetwork::Node &node : network.nodes()) {
         addChangeTaskInfo(tasks.list[node.pos]);
         addTaskAllResources(tasks.list[node.pos]);
