@@ -1,7 +1,7 @@
 #include "xmlparser.h"
-#include "support/kwlimits.h"
 #include "runinglog.h"
 #include "support/atomicfile.h"
+#include "support/kwlimits.h"
 #include "support/xmlguard.h"
 #include <QDomDocument>
 #include <QFile>

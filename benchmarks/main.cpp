@@ -1,16 +1,16 @@
 // Measures the scheduling operations on generated projects, each on one core.
 //
-// Every line gives the best of several runs: seconds of processor time, microseconds a task, the growth from the size before,
-// and the time divided by a bare kernel's in the same run where the two do the same work.
+// Every line gives the best of several runs: seconds of processor time, microseconds a task, the growth from
+// the size before, and the time divided by a bare kernel's in the same run where the two do the same work.
 #include "costs.h"
 #include "generator.h"
 #include "kernel.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "report.h"
-#include "tableedits.h"
 #include "schedule/kwtaskcollection.h"
 #include "schedule/worktime.h"
+#include "tableedits.h"
 #include <QGuiApplication>
 #include <cstdio>
 

@@ -64,10 +64,10 @@ void measure(Report &report, int tasks)
     report.line("addTaskInfo", tasks, best(runs, nothing, [&] { document->addTaskInfo(); }));
     report.line("insertTaskByRow", tasks, best(runs, nothing, [&] { document->insertTaskByRow(row); }));
     report.line("removeTaskByRow", tasks, best(runs, nothing, [&] { document->removeTaskByRow(row); }));
-    report.line("insertSubTaskByRow", tasks,
-                best(
-                    runs, [&] { document->removeTaskByRow(row + 1); },
-                    [&] { document->insertSubTaskByRow(row); }));
+    report.line(
+        "insertSubTaskByRow", tasks,
+        best(
+            runs, [&] { document->removeTaskByRow(row + 1); }, [&] { document->insertSubTaskByRow(row); }));
     report.line("indentTaskByRow", tasks, best(1, nothing, [&] { document->indentTaskByRow(row); }));
     report.line("outdentTaskByRow, the last child", tasks,
                 best(1, nothing, [&] { document->outdentTaskByRow(row); }));

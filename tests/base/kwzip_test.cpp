@@ -1,7 +1,7 @@
 #include "kwzip.h"
-#include "support/kwlimits.h"
 #include "support/filesizelimit.h"
 #include "support/folder.h"
+#include "support/kwlimits.h"
 #include "support/rawzip.h"
 #include <QDateTime>
 #include <QDir>
