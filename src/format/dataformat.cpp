@@ -126,27 +126,73 @@ QString DataFormat::numberStringFromString(const QString &text, int mode)
     return number + lettersPattern.match(plain, match.capturedStart() + digits).captured();
 }
 
+double DataFormat::numberFromString(const QString &text)
+{
+    const double value = numberStringFromString(text, 0).toDouble();
+    return std::isfinite(value) ? value : 0.0;
+}
+
+QString DataFormat::numberToString(double value, int decimals)
+{
+    constexpr int groupSize = 3;
+    return formatNumber(value, groupSize, decimals, 1);
+}
+
+QString DataFormat::formatFraction(double value, int maxDenominator)
+{
+    if (!(std::fabs(value) < wholeLimit))
+        return formatNumber(value, 0, 0, 1);
+    const double size = std::fabs(value);
+    const double part = size - std::floor(size);
+    qint64 numerator = std::llround(part);
+    int denominator = 1;
+    for (int tried = 2; tried <= maxDenominator; ++tried) {
+        const qint64 nearest = std::llround(part * tried);
+        // Only what is nearer, so that the smallest of equal fractions is kept.
+        if (std::fabs(part - double(nearest) / tried) < std::fabs(part - double(numerator) / denominator)) {
+            numerator = nearest;
+            denominator = tried;
+        }
+    }
+    const qint64 whole = qint64(std::floor(size)) + (denominator == 1 ? numerator : 0);
+    const bool hasFraction = denominator > 1;
+    QString text = value < 0 && (whole > 0 || hasFraction) ? QStringLiteral("-") : QString();
+    if (whole > 0 || !hasFraction)
+        text += QString::number(whole);
+    if (hasFraction)
+        text += (whole > 0 ? QStringLiteral(" ") : QString()) + QString::number(numerator) +
+                QLatin1Char('/') + QString::number(denominator);
+    return text;
+}
+
 QString DataFormat::dateFormat()
 {
     return s_dateFormats.value(s_deftDateFmt, isoDateFormat);
 }
 
-QDateTime DataFormat::getDateTimeByDateTimeText(const QString &text, bool withTime)
+QStringList DataFormat::generateFormats(bool withTime)
 {
     static const QString timeFormats[] = {QStringLiteral(" hh:mm:ss"), QStringLiteral(" h:mm:ss"),
                                           QStringLiteral(" hh:mm"), QStringLiteral(" h:mm")};
-    const QString trimmed = text.trimmed();
     // The document's format comes first: day-month and month-day formats read each other's texts.
-    const QStringList formats =
+    QStringList dates =
         QStringList(dateFormat()) + s_dateFormats + QStringList{isoDateFormat, slashDateFormat};
-    for (const QString &format : formats) {
+    dates.removeDuplicates();
+    QStringList formats;
+    for (const QString &date : qAsConst(dates)) {
         if (withTime) {
-            for (const QString &timeFormat : timeFormats) {
-                const QDateTime read = readByFormat(trimmed, format + timeFormat);
-                if (read.isValid())
-                    return read;
-            }
+            for (const QString &time : timeFormats)
+                formats.append(date + time);
         }
+        formats.append(date);
+    }
+    return formats;
+}
+
+QDateTime DataFormat::getDateTimeByDateTimeText(const QString &text, bool withTime)
+{
+    const QString trimmed = text.trimmed();
+    for (const QString &format : generateFormats(withTime)) {
         const QDateTime read = readByFormat(trimmed, format);
         if (read.isValid())
             return read;

@@ -21,6 +21,14 @@ public:
     static QString numberStringFromString(const QString &text, int mode);
     // The document's date format; "yyyy-MM-dd" when the index names none.
     static QString dateFormat();
+    // That number; 0 where there is none or it is not finite.
+    static double numberFromString(const QString &text);
+    // At most so many decimals, in groups of three digits.
+    static QString numberToString(double value, int decimals);
+    // As a whole number and the nearest fraction with a denominator of at most that: "2 1/3", "-1/2", "4".
+    static QString formatFraction(double value, int maxDenominator);
+    // The formats in which a typed date is looked for, in that order; with the time, each with it first.
+    static QStringList generateFormats(bool withTime);
     // Invalid when no format fits. Without `withTime` the time is 00:00. A wall-clock time that the zone
     // skips is read as if the clock had not been put forward yet.
     static QDateTime getDateTimeByDateTimeText(const QString &text, bool withTime);

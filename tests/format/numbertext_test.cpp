@@ -153,4 +153,15 @@ INSTANTIATE_TEST_SUITE_P(
         CleanCase{"lettersAfterOtherSigns", "5 % of-cost", "5", "5of"},
         CleanCase{"otherScript", "\u0665 5\u5de5\u65e5d", "5", "5d"}),
     caseName<CleanCase>);
+
+TEST(NumberTexts, areReadWrittenAndBrokenIntoFractions)
+{
+    EXPECT_EQ(DataFormat::numberFromString("about 1,234.5 h"), 1234.5);
+    EXPECT_EQ(DataFormat::numberFromString(QString(400, '9')), 0.0);
+    EXPECT_EQ(DataFormat::numberToString(1234.567, 2).toStdString(), "1,234.57");
+    const std::pair<double, const char *> fractions[] = {
+        {2.3333, "2 1/3"}, {-0.5, "-1/2"}, {0.999, "1"}, {-0.001, "0"}, {7.0, "7"}, {3.14159, "3 1/7"}};
+    for (const auto &[value, text] : fractions)
+        EXPECT_EQ(DataFormat::formatFraction(value, 9).toStdString(), text);
+}
 }
