@@ -84,8 +84,10 @@ TEST(Sheets, ofOneNameInAFileAreAllKept)
     raw.sheets = {rawbiff::record(0x027E, "w0 w0 w15 u22"), rawbiff::record(0x027E, "w0 w0 w15 u26")};
     const QByteArray file = rawbiff::Book::wrap(raw.stream().replace("Sheet2", "Sheet1"));
     BasicExcel book;
+    book.New(3);
     ASSERT_TRUE(book.LoadBytes(file));
     EXPECT_EQ(text(book), "Sheet1: A1=5 | Sheet1: A1=6");
+    EXPECT_TRUE(book.AddWorksheet("Sheet3")) << "the name of a sheet that was there before";
     EXPECT_EQ(book.GetWorksheet("Sheet1"), book.GetWorksheet(0));
     EXPECT_EQ(textOf(book.ToBytes()), text(book));
 }
