@@ -1,6 +1,7 @@
 #include "model/kwdocument_options.h"
 #include <QLocale>
 #include <cmath>
+#include <limits>
 
 QString optionsxml::text(bool value)
 {
@@ -46,7 +47,10 @@ void optionsxml::read(const XmlText &text, bool &value)
 
 void optionsxml::read(const XmlText &text, qint32 &value)
 {
-    value = qint32(text.toUInt());
+    // One that fits no int would be saved as a negative number, which reads as 0 the next time.
+    constexpr quint32 greatest = std::numeric_limits<qint32>::max();
+    const quint32 number = text.toUInt();
+    value = number <= greatest ? qint32(number) : 0;
 }
 
 void optionsxml::read(const XmlText &text, quint32 &value)

@@ -215,6 +215,7 @@ INSTANTIATE_TEST_SUITE_P(
         OptionCase{"flag_of_a_word", "<AutoZoom V='yes'/>", "AutoZoom V='0'"},
         OptionCase{"great_date", "<FinishDate V='4294967295'/>", "FinishDate V='4294967295'"},
         OptionCase{"negative_width", "<UnitWidth V='-5'/>", "UnitWidth V='0'"},
+        OptionCase{"width_past_the_range", "<UnitWidth V='4294967295'/>", "UnitWidth V='0'"},
         OptionCase{"cost", "<BaselineCost V='12345678.9'/>", "BaselineCost V='12345678.9'"},
         OptionCase{"no_cost", "<BaselineCost V='nan'/>", "BaselineCost V='0'"},
         OptionCase{"unknown", "<Colour V='3'/><ThemeIndex V='2'/>", "ThemeIndex V='2'"}),
