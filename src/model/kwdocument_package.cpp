@@ -18,6 +18,16 @@
 #include <map>
 #include <memory>
 
+QList<double> documentxml::heightsOfWrittenTasks(const KWDocument &document)
+{
+    QList<double> heights = document.rowColumnData()->rowHeights();
+    for (int pos = qMin(document.taskCount(), heights.size()) - 1; pos >= 0; --pos) {
+        if (document.taskList().at(pos)->isEmpty())
+            heights.removeAt(pos);
+    }
+    return heights;
+}
+
 namespace {
 
 constexpr char documentFile[] = "document.xml";

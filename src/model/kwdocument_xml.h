@@ -10,6 +10,9 @@ namespace documentxml {
 
 inline constexpr char currentVersion[] = "1.4";
 
+// Empty tasks are not written, and a height left for one would go to the task behind it.
+QList<double> heightsOfWrittenTasks(const KWDocument &document);
+
 template <typename Sink>
 void write(Sink &sink, const KWDocument &document)
 {
@@ -25,7 +28,7 @@ void write(Sink &sink, const KWDocument &document)
     }
     sheetxml::write(sink, document.resourceInfoData()->infos);
     sink.open("RowColumn");
-    tablexml::write(sink, *document.rowColumnData());
+    tablexml::write(sink, *document.rowColumnData(), heightsOfWrittenTasks(document));
     sink.close();
     sink.open("PrintCfg");
     printxml::write(sink, document.printConfig);

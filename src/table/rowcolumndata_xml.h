@@ -9,11 +9,12 @@ namespace tablexml {
 QString heightsText(const QList<double> &heights);
 QList<double> heights(const XmlText &text);
 
+// With the given heights instead of the table's own.
 template <typename Sink>
-void write(Sink &sink, const RowColumnData &table)
+void write(Sink &sink, const RowColumnData &table, const QList<double> &rowHeights)
 {
     sink.open("RowHeightList");
-    sink.attribute("RowHeight", heightsText(table.rowHeights()));
+    sink.attribute("RowHeight", heightsText(rowHeights));
     sink.close();
     sink.open("ColumnList");
     for (const RowColumnData::ColumnData *column : table.columns()) {
@@ -24,6 +25,12 @@ void write(Sink &sink, const RowColumnData &table)
         sink.close();
     }
     sink.close();
+}
+
+template <typename Sink>
+void write(Sink &sink, const RowColumnData &table)
+{
+    write(sink, table, table.rowHeights());
 }
 
 template <typename Source>
