@@ -4,6 +4,7 @@
 #include "resources/resourceinfodata_xml.h"
 #include "settings/kwprintconfig_xml.h"
 #include "table/rowcolumndata_xml.h"
+#include <algorithm>
 
 // The whole project as the element of "document.xml", over any of the XML sinks and sources.
 namespace documentxml {
@@ -20,7 +21,8 @@ void write(Sink &sink, const KWDocument &document)
     sink.attribute("DocGuid", document.DocGuid);
     sink.attribute("Version", QString::fromLatin1(currentVersion));
     optionsxml::write(sink, document);
-    if (document.taskCount() > 0) {
+    const auto isWritten = [](const KWTaskInfo *task) { return !task->isEmpty(); };
+    if (std::any_of(document.taskList().begin(), document.taskList().end(), isWritten)) {
         sink.open("TaskList");
         for (const KWTaskInfo *task : document.taskList())
             taskxml::write(sink, *task);
