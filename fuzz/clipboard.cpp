@@ -1,27 +1,13 @@
 // Whatever lies on the clipboard is refused and changes nothing, or each pasted task has an ID, a row height
 // and links of its own, what was there before stays, and the whole can be saved and read back.
-#include "fuzz.h"
-#include "model/kwdocument_xml.h"
-#include "support/xmlsink.h"
+#include "document.h"
 #include "support/xmltree.h"
-#include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QSet>
 
 namespace {
-
-QByteArray textOf(const KWDocument &document)
-{
-    QByteArray text;
-    QBuffer buffer(&text);
-    FUZZ_CHECK(buffer.open(QIODevice::WriteOnly));
-    StreamSink sink(buffer);
-    documentxml::write(sink, document);
-    FUZZ_CHECK(sink.finish());
-    return text;
-}
 
 // A summary with two tasks, the first before the second.
 void fill(KWDocument &document)
@@ -70,16 +56,7 @@ void checkTask(const KWDocument &document, const KWTaskInfo &task)
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    // There is no clipboard without an application, and titles make the columns differ.
-    static int argumentCount = 1;
-    static char name[] = "fuzz_clipboard";
-    static char *arguments[] = {name, nullptr};
-    static auto *const application = [] {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        RowColumnData::s_columnNames = {{0, QStringLiteral("ID")}, {1, QStringLiteral("Name")}};
-        return new QGuiApplication(argumentCount, arguments);
-    }();
-    FUZZ_CHECK(application);
+    startApplication(fillTwoTitles);
 
     KWDocument document;
     fill(document);

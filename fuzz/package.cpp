@@ -1,24 +1,9 @@
 // Any text that a document is read from saves to text that reads back as the same document, and text that is
 // refused leaves the document alone.
-#include "fuzz.h"
-#include "model/kwdocument_xml.h"
-#include "support/xmlsink.h"
+#include "document.h"
 #include "support/xmltree.h"
-#include <QBuffer>
-#include <QGuiApplication>
 
 namespace {
-
-QByteArray textOf(const KWDocument &document)
-{
-    QByteArray text;
-    QBuffer buffer(&text);
-    FUZZ_CHECK(buffer.open(QIODevice::WriteOnly));
-    StreamSink sink(buffer);
-    documentxml::write(sink, document);
-    FUZZ_CHECK(sink.finish());
-    return text;
-}
 
 bool read(const QByteArray &text, KWDocument &document)
 {
@@ -36,16 +21,7 @@ bool read(const QByteArray &text, KWDocument &document)
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    // Fonts need an application, titles make the columns differ.
-    static int argumentCount = 1;
-    static char name[] = "fuzz_package";
-    static char *arguments[] = {name, nullptr};
-    static auto *const application = [] {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        RowColumnData::s_columnNames = {{0, QStringLiteral("ID")}, {1, QStringLiteral("Name")}};
-        return new QGuiApplication(argumentCount, arguments);
-    }();
-    FUZZ_CHECK(application);
+    startApplication(fillTwoTitles);
 
     KWDocument document;
     document.DocGuid = QStringLiteral("same");

@@ -1,31 +1,16 @@
 // A worksheet, its shared strings and its number formats, one after the other and parted by NUL: whatever
 // they hold, reading ends, a refused book leaves the document alone, and what was imported saves and reads
 // back the same.
+#include "document.h"
 #include "exchange/XLSXDataEngine.h"
 #include "exchange/exceltitles.h"
 #include "exchange/planimport.h"
 #include "exchange/xlsxsheet.h"
-#include "fuzz.h"
-#include "model/kwdocument_xml.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwtaskcollection.h"
-#include "support/xmlsink.h"
 #include "support/xmltree.h"
-#include <QBuffer>
-#include <QGuiApplication>
 
 namespace {
-
-QByteArray textOf(const KWDocument &document)
-{
-    QByteArray text;
-    QBuffer buffer(&text);
-    FUZZ_CHECK(buffer.open(QIODevice::WriteOnly));
-    StreamSink sink(buffer);
-    documentxml::write(sink, document);
-    FUZZ_CHECK(sink.finish());
-    return text;
-}
 
 void fillTitles()
 {
@@ -46,15 +31,7 @@ void fillTitles()
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static int argumentCount = 1;
-    static char name[] = "fuzz_sheet";
-    static char *arguments[] = {name, nullptr};
-    static auto *const application = [] {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        fillTitles();
-        return new QGuiApplication(argumentCount, arguments);
-    }();
-    FUZZ_CHECK(application);
+    startApplication(fillTitles);
 
     const QList<QByteArray> parts = QByteArray(reinterpret_cast<const char *>(data), int(size)).split('\0');
     QStringList strings;
