@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 // A workbook in memory: sheets by index or name, cells by row and column, all counted from 0.
@@ -122,6 +123,17 @@ private:
 
 class KWGANTT_EXPORT BasicExcel
 {
+    template <class Index>
+    using IfInteger =
+        std::enable_if_t<std::is_integral<Index>::value && !std::is_same<Index, int>::value, int>;
+    // -1 for what an int cannot hold.
+    template <class Index>
+    static int toInt(Index index)
+    {
+        const int number = int(index);
+        return number >= 0 && Index(number) == index ? number : -1;
+    }
+
 public:
     BasicExcel();
     explicit BasicExcel(const char *path);
@@ -163,6 +175,33 @@ public:
     bool RenameWorksheet(const wchar_t *from, const wchar_t *to);
     // Empty when there is none.
     std::wstring GetSheetName(int index) const;
+
+    // Indexes of other types: for compilers a zero of theirs is a name as well, and an int may not hold them.
+    template <class Index, IfInteger<Index> = 0>
+    BasicExcelWorksheet *GetWorksheet(Index index)
+    {
+        return GetWorksheet(toInt(index));
+    }
+    template <class Index, IfInteger<Index> = 0>
+    const BasicExcelWorksheet *GetWorksheet(Index index) const
+    {
+        return GetWorksheet(toInt(index));
+    }
+    template <class Index, IfInteger<Index> = 0>
+    BasicExcelWorksheet *AddWorksheet(Index index)
+    {
+        return AddWorksheet(toInt(index));
+    }
+    template <class Index, IfInteger<Index> = 0>
+    bool DeleteWorksheet(Index index)
+    {
+        return DeleteWorksheet(toInt(index));
+    }
+    template <class Index, class Character, IfInteger<Index> = 0>
+    bool RenameWorksheet(Index index, const Character *to)
+    {
+        return RenameWorksheet(toInt(index), to);
+    }
 
     // Days count from 1904-01-01 in the file that was loaded.
     bool IsDate1904() const { return m_is1904; }

@@ -45,6 +45,9 @@ TEST(Sheets, areAddedWhereTheyAreAskedFor)
     EXPECT_EQ(book.GetWorksheet("SHEET1"), nullptr);
     EXPECT_EQ(book.GetWorksheet(-1), nullptr);
     EXPECT_EQ(book.GetWorksheet(7), nullptr);
+    // Any integer is an index.
+    EXPECT_EQ(book.GetWorksheet(size_t(0)), book.GetWorksheet(0));
+    EXPECT_EQ(book.GetWorksheet(quint64(1) << 32), nullptr);
     EXPECT_EQ(book.GetSheetName(7), std::wstring());
 }
 
