@@ -1,6 +1,7 @@
 #pragma once
 #include "exchange/biff/bytes.h"
 #include "exchange/biff/records.h"
+#include "exchange/biff/recordstream.h"
 #include "exchange/biff/strings.h"
 #include <algorithm>
 #include <array>
@@ -106,23 +107,26 @@ private:
     biff::Sink &m_to;
 };
 
-// One record. Its data may not be longer than biff::recordDataLimit.
+// One record. Data that may be longer than biff::recordDataLimit goes on in Continue records.
 class Record
 {
 public:
     virtual ~Record() = default;
     virtual quint16 Code() const = 0;
-    // False when the data is shorter than such a record can be; what lies behind its fields is ignored.
-    virtual bool Read(biff::Bytes data) = 0;
+    // The record that `from` stands on. False when its data is shorter than such a record can be; what lies
+    // behind its fields is ignored.
+    virtual bool Read(const biff::RecordStream &from) = 0;
     // Header and data.
     virtual void Write(biff::Sink &to) const = 0;
-    int RecordSize() const
+    // What Write() puts behind the header.
+    QByteArray Data() const
     {
         biff::Sink bytes;
         Write(bytes);
-        return int(bytes.size());
+        return bytes.takeBytes().mid(headerBytes);
     }
-    int DataSize() const { return RecordSize() - headerBytes; }
+    int DataSize() const { return Data().size(); }
+    int RecordSize() const { return headerBytes + DataSize(); }
 
     static constexpr int headerBytes = 4;
 };
@@ -136,8 +140,9 @@ public:
     static constexpr size_t smallestBytes = biff::kindOf(recordCode).smallestBytes;
 
     quint16 Code() const final { return code; }
-    bool Read(biff::Bytes data) final
+    bool Read(const biff::RecordStream &from) final
     {
+        biff::Bytes data = from.data();
         if (data.left() < smallestBytes)
             return false;
         FieldReader reader(data);

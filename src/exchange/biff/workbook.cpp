@@ -28,18 +28,25 @@ Workbook::Workbook()
     formats[biff::cellFormat].used = 0;
 }
 
-bool Workbook::SharedStringTable::Read(biff::ContinuedBytes from)
+bool Workbook::SharedStringTable::Read(const biff::RecordStream &from)
 {
+    biff::ContinuedBytes data(from);
     strings.clear();
-    uses = from.u32();
-    const quint32 announced = from.u32();
-    while (from.hasMore()) {
+    uses = data.u32();
+    const quint32 announced = data.u32();
+    while (data.hasMore()) {
         LargeString string;
-        if (!string.Read(from))
+        if (!string.Read(data))
             return strings.size() >= announced; // what follows the last string is no concern of ours
         strings.push_back({string.Value(), string.IsWide()});
     }
-    return from.ok();
+    return data.ok();
+}
+
+void Workbook::SharedStringTable::Write(biff::Sink &to) const
+{
+    ExtSST positions;
+    Write(to, &positions);
 }
 
 void Workbook::SharedStringTable::Write(biff::Sink &to, ExtSST *positions) const
@@ -63,8 +70,8 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
 {
     biff::RecordStream records(stream, 0, quint32(stream.size()));
     BOF bof;
-    if (!records.next() || records.code() != BOF::code || !bof.Read(records.data()) ||
-        bof.version != BOF::Biff8 || bof.type != BOF::Globals)
+    if (!records.next() || records.code() != BOF::code || !bof.Read(records) || bof.version != BOF::Biff8 ||
+        bof.type != BOF::Globals)
         return fail(error, QStringLiteral("is no workbook of the 97 to 2003 format"));
     fonts.clear();
     formats.clear();
@@ -73,7 +80,7 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
     // A record that only concerns the looks may be damaged: it is left out.
     const auto append = [&](auto &list) {
         list.emplace_back();
-        if (!list.back().Read(records.data()))
+        if (!list.back().Read(records))
             list.pop_back();
     };
     while (records.next()) {
@@ -91,15 +98,15 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
         }
         case biff::code::boundSheet:
             sheets.emplace_back();
-            if (!sheets.back().Read(records.data()))
+            if (!sheets.back().Read(records))
                 return fail(error, QStringLiteral("the name of sheet %1 is cut").arg(sheets.size()));
             break;
         case biff::code::sharedStrings:
-            if (!strings.Read(biff::ContinuedBytes(records)))
+            if (!strings.Read(records))
                 return fail(error, QStringLiteral("its table of texts is cut"));
             break;
         case biff::code::window1:
-            window.Read(records.data());
+            window.Read(records);
             break;
         case biff::code::font:
             append(fonts);

@@ -128,9 +128,11 @@ public:
     };
 
     // Every text of the workbook once.
-    class KWGANTT_EXPORT SharedStringTable
+    class KWGANTT_EXPORT SharedStringTable final : public Record
     {
     public:
+        static constexpr quint16 code = biff::code::sharedStrings;
+
         struct Entry
         {
             biff::Text text;
@@ -139,8 +141,10 @@ public:
         std::vector<Entry> strings;
         quint32 uses = 0; // by cells; kept by the writer
 
+        quint16 Code() const override { return code; }
         // Takes the strings that are there, however many are announced. False when one is cut.
-        bool Read(biff::ContinuedBytes from);
+        bool Read(const biff::RecordStream &from) override;
+        void Write(biff::Sink &to) const override;
         void Write(biff::Sink &to, ExtSST *positions) const;
     };
 

@@ -91,7 +91,7 @@ public:
         case CellBlock::Formula::String::code: {
             CellBlock::Formula::String result;
             return !wasTextAwaited ||
-                   (result.Read(biff::ContinuedBytes(records)) &&
+                   (result.Read(records) &&
                     give(m_formulaPlace, textValue(result.text.Value(), result.text.IsWide())));
         }
         case biff::code::label:
@@ -107,7 +107,7 @@ private:
     bool readAs(const biff::RecordStream &records, const Give &giveAll)
     {
         Record record;
-        return record.Read(records.data()) && giveAll(record);
+        return record.Read(records) && giveAll(record);
     }
     // A text beside the shared ones, which some writers still use.
     bool readLabel(const biff::RecordStream &records)
@@ -238,8 +238,8 @@ bool Worksheet::Read(const QByteArray &stream, quint32 begin, quint32 end,
     };
     biff::RecordStream records(stream, begin, end);
     BOF bof;
-    if (!records.next() || records.code() != BOF::code || !bof.Read(records.data()) ||
-        bof.version != BOF::Biff8 || bof.type != BOF::Sheet)
+    if (!records.next() || records.code() != BOF::code || !bof.Read(records) || bof.version != BOF::Biff8 ||
+        bof.type != BOF::Sheet)
         return fail(QStringLiteral("does not begin where the workbook says"));
     SheetReader reader(strings, take);
     int embedded = 0; // charts in the sheet, one in another

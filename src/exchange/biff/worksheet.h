@@ -218,12 +218,13 @@ public:
                         Range range;
                         quint16 options = 0;
                         quint32 chain = 0;
-                        std::vector<quint8> expression; // with its 16-bit length
+                        quint16 expressionBytes = 0;
+                        std::vector<quint8> expression; // and what follows its bytes
 
                         template <class Self, class Io>
                         static void fields(Self &self, Io &io)
                         {
-                            io(self.range, self.options, self.chain);
+                            io(self.range, self.options, self.chain, self.expressionBytes);
                             io.list(self.expression);
                         }
                     };
@@ -231,12 +232,13 @@ public:
                     {
                         Range range;
                         quint8 reserved = 0, uses = 0;
-                        std::vector<quint8> expression; // with its 16-bit length
+                        quint16 expressionBytes = 0;
+                        std::vector<quint8> expression; // and what follows its bytes
 
                         template <class Self, class Io>
                         static void fields(Self &self, Io &io)
                         {
-                            io(self.range, self.reserved, self.uses);
+                            io(self.range, self.reserved, self.uses, self.expressionBytes);
                             io.list(self.expression);
                         }
                     };
@@ -254,24 +256,35 @@ public:
                         }
                     };
                     // The text that a formula gave.
-                    struct String
+                    struct String final : Record
                     {
                         static constexpr quint16 code = biff::code::string;
                         LargeString text;
 
-                        bool Read(biff::ContinuedBytes from) { return text.Read(from); }
+                        quint16 Code() const override { return code; }
+                        bool Read(const biff::RecordStream &from) override
+                        {
+                            biff::ContinuedBytes data(from);
+                            return text.Read(data);
+                        }
+                        void Write(biff::Sink &to) const override
+                        {
+                            biff::ContinuedSink sink(to, code);
+                            text.Write(sink);
+                        }
                     };
 
                     Place place;
                     std::array<quint8, 8> result{};
                     quint16 options = 0;
                     quint32 chain = 0;
-                    std::vector<quint8> expression; // with its 16-bit length
+                    quint16 expressionBytes = 0;
+                    std::vector<quint8> expression; // and what follows its bytes
 
                     template <class Self, class Io>
                     static void fields(Self &self, Io &io)
                     {
-                        io(self.place, self.result, self.options, self.chain);
+                        io(self.place, self.result, self.options, self.chain, self.expressionBytes);
                         io.list(self.expression);
                     }
                     // Whether the text comes in a String of its own.
