@@ -318,11 +318,11 @@ bool BasicExcel::LoadBytes(const QByteArray &bytes)
 bool BasicExcel::load(CompoundFile &file)
 {
     QByteArray stream;
-    const bool isOlder = file.FindProperty(olderStreamName);
-    if (!file.FindProperty(streamName))
-        return fail(isOlder ? QStringLiteral("is a workbook of version 95 or before")
-                            : QStringLiteral("holds no workbook"));
-    if (!file.ReadFile(streamName, &stream))
+    // Some writers keep the name that the versions before had.
+    const QString name = file.FindProperty(streamName) ? streamName : olderStreamName;
+    if (!file.FindProperty(name))
+        return fail(QStringLiteral("holds no workbook"));
+    if (!file.ReadFile(name, &stream))
         return fail(QStringLiteral("the stream of the workbook is damaged"));
     file.Close();
 
@@ -332,8 +332,10 @@ bool BasicExcel::load(CompoundFile &file)
         return fail(error);
     // Every sheet ends where another begins at the latest, so no byte is read for two.
     std::vector<quint32> offsets;
-    for (const Workbook::BoundSheet &sheet : workbook.sheets)
-        offsets.push_back(sheet.offset);
+    for (const Workbook::BoundSheet &sheet : workbook.sheets) {
+        if (sheet.type == Workbook::BoundSheet::Sheet)
+            offsets.push_back(sheet.offset);
+    }
     std::sort(offsets.begin(), offsets.end());
     Sheets sheets;
     for (const Workbook::BoundSheet &bound : workbook.sheets) {

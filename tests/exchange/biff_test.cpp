@@ -270,21 +270,26 @@ TEST(Streams, thatAreDamagedFailCleanly)
     const auto patched = [&whole](int at, const QByteArray &with) {
         return QByteArray(whole).replace(at, with.size(), with);
     };
+    QByteArray chartInSecond = whole.mid(42, 4);
+    chartInSecond[0] = char(chartInSecond[0] + 20);
     constexpr const char *notOurs = "[is no workbook of the 97 to 2003 format]";
     constexpr const char *elsewhere = "[the sheet \"Sheet1\" does not begin where the workbook says]";
     const std::pair<QByteArray, const char *> cases[] = {
-        {patched(4, bytes("w1280")), notOurs}, // the version before
-        {patched(6, bytes("w16")), notOurs},   // begins with a sheet
+        {patched(4, bytes("w1280")), "[is a workbook of version 95 or before]"},
+        {patched(6, bytes("w16")), notOurs}, // begins with a sheet
         {QByteArray(10, '\0'), notOurs},
         {patched(29, bytes("02")), "Sheet2: A1=6"}, // the first is a chart
+        {patched(24, chartInSecond + bytes("00 02")), "Sheet2: A1=6"},
         {patched(24, bytes("u99999")), elsewhere},
         {patched(24, bytes("u0")), elsewhere},
         {patched(24, whole.mid(42, 4)), "[the sheet \"Sheet1\" lies where another does]"},
         {patched(30, bytes("ff")), "[the name of sheet 1 is cut]"},
         {whole.left(56), "[its stream ends early]"},
         {whole.left(whole.size() - 4), "[the sheet \"Sheet2\" ends early]"}};
-    for (const auto &[stream, outcome] : cases)
-        EXPECT_EQ(textOf(Book::wrap(stream)), outcome);
+    for (const auto &[stream, outcome] : cases) {
+        for (const char *name : {"Workbook", "BOOK"})
+            EXPECT_EQ(textOf(Book::wrap(stream, name)), outcome);
+    }
 }
 
 // ---- What is written --------------------------------------------------------------------------------------

@@ -77,14 +77,14 @@ QByteArray rawbiff::Book::stream() const
     return all;
 }
 
-QByteArray rawbiff::Book::wrap(const QByteArray &stream)
+QByteArray rawbiff::Book::wrap(const QByteArray &stream, const char *name)
 {
     YCompoundFiles::CompoundFile file;
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     file.Create(QString());
-    file.MakeFile(QStringLiteral("Workbook"));
-    file.WriteFile(QStringLiteral("Workbook"), stream);
+    file.MakeFile(QString::fromLatin1(name));
+    file.WriteFile(QString::fromLatin1(name), stream);
     return file.WriteTo(buffer) ? buffer.data() : QByteArray();
 }
 

@@ -25,7 +25,7 @@ struct Book
     QByteArray stream() const;
     // The stream in a compound file.
     QByteArray file() const { return wrap(stream()); }
-    static QByteArray wrap(const QByteArray &stream);
+    static QByteArray wrap(const QByteArray &stream, const char *name = "Workbook");
 };
 
 // Every cell of every sheet: "Sheet1: A1='text' B2=5 C3=0.5 | Sheet2:".

@@ -70,9 +70,11 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
 {
     biff::RecordStream records(stream, 0, quint32(stream.size()));
     BOF bof;
-    if (!records.next() || records.code() != BOF::code || !bof.Read(records) || bof.version != BOF::Biff8 ||
+    if (!records.next() || records.code() != BOF::code || !bof.Read(records) || bof.version > BOF::Biff8 ||
         bof.type != BOF::Globals)
         return fail(error, QStringLiteral("is no workbook of the 97 to 2003 format"));
+    if (bof.version < BOF::Biff8)
+        return fail(error, QStringLiteral("is a workbook of version 95 or before"));
     fonts.clear();
     formats.clear();
     styles.clear();
