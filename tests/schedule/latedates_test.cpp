@@ -44,52 +44,39 @@ struct LateCase
 {
     const char *name;
     Scale scale;
-    const char *tasks;
-    const char *result;
+    const char *tasks, *result;
 };
 
-void PrintTo(const LateCase &late, std::ostream *out)
+TEST(LateDates, andSlackAre)
 {
-    *out << late.name;
+    // A late finish is the next start: the Monday 00:00, which shows as the Sunday.
+    const LateCase cases[] = {
+        {"shorterBranchHasSlack", days, "A 1d\nB 3d after A\nC 1d after A\nD 1d after B, C\n",
+         "A 4 Mar - 4 Mar\nB 5 Mar - 7 Mar\nC 7 Mar - 7 Mar\nD 8 Mar - 8 Mar\n"
+         "A 0 d / 0 d !\nB 0 d / 0 d !\nC 2 d / 2 d\nD 0 d / 0 d !\n"},
+        {"begunTaskHasNoStartSlack", days, "A 1d 25%\nB 3d\n",
+         "A 6 Mar - 6 Mar\nB 4 Mar - 6 Mar\nA 0 d / 2 d\nB 0 d / 0 d !\n"},
+        {"weekendsAreNoSlack", days, "A 5d\nB 1d after A\nC 5d\n",
+         "A 4 Mar - 10 Mar\nB 11 Mar - 11 Mar\nC 5 Mar - 11 Mar\n"
+         "A 0 d / 0 d !\nB 0 d / 0 d !\nC 1 d / 1 d\n"},
+        {"halfDays", days, "A 1d\nB 12h\n",
+         "A 4 Mar 13:00 - 5 Mar 12:00\nB 4 Mar - 5 Mar 12:00\nA 0.5 d / 0.5 d\nB 0 d / 0 d !\n"},
+        {"minutesAreGrouped", minutes, "A 1d\nB 6d\n",
+         "A 11 Mar - 11 Mar\nB 4 Mar - 11 Mar\nA 2,400 min / 2,400 min\nB 0 min / 0 min !\n"},
+        {"summaryHasItsOwnLinks", days, "S\n  A 1d\nB 2d after S\nC 4d\n",
+         "S 5 Mar - 5 Mar\n  A 7 Mar - 7 Mar\nB 6 Mar - 7 Mar\nC 4 Mar - 7 Mar\n"
+         "S 1 d / 1 d\nA 3 d / 3 d\nB 1 d / 1 d\nC 0 d / 0 d !\n"},
+        {"milestones", days, "A 1d\nM milestone after A\nB 2d\n",
+         "A 5 Mar - 5 Mar\nM 6 Mar\nB 4 Mar - 5 Mar\nA 1 d / 1 d\nM 1 d / 1 d\nB 0 d / 0 d !\n"}};
+    for (const LateCase &late : cases) {
+        SCOPED_TRACE(late.name);
+        Project p(week, late.tasks);
+        p.document().MajorUnit = late.scale.major;
+        p.document().MinorUnit = late.scale.minor;
+        p.document().updateAllTaskEarlyLate();
+        EXPECT_EQ(lateDates(p), late.result);
+    }
 }
-
-class LateDates : public testing::TestWithParam<LateCase>
-{
-};
-
-TEST_P(LateDates, andSlackAre)
-{
-    const LateCase &late = GetParam();
-    Project p(week, late.tasks);
-    p.document().MajorUnit = late.scale.major;
-    p.document().MinorUnit = late.scale.minor;
-    p.document().updateAllTaskEarlyLate();
-    EXPECT_EQ(lateDates(p), late.result);
-}
-
-// A late finish is the next start: the Monday 00:00, which shows as the Sunday.
-INSTANTIATE_TEST_SUITE_P(
-    Table, LateDates,
-    testing::Values(
-        LateCase{"lastTaskIsCritical", days, "A 2d\n", "A 4 Mar - 5 Mar\nA 0 d / 0 d !\n"},
-        LateCase{"shorterBranchHasSlack", days, "A 1d\nB 3d after A\nC 1d after A\nD 1d after B, C\n",
-                 "A 4 Mar - 4 Mar\nB 5 Mar - 7 Mar\nC 7 Mar - 7 Mar\nD 8 Mar - 8 Mar\n"
-                 "A 0 d / 0 d !\nB 0 d / 0 d !\nC 2 d / 2 d\nD 0 d / 0 d !\n"},
-        LateCase{"begunTaskHasNoStartSlack", days, "A 1d 25%\nB 3d\n",
-                 "A 6 Mar - 6 Mar\nB 4 Mar - 6 Mar\nA 0 d / 2 d\nB 0 d / 0 d !\n"},
-        LateCase{"weekendsAreNoSlack", days, "A 5d\nB 1d after A\nC 5d\n",
-                 "A 4 Mar - 10 Mar\nB 11 Mar - 11 Mar\nC 5 Mar - 11 Mar\n"
-                 "A 0 d / 0 d !\nB 0 d / 0 d !\nC 1 d / 1 d\n"},
-        LateCase{"halfDays", days, "A 1d\nB 12h\n",
-                 "A 4 Mar 13:00 - 5 Mar 12:00\nB 4 Mar - 5 Mar 12:00\nA 0.5 d / 0.5 d\nB 0 d / 0 d !\n"},
-        LateCase{"minutesAreGrouped", minutes, "A 1d\nB 6d\n",
-                 "A 11 Mar - 11 Mar\nB 4 Mar - 11 Mar\nA 2,400 min / 2,400 min\nB 0 min / 0 min !\n"},
-        LateCase{"summaryHasItsOwnLinks", days, "S\n  A 1d\nB 2d after S\nC 4d\n",
-                 "S 5 Mar - 5 Mar\n  A 7 Mar - 7 Mar\nB 6 Mar - 7 Mar\nC 4 Mar - 7 Mar\n"
-                 "S 1 d / 1 d\nA 3 d / 3 d\nB 1 d / 1 d\nC 0 d / 0 d !\n"},
-        LateCase{"milestones", days, "A 1d\nM milestone after A\nB 2d\n",
-                 "A 5 Mar - 5 Mar\nM 6 Mar\nB 4 Mar - 5 Mar\nA 1 d / 1 d\nM 1 d / 1 d\nB 0 d / 0 d !\n"}),
-    [](const auto &row) { return std::string(row.param.name); });
 
 // ---- Links that lead nowhere ------------------------------------------------------------------------------
 
@@ -100,43 +87,31 @@ struct BrokenCase
     const char *lateFinishes;             // in working days before the project's finish
 };
 
-void PrintTo(const BrokenCase &broken, std::ostream *out)
+TEST(BrokenLinks, leaveThePathsThatThereAre)
 {
-    *out << broken.name;
-}
-
-class BrokenLinks : public testing::TestWithParam<BrokenCase>
-{
-};
-
-TEST_P(BrokenLinks, leaveThePathsThatThereAre)
-{
-    Project p(week, "A 1d\nB 1d\nC 1d\nD 1d\nEnd 8d\n");
-    KWDocument &document = p.document();
-    for (const auto &link : GetParam().links)
-        randomplan::link(document, link.first, link.second);
-    document.updateAllTaskEarlyLate();
-    std::string finishes;
-    for (const char *name : {"A", "B", "C", "D"}) {
-        const quint32 finish = p.task(name).LateFinish;
-        finishes += std::to_string(
-            int(document.getDurationValue(finish, document.getMaxFinishSecs(), duration::Day, true)));
+    const BrokenCase cases[] = {{"unknownSuccessor", {{1, 2}, {2, 9}}, "0000"},
+                                {"unknownBesideAKnownOne", {{1, 2}, {2, 9}, {2, 3}}, "2100"},
+                                {"pathOverAnUnknownOneAddsNothing", {{1, 2}, {2, 3}, {3, 9}, {1, 4}}, "1000"},
+                                {"itself", {{1, 1}, {1, 2}}, "1000"},
+                                {"ringCountsAsItsEnd", {{1, 2}, {2, 3}, {3, 2}}, "1000"},
+                                {"ringWithAWayOut", {{1, 2}, {2, 3}, {3, 2}, {3, 4}}, "1010"},
+                                {"ringWithAnUnknownWayOut", {{1, 2}, {2, 3}, {3, 2}, {2, 9}}, "0000"}};
+    for (const BrokenCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Project p(week, "A 1d\nB 1d\nC 1d\nD 1d\nEnd 8d\n");
+        KWDocument &document = p.document();
+        for (const auto &link : row.links)
+            randomplan::link(document, link.first, link.second);
+        document.updateAllTaskEarlyLate();
+        std::string finishes;
+        for (const char *name : {"A", "B", "C", "D"}) {
+            const quint32 finish = p.task(name).LateFinish;
+            finishes += std::to_string(
+                int(document.getDurationValue(finish, document.getMaxFinishSecs(), duration::Day, true)));
+        }
+        EXPECT_EQ(finishes, row.lateFinishes);
     }
-    EXPECT_EQ(finishes, GetParam().lateFinishes);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, BrokenLinks,
-    testing::Values(BrokenCase{"sound", {{1, 2}, {2, 3}}, "2100"},
-                    BrokenCase{"unknownSuccessor", {{1, 2}, {2, 9}}, "0000"},
-                    BrokenCase{"unknownBesideAKnownOne", {{1, 2}, {2, 9}, {2, 3}}, "2100"},
-                    BrokenCase{"pathOverAnUnknownOneAddsNothing", {{1, 2}, {2, 3}, {3, 9}, {1, 4}}, "1000"},
-                    BrokenCase{"itself", {{1, 1}, {1, 2}}, "1000"},
-                    BrokenCase{"ringCountsAsItsEnd", {{1, 2}, {2, 3}, {3, 2}}, "1000"},
-                    BrokenCase{"ringWithAWayOut", {{1, 2}, {2, 3}, {3, 2}, {3, 4}}, "1010"},
-                    BrokenCase{"ringWithAnUnknownWayOut", {{1, 2}, {2, 3}, {3, 2}, {2, 9}}, "0000"},
-                    BrokenCase{"twice", {{1, 2}, {1, 2}}, "1000"}),
-    [](const auto &row) { return std::string(row.param.name); });
 
 // ---- Random networks --------------------------------------------------------------------------------------
 

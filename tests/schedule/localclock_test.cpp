@@ -118,9 +118,3 @@ TEST(LocalClock, staysInsideItsTableForAnyInput)
         EXPECT_TRUE(wall.secs >= 0 && wall.secs < 86400) << secs;
     }
 }
-
-TEST(LocalClock, knowsWeekdays)
-{
-    for (int day = LocalClock::firstDay; day <= LocalClock::lastDay; day += 97)
-        ASSERT_EQ(LocalClock::weekday(day) + 1, LocalClock::dateOf(day).dayOfWeek()) << day;
-}

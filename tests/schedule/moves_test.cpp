@@ -2,7 +2,6 @@
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/calendartext.h"
-#include "support/casename.h"
 #include "support/project.h"
 #include <QScopedValueRollback>
 #include <gtest/gtest.h>
@@ -38,38 +37,27 @@ struct SnapCase
     const char *snapped; // on the hour clock for hours and minutes
 };
 
-class Snap : public testing::TestWithParam<SnapCase>
+TEST(Snap, goesToTheGrid)
 {
-};
-
-TEST_P(Snap, goesToTheGrid)
-{
-    const SnapCase &row = GetParam();
-    Project p(june, "Task\n");
-    setMinorUnit(p.document(), row.minor);
-    const QScopedValueRollback<bool> isSetTime(KWTaskInfo::s_isSetTime, row.isSetTime);
-    EXPECT_EQ(textOf(p.task("Task").onHalfOrOneDaySecs(&p.document(), secsOf(row.time))),
-              textOf(secsOf(row.snapped)));
+    const SnapCase cases[] = {
+        {"morningToTheDay", 4, false, "2024-06-04 05:59:59", "2024-06-04 00:00:00"},
+        {"fromSixToTheHalfDay", 4, false, "2024-06-04 06:00", "2024-06-04 12:00:00"},
+        {"beforeSixInTheEveningToTheHalfDay", 4, false, "2024-06-04 17:59:59", "2024-06-04 12:00:00"},
+        {"eveningToTheNextDay", 4, false, "2024-06-04 18:00", "2024-06-05 00:00:00"},
+        {"daysAreLeftAloneWhileTimesAreSet", 4, true, "2024-06-04 05:00", "2024-06-04 05:00:00"},
+        {"quarterPastToTheHalfHour", 5, false, "2024-06-04 03:20", "2024-06-04 09:30:00"},
+        {"quarterToTheNextHour", 5, false, "2024-06-04 04:40", "2024-06-04 10:00:00"},
+        {"hoursKeepTheMinuteWhileTimesAreSet", 5, true, "2024-06-04 03:17:20", "2024-06-04 09:14:00"},
+        {"minutesKeepTheMinute", 6, false, "2024-06-04 03:17:20", "2024-06-04 09:14:00"}};
+    for (const SnapCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Project p(june, "Task\n");
+        setMinorUnit(p.document(), row.minor);
+        const QScopedValueRollback<bool> isSetTime(KWTaskInfo::s_isSetTime, row.isSetTime);
+        EXPECT_EQ(textOf(p.task("Task").onHalfOrOneDaySecs(&p.document(), secsOf(row.time))),
+                  textOf(secsOf(row.snapped)));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Scales, Snap,
-    testing::Values(
-        SnapCase{"morningToTheDay", 4, false, "2024-06-04 05:59:59", "2024-06-04 00:00:00"},
-        SnapCase{"fromSixToTheHalfDay", 4, false, "2024-06-04 06:00", "2024-06-04 12:00:00"},
-        SnapCase{"beforeSixInTheEveningToTheHalfDay", 4, false, "2024-06-04 17:59:59", "2024-06-04 12:00:00"},
-        SnapCase{"eveningToTheNextDay", 4, false, "2024-06-04 18:00", "2024-06-05 00:00:00"},
-        SnapCase{"weeksSnapToDaysToo", 3, false, "2024-06-04 05:00", "2024-06-04 00:00:00"},
-        SnapCase{"daysAreLeftAloneWhileTimesAreSet", 4, true, "2024-06-04 05:00", "2024-06-04 05:00:00"},
-        // Day clock 02:40 is 09:00 between 8 and 17.
-        SnapCase{"hourOnItself", 5, false, "2024-06-04 02:40", "2024-06-04 09:00:00"},
-        SnapCase{"quarterPastToTheHalfHour", 5, false, "2024-06-04 03:20", "2024-06-04 09:30:00"},
-        SnapCase{"justBeforeAQuarterPastToTheHour", 5, false, "2024-06-04 03:17:20", "2024-06-04 09:00:00"},
-        SnapCase{"quarterToTheNextHour", 5, false, "2024-06-04 04:40", "2024-06-04 10:00:00"},
-        SnapCase{"hoursKeepTheMinuteWhileTimesAreSet", 5, true, "2024-06-04 03:17:20", "2024-06-04 09:14:00"},
-        SnapCase{"minutesKeepTheMinute", 6, false, "2024-06-04 03:17:20", "2024-06-04 09:14:00"},
-        SnapCase{"minutesAlsoWhileTimesAreSet", 6, true, "2024-06-04 03:17:20", "2024-06-04 09:14:00"}),
-    caseName<SnapCase>);
 
 TEST(SnapBeforeTheOrigin, movesTheOriginAndCountsTheDaysOffAnew)
 {
@@ -104,43 +92,45 @@ TEST(SnapFarFromTheOrigin, isOnMidnightAndNoon)
               textOf(secsOf("2024-06-04 00:00:00")));
 }
 
-TEST(SnapAcrossAClockChange, staysOnMidnightAndNoon)
-{
-    Project p("Mon-Fri 8-12 13-17, start 2024-03-04", "Task 60d\n");
-    setMinorUnit(p.document(), 4);
-    const KWTaskInfo &task = p.task("Task");
-    EXPECT_EQ(textOf(task.onHalfOrOneDaySecs(&p.document(), secsOf("2024-04-03 01:00"))),
-              textOf(secsOf("2024-04-03 00:00:00")));
-    EXPECT_EQ(textOf(task.onHalfOrOneDaySecs(&p.document(), secsOf("2024-04-03 12:30"))),
-              textOf(secsOf("2024-04-03 12:00:00")));
-}
-
 // ---- Moves ------------------------------------------------------------------------------------------------
 
-TEST(Move, keepsTheDurationOverDaysOff)
+struct MoveCase
 {
-    Project p(june, "Task 3d\n");
-    setMinorUnit(p.document(), 4);
-    p.task("Task").updateMoveAfter(&p.document(), xOf(p, "2024-06-06 03:00"));
-    EXPECT_EQ(p.dates(), "Task 6 Jun - 10 Jun\n");
-    p.task("Task").updateMoveAfter(&p.document(), xOf(p, "2024-06-08 00:00"));
-    EXPECT_EQ(p.dates(), "Task 10 Jun - 12 Jun\n");
-    p.task("Task").updateMoveAfter(&p.document(), xOf(p, "2024-06-04 13:00"));
-    EXPECT_EQ(p.dates(), "Task 4 Jun 12:30 - 7 Jun 12:00\n");
-}
+    const char *name;
+    unsigned int minor;
+    const char *tasks, *moved, *to, *dates;
+};
 
-TEST(Move, pushesSuccessorsAndRollsUp)
+constexpr char chain[] = "Sum\n  First 2d\n  Second 2d after First\nNext 1d after Sum\n";
+constexpr char nested[] = "Sum\n  First 2d\n  Inner\n    Second 3d start 2024-06-05\n"
+                          "    Done milestone start 2024-06-07\n";
+
+TEST(Moves, keepDurationsAndDistancesInWork)
 {
-    Project p(june, "Sum\n"
-                    "  First 2d\n"
-                    "  Second 2d after First\n"
-                    "Next 1d after Sum\n");
-    setMinorUnit(p.document(), 4);
-    p.task("First").updateMoveAfter(&p.document(), xOf(p, "2024-06-05"));
-    EXPECT_EQ(p.dates(), "Sum 5 Jun - 10 Jun\n"
-                         "  First 5 Jun - 6 Jun\n"
-                         "  Second 7 Jun - 10 Jun\n"
-                         "Next 11 Jun - 11 Jun\n");
+    const MoveCase cases[] = {
+        {"overDaysOff", 4, "Task 3d\n", "Task", "2024-06-06 03:00", "Task 6 Jun - 10 Jun\n"},
+        {"ontoAWeekend", 4, "Task 3d\n", "Task", "2024-06-08", "Task 10 Jun - 12 Jun\n"},
+        {"toTheHalfDay", 4, "Task 3d\n", "Task", "2024-06-04 13:00", "Task 4 Jun 12:30 - 7 Jun 12:00\n"},
+        // Stored noon is shown as 12:30.
+        {"outOfABreak", 5, "Task 2h start 2024-06-03 09:00\n", "Task", "2024-06-04 12:00",
+         "Task 4 Jun 13:00 - 4 Jun 15:00\n"},
+        {"pushesSuccessorsAndRollsUp", 4, chain, "First", "2024-06-05",
+         "Sum 5 Jun - 10 Jun\n  First 5 Jun - 6 Jun\n  Second 7 Jun - 10 Jun\nNext 11 Jun - 11 Jun\n"},
+        {"summaryByWholeDays", 4, nested, "Sum", "2024-06-06",
+         "Sum 6 Jun - 12 Jun\n  First 6 Jun - 7 Jun\n  Inner 10 Jun - 12 Jun\n    Second 10 Jun - 12 Jun\n   "
+         " Done 12 Jun\n"},
+        // Half a day on stands for noon; half a day's work ends there.
+        {"summaryByHalfADay", 4, nested, "Sum", "2024-06-05 12:00",
+         "Sum 5 Jun 12:30 - 12 Jun 12:00\n  First 5 Jun 12:30 - 7 Jun 12:00\n  Inner 7 Jun 13:00 - 12 Jun "
+         "12:00\n"
+         "    Second 7 Jun 13:00 - 12 Jun 12:00\n    Done 11 Jun 13:00\n"}};
+    for (const MoveCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Project p(june, row.tasks);
+        setMinorUnit(p.document(), row.minor);
+        p.task(row.moved).updateMoveAfter(&p.document(), xOf(p, row.to));
+        EXPECT_EQ(p.dates(), row.dates);
+    }
 }
 
 TEST(Move, byLessThanAMinuteIsNone)
@@ -165,15 +155,6 @@ TEST(Move, staysBehindItsReference)
                          "Task 10 Jun - 10 Jun\n");
 }
 
-TEST(Move, onAnHourScaleLeavesTheBreak)
-{
-    Project p(june, "Task 2h start 2024-06-03 09:00\n");
-    setMinorUnit(p.document(), 5);
-    // Stored noon is shown as 12:30.
-    p.task("Task").updateMoveAfter(&p.document(), xOf(p, "2024-06-04 12:00"));
-    EXPECT_EQ(p.dates(), "Task 4 Jun 13:00 - 4 Jun 15:00\n");
-}
-
 TEST(Move, calendarUnitsKeepTheirElapsedLength)
 {
     Project p("Mon-Fri 8-12 13-17, start 2024-03-04", "Task 1mon\n");
@@ -192,51 +173,6 @@ TEST(Move, milestoneKeepsItsSecond)
     EXPECT_EQ(textOf(p.task("Done").Start), textOf(secsOf("2024-06-10 00:00:00")));
     EXPECT_EQ(p.task("Done").Finish, p.task("Done").Start + 1);
 }
-
-struct SummaryCase
-{
-    const char *name;
-    const char *target;
-    const char *dates;
-};
-
-class SummaryMove : public testing::TestWithParam<SummaryCase>
-{
-};
-
-TEST_P(SummaryMove, keepsTheWorkingDistances)
-{
-    Project p(june, "Sum\n"
-                    "  First 2d\n"
-                    "  Inner\n"
-                    "    Second 3d start 2024-06-05\n"
-                    "    Done milestone start 2024-06-07\n");
-    setMinorUnit(p.document(), 4);
-    p.task("Sum").updateMoveAfter(&p.document(), xOf(p, GetParam().target));
-    EXPECT_EQ(p.dates(), GetParam().dates);
-}
-
-INSTANTIATE_TEST_SUITE_P(Targets, SummaryMove,
-                         testing::Values(SummaryCase{"byWholeDays", "2024-06-06",
-                                                     "Sum 6 Jun - 12 Jun\n"
-                                                     "  First 6 Jun - 7 Jun\n"
-                                                     "  Inner 10 Jun - 12 Jun\n"
-                                                     "    Second 10 Jun - 12 Jun\n"
-                                                     "    Done 12 Jun\n"},
-                                         SummaryCase{"ontoAWeekend", "2024-06-09",
-                                                     "Sum 10 Jun - 14 Jun\n"
-                                                     "  First 10 Jun - 11 Jun\n"
-                                                     "  Inner 12 Jun - 14 Jun\n"
-                                                     "    Second 12 Jun - 14 Jun\n"
-                                                     "    Done 14 Jun\n"},
-                                         // Half a day on stands for noon; half a day's work ends there.
-                                         SummaryCase{"byHalfADay", "2024-06-05 12:00",
-                                                     "Sum 5 Jun 12:30 - 12 Jun 12:00\n"
-                                                     "  First 5 Jun 12:30 - 7 Jun 12:00\n"
-                                                     "  Inner 7 Jun 13:00 - 12 Jun 12:00\n"
-                                                     "    Second 7 Jun 13:00 - 12 Jun 12:00\n"
-                                                     "    Done 11 Jun 13:00\n"}),
-                         caseName<SummaryCase>);
 
 TEST(SummaryMove, leavesTasksWithoutDatesAlone)
 {
@@ -276,62 +212,38 @@ struct StretchCase
 {
     const char *name;
     unsigned int minor;
-    const char *start;
-    const char *to;
+    const char *start, *to;
     bool snap;
     const char *finish;
 };
 
-class Stretch : public testing::TestWithParam<StretchCase>
+TEST(Stretch, putsTheFinish)
 {
-};
-
-TEST_P(Stretch, putsTheFinish)
-{
-    const StretchCase &row = GetParam();
-    Project p(june, "Task 3d\n");
-    setMinorUnit(p.document(), row.minor);
-    KWTaskInfo &task = p.task("Task");
-    task.Start = secsOf(row.start);
-    task.stretch(&p.document(), xOf(p, row.to), row.snap);
-    EXPECT_EQ(textOf(task.Finish), textOf(secsOf(row.finish)));
-    EXPECT_EQ(textOf(task.Start), textOf(secsOf(row.start)));
-    EXPECT_EQ(task.DurationSecs, KWTaskInfo::durationSecs(&p.document(), task.Start, task.Finish, 4));
-    EXPECT_EQ(task.CountWidth, task.x2 - task.x1);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Positions, Stretch,
-    testing::Values(
-        StretchCase{"toTheGrid", 4, "2024-06-03", "2024-06-05 19:00", true, "2024-06-06 00:00:00"},
-        StretchCase{"freely", 4, "2024-06-03", "2024-06-05 19:00", false, "2024-06-05 19:00:00"},
-        StretchCase{"intoAWeekendEndsWithItsFriday", 4, "2024-06-03", "2024-06-09 09:00", false,
-                    "2024-06-08 00:00:00"},
-        StretchCase{"beforeTheStartLeavesAMinute", 4, "2024-06-04 12:00", "2024-06-03 12:00", true,
-                    "2024-06-04 12:01:00"},
-        StretchCase{"beforeTheStartLeavesHalfAnHourOnHours", 5, "2024-06-04", "2024-06-03 12:00", true,
-                    "2024-06-04 01:20:00"},
-        StretchCase{"ofABarOnDaysOffGoesOnToAWorkingDay", 4, "2024-06-08", "2024-06-09 12:00", false,
-                    "2024-06-10 12:00:00"},
+    const StretchCase cases[] = {
+        {"toTheGrid", 4, "2024-06-03", "2024-06-05 19:00", true, "2024-06-06 00:00:00"},
+        {"freely", 4, "2024-06-03", "2024-06-05 19:00", false, "2024-06-05 19:00:00"},
+        {"intoAWeekendEndsWithItsFriday", 4, "2024-06-03", "2024-06-09 09:00", false, "2024-06-08 00:00:00"},
+        {"beforeTheStartLeavesAMinute", 4, "2024-06-04 12:00", "2024-06-03 12:00", true,
+         "2024-06-04 12:01:00"},
+        {"beforeTheStartLeavesHalfAnHourOnHours", 5, "2024-06-04", "2024-06-03 12:00", true,
+         "2024-06-04 01:20:00"},
+        {"ofABarOnDaysOffGoesOnToAWorkingDay", 4, "2024-06-08", "2024-06-09 12:00", false,
+         "2024-06-10 12:00:00"},
         // 03:30 is 09:18:45 between 8 and 17.
-        StretchCase{"onHoursToHalves", 5, "2024-06-03", "2024-06-05 03:30", true, "2024-06-05 04:00:00"},
-        StretchCase{"onHoursFreelyToTheShownMinute", 5, "2024-06-03", "2024-06-05 03:30", false,
-                    "2024-06-05 03:30:40"},
-        StretchCase{"onMinutes", 6, "2024-06-03", "2024-06-05 03:30", true, "2024-06-05 03:30:40"}),
-    caseName<StretchCase>);
-
-TEST(StretchOfATask, pushesSuccessorsAndRollsUp)
-{
-    Project p(june, "Sum\n"
-                    "  First 2d\n"
-                    "  Second 2d after First\n"
-                    "Next 1d after Sum\n");
-    setMinorUnit(p.document(), 4);
-    p.task("First").stretch(&p.document(), xOf(p, "2024-06-06"), true);
-    EXPECT_EQ(p.dates(), "Sum 3 Jun - 7 Jun\n"
-                         "  First 3 Jun - 5 Jun\n"
-                         "  Second 6 Jun - 7 Jun\n"
-                         "Next 10 Jun - 10 Jun\n");
+        {"onHoursToHalves", 5, "2024-06-03", "2024-06-05 03:30", true, "2024-06-05 04:00:00"},
+        {"onHoursFreelyToTheShownMinute", 5, "2024-06-03", "2024-06-05 03:30", false, "2024-06-05 03:30:40"}};
+    for (const StretchCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Project p(june, "Task 3d\n");
+        setMinorUnit(p.document(), row.minor);
+        KWTaskInfo &task = p.task("Task");
+        task.Start = secsOf(row.start);
+        task.stretch(&p.document(), xOf(p, row.to), row.snap);
+        EXPECT_EQ(textOf(task.Finish), textOf(secsOf(row.finish)));
+        EXPECT_EQ(textOf(task.Start), textOf(secsOf(row.start)));
+        EXPECT_EQ(task.DurationSecs, KWTaskInfo::durationSecs(&p.document(), task.Start, task.Finish, 4));
+        EXPECT_EQ(task.CountWidth, task.x2 - task.x1);
+    }
 }
 
 // ---- After any edit ---------------------------------------------------------------------------------------

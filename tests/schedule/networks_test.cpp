@@ -18,8 +18,7 @@ struct NetworkCase
     const char *name;
     int tasks;
     double linksPerTask;
-    int linkReach;
-    int holidaysPerYear;
+    int linkReach, holidaysPerYear;
 };
 
 void PrintTo(const NetworkCase &network, std::ostream *out)

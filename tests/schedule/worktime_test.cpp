@@ -4,7 +4,6 @@
 #include "schedule/kwtaskcollection.h"
 #include "schedule/worktime.h"
 #include "support/calendartext.h"
-#include "support/casename.h"
 #include "support/kwclock.h"
 #include "support/slowcalendar.h"
 #include <QScopedValueRollback>
@@ -46,51 +45,37 @@ std::string shown(quint32 secs)
 
 struct HoursCase
 {
-    const char *name;
-    const char *calendar;
+    const char *name, *calendar;
     int startHour, finishHour, workHours, breakHours;
     const char *works; // one letter for each hour from 0 to 23, of 2024-05-01
 };
 
-class DayHours : public testing::TestWithParam<HoursCase>
-{
-};
-
 }
 
-TEST_P(DayHours, ofACalendar)
+TEST(DayHours, ofACalendarKept)
 {
-    const HoursCase &c = GetParam();
-    Planned document(c.calendar);
-    const QDateTime day = at("2024-05-01");
-    QString works;
-    for (int hour = 0; hour < 24; ++hour)
-        works += KWTaskInfo::isWorkTime(&document, QDateTime(day.date(), QTime(hour, 59))) ? 'w' : '.';
-    EXPECT_EQ(works.toStdString(), c.works);
-    EXPECT_EQ(KWTaskInfo::startOrFinishHour(&document, true), quint32(c.startHour));
-    EXPECT_EQ(KWTaskInfo::startOrFinishHour(&document, false), quint32(c.finishHour));
-    EXPECT_EQ(KWTaskInfo::dayWorkTime(&document, day), quint32(c.workHours));
-    EXPECT_EQ(KWTaskInfo::dayTimeOff(&document, day), quint32(c.breakHours));
+    const HoursCase cases[] = {
+        {"onlyBreaksRestWithTwoIntervals", office, 8, 17, 8, 1, "wwwwwwwwwwww.wwwwwwwwwww"},
+        {"theFinishHourWorksWithOneInterval", "Mon-Fri 8-17", 8, 17, 9, 0, "........wwwwwwwwww......"},
+        {"noHours", "Mon-Fri", 0, 0, 0, 0, "w......................."},
+        {"exceptionsOnlyAddHours", "Mon-Fri 8-12; work 2024-05-01 14-16:30", 8, 12, 4, 0,
+         "........wwwww.ww........"},
+        {"aPlainCalendarGivesBreaksButNoHours", "Mon-Fri 8-17; plain 2024-05-01 2-3 6-7", 8, 17, 9, 3,
+         "........wwwwwwwwww......"}};
+    for (const HoursCase &c : cases) {
+        SCOPED_TRACE(c.name);
+        Planned document(c.calendar);
+        const QDateTime day = at("2024-05-01");
+        QString works;
+        for (int hour = 0; hour < 24; ++hour)
+            works += KWTaskInfo::isWorkTime(&document, QDateTime(day.date(), QTime(hour, 59))) ? 'w' : '.';
+        EXPECT_EQ(works.toStdString(), c.works);
+        EXPECT_EQ(KWTaskInfo::startOrFinishHour(&document, true), quint32(c.startHour));
+        EXPECT_EQ(KWTaskInfo::startOrFinishHour(&document, false), quint32(c.finishHour));
+        EXPECT_EQ(KWTaskInfo::dayWorkTime(&document, day), quint32(c.workHours));
+        EXPECT_EQ(KWTaskInfo::dayTimeOff(&document, day), quint32(c.breakHours));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Kept, DayHours,
-    testing::Values(
-        HoursCase{"onlyBreaksRestWithTwoIntervals", office, 8, 17, 8, 1, "wwwwwwwwwwww.wwwwwwwwwww"},
-        HoursCase{"theFinishHourWorksWithOneInterval", "Mon-Fri 8-17", 8, 17, 9, 0,
-                  "........wwwwwwwwww......"},
-        HoursCase{"noHours", "Mon-Fri", 0, 0, 0, 0, "w......................."},
-        HoursCase{"partHours", "Mon-Fri 8:30-12 13-17:30", 8, 18, 8, 1, "wwwwwwwwwwww.wwwwwwwwwww"},
-        HoursCase{"toMidnight", "all 16-20 21-24", 16, 24, 7, 1, "wwwwwwwwwwwwwwwwwwww.www"},
-        HoursCase{"reversed", "all 17-8", 17, 17, 0, 0, ".................w......"},
-        HoursCase{"exceptionsOnlyAddHours", "Mon-Fri 8-12; work 2024-05-01 14-16:30", 8, 12, 4, 0,
-                  "........wwwww.ww........"},
-        HoursCase{"aPlainCalendarGivesBreaksButNoHours", "Mon-Fri 8-17; plain 2024-05-01 2-3 6-7", 8, 17, 9,
-                  3, "........wwwwwwwwww......"},
-        HoursCase{"theFirstCoveringCalendarGivesTheBreaks",
-                  "Mon-Fri 8-12 13-17; off 2024-05-01 8-12; plain 2024-05-01 8-10 14-17", 8, 17, 8, 1,
-                  "wwwwwwwwwwww.wwwwwwwwwww"}),
-    caseName<HoursCase>);
 
 TEST(Workdays, theFirstExceptionThatCoversADateDecides)
 {
@@ -137,17 +122,7 @@ namespace {
 
 struct ClockCase
 {
-    const char *name;
-    const char *calendar;
-    const char *stored;
-    const char *shown;
-};
-
-class StoredToShown : public testing::TestWithParam<ClockCase>
-{
-};
-class ShownToStored : public testing::TestWithParam<ClockCase>
-{
+    const char *name, *calendar, *stored, *shown;
 };
 
 bool isOld(const char *calendar)
@@ -157,50 +132,40 @@ bool isOld(const char *calendar)
 
 }
 
-TEST_P(StoredToShown, onTheHourClock)
+TEST(StoredToShown, onTheHourClock)
 {
-    const QScopedValueRollback<bool> old(KWDocument::s_isOldVersion, isOld(GetParam().calendar));
-    Planned document(GetParam().calendar);
-    EXPECT_EQ(shown(KWTaskInfo::secsDayTransHour(&document, secsOf(GetParam().stored))), GetParam().shown);
+    const ClockCase cases[] = {
+        {"29SecondsGoDown", "Mon-Fri 8-17", "2024-03-04 00:01:18", "Mon 2024-03-04 08:00"},
+        {"30SecondsGoUp", "Mon-Fri 8-17", "2024-03-04 00:01:20", "Mon 2024-03-04 08:01"},
+        {"39SecondsGoDownInOldVersions", "Mon-Fri 8-17; old", "2024-03-04 00:01:44", "Mon 2024-03-04 08:00"},
+        {"40SecondsGoUpInOldVersions", "Mon-Fri 8-17; old", "2024-03-04 00:01:47", "Mon 2024-03-04 08:01"},
+        {"lastSecondIsTheFinishHour", "Mon-Fri 8-17", "2024-03-04 23:59:59", "Mon 2024-03-04 17:00"},
+        {"noSpan", "Mon-Fri 8-8", "2024-03-04 15:00", "Mon 2024-03-04 08:00"}};
+    for (const ClockCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        const QScopedValueRollback<bool> old(KWDocument::s_isOldVersion, isOld(row.calendar));
+        Planned document(row.calendar);
+        EXPECT_EQ(shown(KWTaskInfo::secsDayTransHour(&document, secsOf(row.stored))), row.shown);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, StoredToShown,
-    testing::Values(
-        ClockCase{"noon", "Mon-Fri 8-17", "2024-03-04 12:00", "Mon 2024-03-04 12:30"},
-        ClockCase{"midnight", "Mon-Fri 8-17", "2024-03-04 00:00", "Mon 2024-03-04 08:00"},
-        ClockCase{"29SecondsGoDown", "Mon-Fri 8-17", "2024-03-04 00:01:18", "Mon 2024-03-04 08:00"},
-        ClockCase{"30SecondsGoUp", "Mon-Fri 8-17", "2024-03-04 00:01:20", "Mon 2024-03-04 08:01"},
-        ClockCase{"39SecondsGoDownInOldVersions", "Mon-Fri 8-17; old", "2024-03-04 00:01:44",
-                  "Mon 2024-03-04 08:00"},
-        ClockCase{"40SecondsGoUpInOldVersions", "Mon-Fri 8-17; old", "2024-03-04 00:01:47",
-                  "Mon 2024-03-04 08:01"},
-        ClockCase{"lastSecondIsTheFinishHour", "Mon-Fri 8-17", "2024-03-04 23:59:59", "Mon 2024-03-04 17:00"},
-        ClockCase{"noSpan", "Mon-Fri 8-8", "2024-03-04 15:00", "Mon 2024-03-04 08:00"}),
-    caseName<ClockCase>);
-
-TEST_P(ShownToStored, onTheDayClock)
+TEST(ShownToStored, onTheDayClock)
 {
-    const QScopedValueRollback<bool> old(KWDocument::s_isOldVersion, isOld(GetParam().calendar));
-    Planned document(GetParam().calendar);
-    EXPECT_EQ(shown(KWTaskInfo::secsHourTransDay(&document, secsOf(GetParam().shown))), GetParam().stored);
+    const ClockCase cases[] = {
+        {"theFinishHourIsTheNextMidnight", "Mon-Fri 8-17", "Tue 2024-03-05 00:00", "2024-03-04 17:00"},
+        {"afterTheFinishHourLandsOnTheNextDay", "Mon-Fri 8-17", "Tue 2024-03-05 02:40", "2024-03-04 18:00"},
+        {"beforeTheStartHourStays", "Mon-Fri 8-17", "Mon 2024-03-04 06:00", "2024-03-04 06:00"},
+        {"beforeTheStartHourGoesBackInOldVersions", "Mon-Fri 8-17; old", "Sun 2024-03-03 18:40",
+         "2024-03-04 06:00"},
+        {"aSpanToMidnightIsASecondShort", "all 16-24", "Mon 2024-03-04 23:57:02", "2024-03-04 23:59"},
+        {"noSpan", "Mon-Fri 8-8", "Mon 2024-03-04 15:00", "2024-03-04 15:00"}};
+    for (const ClockCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        const QScopedValueRollback<bool> old(KWDocument::s_isOldVersion, isOld(row.calendar));
+        Planned document(row.calendar);
+        EXPECT_EQ(shown(KWTaskInfo::secsHourTransDay(&document, secsOf(row.shown))), row.stored);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, ShownToStored,
-    testing::Values(ClockCase{"halfPastTwelve", "Mon-Fri 8-17", "Mon 2024-03-04 12:00", "2024-03-04 12:30"},
-                    ClockCase{"theFinishHourIsTheNextMidnight", "Mon-Fri 8-17", "Tue 2024-03-05 00:00",
-                              "2024-03-04 17:00"},
-                    ClockCase{"afterTheFinishHourLandsOnTheNextDay", "Mon-Fri 8-17", "Tue 2024-03-05 02:40",
-                              "2024-03-04 18:00"},
-                    ClockCase{"beforeTheStartHourStays", "Mon-Fri 8-17", "Mon 2024-03-04 06:00",
-                              "2024-03-04 06:00"},
-                    ClockCase{"beforeTheStartHourGoesBackInOldVersions", "Mon-Fri 8-17; old",
-                              "Sun 2024-03-03 18:40", "2024-03-04 06:00"},
-                    ClockCase{"aSpanToMidnightIsASecondShort", "all 16-24", "Mon 2024-03-04 23:57:02",
-                              "2024-03-04 23:59"},
-                    ClockCase{"noSpan", "Mon-Fri 8-8", "Mon 2024-03-04 15:00", "2024-03-04 15:00"}),
-    caseName<ClockCase>);
 
 TEST(Clocks, theEndOfADayKeepsItsDateUntilMidnight)
 {
@@ -241,37 +206,27 @@ namespace {
 
 struct TypedCase
 {
-    const char *name;
-    const char *typed;
-    const char *start;
+    const char *name, *typed, *start;
     const char *finish; // the last day; its storing caller adds one
 };
 
-class TypedTimes : public testing::TestWithParam<TypedCase>
-{
-};
-
 }
 
-TEST_P(TypedTimes, inStoredForm)
+TEST(TypedTimes, inStoredFormKept)
 {
-    Planned document("Mon-Fri 8-17");
-    EXPECT_EQ(shown(KWTaskInfo::editTimeTransDayTime(&document, at(GetParam().typed), true)),
-              GetParam().start);
-    EXPECT_EQ(shown(KWTaskInfo::editTimeTransDayTime(&document, at(GetParam().typed), false)),
-              GetParam().finish);
+    const TypedCase cases[] = {
+        {"inside", "2024-03-05 12:30", "Tue 2024-03-05 12:00", "Mon 2024-03-04 12:00"},
+        {"atTheFinishHour", "2024-03-05 17:00", "Wed 2024-03-06 00:00", "Tue 2024-03-05 00:00"},
+        {"inTheFinishHour", "2024-03-05 17:54", "Wed 2024-03-06 02:24", "Tue 2024-03-05 02:24"},
+        {"after", "2024-03-05 18:00", "Wed 2024-03-06 00:00", "Tue 2024-03-05 00:00"},
+        {"before", "2024-03-05 07:59", "Tue 2024-03-05 00:00", "Tue 2024-03-05 00:00"}};
+    for (const TypedCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Planned document("Mon-Fri 8-17");
+        EXPECT_EQ(shown(KWTaskInfo::editTimeTransDayTime(&document, at(row.typed), true)), row.start);
+        EXPECT_EQ(shown(KWTaskInfo::editTimeTransDayTime(&document, at(row.typed), false)), row.finish);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Kept, TypedTimes,
-    testing::Values(
-        TypedCase{"inside", "2024-03-05 12:30", "Tue 2024-03-05 12:00", "Mon 2024-03-04 12:00"},
-        TypedCase{"atTheFinishHour", "2024-03-05 17:00", "Wed 2024-03-06 00:00", "Tue 2024-03-05 00:00"},
-        TypedCase{"inTheFinishHour", "2024-03-05 17:54", "Wed 2024-03-06 02:24", "Tue 2024-03-05 02:24"},
-        TypedCase{"after", "2024-03-05 18:00", "Wed 2024-03-06 00:00", "Tue 2024-03-05 00:00"},
-        TypedCase{"before", "2024-03-05 07:59", "Tue 2024-03-05 00:00", "Tue 2024-03-05 00:00"},
-        TypedCase{"aDateAlone", "2024-03-05", "Tue 2024-03-05 00:00", "Tue 2024-03-05 00:00"}),
-    caseName<TypedCase>);
 
 TEST(TypedTimesOf, aShownFinishGiveTheStoredOneADayLater)
 {
@@ -363,10 +318,6 @@ struct DayOffCase
     const char *startForward, *startBack, *finishForward, *finishBack;
 };
 
-class DayOff : public testing::TestWithParam<DayOffCase>
-{
-};
-
 std::string onHourClock(Planned &document, quint32 stored)
 {
     return textOf(KWTaskInfo::secsDayTransHour(&document, stored)).mid(4).toStdString();
@@ -374,42 +325,33 @@ std::string onHourClock(Planned &document, quint32 stored)
 
 }
 
-TEST_P(DayOff, movesOutOfDatesAndHours)
+TEST(DayOff, movesOutOfDatesAndHours)
 {
-    const DayOffCase &c = GetParam();
-    Planned document(office);
-    const quint32 stored = KWTaskInfo::secsHourTransDay(&document, secsOf(c.shown));
-    EXPECT_EQ(onHourClock(document, KWTaskCollection::moveForwarstartOnDayOff(&document, stored, true)),
-              c.startForward);
-    EXPECT_EQ(onHourClock(document, KWTaskCollection::moveBackOneDayStartOnDayOff(&document, stored, true)),
-              c.startBack);
-    EXPECT_EQ(onHourClock(document, KWTaskCollection::addFinishOnDayOff(&document, stored, true)),
-              c.finishForward);
-    EXPECT_EQ(onHourClock(document, KWTaskCollection::reduceFinishOnDayOff(&document, stored, true)),
-              c.finishBack);
+    // 08:00 is where the day clock has midnight: the end of the date before for a finish. 2024-03-09 is a
+    // Saturday.
+    const DayOffCase cases[] = {{"inABreak", "2024-03-05 12:30", "2024-03-05 13:00", "2024-03-05 11:30",
+                                 "2024-03-05 13:30", "2024-03-05 12:00"},
+                                {"atABreaksEnd", "2024-03-05 13:00", "2024-03-05 13:00", "2024-03-05 13:00",
+                                 "2024-03-05 14:00", "2024-03-05 12:00"},
+                                {"atFridaysEnd", "2024-03-09 08:00", "2024-03-11 08:00", "2024-03-08 08:00",
+                                 "2024-03-09 08:00", "2024-03-09 08:00"},
+                                {"onSundayInABreak", "2024-03-10 12:30", "2024-03-11 13:00",
+                                 "2024-03-08 11:30", "2024-03-11 13:30", "2024-03-08 12:00"}};
+    for (const DayOffCase &c : cases) {
+        SCOPED_TRACE(c.name);
+        Planned document(office);
+        const quint32 stored = KWTaskInfo::secsHourTransDay(&document, secsOf(c.shown));
+        EXPECT_EQ(onHourClock(document, KWTaskCollection::moveForwarstartOnDayOff(&document, stored, true)),
+                  c.startForward);
+        EXPECT_EQ(
+            onHourClock(document, KWTaskCollection::moveBackOneDayStartOnDayOff(&document, stored, true)),
+            c.startBack);
+        EXPECT_EQ(onHourClock(document, KWTaskCollection::addFinishOnDayOff(&document, stored, true)),
+                  c.finishForward);
+        EXPECT_EQ(onHourClock(document, KWTaskCollection::reduceFinishOnDayOff(&document, stored, true)),
+                  c.finishBack);
+    }
 }
-
-// 08:00 is where the day clock has midnight: the end of the date before for a finish. 2024-03-09 is a
-// Saturday.
-INSTANTIATE_TEST_SUITE_P(
-    Cases, DayOff,
-    testing::Values(DayOffCase{"inABreak", "2024-03-05 12:30", "2024-03-05 13:00", "2024-03-05 11:30",
-                               "2024-03-05 13:30", "2024-03-05 12:00"},
-                    DayOffCase{"atABreaksBeginning", "2024-03-05 12:00", "2024-03-05 13:00",
-                               "2024-03-05 11:00", "2024-03-05 12:00", "2024-03-05 12:00"},
-                    DayOffCase{"atABreaksEnd", "2024-03-05 13:00", "2024-03-05 13:00", "2024-03-05 13:00",
-                               "2024-03-05 14:00", "2024-03-05 12:00"},
-                    DayOffCase{"atAWorkingDaysBeginning", "2024-03-05 08:00", "2024-03-05 08:00",
-                               "2024-03-05 08:00", "2024-03-05 08:00", "2024-03-05 08:00"},
-                    DayOffCase{"onSaturday", "2024-03-09 10:00", "2024-03-11 10:00", "2024-03-08 10:00",
-                               "2024-03-11 10:00", "2024-03-08 10:00"},
-                    DayOffCase{"atFridaysEnd", "2024-03-09 08:00", "2024-03-11 08:00", "2024-03-08 08:00",
-                               "2024-03-09 08:00", "2024-03-09 08:00"},
-                    DayOffCase{"atMondaysBeginning", "2024-03-11 08:00", "2024-03-11 08:00",
-                               "2024-03-11 08:00", "2024-03-12 08:00", "2024-03-09 08:00"},
-                    DayOffCase{"onSundayInABreak", "2024-03-10 12:30", "2024-03-11 13:00", "2024-03-08 11:30",
-                               "2024-03-11 13:30", "2024-03-08 12:00"}),
-    caseName<DayOffCase>);
 
 TEST(DayOffs, aDraggedFinishEndsWithTheLastWorkedDay)
 {
