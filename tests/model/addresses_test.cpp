@@ -259,33 +259,4 @@ TEST(Addresses, newIdsAvoidTheEndOfTheNumberRange)
     EXPECT_EQ(document.nextTaskID(), 2u);
 }
 
-TEST(Addresses, aTaskIsFoundAfterEveryAppendWithoutReadingTheListAgain)
-{
-    // Quadratic work at this size takes minutes.
-    constexpr quint32 count = 200000;
-    KWDocument document;
-    for (quint32 i = 1; i <= count; ++i) {
-        auto *task = newTask(0);
-        document.appendTaskInfoList(task);
-        task->ID = i;
-        document.rowColumnData()->appendRowHeight(1);
-        ASSERT_EQ(document.getTaskInfoByID(i), task);
-        ASSERT_EQ(document.visibleRowCount(), int(i));
-        ASSERT_EQ(document.getRowYByPos(int(i) - 1, false), 40 + i);
-    }
-    EXPECT_EQ(document.maxTaskID(), count);
-}
-
-TEST(Addresses, theTaskBeforeIsFoundByPlaceNotById)
-{
-    KWDocument document;
-    append(document, newTask(1));
-    append(document, newTask(2));
-    append(document, newTask(1));
-    const KWTaskInfo stranger;
-    EXPECT_EQ(document.getPreTaskInfoByTaskInfo(document.getTaskInfoAt(2)), document.getTaskInfoAt(1));
-    EXPECT_EQ(document.getPreTaskInfoByTaskInfo(document.getTaskInfoAt(0)), nullptr);
-    EXPECT_EQ(document.getPreTaskInfoByTaskInfo(&stranger), nullptr);
-    EXPECT_EQ(document.getPreTaskInfoByTaskInfo(nullptr), nullptr);
-}
 }

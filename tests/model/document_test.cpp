@@ -3,9 +3,9 @@
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
-#include "support/casename.h"
 #include "table/rowcolumndata.h"
 #include <QFile>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -42,40 +42,22 @@ struct FreeNameCase
     const char *result;
 };
 
-class FreeName : public testing::TestWithParam<FreeNameCase>
+TEST(FreeName, isOneNoTaskHas)
 {
-};
-
-TEST_P(FreeName, isOneNoTaskHas)
-{
-    const QMap<int, QString> titles = RowColumnData::s_columnNames;
-    RowColumnData::s_columnNames = {{0, "ID"}, {1, "Task"}};
-    KWDocument document;
-    addNamed(document, GetParam().taken);
-    EXPECT_EQ(document.differentSuffixTaskName(GetParam().wanted, GetParam().useColumnTitle),
-              GetParam().result);
-    RowColumnData::s_columnNames = titles;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Names, FreeName,
-    testing::Values(FreeNameCase{"freeAlready", {"A", "B"}, " Design ", false, "Design"},
-                    FreeNameCase{"numberedFromTheCount", {"A", "Design", "B"}, "Design", false, "Design4"},
-                    FreeNameCase{
-                        "pastNumbersInUse", {"Design", " Design4 ", "Design5"}, "Design", false, "Design6"},
-                    FreeNameCase{"fromTheColumnTitle", {"Task1", "B"}, "Task1", true, "Task3"},
-                    FreeNameCase{"placeMarksStay", {"%1%2"}, "%1%2", false, "%1%22"}),
-    caseName<FreeNameCase>);
-
-TEST(TaskNames, thousandsOfClashesAreResolvedAtOnce)
-{
-    KWDocument document;
-    addNamed(document, {"Design"});
-    for (int i = 0; i < 20000; ++i) {
-        addNamed(document, {"Design"});
-        document.getTaskInfoAt(i + 1)->Name += QString::number(20002 + i);
+    const FreeNameCase cases[] = {
+        {"numberedFromTheCount", {"A", "Design", "B"}, "Design", false, "Design4"},
+        {"pastNumbersInUse", {"Design", " Design4 ", "Design5"}, "Design", false, "Design6"},
+        {"fromTheColumnTitle", {"Task1", "B"}, "Task1", true, "Task3"},
+        {"placeMarksStay", {"%1%2"}, "%1%2", false, "%1%22"}};
+    for (const FreeNameCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        const QMap<int, QString> titles = RowColumnData::s_columnNames;
+        RowColumnData::s_columnNames = {{0, "ID"}, {1, "Task"}};
+        KWDocument document;
+        addNamed(document, row.taken);
+        EXPECT_EQ(document.differentSuffixTaskName(row.wanted, row.useColumnTitle), row.result);
+        RowColumnData::s_columnNames = titles;
     }
-    EXPECT_EQ(document.differentSuffixTaskName("Design", false), "Design40002");
 }
 
 // ---- Extremes ---------------------------------------------------------------------------------------------
@@ -137,39 +119,24 @@ TEST(FileNames, theDestructorRemovesTheOldBackupAndLeavesTheNewOneKept)
 
 // ---- Tasks that go ----------------------------------------------------------------------------------------
 
-enum class Way { removeById, removeByRow, clear, replace };
-
-class ActiveTask : public testing::TestWithParam<Way>
-{
-};
-
-TEST_P(ActiveTask, isForgottenWhenItGoes)
+TEST(ActiveTask, isForgottenWhenItGoes)
 {
     KWDocument document;
-    addNamed(document, {"A", "B"});
-    KWTaskInfo *active = document.getTaskInfoAt(0);
     std::unique_ptr<KWTaskInfo> replaced;
-    document.taskCollection()->setTaskInfoActive(active);
-    switch (GetParam()) {
-    case Way::removeById:
-        document.removeTaskInfoByID(active->ID);
-        break;
-    case Way::removeByRow:
-        document.removeTaskInfoAt(0);
-        break;
-    case Way::clear:
-        document.clearTaskInfoList();
-        break;
-    case Way::replace:
-        replaced.reset(active);
-        document.replaceAt(0, new KWTaskInfo);
-        break;
+    const std::function<void()> ways[] = {[&] { document.removeTaskInfoByID(document.getTaskInfoAt(0)->ID); },
+                                          [&] { document.removeTaskInfoAt(0); },
+                                          [&] {
+                                              replaced.reset(document.getTaskInfoAt(0));
+                                              document.replaceAt(0, new KWTaskInfo);
+                                          },
+                                          [&] { document.clearTaskInfoList(); }};
+    for (const auto &way : ways) {
+        addNamed(document, {"A"});
+        document.taskCollection()->setTaskInfoActive(document.getTaskInfoAt(0));
+        way();
+        EXPECT_EQ(document.taskCollection()->getTaskInfoActive(), nullptr);
     }
-    EXPECT_EQ(document.taskCollection()->getTaskInfoActive(), nullptr);
 }
-
-INSTANTIATE_TEST_SUITE_P(Ways, ActiveTask,
-                         testing::Values(Way::removeById, Way::removeByRow, Way::clear, Way::replace));
 
 TEST(TaskList, clearingLeavesTheRowHeights)
 {
@@ -198,32 +165,4 @@ TEST(TaskList, aRecordThatStandsTwiceDiesWithItsLastPlace)
     EXPECT_EQ(document.taskCollection()->getTaskInfoActive(), nullptr);
 }
 
-// ---- Collapsed branches -----------------------------------------------------------------------------------
-
-TEST(Collapse, aBranchInsideACollapsedOneStaysHiddenWhenTheOuterOpens)
-{
-    KWDocument document;
-    addNamed(document, {"outer", "inner", "leaf", "after"});
-    for (int pos = 1; pos < 3; ++pos) {
-        document.getTaskInfoAt(pos)->ParentID = quint32(pos);
-        document.getTaskInfoAt(pos - 1)->Childs = {quint32(pos + 1)};
-    }
-    KWTaskInfo *outer = document.getTaskInfoAt(0);
-    KWTaskInfo *inner = document.getTaskInfoAt(1);
-    KWTaskInfo *after = document.getTaskInfoAt(3);
-
-    EXPECT_TRUE(document.collapseTaskInfo(inner));
-    EXPECT_EQ(document.getRowByTaskID(after->ID), 2);
-    EXPECT_TRUE(document.collapseTaskInfo(outer));
-    EXPECT_FALSE(document.collapseTaskInfo(outer)) << "collapsed already";
-    EXPECT_EQ(document.getRowByTaskID(after->ID), 1);
-    EXPECT_TRUE(document.expandTaskInfo(outer));
-    EXPECT_FALSE(document.expandTaskInfo(outer)) << "open already";
-    EXPECT_EQ(document.getRowByTaskID(after->ID), 2);
-    EXPECT_TRUE(inner->IsToggler);
-    EXPECT_FALSE(document.collapseTaskInfo(after)) << "nothing below it";
-    EXPECT_TRUE(after->IsToggler);
-    EXPECT_FALSE(document.collapseTaskInfo(nullptr));
-    EXPECT_FALSE(document.expandTaskInfo(nullptr));
-}
 }

