@@ -4,7 +4,6 @@
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
 #include "schedule/randomplan.h"
-#include "support/casename.h"
 #include "support/kwclock.h"
 #include "support/project.h"
 #include <gtest/gtest.h>
@@ -21,60 +20,35 @@ struct RateCase
     const char *name;
     const char *duration; // of the task, from Monday 4 March 2024; 8-12 13-17 Monday to Friday
     int costUnit;
-    double rate;
-    double cost;
+    double rate, cost;
 };
 
-class Rates : public testing::TestWithParam<RateCase>
+TEST(Rates, fullTimeAssignmentCosts)
 {
-};
-
-TEST_P(Rates, fullTimeAssignmentCosts)
-{
-    Project project("Mon-Fri 8-12 13-17", (std::string("Build ") + GetParam().duration).c_str());
-    KWTaskInfo &build = project.task("Build");
-    build.addOrDelResourceByName(&project.document(), "Ann", true);
-    Resource &ann = *build.getResourceAt(0);
-    ann.costUnit = GetParam().costUnit;
-    ann.cost = GetParam().rate;
-    EXPECT_NEAR(build.resourceCost(&project.document(), &ann), GetParam().cost, 1e-9);
-    ann.costPer = 5;
-    ann.percent = 0.5;
-    EXPECT_NEAR(build.resourceCost(&project.document(), &ann), GetParam().cost + 2.5, 1e-9);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    CostUnits, Rates,
-    testing::Values(RateCase{"hoursByHour", "8h", 1, 10, 80}, RateCase{"hoursByMinute", "2h", 0, 1, 120},
-                    RateCase{"hoursByDay", "12h", 2, 100, 150}, RateCase{"hoursByWeek", "20h", 3, 100, 50},
-                    RateCase{"hoursByMonth", "88h", 4, 100, 50},
-                    RateCase{"minutesByHour", "90min", 1, 10, 15}, RateCase{"daysByMinute", "2d", 0, 1, 960},
-                    RateCase{"daysByHour", "3d", 1, 10, 240}, RateCase{"daysByDay", "3d", 2, 100, 300},
-                    RateCase{"daysByWeek", "1d", 3, 100, 20}, RateCase{"daysByMonth", "11d", 4, 100, 50},
-                    RateCase{"weeksByHour", "2w", 1, 1, 80}, RateCase{"weeksByWeek", "2w", 3, 100, 200},
-                    // 30 days from 4 March to 2 April span 22 working days.
-                    RateCase{"monthByDay", "1mon", 2, 100, 2200}, RateCase{"monthByHour", "1mon", 1, 1, 176},
-                    RateCase{"monthByWeek", "1mon", 3, 100, 440},
-                    RateCase{"monthByMonth", "2mon", 4, 100, 200},
-                    RateCase{"quarterByMonth", "1q", 4, 100, 300},
-                    RateCase{"yearByMonth", "1y", 4, 100, 1200},
-                    RateCase{"unknownUnitCostsNoTime", "3d", 5, 100, 0},
-                    RateCase{"negativeUnitCostsNoTime", "3d", -1, 100, 0}),
-    caseName<RateCase>);
-
-TEST(AssignmentCost, ofMaterialHasNothingToDoWithTime)
-{
-    Project project("Mon-Fri 8-16", "Build 3d");
-    KWTaskInfo &build = project.task("Build");
-    build.addOrDelResourceByName(&project.document(), "Sand", true);
-    Resource &sand = *build.getResourceAt(0);
-    sand.type = 1;
-    sand.percent = 3;
-    sand.cost = 2.5;
-    sand.costPer = 4;
-    EXPECT_EQ(build.resourceCost(&project.document(), &sand), 11.5);
-    build.updateResourceWorkSecs(&project.document());
-    EXPECT_EQ(sand.workSecs, 0u);
+    const RateCase cases[] = {{"hoursByHour", "8h", 1, 10, 80},
+                              {"hoursByMinute", "2h", 0, 1, 120},
+                              {"hoursByMonth", "88h", 4, 100, 50},
+                              {"daysByDay", "3d", 2, 100, 300},
+                              {"weeksByWeek", "2w", 3, 100, 200},
+                              // 30 days from 4 March to 2 April span 22 working days.
+                              {"monthByDay", "1mon", 2, 100, 2200},
+                              {"monthByWeek", "1mon", 3, 100, 440},
+                              {"quarterByMonth", "1q", 4, 100, 300},
+                              {"unknownUnitCostsNoTime", "3d", 5, 100, 0},
+                              {"negativeUnitCostsNoTime", "3d", -1, 100, 0}};
+    for (const RateCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        Project project("Mon-Fri 8-12 13-17", (std::string("Build ") + row.duration).c_str());
+        KWTaskInfo &build = project.task("Build");
+        build.addOrDelResourceByName(&project.document(), "Ann", true);
+        Resource &ann = *build.getResourceAt(0);
+        ann.costUnit = row.costUnit;
+        ann.cost = row.rate;
+        EXPECT_NEAR(build.resourceCost(&project.document(), &ann), row.cost, 1e-9);
+        ann.costPer = 5;
+        ann.percent = 0.5;
+        EXPECT_NEAR(build.resourceCost(&project.document(), &ann), row.cost + 2.5, 1e-9);
+    }
 }
 
 TEST(AssignmentCost, isFiniteWithoutWorkingHours)
@@ -202,47 +176,6 @@ TEST(Assigning, namesAnnouncedToLeaveAreGoneFromTheirSummaries)
     QStringList names{"Bob", "Dan"};
     project.task("House").subTaskResourceName(&document, names);
     EXPECT_EQ(names, QStringList({"Bob", "Dan", "Ann", "Cid"}));
-}
-
-TEST(Assigning, aTaskThatHoldsBothNamesLosesTheOldOne)
-{
-    Project project("Mon-Fri 8-16", "House\n  Walls 1d\n  Roof 1d\n");
-    KWDocument &document = project.document();
-    for (const char *task : {"Walls", "Roof"})
-        project.task(task).addOrDelResourceByName(&document, "Ann", true);
-    project.task("Roof").addOrDelResourceByName(&document, "Bob", true);
-    for (Resource *resource : project.task("Roof").resourceList)
-        resource->cost = 1;
-    project.task("Roof").updateCostAndWork(&document);
-    EXPECT_EQ(project.task("House").Cost, 16);
-    document.replaceTaskResourceName("Ann ", "Bob");
-    EXPECT_EQ(project.task("Walls").Resources, "Bob");
-    EXPECT_EQ(project.task("Roof").Resources, "Bob");
-    EXPECT_EQ(project.task("House").Resources, "Bob");
-    EXPECT_EQ(project.task("House").Cost, 8);
-    document.replaceTaskResourceName("Bob", " Bob ");
-    EXPECT_EQ(project.task("Roof").getResourceAt(0)->name, " Bob ");
-    EXPECT_EQ(project.task("Roof").Resources, "Bob");
-}
-
-TEST(Assigning, aSummaryBehindItsLeafLosesItsAssignmentsBeforeTheyAreRenamed)
-{
-    Project project("Mon-Fri 8-16", "House\n  Walls 1d\n");
-    KWDocument &document = project.document();
-    KWTaskInfo &house = project.task("House");
-    KWTaskInfo &walls = project.task("Walls");
-    walls.addOrDelResourceByName(&document, "Ann", true);
-    for (const char *name : {"Ann", "Bob"}) {
-        house.resourceList.append(new Resource);
-        house.resourceList.last()->name = name;
-    }
-    house.Cost = 99; // would be summed up anew when an assignment of its own were taken away
-    document.replaceAt(0, &walls);
-    document.replaceAt(1, &house);
-    document.replaceTaskResourceName("Ann", "Bob");
-    EXPECT_EQ(house.Cost, 99);
-    EXPECT_EQ(house.Resources, "Bob");
-    EXPECT_TRUE(house.resourceList.isEmpty());
 }
 
 TEST(BaselineCost, isAddedUpAsTextWithSixDigits)
