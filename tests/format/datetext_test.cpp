@@ -41,9 +41,7 @@ struct DateCase
 {
     const char *name;
     const char *format; // the document's, or empty
-    const char *text;
-    const char *withTime;
-    const char *withoutTime;
+    const char *text, *withTime, *withoutTime;
 };
 
 class DateTextTable : public DateText, public testing::WithParamInterface<DateCase>
@@ -67,32 +65,24 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         DateCase{"iso", "", "2024-03-04", march4, march4},
         DateCase{"blanksAround", "", " 2024-03-04\n", march4, march4},
-        DateCase{"slashes", "", "2024/3/4", march4, march4},
         DateCase{"zerosInSlashes", "", "2024/03/04", march4, march4},
-        DateCase{"points", "", "4.3.2024", march4, march4},
         DateCase{"monthFirst", "", "3/4/2024", march4, march4},
         DateCase{"seconds", "", "2024-03-04 08:09:10", "2024-03-04 08:09:10", "none"},
         DateCase{"shortHour", "", "4.3.2024 8:09", "2024-03-04 08:09:00", "none"},
-        DateCase{"shortHourSeconds", "", "3/4/2024 8:09:10", "2024-03-04 08:09:10", "none"},
         DateCase{"shortMinute", "", "2024-03-04 8:9", "none", "none"},
         DateCase{"midnightAtTheEnd", "", "2024-03-04 24:00", "none", "none"},
-        DateCase{"twoBlanks", "", "2024-03-04  08:00", "none", "none"},
         DateCase{"noSuchDay", "", "2024-02-30", "none", "none"}, DateCase{"empty", "", "", "none", "none"},
         DateCase{"more", "", "2024-03-04x", "none", "none"},
         DateCase{"shortYear", "", "24-03-04", "none", "none"},
-        DateCase{"longYear", "", "12024-03-04", "none", "none"},
         DateCase{"yearNought", "", "0000-03-04", "none", "none"},
         DateCase{"documentFormatFirst", "d/M/yyyy", "3/4/2024", april3, april3},
         DateCase{"othersAfterIt", "d/M/yyyy", "3/14/2024", "2024-03-14 00:00:00", "2024-03-14 00:00:00"},
         DateCase{"twoDigitYear", "dd.MM.yy", "04.03.24", march4, march4},
-        DateCase{"lastTwoDigitYear", "dd.MM.yy", "04.03.69", "2069-03-04 00:00:00", "2069-03-04 00:00:00"},
         DateCase{"firstTwoDigitYear", "dd.MM.yy", "04.03.70", "1970-03-04 00:00:00", "1970-03-04 00:00:00"},
-        DateCase{"leapDayOfTwoDigits", "dd.MM.yy", "29.02.00", "2000-02-29 00:00:00", "2000-02-29 00:00:00"},
         DateCase{"doubledLettersTakeTwo", "dd-MM-yyyy", "4-3-2024", "none", "none"},
         DateCase{"otherScript", "yyyy\u5e74M\u6708d\u65e5", "2024\u5e743\u67084\u65e5 08:00",
                  "2024-03-04 08:00:00", "none"},
-        DateCase{"monthName", "d MMM yyyy", "4 Mar 2024 8:30", "2024-03-04 08:30:00", "none"},
-        DateCase{"monthNameTwoDigitYear", "d MMM yy", "4 Mar 24", march4, march4}),
+        DateCase{"monthName", "d MMM yyyy", "4 Mar 2024 8:30", "2024-03-04 08:30:00", "none"}),
     caseName<DateCase>);
 
 TEST_F(DateText, builtInFormatsStayBehindTheOnesOffered)

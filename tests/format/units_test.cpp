@@ -3,7 +3,6 @@
 #include "format/unitutil.h"
 #include "kwversion.h"
 #include "quarkmanager.h"
-#include "support/casename.h"
 #include "support/folder.h"
 #include <QCoreApplication>
 #include <QFile>
@@ -20,31 +19,24 @@ struct UnitCase
     double pixels; // of one unit
 };
 
-class Units : public testing::TestWithParam<UnitCase>
+TEST(Units, convertByCodeAndByName)
 {
-};
-
-TEST_P(Units, convertByCodeAndByName)
-{
-    const UnitCase &c = GetParam();
-    EXPECT_DOUBLE_EQ(UnitUtil::unitToPixel(1, c.code), c.pixels);
-    EXPECT_DOUBLE_EQ(UnitUtil::pixelToUnit(c.pixels * 2.5, c.code), 2.5);
-    const QString name = UnitUtil::unitStr(c.code);
-    ASSERT_FALSE(name.isEmpty());
-    EXPECT_DOUBLE_EQ(UnitUtil::unitToPixel(1, name.toUpper()), c.pixels);
-    EXPECT_DOUBLE_EQ(UnitUtil::pixelToUnit(c.pixels, name), 1);
+    const UnitCase cases[] = {{"millimetre", 1, 3.7795275590551185},
+                              {"inch", 5, 96},
+                              {"feetAndInches", 7, 1152},
+                              {"point", 10, 1.3333333333333333},
+                              {"didot", 12, 1.4173228346456694},
+                              {"cicero", 13, 17.007874015748033}};
+    for (const UnitCase &c : cases) {
+        SCOPED_TRACE(c.name);
+        EXPECT_DOUBLE_EQ(UnitUtil::unitToPixel(1, c.code), c.pixels);
+        EXPECT_DOUBLE_EQ(UnitUtil::pixelToUnit(c.pixels * 2.5, c.code), 2.5);
+        const QString name = UnitUtil::unitStr(c.code);
+        ASSERT_FALSE(name.isEmpty());
+        EXPECT_DOUBLE_EQ(UnitUtil::unitToPixel(1, name.toUpper()), c.pixels);
+        EXPECT_DOUBLE_EQ(UnitUtil::pixelToUnit(c.pixels, name), 1);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, Units,
-    testing::Values(UnitCase{"pixel", 0, 1}, UnitCase{"millimetre", 1, 3.7795275590551185},
-                    UnitCase{"centimetre", 2, 37.795275590551185}, UnitCase{"metre", 3, 3779.5275590551185},
-                    UnitCase{"kilometre", 4, 3779527.5590551185}, UnitCase{"inch", 5, 96},
-                    UnitCase{"foot", 6, 1152}, UnitCase{"feetAndInches", 7, 1152}, UnitCase{"yard", 8, 3456},
-                    UnitCase{"mile", 9, 6082560}, UnitCase{"point", 10, 1.3333333333333333},
-                    UnitCase{"pica", 11, 16}, UnitCase{"didot", 12, 1.4173228346456694},
-                    UnitCase{"cicero", 13, 17.007874015748033}),
-    caseName<UnitCase>);
 
 TEST(UnitNames, unknownOnesConvertNothingAndAreNotRegistered)
 {
@@ -56,28 +48,6 @@ TEST(UnitNames, unknownOnesConvertNothingAndAreNotRegistered)
     const int later = QuarkManager::quarkFromString(QStringLiteral("a later key"));
     EXPECT_GT(later, 13);
     EXPECT_EQ(UnitUtil::pixelToUnit(7.25, QStringLiteral("a later key")), 7.25);
-}
-
-TEST(Screen, takesWhatTheHostMeasured)
-{
-    const auto restored = qScopeGuard([] {
-        UnitUtil::s_inited = false;
-        UnitUtil::initScreen(1, 1, QSizeF());
-    });
-    UnitUtil::s_pixPerMM = 1;
-    UnitUtil::initScreen(2, 1.7, QSizeF(1920.5, 1079.4));
-    EXPECT_FALSE(UnitUtil::s_inited);
-    EXPECT_EQ(UnitUtil::s_cacheWidth, 2823);
-    EXPECT_EQ(UnitUtil::s_cacheHeight, 1882);
-    EXPECT_EQ(UnitUtil::s_screenSize, QSize(1921, 1079));
-    EXPECT_EQ(UnitUtil::dpiScale96(), 1);
-    EXPECT_DOUBLE_EQ(UnitUtil::from7Val(8), 7.559055118110237);
-
-    UnitUtil::initScreen(1, 0, QSizeF(std::numeric_limits<double>::quiet_NaN(), 1e300));
-    EXPECT_EQ(UnitUtil::s_screenSize.width(), 0);
-    UnitUtil::s_inited = true;
-    UnitUtil::initScreen(1, 3, QSizeF(1, 1));
-    EXPECT_EQ(UnitUtil::s_pixelRatio, 0);
 }
 
 TEST(FeetAndInches, areWrittenWithTheirMarks)
@@ -148,11 +118,4 @@ TEST(LocalTexts, comeFromTheLanguageFileOnFirstUse)
     EXPECT_EQ(LocalizeUtil::s_mapLocStrs.size(), 5);
 }
 
-TEST(LocalTexts, undoNamesAreTheHosts)
-{
-    LocalizeUtil::s_undoString.insert(3, QStringLiteral("Insert task"));
-    EXPECT_EQ(LocalizeUtil::undoName(3).toStdString(), "Insert task");
-    EXPECT_EQ(LocalizeUtil::undoName(4), QString());
-    EXPECT_EQ(LocalizeUtil::s_undoString.size(), 1);
-}
 }

@@ -1,7 +1,6 @@
 // The application's settings and their file.
 #include "kwfilepathmanager.h"
 #include "settings/kwconfig.h"
-#include "support/filesizelimit.h"
 #include "support/folder.h"
 #include <QFile>
 #include <QTemporaryDir>
@@ -83,14 +82,6 @@ TEST_F(Config, hostileValuesGiveDefaults)
     EXPECT_EQ(shown(m_config), defaults + "kept");
 }
 
-// What was checked is what is read.
-TEST_F(Config, encodingNamedInTheTextDoesNotDecide)
-{
-    ASSERT_TRUE(load("<?xml version='1.0' encoding='ISO-8859-1'?>"
-                     "<Config><Setting Name='CurrencyUnit' V='\xe2\x82\xac'/></Config>"));
-    EXPECT_EQ(m_config.textValue(utf8("CurrencyUnit")), utf8("\u20ac"));
-}
-
 TEST_F(Config, hostileFilesGiveDefaults)
 {
     EXPECT_FALSE(m_config.load(m_dir.filePath(utf8("missing"))));
@@ -112,15 +103,4 @@ TEST_F(Config, hostileFilesGiveDefaults)
     }
 }
 
-TEST_F(Config, failedSaveKeepsTheOldFile)
-{
-    ASSERT_TRUE(folder::put(file(), "old"));
-    m_config.setValue(utf8("UndoLevel"), 5);
-    {
-        const FileSizeLimit limit(10);
-        EXPECT_FALSE(m_config.save(m_dir.path()));
-    }
-    EXPECT_FALSE(m_config.save(m_dir.filePath(utf8("missing"))));
-    EXPECT_EQ(folder::tree(m_dir.path()), "Config.xml=old");
-}
 }

@@ -1,7 +1,6 @@
 // The page setup and its XML.
 #include "quarkmanager.h"
 #include "settings/kwprintconfig.h"
-#include "support/casename.h"
 #include "support/sortedxml.h"
 #include <QDomDocument>
 #include <cmath>
@@ -64,48 +63,31 @@ TEST(PrintConfig, LeavesOutWhatIsFalse)
 
 struct Reading
 {
-    const char *name;
-    const char *xml;
-    const char *after;
+    const char *name, *xml, *after;
 };
 
-class PrintReading : public testing::TestWithParam<Reading>
+TEST(PrintReading, IntoTheDefaults)
 {
-};
-
-TEST_P(PrintReading, IntoTheDefaults)
-{
-    QDomDocument document;
-    ASSERT_TRUE(document.setContent(QByteArray(GetParam().xml)));
-    KWPrintConfig config;
-    config.parse(document.documentElement());
-    EXPECT_EQ(shown(config), GetParam().after);
-    EXPECT_LT(QuarkManager::findQuark(QStringLiteral("parsec")), 0);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Settings, PrintReading,
-    testing::Values(Reading{"nothing", "<PrintSetup/>", "0000 100 1x1 20 20 210 297 unit 1"},
-                    Reading{"flags_in_words",
-                            "<p Portrait='True' FittoSheet='TRUE' Background='yes' Toggle='2'/>",
-                            "1100 100 1x1 20 20 210 297 unit 1"},
-                    Reading{"numbers",
-                            "<p Zoom='-5' HSheet='2' VSheet='3' Left='1.5' Top='0' Width='1e2' Height='x'/>",
-                            "0000 -5 2x3 1.5 0 100 0 unit 1"},
-                    Reading{"past_16_bits", "<p HSheet='99999' VSheet='-32768'/>",
-                            "0000 100 0x-32768 20 20 210 297 unit 1"},
-                    Reading{"no_number", "<p Left='nan' Top='inf'/>", "0000 100 1x1 0 0 210 297 unit 1"},
-                    Reading{"unit", "<p Unit='in'/>", "0000 100 1x1 20 20 210 297 unit 5"},
-                    Reading{"unknown_unit", "<p Unit='parsec'/>", "0000 100 1x1 20 20 210 297 unit 1"},
-                    Reading{"nested", "<c Portrait='1'><x/><PrintSetup Toggle='1'/></c>",
-                            "0001 100 1x1 20 20 210 297 unit 1"}),
-    caseName<Reading>);
-
-TEST(PrintConfig, NothingToRead)
-{
-    KWPrintConfig config;
-    config.parse(QDomElement());
-    EXPECT_EQ(shown(config), shown(KWPrintConfig()));
+    const Reading cases[] = {
+        {"nothing", "<PrintSetup/>", "0000 100 1x1 20 20 210 297 unit 1"},
+        {"flags_in_words", "<p Portrait='True' FittoSheet='TRUE' Background='yes' Toggle='2'/>",
+         "1100 100 1x1 20 20 210 297 unit 1"},
+        {"numbers", "<p Zoom='-5' HSheet='2' VSheet='3' Left='1.5' Top='0' Width='1e2' Height='x'/>",
+         "0000 -5 2x3 1.5 0 100 0 unit 1"},
+        {"past_16_bits", "<p HSheet='99999' VSheet='-32768'/>", "0000 100 0x-32768 20 20 210 297 unit 1"},
+        {"no_number", "<p Left='nan' Top='inf'/>", "0000 100 1x1 0 0 210 297 unit 1"},
+        {"unit", "<p Unit='in'/>", "0000 100 1x1 20 20 210 297 unit 5"},
+        {"unknown_unit", "<p Unit='parsec'/>", "0000 100 1x1 20 20 210 297 unit 1"},
+        {"nested", "<c Portrait='1'><x/><PrintSetup Toggle='1'/></c>", "0001 100 1x1 20 20 210 297 unit 1"}};
+    for (const Reading &row : cases) {
+        SCOPED_TRACE(row.name);
+        QDomDocument document;
+        ASSERT_TRUE(document.setContent(QByteArray(row.xml)));
+        KWPrintConfig config;
+        config.parse(document.documentElement());
+        EXPECT_EQ(shown(config), row.after);
+        EXPECT_LT(QuarkManager::findQuark(QStringLiteral("parsec")), 0);
+    }
 }
 
 TEST(PrintConfig, PaperSize)

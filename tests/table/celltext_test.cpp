@@ -126,15 +126,6 @@ TEST_F(Cells, ofASummary)
     EXPECT_EQ(cell(p, "House", 23), "1");
 }
 
-TEST_F(Cells, ofAMilestone)
-{
-    Project p(walls, tasks);
-    EXPECT_EQ(cell(p, "Done", 2), "2024-06-10");
-    EXPECT_EQ(cell(p, "Done", 3), "2024-06-10");
-    EXPECT_EQ(cell(p, "Done", 4), "0d");
-    EXPECT_EQ(cell(p, "Done", 5), "0%");
-}
-
 TEST_F(Cells, ofCostsAreEmptyWithoutAssignments)
 {
     Project p(walls, tasks);
@@ -146,15 +137,6 @@ TEST_F(Cells, ofCostsAreEmptyWithoutAssignments)
     assign(p, "Walls", "Ann", 0);
     EXPECT_EQ(cell(p, "Walls", 9), "0");
     EXPECT_EQ(cell(p, "House", 11), "25h"); // 20 for the walls, and what the host wrote
-}
-
-TEST_F(Cells, ofDatesThatAreNotSetAreEmpty)
-{
-    Project p(walls, tasks);
-    KWTaskInfo &task = p.task("Roof");
-    task.Start = task.Finish = task.LateStart = task.LateFinish = task.BaseStart = task.BaseFinish = 0;
-    for (const int type : {2, 3, 12, 13, 14, 15, 20, 21})
-        EXPECT_EQ(cell(p, "Roof", type), "") << type;
 }
 
 // A finish at midnight, shown as the end of its day and as the beginning of the next.

@@ -2,7 +2,6 @@
 #include "format/unitutil.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "support/casename.h"
 #include "support/sortedxml.h"
 #include "table/rowcolumndata.h"
 #include <QDomDocument>
@@ -111,31 +110,24 @@ TEST_F(Columns, AreFoundByPlaceAndTitle)
 struct Move
 {
     const char *name;
-    int from;
-    int to;
+    int from, to;
     const char *after;
 };
 
-class MovedColumns : public Columns, public testing::WithParamInterface<Move>
+TEST_F(Columns, MoveByVisibleNumbers)
 {
-};
-
-TEST_P(MovedColumns, ByVisibleNumbers)
-{
-    RowColumnData table(nullptr);
-    set(table, "A (B) C D (E)");
-    table.moveColumnDataList(GetParam().from, GetParam().to);
-    EXPECT_EQ(shown(table), GetParam().after);
+    const Move cases[] = {
+        {"right", 0, 1, "(B) C A D (E)"},        {"left", 2, 0, "D A (B) C (E)"},
+        {"past_the_end", 0, 9, "(B) C D A (E)"}, {"before_the_start", 1, -3, "C A (B) D (E)"},
+        {"from_nowhere", 3, 0, "A (B) C D (E)"}, {"from_before", -1, 0, "A (B) C D (E)"}};
+    for (const Move &row : cases) {
+        SCOPED_TRACE(row.name);
+        RowColumnData table(nullptr);
+        set(table, "A (B) C D (E)");
+        table.moveColumnDataList(row.from, row.to);
+        EXPECT_EQ(shown(table), row.after);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Table, MovedColumns,
-                         testing::Values(Move{"right", 0, 1, "(B) C A D (E)"},
-                                         Move{"left", 2, 0, "D A (B) C (E)"},
-                                         Move{"past_the_end", 0, 9, "(B) C D A (E)"},
-                                         Move{"before_the_start", 1, -3, "C A (B) D (E)"},
-                                         Move{"from_nowhere", 3, 0, "A (B) C D (E)"},
-                                         Move{"from_before", -1, 0, "A (B) C D (E)"}),
-                         caseName<Move>);
 
 TEST_F(Columns, OnlyIdAndNameCannotBeReplaced)
 {
