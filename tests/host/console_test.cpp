@@ -9,8 +9,7 @@ namespace {
 
 struct Streams
 {
-    QByteArray out;
-    QByteArray error;
+    QByteArray out, error;
 };
 
 Console::Surroundings terminal()
@@ -26,14 +25,6 @@ Options with(Options::When color, bool ascii = false)
     options.color = color;
     options.ascii = ascii;
     return options;
-}
-
-TEST(Console, pipesGetTheSameBytesInEveryLocale)
-{
-    Console::Surroundings pipe;
-    pipe.utf8 = false;
-    EXPECT_FALSE(Console(pipe, nullptr, nullptr).usesAscii());
-    EXPECT_FALSE(Console(pipe, nullptr, nullptr).usesColor());
 }
 
 TEST(Console, terminalWithoutUtf8GetsPlainCharacters)
