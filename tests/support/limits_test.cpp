@@ -92,26 +92,22 @@ struct Limit
     bool (*isTaken)(int past);
 };
 
-void PrintTo(const Limit &limit, std::ostream *out)
+TEST(Limits, areReachedAndNotPassed)
 {
-    *out << limit.name;
+    const Limit cases[] = {{"entries", entries},
+                           {"entryBytes", entryBytes},
+                           {"archiveBytes", archiveBytes},
+                           {"ratio", ratio},
+                           {"bytesOfAnyRatio", bytesOfAnyRatio},
+                           {"nodes", nodes},
+                           {"depth", depth},
+                           {"domBytes", domBytes},
+                           {"treeBytes", treeBytes}};
+    for (const Limit &row : cases) {
+        SCOPED_TRACE(row.name);
+        EXPECT_TRUE(row.isTaken(0));
+        EXPECT_FALSE(row.isTaken(1));
+    }
 }
 
-class Limits : public testing::TestWithParam<Limit>
-{
-};
-
-TEST_P(Limits, areReachedAndNotPassed)
-{
-    EXPECT_TRUE(GetParam().isTaken(0));
-    EXPECT_FALSE(GetParam().isTaken(1));
-}
-
-INSTANTIATE_TEST_SUITE_P(Of, Limits,
-                         testing::Values(Limit{"entries", entries}, Limit{"entryBytes", entryBytes},
-                                         Limit{"archiveBytes", archiveBytes}, Limit{"ratio", ratio},
-                                         Limit{"bytesOfAnyRatio", bytesOfAnyRatio}, Limit{"nodes", nodes},
-                                         Limit{"depth", depth}, Limit{"domBytes", domBytes},
-                                         Limit{"treeBytes", treeBytes}),
-                         [](const auto &test) { return std::string(test.param.name); });
 }
