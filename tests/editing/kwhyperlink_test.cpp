@@ -1,10 +1,8 @@
 // A task's hyperlinks: their kinds, their addresses, and both stored forms.
 #include "editing/kwhyperlink.h"
 #include "model/kwdocument.h"
-#include "support/casename.h"
 #include <QDir>
 #include <QDomDocument>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <limits>
 #include <memory>
@@ -72,41 +70,22 @@ struct TypeCase
     const char *url;
 };
 
-class LinkType : public testing::TestWithParam<TypeCase>
+TEST(LinkType, followsFromTheAddress)
 {
-};
-
-TEST_P(LinkType, followsFromTheAddress)
-{
-    const TypeCase &c = GetParam();
-    const KWHyperlink made = link(1, "", c.address);
-    EXPECT_EQ(made.type, c.type);
-    EXPECT_EQ(made.getWebPageUrl().toStdString(), c.url);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Addresses, LinkType,
-    testing::Values(TypeCase{"siteWithoutScheme", "example.com", 3, "http://example.com"},
-                    TypeCase{"siteWithScheme", "https://example.org", 3, "https://example.org"},
-                    TypeCase{"ftpAnywhere", "get ftp:example.net", 3, "get ftp:example.net"},
-                    TypeCase{"secureFtp", "ftps://x.biz", 3, "ftps://x.biz"},
-                    TypeCase{"keptSourceFileIsASite", "main.cc", 3, "http://main.cc"},
-                    TypeCase{"keptSiteWithPathIsAFile", "http://example.com/a", 2, "http://example.com/a"},
-                    TypeCase{"keptCaseCounts", "EXAMPLE.COM", 2, "EXAMPLE.COM"},
-                    TypeCase{"suffixAlone", ".tv", 3, "http://.tv"},
-                    TypeCase{"file", "docs/plan.pdf", 2, "docs/plan.pdf"}, TypeCase{"folder", "/", 4, "/"},
-                    TypeCase{"missingFolder", "/no/such/folder/", 1, "/no/such/folder/"},
-                    TypeCase{"empty", "", 1, ""}),
-    caseName<TypeCase>);
-
-TEST(LinkTypeOnDisk, anExistingFolderIsOne)
-{
-    const QTemporaryDir dir;
-    EXPECT_EQ(KWHyperlink::hyperlinkType(dir.path()), 4);
-    EXPECT_EQ(KWHyperlink::hyperlinkType(dir.path() + QLatin1Char('/')), 4);
-    EXPECT_EQ(KWHyperlink::hyperlinkType(dir.filePath(utf8("none"))), 2);
-    ASSERT_TRUE(QDir(dir.path()).mkdir(utf8("x.com")));
-    EXPECT_EQ(KWHyperlink::hyperlinkType(dir.filePath(utf8("x.com"))), 3);
+    const TypeCase cases[] = {{"siteWithoutScheme", "example.com", 3, "http://example.com"},
+                              {"ftpAnywhere", "get ftp:example.net", 3, "get ftp:example.net"},
+                              {"keptSourceFileIsASite", "main.cc", 3, "http://main.cc"},
+                              {"keptSiteWithPathIsAFile", "http://example.com/a", 2, "http://example.com/a"},
+                              {"keptCaseCounts", "EXAMPLE.COM", 2, "EXAMPLE.COM"},
+                              {"folder", "/", 4, "/"},
+                              {"missingFolder", "/no/such/folder/", 1, "/no/such/folder/"},
+                              {"empty", "", 1, ""}};
+    for (const TypeCase &c : cases) {
+        SCOPED_TRACE(c.name);
+        const KWHyperlink made = link(1, "", c.address);
+        EXPECT_EQ(made.type, c.type);
+        EXPECT_EQ(made.getWebPageUrl().toStdString(), c.url);
+    }
 }
 
 struct AddressCase
@@ -117,40 +96,28 @@ struct AddressCase
     const char *real;
 };
 
-class RealAddress : public testing::TestWithParam<AddressCase>
-{
-};
-
-TEST_P(RealAddress, startsAtTheDocumentsFolder)
-{
-    const AddressCase &c = GetParam();
-    KWDocument document;
-    document.setFilePath(utf8(c.documentPath), QString());
-    EXPECT_EQ(link(1, "", c.address).addressReal(&document, false).toStdString(), c.real);
-}
-
 constexpr const char *plan = "/home/u/plans/p.kwpx";
 
-INSTANTIATE_TEST_SUITE_P(
-    Addresses, RealAddress,
-    testing::Values(AddressCase{"besideTheDocument", plan, "a.pdf", "/home/u/plans/a.pdf"},
-                    AddressCase{"below", plan, "docs\\a.pdf", "/home/u/plans/docs/a.pdf"},
-                    AddressCase{"oneUp", plan, "../a.pdf", "/home/u/a.pdf"},
-                    AddressCase{"twoUp", plan, "..\\../a.pdf", "/home/a.pdf"},
-                    AddressCase{"pastTheRoot", plan, "../../../../../a.pdf", "/a.pdf"},
-                    AddressCase{"here", plan, "./../././a.pdf", "/home/u/a.pdf"},
-                    AddressCase{"upInTheMiddle", plan, "docs/../a//b.pdf", "/home/u/plans/a/b.pdf"},
-                    AddressCase{"folderAbove", plan, "..", "/home/u"},
-                    AddressCase{"hiddenFile", plan, ".a/..b", "/home/u/plans/.a/..b"},
-                    AddressCase{"absolute", plan, "/srv/../a.pdf", "/srv/../a.pdf"},
-                    AddressCase{"withScheme", plan, "https://example.com/../a", "https://example.com/../a"},
-                    AddressCase{"mail", plan, "mailto:a@example.com", "mailto:a@example.com"},
-                    AddressCase{"drive", plan, "C:\\docs\\a.pdf", "C:/docs/a.pdf"},
-                    AddressCase{"empty", plan, "", ""},
-                    AddressCase{"noDocumentPath", "", "../a.pdf", "../a.pdf"},
-                    AddressCase{"relativeDocument", "p.kwpx", "../a.pdf", "../a.pdf"},
-                    AddressCase{"documentAtTheRoot", "/p.kwpx", "../a.pdf", "/a.pdf"}),
-    caseName<AddressCase>);
+TEST(RealAddress, startsAtTheDocumentsFolder)
+{
+    const AddressCase cases[] = {{"below", plan, "docs\\a.pdf", "/home/u/plans/docs/a.pdf"},
+                                 {"oneUp", plan, "../a.pdf", "/home/u/a.pdf"},
+                                 {"pastTheRoot", plan, "../../../../../a.pdf", "/a.pdf"},
+                                 {"upInTheMiddle", plan, "docs/../a//b.pdf", "/home/u/plans/a/b.pdf"},
+                                 {"hiddenFile", plan, ".a/..b", "/home/u/plans/.a/..b"},
+                                 {"absolute", plan, "/srv/../a.pdf", "/srv/../a.pdf"},
+                                 {"withScheme", plan, "https://example.com/../a", "https://example.com/../a"},
+                                 {"drive", plan, "C:\\docs\\a.pdf", "C:/docs/a.pdf"},
+                                 {"empty", plan, "", ""},
+                                 {"relativeDocument", "p.kwpx", "../a.pdf", "../a.pdf"},
+                                 {"documentAtTheRoot", "/p.kwpx", "../a.pdf", "/a.pdf"}};
+    for (const AddressCase &c : cases) {
+        SCOPED_TRACE(c.name);
+        KWDocument document;
+        document.setFilePath(utf8(c.documentPath), QString());
+        EXPECT_EQ(link(1, "", c.address).addressReal(&document, false).toStdString(), c.real);
+    }
+}
 
 TEST(RealAddressFlag, prefersTheRelativeAddressThatIsThere)
 {
@@ -270,31 +237,6 @@ TEST(LinkXml, writesOnlyWhatHasText)
     EXPECT_EQ(children, "Address=a.pdf RelatAddress=../a.pdf ");
 }
 
-TEST(LinkXml, comesBackAsItWasSaved)
-{
-    const KWHyperlinkSheet sheet = fullSheet();
-    QDomDocument document;
-    savedElement(document, sheet);
-    QDomDocument loaded;
-    ASSERT_TRUE(loaded.setContent(document.toByteArray()));
-    const QDomElement list = loaded.documentElement().firstChildElement(utf8("Hyperlinks"));
-    KWHyperlinkSheet again = sheetOf({link(1, "kept", "x")});
-    EXPECT_TRUE(again.parse(list, 14)); // clearing is the caller's
-    EXPECT_EQ(shown(again), "1|2||kept||x|||\n" + shown(sheet));
-    EXPECT_FALSE(again.parse(QDomElement(), 14));
-}
-
-TEST(LinkXml, savesNoControlCharacters)
-{
-    QDomDocument document;
-    savedElement(document, sheetOf({link(1, "a\x01z", "\x02")}));
-    QDomDocument loaded;
-    ASSERT_TRUE(loaded.setContent(document.toByteArray()));
-    KWHyperlinkSheet again;
-    again.parse(loaded.documentElement().firstChildElement(), 14);
-    EXPECT_EQ(shown(again), "1|2||az|||||\n");
-}
-
 TEST(LinkXml, hostileElementsLeaveDefaults)
 {
     QDomDocument document;
@@ -327,29 +269,6 @@ TEST(LinkStream, comesBackAndStopsAtEveryCut)
         EXPECT_EQ(whole.rfind(shown(again), 0), 0u) << length; // the links before the cut, and no other
         EXPECT_EQ(again.count() == sheet.count(), length == bytes.size());
     }
-}
-
-TEST(LinkStream, holdsTheFieldsInTheirOrder)
-{
-    KWHyperlink made = link(5, "n", "ad");
-    made.isDefault = true;
-    made.description = utf8("de");
-    made.subAddress = utf8("su");
-    made.relatAddress = utf8("re");
-    made.extraInfo = utf8("ex");
-    QDataStream stream(packed(sheetOf({made})));
-    qint32 count = 0, id = 0, type = 0;
-    bool isDefault = false;
-    QString name, description, address, subAddress, relatAddress, extraInfo;
-    stream >> count >> id >> type >> isDefault >> name >> description >> address >> subAddress >>
-        relatAddress >> extraInfo;
-    EXPECT_EQ(count, 1);
-    EXPECT_EQ(id, 5);
-    EXPECT_EQ(type, 2);
-    EXPECT_TRUE(isDefault);
-    EXPECT_EQ((name + description + address + subAddress + relatAddress + extraInfo).toStdString(),
-              "ndeadsureex");
-    EXPECT_TRUE(stream.status() == QDataStream::Ok && stream.atEnd());
 }
 
 TEST(LinkStream, hostileCountsReserveNothing)
