@@ -61,7 +61,7 @@ QStringList XLSXDataBase::sheetNames()
 int XLSXDataBase::convertCharToNum(const QString &reference)
 {
     const QByteArray bytes = reference.toUtf8();
-    return xlsx::columnOf(bytes.constData(), bytes.size());
+    return xlsx::columnOf({bytes.constData(), std::size_t(bytes.size())});
 }
 
 XLSXDataBase::XLSXDataBase(KWDocument *document)

@@ -57,6 +57,7 @@ public:
     bool praserShareStrXml(const QString &folder);
 
 protected:
+    static QString withSlash(const QString &folder); // behind it
     // The index of a text among the shared strings, which takes it up, cleaned, when it is new.
     int sharedStringIndex(const QString &text);
     // Forgets what the last export has left.

@@ -1,20 +1,25 @@
 // The shared strings of an unpacked package.
 #include "exchange/XLSXDataBase.h"
 #include "exchange/xlsxsheet.h"
-#include <QFileInfo>
+#include <QDir>
+
+QString XLSXDataBase::withSlash(const QString &folder)
+{
+    return folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
+}
 
 bool XLSXDataBase::praserShareStrXml(const QString &folder)
 {
     m_sharedStrings.clear();
     m_stringIndex.clear();
-    const QString name = QStringLiteral("sharedStrings.xml");
-    const QString path =
-        folder + (folder.endsWith(QLatin1Char('/')) ? "" : "/") + QLatin1String("xl/") + name;
+    const QString parts = withSlash(folder) + QLatin1String("xl/");
+    // Not every program writes the name in these cases; filters ignore them.
+    const QString name = QDir(parts).entryList({QStringLiteral("sharedStrings.xml")}, QDir::Files).value(0);
     // Programs that write inline strings only leave the part out.
-    if (!QFileInfo::exists(path))
+    if (name.isEmpty())
         return true;
     QString error;
-    const QByteArray part = xlsx::readPart(path, &error);
+    const QByteArray part = xlsx::readPart(parts + name, &error);
     if (!error.isEmpty() || !xlsx::readSharedStrings(part, m_sharedStrings, &error)) {
         m_findings.add(name, error, QStringLiteral("not read"));
         return false;

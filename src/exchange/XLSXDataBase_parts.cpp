@@ -3,6 +3,7 @@
 #include "exchange/packageparts.h"
 #include "exchange/partwriter.h"
 #include "exchange/planexport.h"
+#include "exchange/xlsxsheet.h"
 #include "support/kwclock.h"
 #include <QCoreApplication>
 #include <QDir>
@@ -117,7 +118,7 @@ void XLSXDataBase::writePart(const QString &name, const std::function<void(PartW
 
 void XLSXDataBase::initExport(const QString &path)
 {
-    m_path = path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
+    m_path = withSlash(path);
     for (const char *folder : {"", "_rels/", "docProps/", "xl/", "xl/worksheets/", "xl/worksheets/_rels/",
                                "xl/theme/", "xl/printerSettings/", "xl/_rels/"}) {
         if (!QDir().mkpath(m_path + QLatin1String(folder)))
@@ -271,7 +272,8 @@ void XLSXDataBase::createSharedString()
         part.open("sst").attribute("xmlns", mainNamespace);
         part.attribute("count", m_stringCells).attribute("uniqueCount", m_sharedStrings.size());
         for (const QString &text : qAsConst(m_sharedStrings)) {
-            part.raw(isBlankSensitive(text) ? "<si><t xml:space=\"preserve\">" : "<si><t>").text(text);
+            part.raw(isBlankSensitive(text) ? "<si><t xml:space=\"preserve\">" : "<si><t>")
+                .text(xlsx::withEscapes(text));
             part.raw("</t><phoneticPr fontId=\"0\" type=\"noConversion\"/></si>");
         }
         part.close();

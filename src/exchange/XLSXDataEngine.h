@@ -41,7 +41,7 @@ public:
                      QDomDocument &document);
     // Sheet 0, 1 or 2 as a whole; empty for another number or without a document.
     QDomDocument sheetDocument(int sheet);
-    // The row of that number; a null element when there is none. Quick for the last row.
+    // The row of that number, the last one at once; a null element when there is none.
     static QDomElement findRow(const QDomElement &sheetData, int row);
 
     // ---- Import (exchange/XLSXDataEngine_import.cpp) ------------------------------------------------------
@@ -58,7 +58,7 @@ public:
     const QMap<int, QString> &dateFormats() const { return m_dateFormats; }
     // The date-time format in Qt's letters; empty for a format that shows no date or time.
     static QString parseFormatType(const QString &formatCode);
-    // Reads the worksheets of a folder that ends with "/", in the order of their numbers.
+    // Reads the worksheets of a folder in the order of their numbers.
     bool praserSheetXml(const QString &folder, const QStringList &sharedStrings);
     // Builders for one sheet held in a DOM: `rowNodes` are its "row" elements, the first of them the titles.
     void createDocTaskInfo(int rows, int columns, const QDomNodeList &rowNodes,
@@ -75,8 +75,11 @@ private:
     int numberFormatIndex(planexport::Value value) const;
     int styleOf(planexport::Value value) const;
     int titleStyle() const;
+    int greatestRow(const QDomElement &sheetData);
 
     bool m_isRich = false;
     QMap<int, QString> m_dateFormats;
-    int m_titleCount = 0; // of the sheet being written
+    int m_titleCount = 0;    // of the sheet being written
+    QDomElement m_sheetData; // that cells were put into last
+    int m_greatestRow = 0;   // of it
 };

@@ -121,6 +121,7 @@ QDomDocument XLSXDataEngine::sheetDocument(int sheet)
         setCellCont(text, counter, row, column, sheetData, document);
     });
     rows.write(which, sink, maxRows);
+    m_sheetData = QDomElement();
     return document;
 }
 
@@ -129,16 +130,29 @@ QDomElement XLSXDataEngine::findRow(const QDomElement &sheetData, int row)
     const QString tag = QStringLiteral("row");
     const QString key = QStringLiteral("r");
     const QString number = QString::number(row);
-    // Rows are asked for one after the other.
+    // Cells are asked for one after the other.
     const QDomElement last = sheetData.lastChildElement(tag);
-    if (last.isNull() || last.attribute(key) == number)
+    if (last.attribute(key) == number)
         return last;
-    if (last.attribute(key).toInt() < row)
-        return QDomElement();
     QDomElement found = sheetData.firstChildElement(tag);
     while (!found.isNull() && found.attribute(key) != number)
         found = found.nextSiblingElement(tag);
     return found;
+}
+
+// Looked for once: among all rows that stand there, each new one would take time with their square.
+int XLSXDataEngine::greatestRow(const QDomElement &sheetData)
+{
+    const QString tag = QStringLiteral("row");
+    const auto numberOf = [](const QDomElement &row) { return row.attribute(QStringLiteral("r")).toInt(); };
+    const QDomElement last = sheetData.lastChildElement(tag);
+    if (sheetData == m_sheetData && numberOf(last) <= m_greatestRow)
+        return m_greatestRow;
+    m_sheetData = sheetData;
+    m_greatestRow = 0;
+    for (QDomElement row = sheetData.firstChildElement(tag); !row.isNull(); row = row.nextSiblingElement(tag))
+        m_greatestRow = std::max(m_greatestRow, numberOf(row));
+    return m_greatestRow;
 }
 
 void XLSXDataEngine::setCellCont(const QString &text, int &counter, int row, int column,
@@ -146,7 +160,7 @@ void XLSXDataEngine::setCellCont(const QString &text, int &counter, int row, int
 {
     if (!m_document)
         return;
-    QDomElement line = findRow(sheetData, row);
+    QDomElement line = row > greatestRow(sheetData) ? QDomElement() : findRow(sheetData, row);
     if (line.isNull()) {
         const int titles =
             m_titleCount > 0 ? m_titleCount : exceltitles::workbookTitles(exceltitles::TaskSheet).size();
@@ -155,6 +169,7 @@ void XLSXDataEngine::setCellCont(const QString &text, int &counter, int row, int
         line.setAttribute(QStringLiteral("spans"), QStringLiteral("1:%1").arg(titles));
         line.setAttribute(QStringLiteral("x14ac:dyDescent"), QLatin1String(SheetWriter::descent));
         sheetData.appendChild(line);
+        m_greatestRow = std::max(m_greatestRow, row);
     }
     QDomElement cell = document.createElement(QStringLiteral("c"));
     cell.setAttribute(QStringLiteral("r"), SheetWriter::columnLetter(column) + QString::number(row));

@@ -107,7 +107,7 @@ bool XLSXDataEngine::praserSheetXml(const QString &folder, const QStringList &sh
 {
     if (!m_document)
         return false;
-    const OpenSheets sheets(folder, sharedStrings, m_findings);
+    const OpenSheets sheets(withSlash(folder), sharedStrings, m_findings);
     return planimport::importBook(*m_document, sheets.book(), &m_findings);
 }
 
@@ -143,11 +143,8 @@ bool XLSXDataEngine::parseStylesXml(const QString &folder)
 {
     m_dateFormats.clear();
     QList<QPair<int, QString>> codes;
-    const bool isRead =
-        xlsx::readNumberFormats(xlsx::readPart(folder + (folder.endsWith(QLatin1Char('/')) ? "" : "/") +
-                                                   QLatin1String("xl/styles.xml"),
-                                               nullptr),
-                                codes);
+    const bool isRead = xlsx::readNumberFormats(
+        xlsx::readPart(withSlash(folder) + QLatin1String("xl/styles.xml"), nullptr), codes);
     for (const auto &[id, code] : qAsConst(codes)) {
         const QString format = parseFormatType(code);
         if (!format.isEmpty())

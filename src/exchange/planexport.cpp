@@ -127,8 +127,11 @@ std::vector<Value> valuesOfTitles()
     std::vector<Value> values;
     for (const Sheet sheet :
          {exceltitles::TaskSheet, exceltitles::ResourceSheet, exceltitles::AssignmentSheet}) {
-        for (const int field : fieldsOf(sheet))
-            values.push_back(valueOf(sheet, field));
+        for (const int field : fieldsOf(sheet)) {
+            const columntypes::ColumnType *column = columntypes::find(field);
+            const bool isWork = sheet == exceltitles::TaskSheet && column && column->kind == Kind::Work;
+            values.push_back(isWork ? Value::Work : valueOf(sheet, field));
+        }
     }
     return values;
 }

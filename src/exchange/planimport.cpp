@@ -2,7 +2,6 @@
 #include "exchange/resourcesheets.h"
 #include "exchange/tasksheet.h"
 #include "model/kwdocument.h"
-#include "model/outline.h"
 #include "resources/kwtaskinfo_cost.h"
 #include "resources/resource.h"
 #include "resources/resourceinfodata.h"
@@ -46,14 +45,9 @@ void showTitledColumns(RowColumnData &table)
 void replaceTasks(KWDocument &document, TaskSheet &sheet)
 {
     document.clearTaskInfoList();
-    outline::LevelBuilder builder;
     const QList<KWTaskInfo *> tasks = sheet.takeTasks();
-    for (KWTaskInfo *task : tasks) {
-        builder.add(*task);
+    for (KWTaskInfo *task : tasks)
         document.appendTaskInfoList(task);
-    }
-    for (int pos = 0; pos < tasks.size(); ++pos)
-        tasks[pos]->Milestone = sheet.isMilestone(pos) && !tasks[pos]->isParent();
 
     RowColumnData &table = *document.rowColumnData();
     table.setRowHeights({});
@@ -101,7 +95,6 @@ public:
             m_sheet.reportRow(row.row, text("there is no task ") + row.task, text("left out"));
             return;
         }
-        // Workbooks repeat the assignments below a summary for the summary.
         if (task->isParent())
             return;
         Resource &resource = assigned(*task, row);
@@ -183,6 +176,11 @@ bool importBook(KWDocument &document, const Book &book, Findings *findings)
         isUsed[sheet] =
             book.sheets[sheet] && readers[sheet]->read(*book.sheets[sheet]) && readers[sheet]->isKnown();
         setTitles(Sheet(sheet), readers[sheet]->titles());
+        if (sheet == exceltitles::TaskSheet && isUsed[sheet]) {
+            tasks.arrange();
+            // Workbooks repeat the assignments below a summary for the summary.
+            assignments.leaveOut(tasks.summaryNames());
+        }
     }
     if (tasks.hasBlankTitles()) {
         if (findings)
@@ -213,12 +211,14 @@ bool importSheet(KWDocument &document, Sheet sheet, Source &source, bool is1904,
     sheetrows::Reader *const readers[] = {&tasks, &resources, &assignments};
     if (!readers[sheet]->read(source) || !readers[sheet]->isKnown())
         return false;
-    if (sheet == exceltitles::TaskSheet)
+    if (sheet == exceltitles::TaskSheet) {
+        tasks.arrange();
         replaceTasks(document, tasks);
-    else if (sheet == exceltitles::ResourceSheet)
+    } else if (sheet == exceltitles::ResourceSheet) {
         replaceResources(*document.resourceInfoData(), resources);
-    else
+    } else {
         addAssignments(document, assignments);
+    }
     finish(document);
     return true;
 }

@@ -3,6 +3,7 @@
 #include "exchange/tasksheet.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/duration.h"
+#include <algorithm>
 #include <limits>
 
 using sheetrows::Cell;
@@ -180,8 +181,21 @@ int AssignmentSheet::fieldOf(const QString &title) const
     return keyOf(ExcelTitles::s_workAssignNames, title, assignmentKeys);
 }
 
+bool AssignmentSheet::isLeftOut(const QString &task)
+{
+    if (!task.isSharedWith(m_lastTask)) {
+        m_lastTask = task;
+        m_isLastLeftOut = m_leftOut.contains(task.trimmed());
+    }
+    return m_isLastLeftOut;
+}
+
 void AssignmentSheet::addRow(int row, const std::vector<KnownCell> &cells)
 {
+    if (std::any_of(cells.begin(), cells.end(), [this](const KnownCell &known) {
+            return known.field == TaskName && isLeftOut(known.cell->asText());
+        }))
+        return;
     Assignment assignment;
     assignment.row = row;
     for (const KnownCell &known : cells) {
@@ -206,7 +220,7 @@ void AssignmentSheet::addRow(int row, const std::vector<KnownCell> &cells)
             break;
         }
     }
-    m_assignments.push_back(assignment);
+    m_assignments.push_back(std::move(assignment));
 }
 
 AssignmentSheet::Amount AssignmentSheet::amountOf(int row, const Cell &cell, int field)

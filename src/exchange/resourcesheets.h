@@ -56,6 +56,8 @@ public:
     explicit AssignmentSheet(Findings *findings);
     ~AssignmentSheet() override;
 
+    // Before reading: the rows of tasks with these names, trimmed, say nothing.
+    void leaveOut(const QSet<QString> &tasks) { m_leftOut = tasks; }
     const std::vector<Assignment> &assignments() const { return m_assignments; }
     void reportRow(int row, const QString &what, const QString &instead) const;
 
@@ -71,9 +73,13 @@ private:
         unsigned int unit = 0;
     };
     Amount amountOf(int row, const sheetrows::Cell &cell, int field);
+    bool isLeftOut(const QString &task);
 
     cellvalues::UnitNames m_unitNames;
     std::vector<Assignment> m_assignments;
     QHash<QString, Amount> m_amounts[2][2]; // of work and of units, each from texts and from numbers
+    QSet<QString> m_leftOut;
+    QString m_lastTask; // its rows follow each other
+    bool m_isLastLeftOut = false;
 };
 }

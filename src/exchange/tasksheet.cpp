@@ -1,6 +1,7 @@
 #include "exchange/tasksheet.h"
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
+#include "model/outline.h"
 #include "schedule/duration.h"
 #include "schedule/kwtaskcollection.h"
 #include "schedule/worktime.h"
@@ -352,10 +353,57 @@ void TaskSheet::complete(Staged &staged)
 
 // ---- What comes of it -------------------------------------------------------------------------------------
 
-QList<KWTaskInfo *> TaskSheet::takeTasks()
+void TaskSheet::arrange()
 {
     std::stable_sort(m_tasks.begin(), m_tasks.end(),
                      [](const Staged &a, const Staged &b) { return a.row < b.row; });
+    outline::LevelBuilder builder;
+    for (Staged &staged : m_tasks)
+        builder.add(*staged.task);
+    for (Staged &staged : m_tasks)
+        staged.task->Milestone = staged.takesNoTime && !staged.task->isParent();
+    endWithMilestones();
+}
+
+// A summary may end with a milestone at the beginning of a day, where no finish is: as a finish that moment
+// is the end of the day before, or moved behind days off. Such a summary takes over what its subtask has.
+void TaskSheet::endWithMilestones()
+{
+    constexpr int secsPerMinute = 60;
+    constexpr bool start = false;
+    QHash<quint32, Staged *> summaries;
+    for (Staged &staged : m_tasks) {
+        const KWTaskInfo &task = *staged.task;
+        if (!task.isParent() || staged.finish.shownSecs == 0)
+            continue;
+        const QDateTime shown = KWTaskInfo::showDateTime(&m_document, task.Finish, start);
+        if (shown.toSecsSinceEpoch() / secsPerMinute != staged.finish.shownSecs / secsPerMinute)
+            summaries.insert(task.ID, &staged);
+    }
+    // Subtasks stand below their summaries.
+    for (auto staged = m_tasks.rbegin(); staged != m_tasks.rend() && !summaries.isEmpty(); ++staged) {
+        Staged *const summary = summaries.value(staged->task->ParentID);
+        if (!summary || summary->finish.shownSecs != staged->finish.shownSecs)
+            continue;
+        KWTaskInfo &task = *summary->task;
+        task.Finish = staged->task->Finish;
+        task.DurationSecs =
+            KWTaskInfo::durationSecs(&m_document, task.Start, task.Finish, task.DurationUnits);
+    }
+}
+
+QSet<QString> TaskSheet::summaryNames() const
+{
+    QSet<QString> names;
+    for (const Staged &staged : m_tasks) {
+        if (staged.task->isParent() && !staged.task->Name.isEmpty())
+            names.insert(staged.task->Name.trimmed());
+    }
+    return names;
+}
+
+QList<KWTaskInfo *> TaskSheet::takeTasks()
+{
     QList<KWTaskInfo *> tasks;
     tasks.reserve(int(m_tasks.size()));
     for (Staged &staged : m_tasks)

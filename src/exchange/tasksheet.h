@@ -52,14 +52,16 @@ public:
     TaskSheet(KWDocument &document, bool is1904, Findings *findings);
     ~TaskSheet() override;
 
-    // Hands the tasks over, in the order of their rows; only once, after reading.
+    // After reading, once: puts the tasks in the order of their rows and gives them their places in the
+    // outline.
+    void arrange();
+    QSet<QString> summaryNames() const; // trimmed
+    // Hands the tasks over; only once.
     QList<KWTaskInfo *> takeTasks();
     // The links between the tasks that were handed over: by ID, without those to rows that hold no task.
     QList<KWTaskLink> links() const;
     // Tells of the links that could not be made.
     void reportRefused(const QList<KWTaskLink> &links) const;
-    // Whether the sheet says that the task takes no time.
-    bool isMilestone(int pos) const { return m_tasks[std::size_t(pos)].takesNoTime; }
 
 protected:
     int fieldOf(const QString &title) const override;
@@ -92,6 +94,7 @@ private:
     void readTags(const sheetrows::Cell &cell, Staged &staged);
     void readNumber(const sheetrows::KnownCell &known, Staged &staged);
     void complete(Staged &staged);
+    void endWithMilestones();
     void readMoment(const sheetrows::KnownCell &known, MomentUse use, Staged &staged);
     Moment momentOf(const sheetrows::Cell &cell, MomentUse use, int row);
     quint32 stored(const QDateTime &shown, MomentUse use) const;

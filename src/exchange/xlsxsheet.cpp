@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <charconv>
 
 using sheetrows::Cell;
 using sheetrows::Row;
@@ -19,10 +20,11 @@ bool isDigit(char c)
 }
 
 // The number that a row gives itself; the one after the row before for all other texts.
-int rowNumberOf(const QByteArray &text, int before)
+int rowNumberOf(std::string_view text, int before)
 {
-    bool isNumber = false;
-    const int number = text.toInt(&isNumber);
+    int number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool isNumber = error == std::errc() && end == text.data() + text.size();
     return isNumber && number > 0 ? number : before + 1;
 }
 
@@ -78,18 +80,18 @@ struct NumberedName
 };
 }
 
-int columnOf(const char *reference, int size)
+int columnOf(std::string_view reference)
 {
     constexpr int maxLetters = 2;
     constexpr int letters = 26;
     int column = 0;
     int count = 0;
-    for (const char *at = reference; at != reference + size; ++at) {
-        if (isDigit(*at))
+    for (const char sign : reference) {
+        if (isDigit(sign))
             continue;
-        if (*at < 'A' || *at > 'Z' || ++count > maxLetters)
+        if (sign < 'A' || sign > 'Z' || ++count > maxLetters)
             return 0;
-        column = column * letters + (*at - 'A' + 1);
+        column = column * letters + (sign - 'A' + 1);
     }
     return column;
 }
@@ -113,30 +115,48 @@ QByteArray readPart(const QString &path, QString *error)
     return XmlPull::toUtf8(file.readAll());
 }
 
+namespace {
+
+const QLatin1String escapeMark("_x00");
+constexpr int escapeLength = 7;         // _x000D_
+constexpr int escapedUnderscore = 0x5f; // before what only looks like an escape
+
+// The character that an escape at this place stands for; -1 when there is none.
+int escapedAt(const QString &text, int at)
+{
+    constexpr int firstPrintable = 0x20;
+    const QStringRef part = text.midRef(at, escapeLength);
+    if (part.size() < escapeLength || !part.startsWith(escapeMark) || !part.endsWith(QLatin1Char('_')))
+        return -1;
+    bool isNumber = false;
+    const int code = part.mid(2, 4).toUShort(&isNumber, 16);
+    return isNumber && (code < firstPrintable || code == escapedUnderscore) ? code : -1;
+}
+}
+
 QString withoutEscapes(const QString &text)
 {
-    constexpr int escapeLength = 7; // _x000D_
-    const QLatin1String mark("_x00");
-    int at = text.indexOf(mark);
+    int at = text.indexOf(escapeMark);
     if (at < 0)
         return text;
     QString plain = text.left(at);
     while (at < text.size()) {
-        bool isNumber = false;
-        const QStringRef part = text.midRef(at, escapeLength);
-        const ushort code = part.startsWith(mark) && part.endsWith(QLatin1Char('_'))
-                                ? part.mid(2, 4).toUShort(&isNumber, 16)
-                                : 0;
-        constexpr ushort escapedUnderscore = 0x5f; // before what only looks like an escape
-        constexpr ushort firstPrintable = 0x20;
-        if (isNumber && part.size() == escapeLength && (code < firstPrintable || code == escapedUnderscore)) {
-            plain += QChar(code);
-            at += escapeLength;
-        } else {
-            plain += text.at(at++);
-        }
+        const int code = escapedAt(text, at);
+        plain += code < 0 ? text.at(at) : QChar(code);
+        at += code < 0 ? 1 : escapeLength;
     }
     return xmlguard::clean(plain);
+}
+
+QString withEscapes(const QString &text)
+{
+    QString escaped = text;
+    for (int at = text.lastIndexOf(escapeMark); at >= 0;
+         at = at > 0 ? text.lastIndexOf(escapeMark, at - 1) : -1) {
+        if (escapedAt(text, at) >= 0)
+            escaped.replace(at, 1, QLatin1String("_x005F_"));
+    }
+    return escaped;
 }
 
 bool readSharedStrings(const QByteArray &part, QStringList &strings, QString *error)
@@ -207,11 +227,11 @@ QStringList sheetFiles(const QString &folder)
 
 // ---- Cells ------------------------------------------------------------------------------------------------
 
-CellKind CellKind::of(const QByteArray &typeAttribute)
+CellKind CellKind::of(std::string_view typeAttribute)
 {
     if (typeAttribute == "s")
         return {Shared};
-    if (typeAttribute.isEmpty() || typeAttribute == "n")
+    if (typeAttribute.empty() || typeAttribute == "n")
         return {Number};
     return {typeAttribute == "d" ? Date : Text};
 }
@@ -270,10 +290,9 @@ bool SheetSource::next(Row &row)
 void SheetSource::readCell(Row &row)
 {
     const int cellDepth = m_xml.depth();
-    const QByteArray reference = m_xml.rawAttribute("r");
-    const bool isPlaced = m_xml.hasAttribute("r");
+    const std::string_view reference = m_xml.rawAttribute("r");
     const CellKind kind = CellKind::of(m_xml.rawAttribute("t"));
-    const int column = isPlaced ? columnOf(reference.constData(), reference.size()) : m_column + 1;
+    const int column = reference.data() ? columnOf(reference) : m_column + 1;
     if (column > 0)
         m_column = column;
 
@@ -328,6 +347,11 @@ QString SheetSource::readInlineText()
 
 namespace {
 
+std::string_view view(const QByteArray &bytes)
+{
+    return std::string_view(bytes.constData(), std::size_t(bytes.size()));
+}
+
 QString localName(const QDomNode &node)
 {
     const QString name = node.nodeName();
@@ -366,16 +390,15 @@ bool DomSheetSource::next(Row &row)
     if (m_next >= m_rows.count())
         return false;
     const QDomElement rowElement = m_rows.at(m_next++).toElement();
-    m_rowNumber = row.number = rowNumberOf(rowElement.attribute(QStringLiteral("r")).toLatin1(), m_rowNumber);
+    const QByteArray number = rowElement.attribute(QStringLiteral("r")).toLatin1();
+    m_rowNumber = row.number = rowNumberOf(view(number), m_rowNumber);
     int before = 0;
     for (QDomElement cell = rowElement.firstChildElement(); !cell.isNull();
          cell = cell.nextSiblingElement()) {
         if (localName(cell) != QLatin1String("c"))
             continue;
         const QByteArray reference = cell.attribute(QStringLiteral("r")).toUtf8();
-        const int column = cell.hasAttribute(QStringLiteral("r"))
-                               ? columnOf(reference.constData(), reference.size())
-                               : before + 1;
+        const int column = cell.hasAttribute(QStringLiteral("r")) ? columnOf(view(reference)) : before + 1;
         if (column < 1)
             continue;
         before = column;
@@ -384,7 +407,8 @@ bool DomSheetSource::next(Row &row)
         if (!inlineString.isNull())
             row.cells.push_back({column, withoutEscapes(inlineTextOf(inlineString)), false});
         else if (!value.isNull())
-            row.cells.push_back(cellOf(column, CellKind::of(cell.attribute(QStringLiteral("t")).toLatin1()),
+            row.cells.push_back(cellOf(column,
+                                       CellKind::of(view(cell.attribute(QStringLiteral("t")).toLatin1())),
                                        value.text(), m_strings));
     }
     return true;

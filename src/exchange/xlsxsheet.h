@@ -10,7 +10,7 @@ namespace xlsx {
 
 // The column of a cell reference such as "AB12", from 1. 0 for less than one or more than two letters and for
 // other characters than capital letters and digits.
-int columnOf(const char *reference, int size);
+int columnOf(std::string_view reference);
 
 // Reads a part's bytes as UTF-8; nothing for a file that cannot be read or is larger than a part may be.
 QByteArray readPart(const QString &path, QString *error);
@@ -25,12 +25,14 @@ bool readNumberFormats(const QByteArray &part, QList<QPair<int, QString>> &forma
 QStringList sheetFiles(const QString &folder);
 // A control character that a program has written as "_x000D_" becomes itself.
 QString withoutEscapes(const QString &text);
+// Makes of what only looks like one a text that reads back as it is.
+QString withEscapes(const QString &text);
 
 // What a cell says of itself, before its text is known.
 struct CellKind
 {
     enum Type { Shared, Text, Number, Date } type = Number;
-    static CellKind of(const QByteArray &typeAttribute);
+    static CellKind of(std::string_view typeAttribute);
 };
 // The text of a cell by its kind and the content of its "v" element.
 sheetrows::Cell cellOf(int column, CellKind kind, const QString &value, const QStringList &strings);

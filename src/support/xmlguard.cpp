@@ -197,14 +197,18 @@ bool isXmlChar(const QString &text, int i, int &units)
 }
 }
 
-bool xmlguard::isSafe(const QByteArray &text, QString *error)
+bool xmlguard::isSoundText(const QByteArray &text, QString *error)
 {
     const int badByte = firstBadByte(text);
-    if (badByte >= 0) {
-        if (error)
-            *error = QStringLiteral("byte %1: no sound UTF-8").arg(badByte);
+    if (badByte >= 0 && error)
+        *error = QStringLiteral("byte %1: no sound UTF-8").arg(badByte);
+    return badByte < 0;
+}
+
+bool xmlguard::isSafe(const QByteArray &text, QString *error)
+{
+    if (!isSoundText(text, error))
         return false;
-    }
     Scan scan(text);
     if (scan.run())
         return true;

@@ -13,6 +13,8 @@ namespace xmlguard {
 // decoded as UTF-8, since an encoding named in the text could show the parser other characters than those
 // seen here.
 bool isSafe(const QByteArray &text, QString *error = nullptr);
+// The part of it that looks at the characters alone.
+bool isSoundText(const QByteArray &text, QString *error = nullptr);
 // The text without what XML 1.0 cannot carry: control characters but tab, newline and return, U+FFFE, U+FFFF
 // and lone surrogates. Unchanged (shared) when there is nothing to remove.
 QString clean(const QString &text);

@@ -83,22 +83,18 @@ bool isPlain(const char *at, const char *end)
     return std::all_of(at, end, [](char c) { return c != '&' && uchar(c) >= 0x20; });
 }
 
-QString toText(const char *at, int size, bool isCharacterData)
+QString toText(std::string_view text, bool isCharacterData)
 {
-    const char *const end = at + size;
-    return isPlain(at, end) ? QString::fromUtf8(at, size)
-                            : xmlguard::clean(decoded(at, end, isCharacterData));
-}
-}
-
-bool XmlPull::Slice::operator==(const char *text) const
-{
-    return std::strncmp(data, text, std::size_t(size)) == 0 && text[size] == '\0';
+    const char *const begin = text.data();
+    const char *const end = begin + text.size();
+    return isPlain(begin, end) ? QString::fromUtf8(begin, int(text.size()))
+                               : xmlguard::clean(decoded(begin, end, isCharacterData));
 }
 
-bool XmlPull::Slice::operator==(const Slice &other) const
+std::string_view view(const char *begin, const char *end)
 {
-    return size == other.size && std::memcmp(data, other.data, std::size_t(size)) == 0;
+    return std::string_view(begin, std::size_t(end - begin));
+}
 }
 
 XmlPull::XmlPull(const QByteArray &utf8)
@@ -106,13 +102,13 @@ XmlPull::XmlPull(const QByteArray &utf8)
     , m_at(m_bytes.constData())
     , m_end(m_at + m_bytes.size())
 {
-    m_hasFailed = !xmlguard::isSafe(m_bytes, &m_error);
+    m_hasFailed = !xmlguard::isSoundText(m_bytes, &m_error);
 }
 
-XmlPull::Token XmlPull::fail()
+XmlPull::Token XmlPull::fail(const char *what)
 {
     m_hasFailed = true;
-    m_error = QStringLiteral("byte %1: no sound XML").arg(m_at - m_bytes.constData());
+    m_error = QStringLiteral("byte %1: %2").arg(m_at - m_bytes.constData()).arg(QLatin1String(what));
     return Failed;
 }
 
@@ -151,7 +147,7 @@ XmlPull::Token XmlPull::next()
             const char *const begin = m_at;
             m_at = next ? next : m_end;
             if (!m_open.empty()) {
-                m_text = {begin, int(m_at - begin)};
+                m_text = view(begin, m_at);
                 m_isCharacterData = false;
                 return Text;
             }
@@ -170,9 +166,11 @@ XmlPull::Token XmlPull::next()
             const char *const begin = m_at;
             if (m_open.empty() || !skipPast("]]>"))
                 return fail();
-            m_text = {begin, int(m_at - begin) - 3};
+            m_text = view(begin, m_at - 3);
             m_isCharacterData = true;
             return Text;
+        } else if (startsWith("<!")) {
+            return fail("a document type declaration is not accepted");
         } else {
             return m_at + 1 != m_end && m_at[1] == '/' ? endTag() : beginTag();
         }
@@ -189,57 +187,66 @@ XmlPull::Token XmlPull::beginTag()
     const char *const begin = m_at + 1;
     const char *at = begin;
     const char *prefixEnd = nullptr;
-    for (; at != m_end && *at != '>' && *at != '/' && !isBlank(*at); ++at) {
+    for (; at != m_end && *at != '>' && *at != '/' && *at != '<' && !isBlank(*at); ++at) {
         if (*at == ':')
             prefixEnd = at + 1;
     }
     if (at == begin || at == m_end)
         return fail();
-    const Slice full{begin, int(at - begin)};
-    m_name = prefixEnd ? Slice{prefixEnd, int(at - prefixEnd)} : full;
+    const std::string_view full = view(begin, at);
+    m_name = prefixEnd ? view(prefixEnd, at) : full;
     m_at = at;
     m_attributes.clear();
-    if (!readAttributes(m_end))
+    if (!readAttributes())
         return fail();
+    if (m_open.size() == std::size_t(xmlguard::maxDepth))
+        return fail("elements are nested too deep");
     m_open.push_back(full);
     return Begin;
 }
 
 // Up to the end of the tag.
-bool XmlPull::readAttributes(const char *end)
+bool XmlPull::readAttributes()
 {
-    while (true) {
-        m_at = skipBlanks(m_at, end);
-        if (m_at == end)
-            return false;
-        if (*m_at == '>') {
-            ++m_at;
-            return true;
+    constexpr std::size_t most = 1000; // more than any format has
+    const char *at = m_at;
+    bool isSound = false;
+    while (m_attributes.size() < most) {
+        at = skipBlanks(at, m_end);
+        if (at == m_end)
+            break;
+        if (*at == '>') {
+            ++at;
+            isSound = true;
+            break;
         }
-        if (*m_at == '/') {
+        if (*at == '/') {
             m_closesAtOnce = true;
-            ++m_at;
-            if (m_at == end || *m_at != '>')
-                return false;
+            ++at;
+            if (at == m_end || *at != '>')
+                break;
             continue;
         }
-        const char *const begin = m_at;
-        while (m_at != end && *m_at != '=' && *m_at != '>' && *m_at != '/' && !isBlank(*m_at))
-            ++m_at;
-        const Slice name{begin, int(m_at - begin)};
-        m_at = skipBlanks(m_at, end);
-        if (name.size == 0 || m_at == end || *m_at != '=')
-            return false;
-        m_at = skipBlanks(m_at + 1, end);
-        if (m_at == end || (*m_at != '"' && *m_at != '\''))
-            return false;
-        const auto *close =
-            static_cast<const char *>(std::memchr(m_at + 1, *m_at, std::size_t(end - m_at - 1)));
-        if (!close)
-            return false;
-        m_attributes.push_back({name, {m_at + 1, int(close - m_at - 1)}});
-        m_at = close + 1;
+        const char *const begin = at;
+        while (at != m_end && *at != '=' && *at != '>' && *at != '/' && *at != '<' && !isBlank(*at))
+            ++at;
+        const std::string_view name = view(begin, at);
+        at = skipBlanks(at, m_end);
+        if (name.empty() || at == m_end || *at != '=')
+            break;
+        at = skipBlanks(at + 1, m_end);
+        if (at == m_end || (*at != '"' && *at != '\''))
+            break;
+        const char *close = at + 1;
+        while (close != m_end && *close != *at && *close != '<')
+            ++close;
+        if (close == m_end || *close == '<')
+            break;
+        m_attributes.push_back({name, view(at + 1, close)});
+        at = close + 1;
     }
+    m_at = at;
+    return isSound;
 }
 
 XmlPull::Token XmlPull::endTag()
@@ -251,40 +258,25 @@ XmlPull::Token XmlPull::endTag()
     const char *end = close;
     while (end != begin && isBlank(end[-1]))
         --end;
-    const Slice full{begin, int(end - begin)};
-    if (!(full == m_open.back()))
+    const std::string_view full = view(begin, end);
+    if (full != m_open.back())
         return fail();
-    const auto *colon = static_cast<const char *>(std::memchr(begin, ':', std::size_t(end - begin)));
-    m_name = colon ? Slice{colon + 1, int(end - colon - 1)} : full;
+    const std::size_t colon = full.rfind(':');
+    m_name = colon == full.npos ? full : full.substr(colon + 1);
     m_at = close + 1;
     m_popsOnNext = true;
     return End;
 }
 
-const XmlPull::Attribute *XmlPull::find(const char *name) const
+QString XmlPull::attribute(std::string_view name) const
 {
-    for (const Attribute &attribute : m_attributes) {
-        if (attribute.name == name)
-            return &attribute;
-    }
-    return nullptr;
-}
-
-QString XmlPull::attribute(const char *name) const
-{
-    const Attribute *found = find(name);
-    return found ? toText(found->value.data, found->value.size, false) : QString();
-}
-
-QByteArray XmlPull::rawAttribute(const char *name) const
-{
-    const Attribute *found = find(name);
-    return found ? QByteArray::fromRawData(found->value.data, found->value.size) : QByteArray();
+    const std::string_view raw = rawAttribute(name);
+    return raw.data() ? toText(raw, false) : QString();
 }
 
 QString XmlPull::text() const
 {
-    return toText(m_text.data, m_text.size, m_isCharacterData);
+    return toText(m_text, m_isCharacterData);
 }
 
 bool XmlPull::skip()

@@ -1,14 +1,15 @@
 #pragma once
 #include <QByteArray>
 #include <QString>
+#include <string_view>
 #include <vector>
 
 // Reads XML text from its first element to its last without building anything, for parts too large for a
 // tree.
 //
-// Names of elements come without their prefix. Takes what xmlguard takes; tags that do not match, a second
-// root and attributes that are none end the reading. Entities other than those of XML itself stay as they are
-// written.
+// Names of elements come without their prefix. Refuses what xmlguard refuses, but takes any number of
+// elements, since none is kept; tags that do not match, a second root and attributes that are none end the
+// reading, too. Entities other than those of XML itself stay as they are written.
 class XmlPull
 {
 public:
@@ -20,14 +21,20 @@ public:
     Token next();
     QString error() const { return m_error; } // why it failed; empty when it did not
     // ---- At Begin and End ---------------------------------------------------------------------------------
-    bool is(const char *name) const { return m_name == name; }
+    bool is(std::string_view name) const { return m_name == name; }
     // Open elements, this one included.
     int depth() const { return int(m_open.size()); }
     // ---- At Begin -----------------------------------------------------------------------------------------
-    bool hasAttribute(const char *name) const { return find(name) != nullptr; }
-    QString attribute(const char *name) const; // empty when there is none
-    // As it stands in the text, entities and all, for short values.
-    QByteArray rawAttribute(const char *name) const;
+    QString attribute(std::string_view name) const; // empty when there is none
+    // As it stands in the text, entities and all, for short values; its data are null when there is none.
+    std::string_view rawAttribute(std::string_view name) const
+    {
+        for (const Attribute &each : m_attributes) {
+            if (each.name == name)
+                return each.value;
+        }
+        return {};
+    }
     // ---- At Text ------------------------------------------------------------------------------------------
     QString text() const; // without the characters that XML cannot carry
     // Goes on to the end of the element that has begun; false when the text fails.
@@ -41,34 +48,26 @@ public:
     static QByteArray toUtf8(const QByteArray &bytes);
 
 private:
-    struct Slice
-    {
-        const char *data = nullptr;
-        int size = 0;
-        bool operator==(const char *text) const;
-        bool operator==(const Slice &other) const;
-    };
     struct Attribute
     {
-        Slice name;
-        Slice value;
+        std::string_view name;
+        std::string_view value;
     };
-    Token fail();
+    Token fail(const char *what = "no sound XML");
     Token beginTag();
     Token endTag();
-    bool readAttributes(const char *end);
-    const Attribute *find(const char *name) const;
+    bool readAttributes();
     bool startsWith(const char *mark) const;
     bool skipPast(const char *mark);
 
     QByteArray m_bytes;
     const char *m_at;
     const char *const m_end;
-    std::vector<Slice> m_open; // names with their prefixes
+    std::vector<std::string_view> m_open; // names with their prefixes
     std::vector<Attribute> m_attributes;
     QString m_error;
-    Slice m_name;
-    Slice m_text;
+    std::string_view m_name;
+    std::string_view m_text;
     bool m_isCharacterData = false;
     bool m_closesAtOnce = false; // an empty element has begun
     bool m_popsOnNext = false;   // an element has ended

@@ -4,7 +4,7 @@
 #include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "support/project.h"
-#include "table/columntypes.h"
+#include "support/workbooktitles.h"
 #include <gtest/gtest.h>
 
 namespace {
@@ -35,44 +35,20 @@ private:
     std::string m_text;
 };
 
-// Titles are "T0".. for tasks, "R0".. for resources, "A0".. for assignments.
 class PlanExport : public testing::Test
 {
 protected:
-    PlanExport()
-    {
-        for (int type = 0; type < columntypes::count; ++type)
-            RowColumnData::s_columnNames.insert(type, QStringLiteral("T%1").arg(type));
-        for (int key = 0; key < 10; ++key)
-            ExcelTitles::s_resourcNames.insert(key, QStringLiteral("R%1").arg(key));
-        for (int key = 0; key < 5; ++key)
-            ExcelTitles::s_workAssignNames.insert(key, QStringLiteral("A%1").arg(key));
-        ResourceInfoData::s_typeItems = {{0, "work"}, {1, "material"}};
-    }
-    ~PlanExport() override
-    {
-        for (const Sheet sheet :
-             {exceltitles::TaskSheet, exceltitles::ResourceSheet, exceltitles::AssignmentSheet})
-            ExcelTitles::clearExcelTitles(exceltitles::workbookTitles(sheet));
-        RowColumnData::s_columnNames.clear();
-        ResourceInfoData::s_typeItems.clear();
-        ExcelTitles::s_resourcNames.clear();
-        ExcelTitles::s_workAssignNames.clear();
-        DataFormat::s_deftCurrencyFmt = QStringLiteral("%1");
-    }
+    ~PlanExport() override { DataFormat::s_deftCurrencyFmt = QStringLiteral("%1"); }
     static std::string sheet(KWDocument &document, Sheet which, const char *titles, bool values = false,
                              int maxRows = 1000)
     {
-        QList<ExcelData *> &list = exceltitles::workbookTitles(which);
-        ExcelTitles::clearExcelTitles(list);
-        for (const QString &title : QString(titles).split(' ', Qt::SkipEmptyParts)) {
-            list.append(new ExcelData);
-            list.last()->name = title;
-        }
+        WorkbookTitles::choose(which, titles);
         TextSink sink;
         const bool isWhole = planexport::Rows(document).write(which, sink, maxRows, values);
         return sink.text() + (isWhole ? "" : "cut\n");
     }
+
+    const WorkbookTitles m_titles;
 };
 
 TEST_F(PlanExport, WritesHiddenRowsAndCountsPredecessorsByWrittenRow)

@@ -2,9 +2,6 @@
 #include "exchange/planexport.h"
 #include "resources/resource.h"
 #include "resources/resourceinfodata.h"
-#include "schedule/kwcalendar.h"
-#include "schedule/kwtaskcollection.h"
-#include "schedule/randomplan.h"
 #include "support/gridbook.h"
 #include "support/kwclock.h"
 #include "support/project.h"
@@ -276,102 +273,5 @@ TEST_F(PlanImport, ReadsResourcesAndAssignments)
               "assignment sheet, row 8, 'Units': 'inf' is no amount; left out\n"
               "assignment sheet, row 6: there is no resource Zoe; assigned without a rate\n"
               "assignment sheet, row 7: there is no task Nobody; left out\n");
-}
-
-// Keeps the rows that an export writes, as an import reads them.
-class Sheet : public planexport::RowSink, public sheetrows::Source
-{
-public:
-    void begin(int, int) override {}
-    void row(int number, int, const std::vector<planexport::Cell> &cells) override
-    {
-        sheetrows::Row row;
-        row.number = number;
-        for (const planexport::Cell &cell : cells) {
-            const bool isNumber = cell.value != planexport::Value::None;
-            row.cells.push_back({int(row.cells.size()) + 1,
-                                 isNumber ? QString::number(cell.number, 'g', 17) : cell.text, isNumber});
-            m_text += (row.cells.size() > 1 ? "|" : "") + cell.text.toStdString();
-        }
-        m_text += '\n';
-        m_rows.push_back(row);
-    }
-    bool next(sheetrows::Row &row) override
-    {
-        if (m_next == m_rows.size())
-            return false;
-        row = m_rows[m_next++];
-        return true;
-    }
-    const std::string &text() const { return m_text; }
-
-private:
-    std::vector<sheetrows::Row> m_rows;
-    std::size_t m_next = 0;
-    std::string m_text;
-};
-
-void assignAtRandom(KWDocument &plan, std::mt19937 &random)
-{
-    for (int i = 0; i < 4; ++i) {
-        auto *info = new ResourceInfo;
-        info->ID = i + 1;
-        info->name = QStringLiteral("R%1").arg(i);
-        info->type = i / 3;
-        info->cost = randomplan::between(random, 0, 100);
-        info->costUnit = randomplan::between(random, 0, 4);
-        info->costPer = 2.5;
-        plan.resourceInfoData()->appendResourceInfo(info);
-    }
-    for (KWTaskInfo *task : plan.taskList()) {
-        task->Name = QStringLiteral("T%1").arg(task->ID.value());
-        task->setPercent(randomplan::between(random, 0, 8) / 8.0);
-        for (int i = randomplan::between(random, 0, 2); i > 0 && !task->isParent(); --i) {
-            task->addOrDelResourceByName(&plan, QStringLiteral("R%1").arg(randomplan::between(random, 0, 3)),
-                                         true);
-            task->resourceList.last()->percent = randomplan::between(random, 1, 8) / 4.0;
-        }
-        task->updateCostAndWork(&plan);
-    }
-    for (int i = 0; i < plan.taskCount(); ++i)
-        plan.taskCollection()->taskDependTask(
-            plan.getTaskInfoAt(randomplan::between(random, 0, plan.taskCount() - 1)),
-            plan.getTaskInfoAt(randomplan::between(random, 0, plan.taskCount() - 1)));
-    plan.updateDependTask(false); // in the order of the IDs, as an import leaves the links
-}
-
-// A plan goes to a workbook and comes back as the same plan, from texts as from values.
-TEST_F(PlanImport, TakesBackWhatAnExportWrites)
-{
-    std::mt19937 random(5);
-    for (int sheet = 0; sheet < exceltitles::SheetCount; ++sheet) {
-        const QMap<int, QString> &titles = sheet == 0   ? RowColumnData::s_columnNames
-                                           : sheet == 1 ? ExcelTitles::s_resourcNames
-                                                        : ExcelTitles::s_workAssignNames;
-        for (const QString &title : titles)
-            exceltitles::workbookTitles(exceltitles::Sheet(sheet)).append(new ExcelData{0, -1, title});
-    }
-    for (int round = 0; round < 60; ++round) {
-        const bool withValues = round % 2 == 1;
-        std::unique_ptr<KWDocument> plan = randomplan::plan(random, 12, 4);
-        assignAtRandom(*plan, random);
-        std::string texts[2];
-        for (std::string &text : texts) {
-            const planexport::Rows rows(text.empty() && &text == texts ? *plan : *document);
-            Sheet sheets[exceltitles::SheetCount];
-            for (int sheet = 0; sheet < exceltitles::SheetCount; ++sheet) {
-                rows.write(exceltitles::Sheet(sheet), sheets[sheet], 1000, withValues);
-                text += sheets[sheet].text();
-            }
-            if (&text == texts) {
-                document = std::make_unique<KWDocument>();
-                for (KWCalendar *calendar : qAsConst(plan->calendars))
-                    document->calendars.append(new KWCalendar(*calendar));
-                ASSERT_TRUE(planimport::importBook(*document, {{&sheets[0], &sheets[1], &sheets[2]}, false},
-                                                   nullptr));
-            }
-        }
-        ASSERT_EQ(texts[0], texts[1]) << "round " << round;
-    }
 }
 }

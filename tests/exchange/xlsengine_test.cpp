@@ -9,59 +9,29 @@
 #include "support/folder.h"
 #include "support/project.h"
 #include "support/rawbiff.h"
-#include "table/columntypes.h"
+#include "support/workbooktitles.h"
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-using exceltitles::Sheet;
 using YExcel::BasicExcel;
 using YExcel::BasicExcelWorksheet;
 
-// Titles are "T0".. for tasks, "R0".. for resources, "A0".. for assignments.
 class XlsEngine : public testing::Test
 {
 protected:
     XlsEngine()
     {
-        for (int type = 0; type < columntypes::count; ++type)
-            RowColumnData::s_columnNames.insert(type, QStringLiteral("T%1").arg(type));
-        for (int key = 0; key < 10; ++key)
-            ExcelTitles::s_resourcNames.insert(key, QStringLiteral("R%1").arg(key));
-        for (int key = 0; key < 5; ++key)
-            ExcelTitles::s_workAssignNames.insert(key, QStringLiteral("A%1").arg(key));
         // As new sheets are named.
         XLSXDataBase::s_xmlNameList = QStringList{"Sheet2", "Sheet1", "Sheet3"};
         setTitles("T0 T1 T23 T24", "R0 R1 R2", "A0 A1 A2 A3 A4");
     }
-    ~XlsEngine() override
-    {
-        setTitles("", "", "");
-        RowColumnData::s_columnNames.clear();
-        ExcelTitles::s_resourcNames.clear();
-        ExcelTitles::s_workAssignNames.clear();
-        XLSXDataBase::s_xmlNameList.clear();
-    }
     static void setTitles(const QString &tasks, const QString &resources, const QString &assignments)
     {
-        int sheet = 0;
-        for (const QString &titles : {tasks, resources, assignments}) {
-            QList<ExcelData *> &list = exceltitles::workbookTitles(Sheet(sheet++));
-            ExcelTitles::clearExcelTitles(list);
-            for (const QString &title : titles.split(' ', Qt::SkipEmptyParts)) {
-                list.append(new ExcelData);
-                list.last()->name = title;
-            }
-        }
-    }
-    static void assign(Project &p, const char *task, const char *resource)
-    {
-        auto *info = new ResourceInfo;
-        info->ID = p.document().resourceInfoData()->maxID();
-        info->name = resource;
-        p.document().resourceInfoData()->appendResourceInfo(info);
-        p.task(task).addOrDelResourceByName(&p.document(), resource, true);
+        WorkbookTitles::choose(exceltitles::TaskSheet, tasks);
+        WorkbookTitles::choose(exceltitles::ResourceSheet, resources);
+        WorkbookTitles::choose(exceltitles::AssignmentSheet, assignments);
     }
     QString file() const { return m_folder.path() + "/plän.xls"; }
     std::string written() const
@@ -69,6 +39,7 @@ protected:
         return QString::fromStdString(rawbiff::textOf(folder::get(file()))).replace('"', '\'').toStdString();
     }
 
+    const WorkbookTitles m_titles;
     QTemporaryDir m_folder;
 };
 
@@ -78,7 +49,7 @@ constexpr char week[] = "Mon-Fri 8-12 13-17, start 2024-06-03";
 TEST_F(XlsEngine, WritesTheRowsOfAPlanAsTexts)
 {
     Project p(week, plan);
-    assign(p, "Walls", "Ann");
+    p.assign("Walls", "Ann");
     XLSDataEngine engine(&p.document());
     ASSERT_TRUE(engine.exportData(file()));
     EXPECT_TRUE(engine.findings().isEmpty());
@@ -244,7 +215,7 @@ TEST_F(XlsEngine, BringsBackTheSamePlan)
     Project p(
         week,
         "House\n  Walls 2d\n  Roof 4h 50% after Walls\n  Ready milestone after Roof\n任务 3d after Ready\n");
-    assign(p, "Walls", "Ann");
+    p.assign("Walls", "Ann");
     setTitles("T24 T23 T5 T4 T3 T2 T1 T0", "R0 R1 R2", "A0 A1 A2 A3 A4");
     ASSERT_TRUE(XLSDataEngine(&p.document()).exportData(file()));
     const QByteArray before = folder::get(file());

@@ -1,5 +1,6 @@
 #include "support/project.h"
 #include "model/outline.h"
+#include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
 #include "table/rowcolumndata.h"
@@ -215,6 +216,15 @@ bool Project::link(const char *predecessor, const char *successor)
     const bool made = m_document->taskCollection()->taskDependTask(&task(predecessor), &task(successor));
     schedule();
     return made;
+}
+
+void Project::assign(const char *taskName, const char *resource)
+{
+    auto *info = new ResourceInfo;
+    info->ID = m_document->resourceInfoData()->maxID();
+    info->name = QString::fromUtf8(resource);
+    m_document->resourceInfoData()->appendResourceInfo(info);
+    task(taskName).addOrDelResourceByName(m_document.get(), info->name, true);
 }
 
 void Project::schedule()

@@ -49,6 +49,8 @@ public:
     Row rowOf(const char *name) { return Row(*this, task(name)); }
     // Links two tasks and schedules; whether the link was made.
     bool link(const char *predecessor, const char *successor);
+    // Assigns a new entry of the resource sheet to a task.
+    void assign(const char *task, const char *resource);
     // Pushes, rolls dates and percents up, and works out late dates and the chart.
     void schedule();
 
