@@ -6,27 +6,97 @@
 
 namespace {
 
-// Calls visit(member, sequence) for each member that is packed: the table decides the order in both
-// directions.
-template <typename Visitor>
-void forEachPacked(Visitor &&visit)
+// The packed members in their order: integers, doubles, strings. Behind the strings stands the font's text.
+constexpr auto packingOrder =
+    std::make_tuple(&KWTaskInfo::Priority, &KWTaskInfo::Progress, &KWTaskInfo::Start, &KWTaskInfo::Finish,
+                    &KWTaskInfo::LateStart, &KWTaskInfo::LateFinish, &KWTaskInfo::BaseStart,
+                    &KWTaskInfo::BaseFinish, &KWTaskInfo::DurationSecs, &KWTaskInfo::DurationUnits,
+                    &KWTaskInfo::Milestone, &KWTaskInfo::IsToggler, &KWTaskInfo::Level, &KWTaskInfo::ParentID,
+                    &KWTaskInfo::HideID, &KWTaskInfo::CriticalPath, &KWTaskInfo::CriticalVisible,
+
+                    &KWTaskInfo::Percent, &KWTaskInfo::Work, &KWTaskInfo::Cost, &KWTaskInfo::RemainingCost,
+                    &KWTaskInfo::CountWidth, &KWTaskInfo::FirstWidth, &KWTaskInfo::x1, &KWTaskInfo::y1,
+                    &KWTaskInfo::x2, &KWTaskInfo::y2,
+
+                    &KWTaskInfo::Name, &KWTaskInfo::Resources, &KWTaskInfo::EarlySlack,
+                    &KWTaskInfo::LateSlack, &KWTaskInfo::BaselineCost, &KWTaskInfo::Notes);
+
+// The sequence in which a member is packed.
+constexpr auto sequenceOf(QString KWTaskInfo::*)
 {
-    fields::forEach(fields::taskFields, fields::Copy, [&visit](const auto &row) {
-        using Member = std::decay_t<decltype(row.member)>;
-        if constexpr (std::is_same_v<Member, QString KWTaskInfo::*>) {
-            visit(row.member, &UndoItemData::strings);
-        } else if constexpr (std::is_same_v<Member, double KWTaskInfo::*>) {
-            visit(row.member, &UndoItemData::doubles);
-        } else if constexpr (std::is_same_v<Member, TrackedField<quint32> KWTaskInfo::*>) {
-            if (row.member != &KWTaskInfo::ID) // stands by itself
-                visit(row.member, &UndoItemData::integers);
-        } else if constexpr (!std::is_same_v<Member, QList<quint32> KWTaskInfo::*>) {
-            visit(row.member, &UndoItemData::integers);
-        }
-    });
+    return &UndoItemData::strings;
 }
 
-// The values of one kind as one after the other.
+constexpr auto sequenceOf(double KWTaskInfo::*)
+{
+    return &UndoItemData::doubles;
+}
+
+template <typename Value>
+constexpr auto sequenceOf(Value KWTaskInfo::*)
+{
+    return &UndoItemData::integers;
+}
+
+template <typename Visitor>
+constexpr void forEachPacked(Visitor &&visit)
+{
+    std::apply([&visit](auto... members) { (visit(members, sequenceOf(members)), ...); }, packingOrder);
+}
+
+// How many members are packed in a sequence.
+template <typename Sequence>
+constexpr int countIn(Sequence)
+{
+    int count = 0;
+    forEachPacked([&count](auto, auto sequence) { count += std::is_same_v<decltype(sequence), Sequence>; });
+    return count;
+}
+
+constexpr int integerCount = countIn(&UndoItemData::integers);
+constexpr int doubleCount = countIn(&UndoItemData::doubles);
+constexpr int stringCount = countIn(&UndoItemData::strings) + 1;
+
+// ---- No saved member is forgotten -------------------------------------------------------------------------
+
+// ID and lists stand by themselves.
+template <typename Value>
+constexpr bool standsByItself(Value KWTaskInfo::*member)
+{
+    if constexpr (std::is_same_v<Value, TrackedField<quint32>>)
+        return member == &KWTaskInfo::ID;
+    else
+        return std::is_same_v<Value, QList<quint32>>;
+}
+
+template <typename Member>
+constexpr int placesOf(Member wanted)
+{
+    int places = 0;
+    forEachPacked([&](auto member, auto) {
+        if constexpr (std::is_same_v<decltype(member), Member>)
+            places += member == wanted;
+    });
+    return places;
+}
+
+constexpr bool packsEveryField()
+{
+    bool isComplete = true;
+    int fieldCount = 0;
+    fields::forEach(fields::taskFields, fields::Copy, [&](const auto &row) {
+        const int wanted = standsByItself(row.member) ? 0 : 1;
+        isComplete = isComplete && placesOf(row.member) == wanted;
+        fieldCount += wanted;
+    });
+    return isComplete && fieldCount == std::tuple_size_v<decltype(packingOrder)>;
+}
+
+static_assert(packsEveryField(), "a member of the table of task fields is missing, doubled or unknown there");
+
+// ---- One value --------------------------------------------------------------------------------------------
+
+// As one of a sequence.
 template <typename Stored, typename Value>
 Stored packed(const Value &value)
 {
@@ -36,21 +106,14 @@ Stored packed(const Value &value)
         return value;
 }
 
-bool fits(const UndoItemData &item)
+// A text has not all of a font: the object counts while it is the one that the text is of.
+QFont fontOf(const UndoItemData &item)
 {
-    int integers = 0;
-    int doubles = 0;
-    int strings = 0;
-    forEachPacked([&](auto, auto sequence) {
-        if constexpr (std::is_same_v<decltype(sequence), QStringList UndoItemData::*>)
-            ++strings;
-        else if constexpr (std::is_same_v<decltype(sequence), QVector<double> UndoItemData::*>)
-            ++doubles;
-        else
-            ++integers;
-    });
-    return item.integers.size() == integers && item.doubles.size() == doubles &&
-           item.strings.size() == strings;
+    if (item.font.toString() == item.strings.last())
+        return item.font;
+    QFont font = item.font;
+    font.fromString(item.strings.last());
+    return font;
 }
 }
 
@@ -66,6 +129,7 @@ void KWTaskInfo::getUndoVal(UndoItemData *item) const
         auto &values = item->*sequence;
         values.append(packed<std::decay_t<decltype(values.first())>>(this->*member));
     });
+    item->strings.append(font.toString());
     item->font = font;
     item->hyperlinks.assign(hyperlinks);
     item->Depends = Depends;
@@ -75,7 +139,8 @@ void KWTaskInfo::getUndoVal(UndoItemData *item) const
 
 void KWTaskInfo::setUndoVal(const UndoItemData *item)
 {
-    if (!item || !fits(*item))
+    if (!item || item->integers.size() != integerCount || item->doubles.size() != doubleCount ||
+        item->strings.size() != stringCount)
         return;
     ID = item->ID;
     auto integer = item->integers.begin();
@@ -90,7 +155,7 @@ void KWTaskInfo::setUndoVal(const UndoItemData *item)
         else
             this->*member = static_cast<Value>(*integer++);
     });
-    font = item->font;
+    font = fontOf(*item);
     hyperlinks.assign(item->hyperlinks);
     Depends = item->Depends;
     Predecessors = item->Predecessors;

@@ -12,7 +12,7 @@
 
 // What an undoable edit keeps of the state it replaces. All of them are plain values: a copy is independent.
 
-// One task's values, packed by kind in the order of the table of task fields.
+// One task's values, packed by kind; kwtaskinfo_undo.cpp holds the order.
 class KWGANTT_EXPORT UndoItemData
 {
 public:
@@ -20,8 +20,8 @@ public:
     double rowHeight = 0;     // pixels at 96 dpi
     QVector<qint32> integers; // unsigned ones bit for bit
     QVector<double> doubles;
-    QStringList strings;
-    QFont font;
+    QStringList strings; // the last one is the font's text
+    QFont font;          // with what its text leaves out
     KWHyperlinkSheet hyperlinks;
     QList<quint32> Depends;
     QList<quint32> Predecessors;

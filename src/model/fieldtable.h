@@ -35,7 +35,7 @@ constexpr Field<Record, Value> field(const char *name, Value Record::*member, un
 
 // Calls visit(field) for every row that has all bits of `uses`, in the order of the table.
 template <typename Table, typename Visitor>
-void forEach(const Table &table, unsigned int uses, Visitor &&visit)
+constexpr void forEach(const Table &table, unsigned int uses, Visitor &&visit)
 {
     std::apply([&](const auto &...rows) { (void(((rows.uses & uses) == uses) ? (visit(rows), 0) : 0), ...); },
                table);
