@@ -4,6 +4,7 @@
 #include "support/xmlguard.h"
 #include <QDomDocument>
 #include <QFile>
+#include <climits>
 
 namespace {
 
@@ -22,10 +23,10 @@ struct Setting
 };
 
 constexpr Setting settings[] = {
-    {"UndoLevel", "60", 1, 10000},     // steps kept
-    {"AutoSaveElapse", "10", 0, 1440}, // minutes between autosaves; 0 = none
-    {"RecentFileNum", "10", 0, 100},   // files listed
-    {"DateFormat", "yyyy-MM-dd"},      {"TimeFormat", "hh:mm"}, {"CurrencyUnit", ""}, {"Language", "en"},
+    {"UndoLevel", "60", INT_MIN, 10000}, // steps kept; one even when it is less
+    {"AutoSaveElapse", "10", 0, 1440},   // minutes between autosaves; 0 = none
+    {"RecentFileNum", "10", 0, 100},     // files listed
+    {"DateFormat", "yyyy-MM-dd"},        {"TimeFormat", "hh:mm"}, {"CurrencyUnit", ""}, {"Language", "en"},
 };
 
 const Setting *settingOf(const QString &name)

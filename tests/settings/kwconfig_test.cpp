@@ -63,7 +63,7 @@ TEST_F(Config, keepsOnlyValuesThatFit)
 {
     m_config.setValue(utf8("UndoLevel"), 20);
     for (const QVariant &wrong :
-         {QVariant(0), QVariant(-1), QVariant(10001), QVariant(utf8("many")), QVariant(),
+         {QVariant(10001), QVariant(utf8("many")), QVariant(),
           QVariant(std::numeric_limits<double>::quiet_NaN()), QVariant(Q_INT64_C(4294967356))})
         m_config.setValue(utf8("UndoLevel"), wrong);
     m_config.setValue(utf8("Language"), QString(2000, QLatin1Char('x')));
