@@ -1,6 +1,8 @@
 #include "editing/sheetbackup.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "resources/kwtaskinfo_cost.h"
+#include "resources/names.h"
 #include <QHash>
 #include <algorithm>
 #include <map>
@@ -151,8 +153,16 @@ void insertAssignments(KWTaskInfo &task, const std::vector<const UndoResource *>
     }
 }
 
+bool hasNewNames(const Entries &backups, const Entries &current)
+{
+    return !std::equal(backups.begin(), backups.end(), current.begin(),
+                       [](const auto &a, const auto &b) { return a.info.name == b.info.name; });
+}
+
 void restoreAssignments(KWDocument &document, const Entries &backups, const Entries &current)
 {
+    // With the name of an entry the texts change, but for those that are somebody's own.
+    const bool isRenaming = hasNewNames(backups, current);
     std::map<quint32, TaskChange> changes;
     for (const UndoDocResourceItem &item : current) {
         for (const UndoResource &resource : item.resources)
@@ -163,14 +173,27 @@ void restoreAssignments(KWDocument &document, const Entries &backups, const Entr
             changes[resource.taskID].inserted.push_back(&resource);
     }
     const auto byPlace = [](const UndoResource *a, const UndoResource *b) { return a->index < b->index; };
+    std::vector<KWTaskInfo *> renamed;
     for (auto &[id, change] : changes) {
         KWTaskInfo *task = document.getTaskInfoByID(id);
         if (!task)
             continue;
         std::stable_sort(change.removed.begin(), change.removed.end(), byPlace);
         std::stable_sort(change.inserted.begin(), change.inserted.end(), byPlace);
+        const bool tellsThem =
+            isRenaming && !task->isParent() && task->Resources == names::ofAssignments(*task);
         removeAssignments(*task, change.removed);
         insertAssignments(*task, change.inserted);
+        const QString text = names::ofAssignments(*task);
+        if (tellsThem && task->Resources != text) {
+            task->Resources = text;
+            renamed.push_back(task);
+        }
+    }
+    const outline::Tasks tasks{document.taskList(), document.taskIndex()};
+    for (KWTaskInfo *summary : outline::withAncestors(tasks, renamed)) {
+        if (summary->isParent())
+            CostPass::joinNames(*summary, outline::descendants(tasks, *summary));
     }
 }
 }

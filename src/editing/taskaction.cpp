@@ -1,6 +1,7 @@
 #include "editing/taskaction.h"
 #include "editing/actionmanager.h"
 #include "editing/optionbackup.h"
+#include "editing/renamebackup.h"
 #include "editing/sheetbackup.h"
 #include "editing/tasksnapshot.h"
 #include "model/kwdocument.h"
@@ -24,7 +25,7 @@ struct TaskAction::Backups
     std::optional<QVector<UndoColData>> columns;
     sheetbackup::Entries entries;
     std::optional<sheetbackup::Sheet> sheet;
-    std::vector<UndoEditResourceName> names;
+    renamebackup::Names names;
 };
 
 namespace {
@@ -253,10 +254,7 @@ TaskAction::Backups TaskAction::now() const
         current.sheet =
             sheetbackup::Sheet{sheetbackup::infosOf(document), document.actionManager().takeSnapshot()};
     }
-    for (const UndoEditResourceName &backup : m_backups->names) {
-        const ResourceInfo *info = sheetbackup::find(*document.resourceInfoData(), backup.ID, backup.index);
-        current.names.push_back({backup.ID, backup.index, info ? info->name : backup.name});
-    }
+    current.names = renamebackup::now(document, m_backups->names);
     return current;
 }
 
@@ -288,18 +286,6 @@ void restoreAllTasks(KWDocument &document, const TaskSnapshot &backup, const Tas
     if (active)
         collection.setTaskInfoActive(document.getTaskInfoByID(activeId));
 }
-
-void restoreNames(KWDocument &document, const std::vector<UndoEditResourceName> &backups,
-                  const std::vector<UndoEditResourceName> &current, bool withAssignments)
-{
-    for (std::size_t i = 0; i < backups.size(); ++i) {
-        const UndoEditResourceName &backup = backups[i];
-        if (ResourceInfo *info = sheetbackup::find(*document.resourceInfoData(), backup.ID, backup.index))
-            info->name = backup.name;
-        if (withAssignments && current[i].name != backup.name)
-            document.replaceTaskResourceName(current[i].name, backup.name);
-    }
-}
 }
 
 void TaskAction::restore(const Backups &backups, const Backups &current)
@@ -317,29 +303,47 @@ void TaskAction::restore(const Backups &backups, const Backups &current)
     // Every task has its own assignments back already; else the sheet's come first, and those of single
     // tasks, which are exact, last.
     const bool withTasks = !backups.allTasks;
-    if (backups.sheet)
-        sheetbackup::restore(document, *backups.sheet, *current.sheet, withTasks);
-    else
-        sheetbackup::restore(document, backups.entries, current.entries, withTasks);
-    const bool renamesAssignments = withTasks && !backups.sheet && backups.entries.empty();
-    restoreNames(document, backups.names, current.names, renamesAssignments);
+    restoreSheet(backups, current, withTasks);
     if (withTasks) {
-        for (const UndoTaskResources &backup : backups.assignments) {
-            KWTaskInfo *task = document.getTaskInfoByID(backup.taskID);
-            if (!task)
-                continue;
-            task->clearResources();
-            for (const Resource &resource : backup.resources)
-                task->resourceList.append(new Resource(resource));
-        }
-        for (const UndoItemData &backup : backups.tasks) {
-            if (KWTaskInfo *task = document.getTaskInfoByID(backup.ID)) {
-                task->setUndoVal(&backup);
-                document.rowColumnData()->setUndoRowVal(&backup);
-            }
-        }
+        restoreSingleTasks(backups);
     } else {
         document.actionManager().setSnapshot(*backups.allTasks);
         document.taskCollection()->updateRageAndTaskPoint();
+    }
+}
+
+void TaskAction::restoreSheet(const Backups &backups, const Backups &current, bool withAssignments)
+{
+    KWDocument &document = *this->document();
+    if (backups.sheet) {
+        sheetbackup::restore(document, *backups.sheet, *current.sheet, withAssignments);
+        renamebackup::restore(document, backups.names);
+        return;
+    }
+    const renamebackup::Assignments renamed(document, current.names, backups.names, backups.entries);
+    if (withAssignments)
+        renamed.setAside();
+    sheetbackup::restore(document, backups.entries, current.entries, withAssignments);
+    renamebackup::restore(document, backups.names);
+    if (withAssignments)
+        renamed.giveBack();
+}
+
+void TaskAction::restoreSingleTasks(const Backups &backups)
+{
+    KWDocument &document = *this->document();
+    for (const UndoTaskResources &backup : backups.assignments) {
+        KWTaskInfo *task = document.getTaskInfoByID(backup.taskID);
+        if (!task)
+            continue;
+        task->clearResources();
+        for (const Resource &resource : backup.resources)
+            task->resourceList.append(new Resource(resource));
+    }
+    for (const UndoItemData &backup : backups.tasks) {
+        if (KWTaskInfo *task = document.getTaskInfoByID(backup.ID)) {
+            task->setUndoVal(&backup);
+            document.rowColumnData()->setUndoRowVal(&backup);
+        }
     }
 }

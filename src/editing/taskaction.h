@@ -30,10 +30,10 @@ public:
     // Every task with all that belongs to it. An action that has this leaves single tasks aside.
     void backupAllTaskData();
     void backupAllColData();
-    void addDocResource(ResourceInfo *info); // one entry of the sheet with its assignments
-    void backupAllDocResources();            // the whole sheet and every task's assignments
-    void addEditTaskResourceName(ResourceInfo *info);
-    void backupAllOption(); // calendars, working time, options
+    void addDocResource(ResourceInfo *info);          // one entry of the sheet with its assignments
+    void backupAllDocResources();                     // the whole sheet and every task's assignments
+    void addEditTaskResourceName(ResourceInfo *info); // the assignments follow the name
+    void backupAllOption();                           // calendars, working time, options
 
     // The assignments of an entry's name on all tasks, in document order; appended.
     void getAllContainResrourceTask(const ResourceInfo *info, QVector<UndoResource> &assignments) const;
@@ -50,6 +50,8 @@ private:
     Backups now() const;
     void addSingleTasks(Backups &current) const;
     void restore(const Backups &backups, const Backups &current);
+    void restoreSheet(const Backups &backups, const Backups &current, bool withAssignments);
+    void restoreSingleTasks(const Backups &backups);
 
     unsigned int m_type;
     std::unique_ptr<Backups> m_backups;

@@ -353,12 +353,17 @@ void TaskSnapshot::restoreAssignments(KWDocument &document, const TaskSnapshot &
     for (const auto &block : m_blocks) {
         for (const auto &copy : *block) {
             const int pos = index.posOf(copy->task.ID);
-            if (pos >= 0 && restored.add(copy->task.ID) && places.copyAt(pos) != copy.get())
-                setAssignments(copy->task.resourceList, *document.getTaskInfoAt(pos));
+            if (pos < 0 || !restored.add(copy->task.ID) || places.copyAt(pos) == copy.get())
+                continue;
+            KWTaskInfo &task = *document.getTaskInfoAt(pos);
+            setAssignments(copy->task.resourceList, task);
+            task.Resources = copy->task.Resources;
         }
     }
     for (KWTaskInfo *task : document.taskList()) {
-        if (!restored.contains(task->ID))
-            task->clearResources();
+        if (restored.contains(task->ID))
+            continue;
+        task->clearResources();
+        task->Resources.clear();
     }
 }

@@ -20,7 +20,8 @@ public:
     // Brings the document from `now`, which is how it stands, to this state. A task that is in both, by its
     // ID, keeps its record; others are made or deleted. The chart is left to the caller.
     void restore(KWDocument &document, const TaskSnapshot &now) const;
-    // The assignments alone, of the tasks that are in the document; those that are not in here get none.
+    // The assignments and their names text alone, of the tasks that are in the document; those that are not
+    // in here get none.
     void restoreAssignments(KWDocument &document, const TaskSnapshot &now) const;
 
 private:

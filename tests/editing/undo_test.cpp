@@ -87,6 +87,15 @@ TEST_F(Undo, stacksKeepTheirOrderAndTheirDepth)
     EXPECT_TRUE(actions.redoActions().isEmpty());
     actions.redo();
     EXPECT_EQ(actions.undoActions().size(), 2);
+
+    // Less than one counts as one.
+    for (const int level : {0, -5}) {
+        KWDocument other;
+        KWDocument::s_config.setValue(QStringLiteral("UndoLevel"), level);
+        other.actionManager().addUndoAction(new Traced("f", trace), clearRedo);
+        other.actionManager().addUndoAction(new Traced("g", trace), clearRedo);
+        EXPECT_EQ(other.actionManager().undoActionNames().join(QString()), QStringLiteral("g"));
+    }
 }
 
 TEST_F(Undo, recordsOneActionAtATime)
@@ -137,7 +146,7 @@ protected:
             RowColumnData::s_columnNames.insert(type, QStringLiteral("Column ") + QString::number(type));
         KWDocument &document = m_project.document();
         document.rowColumnData()->initColumnDataList();
-        for (const char *name : {"Ann", "Bob"}) {
+        for (const char *name : {"Ann", "Bob", "Eve"}) {
             auto *info = new ResourceInfo;
             info->name = QString::fromUtf8(name);
             info->ID = document.resourceInfoData()->maxID();
@@ -193,6 +202,13 @@ void recordAnn(KWDocument &document)
 {
     if (!document.resourceInfoData()->infos.isEmpty())
         ActionManager::addDocResource(&ann(document));
+}
+
+void renameTo(KWDocument &document, int entry, const char *name)
+{
+    ResourceInfo &info = *document.resourceInfoData()->infos[entry];
+    document.replaceTaskResourceName(info.name, QString::fromUtf8(name));
+    info.name = QString::fromUtf8(name);
 }
 
 void recordSheet(KWDocument &)
@@ -272,16 +288,35 @@ INSTANTIATE_TEST_SUITE_P(
                      for (int pos = 0; pos < 3; ++pos) // their costs and texts change
                          ActionManager::addChangeTaskInfo(document.getTaskInfoAt(pos));
                  },
-                 [](KWDocument &document) {
-                     document.replaceTaskResourceName(ann(document).name, QStringLiteral("Bob"));
-                     ann(document).name = QStringLiteral("Bob");
-                 }},
+                 [](KWDocument &document) { renameTo(document, 0, "Bob"); }},
         EditCase{"aRename",
                  [](KWDocument &document) { ActionManager::addEditTaskResourceName(&ann(document)); },
+                 [](KWDocument &document) { renameTo(document, 0, "Anna"); }},
+        EditCase{"aRenameWithRatesOfThatEntry",
                  [](KWDocument &document) {
-                     document.replaceTaskResourceName(ann(document).name, QStringLiteral("Anna"));
-                     ann(document).name = QStringLiteral("Anna");
+                     recordAnn(document);
+                     ActionManager::addEditTaskResourceName(&ann(document));
+                 },
+                 [](KWDocument &document) { renameTo(document, 0, "Anna"); }},
+        EditCase{"namesThatChangePlacesWithRatesOfAnother",
+                 [](KWDocument &document) {
+                     ActionManager::addDocResource(document.resourceInfoData()->infos[2]);
+                     ActionManager::addChangeTaskInfo(document.getTaskInfoAt(3)); // its own text goes
+                     for (const int entry : {0, 1})
+                         ActionManager::addEditTaskResourceName(document.resourceInfoData()->infos[entry]);
+                 },
+                 [](KWDocument &document) {
+                     document.resourceInfoData()->infos[2]->cost = 99;
+                     renameTo(document, 0, "Nobody");
+                     renameTo(document, 1, "Ann");
+                     renameTo(document, 0, "Bob");
                  }},
+        EditCase{"aRenameWithTheSheet",
+                 [](KWDocument &document) {
+                     recordSheet(document);
+                     ActionManager::addEditTaskResourceName(&ann(document));
+                 },
+                 [](KWDocument &document) { renameTo(document, 0, "Anna"); }},
         EditCase{"theSheet", recordSheet,
                  [](KWDocument &document) {
                      document.resourceInfoData()->clearResourceInfoData();
