@@ -1,5 +1,6 @@
 #include "editing/pastednames.h"
 #include "model/kwtaskinfo.h"
+#include "support/kwlimits.h"
 #include <QHash>
 #include <QSet>
 #include <QStringView>
@@ -8,8 +9,6 @@
 namespace pasted {
 
 namespace {
-
-constexpr int maxOnes = 1000;
 
 // A name without the ones at its end, and how many they are.
 struct Stem

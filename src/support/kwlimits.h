@@ -1,8 +1,9 @@
 #pragma once
 #include <QtGlobal>
 
-// How much a file may hold that somebody hands us; more is an attack or no document of ours. A project of
-// 100,000 tasks with two assignments each has 96 MB of XML and 6 million elements and attributes.
+// How much a file or the clipboard may hold that somebody hands us; more is an attack or no document of ours.
+// A project of 100,000 tasks with two assignments each has 96 MB of XML and 6 million elements and
+// attributes.
 
 namespace kwzip {
 
@@ -20,4 +21,18 @@ namespace xmlguard {
 constexpr int maxDepth = 100;              // of elements in each other
 constexpr int maxNodes = 20000000;         // elements, attributes, comments and the like
 constexpr qint64 maxDomBytes = 64LL << 20; // where a DOM is made of it, twenty times as large
+}
+
+namespace clipboardxml {
+
+constexpr qint64 maxBytes = kwzip::maxEntryBytes;
+constexpr int maxTasks = 1000000;
+}
+
+namespace pasted {
+
+// Behind the name of a pasted task, to make it different. A thousand tasks of one name would have names of a
+// thousand digits, and a million would not fit into memory: from there on a number takes the place of the
+// ones.
+constexpr int maxOnes = 1000;
 }
