@@ -298,13 +298,23 @@ bool cutBranches(Edit &edit)
            (edit.document.clipbdManager().cut(rows) || edit.refuse(t("the tasks cannot be cut")));
 }
 
+bool isPasted(Edit &edit, bool isDone)
+{
+    return isDone || edit.refuse(t("nothing to paste"), t("copy or cut tasks first"));
+}
+
 bool paste(Edit &edit)
 {
     const int row = edit.tasks.isEmpty() ? -1 : rowOf(edit, edit.tasks.first());
     if (!edit.tasks.isEmpty() && row < 0)
         return false;
-    return edit.document.clipbdManager().paste(row) ||
-           edit.refuse(t("nothing to paste"), t("copy or cut tasks first"));
+    return isPasted(edit, edit.document.clipbdManager().paste(row));
+}
+
+bool pasteUnder(Edit &edit)
+{
+    const int row = rowOf(edit, edit.tasks.first());
+    return row >= 0 && isPasted(edit, edit.document.clipbdManager().pasteUnder(row));
 }
 
 // ---- The table --------------------------------------------------------------------------------------------
@@ -386,6 +396,8 @@ constexpr Verb verbs[] = {
     {"cut", SomeTasks, 0, 0, AllTasks, cutBranches, "TASK...", "the same, and removes them"},
     {"paste", MaybeTask, 0, 0, AllTasks | Columns, paste, "[TASK]",
      "above TASK, or at the end, with new IDs and names"},
+    {"paste under", OneTask, 0, 0, AllTasks | Columns, pasteUnder, "TASK",
+     "the same as the last tasks below TASK; hidden when it is collapsed"},
     {"undo", NoTask, 0, 1, Nothing, undo, "[N]", "takes the last N edits back, of the 60 that are kept"},
     {"redo", NoTask, 0, 1, Nothing, redo, "[N]", "makes them again"},
 };

@@ -239,6 +239,11 @@ const Option optionTable[] = {
          o.before = v;
          return !v.isEmpty();
      }},
+    {"under", "", "TASK", Copying,
+     [](Options &o, const QString &v) {
+         o.under = v;
+         return !v.isEmpty();
+     }},
     {"script", "", "FILE", Editing,
      [](Options &o, const QString &v) {
          o.script = v;
@@ -372,6 +377,8 @@ bool checkTogether(const Options &options, Fault &fault)
         return fail(fault, t("-i writes the plan itself; it goes with neither -o nor --csv, --json or --to"));
     if (options.inPlace && options.dryRun)
         return fail(fault, t("-i and --dry-run exclude each other"));
+    if (!options.before.isEmpty() && !options.under.isEmpty())
+        return fail(fault, t("--before and --under exclude each other"));
     return true;
 }
 

@@ -55,6 +55,7 @@ struct Options
     bool sample = false;
     bool richSheets = false; // workbooks with typed cells, widths and groups
     QString before;          // the task that a branch is copied above
+    QString under;           // the task that it is copied below, as its last children
 
     // Scheduling.
     bool dryRun = false;

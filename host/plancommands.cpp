@@ -190,6 +190,8 @@ int copyBranch(Console &console)
     QStringList paste{QStringLiteral("paste")};
     if (!options.before.isEmpty())
         paste.append(options.before);
+    else if (!options.under.isEmpty())
+        paste += {QStringLiteral("under"), options.under};
     const int count = into.taskCount();
     if (!runEdits(console, into, {paste}))
         return Console::WrongUse;

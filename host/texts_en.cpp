@@ -161,7 +161,8 @@ The baseline remembers dates and costs, of all tasks or of TASK with what is bel
 Each TASK goes with all that is below it. The copies get new IDs and, where a name is taken, new names; links
 among them stay. Assignments stay behind: they belong to the other plan's resource sheet.
 
-  --before TASK    above this task of INTO; at the end otherwise
+  --before TASK    above this task of INTO
+  --under TASK     as the last tasks below this one, expanded or collapsed; without either, at the end
   -i, --in-place   writes the package INTO itself
   -o OUT           writes another file
 )")},

@@ -16,6 +16,7 @@
 #include <QCryptographicHash>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <limits>
 
 namespace {
 
@@ -39,16 +40,6 @@ QByteArray digestOf(const QByteArray &bytes)
 outline::Tasks tasksOf(const KWDocument &document)
 {
     return {document.taskList(), document.taskIndex()};
-}
-
-// From another resource sheet: without assignments the money would have no reason.
-void dropAssignments(KWTaskInfo &task)
-{
-    task.clearResources();
-    task.Resources.clear();
-    task.Cost = 0;
-    task.Work = 0;
-    task.RemainingCost = 0;
 }
 }
 
@@ -132,7 +123,8 @@ bool ClipbdManager::putOnClipboard(QList<quint32> &ids, QList<int> &rows)
     }
     QList<KWTaskInfo *> tasks;
     for (const quint32 id : qAsConst(ids)) {
-        if (KWTaskInfo *task = all.byId(id))
+        KWTaskInfo *task = all.byId(id);
+        if (task && !task->isEmpty()) // which would not be written, and its height go to the next
             tasks.append(task);
     }
     QClipboard *target = clipboard();
@@ -211,6 +203,7 @@ struct ClipbdManager::Place
     int level = 1;
     KWTaskInfo *parent = nullptr; // null: top level
     int child = 0;                // place among the parent's children
+    quint32 hideID = 0;           // what hides them there
 };
 
 ClipbdManager::Place ClipbdManager::placeAt(int row) const
@@ -232,34 +225,58 @@ ClipbdManager::Place ClipbdManager::placeAt(int row) const
     return place;
 }
 
+ClipbdManager::Place ClipbdManager::placeUnder(KWTaskInfo &parent) const
+{
+    Place place;
+    const outline::Tasks tasks = tasksOf(*m_document);
+    place.pos = tasks.index.posOf(parent.ID);
+    for (const KWTaskInfo *below : outline::descendants(tasks, parent))
+        place.pos = qMax(place.pos, tasks.index.posOf(below->ID));
+    ++place.pos;
+    place.level = int(qMin(qint64(parent.Level) + 1, qint64(std::numeric_limits<qint32>::max())));
+    place.parent = &parent;
+    place.child = parent.Childs.size();
+    place.hideID = parent.IsToggler ? parent.ID.value() : 0;
+    return place;
+}
+
 bool ClipbdManager::paste(int row)
 {
-    const QClipboard *source = isReady() ? clipboard() : nullptr;
+    return isReady() && pasteTo(placeAt(row));
+}
+
+bool ClipbdManager::pasteUnder(int row)
+{
+    KWTaskInfo *parent = isReady() ? m_document->getTaskInfoByRow(row) : nullptr;
+    return parent && pasteTo(placeUnder(*parent));
+}
+
+bool ClipbdManager::readClipboard(clipboardxml::Content &content) const
+{
+    const QClipboard *source = clipboard();
     const QMimeData *data = source ? source->mimeData(QClipboard::Clipboard) : nullptr;
     if (!data || !data->hasFormat(mimeType()))
         return false;
     const QByteArray bytes = data->data(mimeType());
-    clipboardxml::Content content;
     QString error;
     if (!content.read(bytes, &error)) {
         RuningLog::log(QLatin1String("Clipboard not read: ") + error);
         return false;
     }
-    const bool isOwn = digestOf(bytes) == m_written;
-    const QList<KWTaskInfo *> tasks = content.takeTasks();
-    for (KWTaskInfo *task : tasks) {
-        if (!isOwn)
-            dropAssignments(*task);
-    }
+    if (digestOf(bytes) != m_written)
+        content.dropAssignments();
+    return true;
+}
 
-    const Place place = placeAt(row);
+// New IDs and levels for the tasks as they go to the place. The top tasks of the branches.
+std::vector<KWTaskInfo *> ClipbdManager::numberBranches(const QList<KWTaskInfo *> &tasks, const Place &place,
+                                                        pasted::Branches &branches) const
+{
     quint32 greatestId = m_document->maxTaskID();
     for (const KWTaskInfo *task : tasks)
         greatestId = qMax(greatestId, task->ID.value());
     pasted::NewIds ids(m_document->taskIndex(), greatestId);
-    pasted::Branches branches(tasks);
     std::vector<KWTaskInfo *> tops;
-    QList<quint32> topIds;
     // Then those that no branch holds, since they are in a ring or their parent does not name them.
     for (const bool isLeftOver : {false, true}) {
         for (int pos = 0; pos < tasks.size(); ++pos) {
@@ -271,32 +288,58 @@ bool ClipbdManager::paste(int row)
             top->Level = place.level;
             branches.number(pos, levels, ids);
             tops.push_back(top);
-            topIds.append(top->ID);
         }
     }
+    return tops;
+}
+
+bool ClipbdManager::pasteTo(const Place &place)
+{
+    clipboardxml::Content content;
+    if (!readClipboard(content))
+        return false;
+    const QList<KWTaskInfo *> tasks = content.takeTasks();
+    pasted::Branches branches(tasks);
+    const std::vector<KWTaskInfo *> tops = numberBranches(tasks, place, branches);
     branches.relink();
     for (KWTaskInfo *task : branches.robbed()) {
         if (!task->isParent())
             task->font.setWeight(QFont::Normal);
+    }
+    for (KWTaskInfo *task : tasks) {
+        if (task->HideID == 0)
+            task->HideID = place.hideID;
     }
 
     content.giveColumns(*m_document->rowColumnData());
     m_document->insertTasks(place.pos, tasks, content.heights());
     std::vector<KWTaskInfo *> changed = branches.robbed();
     if (place.parent) {
-        QList<quint32> &children = place.parent->Childs;
-        children = children.mid(0, place.child) + topIds + children.mid(place.child);
-        for (KWTaskInfo *top : tops) {
-            if (!top->BaselineCost.isEmpty())
-                top->updateParentStrBaseCost(m_document, cost::baselineValue(top->BaselineCost));
-        }
-        // They have the same ancestors.
-        tops.front()->updateParentBaselineStartAndFinish(m_document);
+        joinParent(tops, place);
         changed.push_back(place.parent);
     }
     pasted::makeNamesDifferent(m_document->taskList(), tasks);
     updateSummaries(changed);
     return true;
+}
+
+// The tasks are in the list.
+void ClipbdManager::joinParent(const std::vector<KWTaskInfo *> &tops, const Place &place)
+{
+    QList<quint32> &children = place.parent->Childs;
+    if (children.isEmpty())
+        place.parent->font.setWeight(QFont::Bold);
+    const QList<quint32> after = children.mid(place.child);
+    children = children.mid(0, place.child);
+    for (const KWTaskInfo *top : tops)
+        children.append(top->ID);
+    children += after;
+    for (KWTaskInfo *top : tops) {
+        if (!top->BaselineCost.isEmpty())
+            top->updateParentStrBaseCost(m_document, cost::baselineValue(top->BaselineCost));
+    }
+    // They have the same ancestors.
+    tops.front()->updateParentBaselineStartAndFinish(m_document);
 }
 
 // ---- Steps of pasting -------------------------------------------------------------------------------------

@@ -6,6 +6,12 @@
 
 class KWDocument;
 class KWTaskInfo;
+namespace clipboardxml {
+class Content;
+}
+namespace pasted {
+class Branches;
+}
 
 // Copy, cut and paste of whole task branches through the system clipboard.
 //
@@ -31,6 +37,8 @@ public:
     // Before the task at the row; at the end for a negative row. What this manager has not written itself
     // comes without its assignments: they belong to another resource sheet.
     bool paste(int row);
+    // The same as the last children of the task at the row; below a collapsed one they are hidden.
+    bool pasteUnder(int row);
 
     // ---- What is copied -----------------------------------------------------------------------------------
     // Adds the IDs of the tasks at the rows and of all below them, and puts the tasks on the clipboard.
@@ -59,6 +67,12 @@ private:
     void addTopTask(const KWTaskInfo *task, const Selection &selection);
     bool putOnClipboard(QList<quint32> &ids, QList<int> &rows);
     Place placeAt(int row) const;
+    Place placeUnder(KWTaskInfo &parent) const;
+    bool pasteTo(const Place &place);
+    bool readClipboard(clipboardxml::Content &content) const;
+    std::vector<KWTaskInfo *> numberBranches(const QList<KWTaskInfo *> &tasks, const Place &place,
+                                             pasted::Branches &branches) const;
+    void joinParent(const std::vector<KWTaskInfo *> &tops, const Place &place);
     void updateSummaries(const std::vector<KWTaskInfo *> &changed);
 
     KWDocument *m_document = nullptr;       // not owned; holds this manager by value

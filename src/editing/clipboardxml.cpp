@@ -1,5 +1,6 @@
 #include "editing/clipboardxml.h"
 #include "model/kwdocument_xml.h"
+#include "support/kwlimits.h"
 #include "support/xmlsink.h"
 #include <QBuffer>
 
@@ -72,6 +73,17 @@ bool Content::read(const QByteArray &bytes, QString *error)
             m_heights = tablexml::heights(child.text("RowHeight"));
     }
     return !m_tasks.empty();
+}
+
+void Content::dropAssignments()
+{
+    for (const std::unique_ptr<KWTaskInfo> &task : m_tasks) {
+        task->clearResources();
+        task->Resources.clear();
+        task->Cost = 0;
+        task->Work = 0;
+        task->RemainingCost = 0;
+    }
 }
 
 QList<KWTaskInfo *> Content::takeTasks()

@@ -1,5 +1,4 @@
 #pragma once
-#include "support/kwlimits.h"
 #include "support/xmltree.h"
 #include <QList>
 #include <memory>
@@ -13,9 +12,6 @@ class RowColumnData;
 namespace clipboardxml {
 
 inline constexpr char mimeType[] = "application/vellum-xml";
-// More than that is an attack or no clipboard of ours.
-constexpr qint64 maxBytes = kwzip::maxEntryBytes;
-constexpr int maxTasks = 1000000;
 
 // The tasks belong to the document.
 QByteArray write(const KWDocument &document, const QList<KWTaskInfo *> &tasks);
@@ -27,6 +23,8 @@ public:
     // False for what is too large, no sound XML or no clipboard document, and when there are no tasks.
     bool read(const QByteArray &bytes, QString *error);
 
+    // For another resource sheet: without their assignments the tasks' money would have no reason.
+    void dropAssignments();
     // Hands the tasks to the caller, under the IDs they came with.
     QList<KWTaskInfo *> takeTasks();
     // In the order of the tasks; may be fewer or more.
