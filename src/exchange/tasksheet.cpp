@@ -294,29 +294,32 @@ TaskSheet::Moment TaskSheet::momentOf(const Cell &cell, MomentUse use, int row)
 quint32 TaskSheet::stored(const QDateTime &shown, MomentUse use) const
 {
     constexpr bool hourClock = false;
-    const quint32 shownSecs = worktime::clampSecs(shown.toSecsSinceEpoch());
-    if (use != Finish) {
+    const auto typed = [this](const QDateTime &moment) {
         constexpr bool start = true;
-        const quint32 moved =
-            use == StartAsShown
-                ? shownSecs
-                : KWTaskCollection::moveForwarstartOnDayOff(&m_document, shownSecs, hourClock);
-        const QDateTime typed = QDateTime::fromSecsSinceEpoch(moved);
         return worktime::clampSecs(
-            KWTaskInfo::editTimeTransDayTime(&m_document, typed, start).toSecsSinceEpoch());
+            KWTaskInfo::editTimeTransDayTime(&m_document, moment, start).toSecsSinceEpoch());
+    };
+    if (use == Finish) {
+        // The rule for starts: the one for finishes answers a day early, where the clock may be put forward.
+        const quint32 finish =
+            endsItsDate(shown.time())
+                ? worktime::clampSecs(shown.date().addDays(1).startOfDay().toSecsSinceEpoch())
+                : typed(shown);
+        return KWTaskCollection::addFinishOnDayOff(&m_document, finish, hourClock);
     }
-    constexpr bool start = false;
-    const int finishHour = int(KWTaskInfo::startOrFinishHour(&m_document, start));
-    const QTime time = shown.time();
-    // A finish at 00:00 is the end of its date, and so is one in the hour that begins when work has ended.
-    const bool endsItsDate =
-        (time.hour() == 0 && time.minute() == 0) || (time.hour() == finishHour && time.minute() > 0);
-    const QDateTime lastDay =
-        endsItsDate ? shown.date().startOfDay() : KWTaskInfo::editTimeTransDayTime(&m_document, shown, start);
-    const LocalClock &clock = m_document.workCalendar().clock();
-    const LocalClock::Wall wall = clock.wall(lastDay.toSecsSinceEpoch());
-    return KWTaskCollection::addFinishOnDayOff(
-        &m_document, worktime::clampSecs(clock.moment(wall.day + 1, wall.secs)), hourClock);
+    if (use == StartAsShown)
+        return typed(shown);
+    const quint32 workday = KWTaskCollection::moveForwarstartOnDayOff(
+        &m_document, worktime::clampSecs(shown.toSecsSinceEpoch()), hourClock);
+    return typed(QDateTime::fromSecsSinceEpoch(workday));
+}
+
+// A finish at 00:00 or before work begins, and one in the hour that begins when work has ended.
+bool TaskSheet::endsItsDate(const QTime &time) const
+{
+    const worktime::WorkCalendar &calendar = m_document.workCalendar();
+    return (time.hour() == 0 && time.minute() == 0) || time.hour() < calendar.startHour() ||
+           (time.hour() == calendar.finishHour() && time.minute() > 0);
 }
 
 // What the row does not say.

@@ -98,6 +98,7 @@ private:
     void readMoment(const sheetrows::KnownCell &known, MomentUse use, Staged &staged);
     Moment momentOf(const sheetrows::Cell &cell, MomentUse use, int row);
     quint32 stored(const QDateTime &shown, MomentUse use) const;
+    bool endsItsDate(const QTime &finish) const;
     int posOfTag(quint32 tag) const; // -1 when the row holds no task
 
     KWDocument &m_document;
