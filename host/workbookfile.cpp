@@ -108,6 +108,9 @@ bool save(Console &console, Plan &plan, const QString &path, Kind kind)
         XLSDataEngine engine(plan.document.get());
         written = engine.exportData(path);
         collect(engine.findings(), path, findings);
+        if (written && console.options().richSheets)
+            findings.add(QString(), t("an .xls workbook is written with texts alone"),
+                         t("--sheets rich makes a difference to .xlsx"));
     }
     console.list(path, findings);
     if (!written && findings.isEmpty())
