@@ -26,11 +26,27 @@ QByteArray listing(const CompoundFile &file, bool *isWhole)
             }
             QByteArray content;
             FUZZ_CHECK(file.FindProperty(storage + name));
-            *isWhole = file.ReadFile(storage + name, &content) && *isWhole;
+            const bool isRead = file.ReadFile(storage + name, &content);
+            FUZZ_CHECK(!isRead || file.FileSize(storage + name) == content.size());
+            *isWhole = isRead && *isWhole;
             all += name.toUtf8() + '=' + content + '\n';
         }
     }
     return all;
+}
+
+// Takes out whatever stands at the top.
+void removeAll(CompoundFile &file)
+{
+    const QStringList names = file.List(QStringLiteral("/"));
+    for (const QString &name : names) {
+        const QString path = QLatin1Char('/') + name;
+        const bool isStorage = name.endsWith(QLatin1Char('/'));
+        FUZZ_CHECK(file.ChangeDirectory(path) == isStorage);
+        FUZZ_CHECK(isStorage ? file.RemoveDirectory(path) : file.RemoveFile(path));
+        FUZZ_CHECK(file.PresentWorkingDirectory() == QLatin1String("/"));
+    }
+    FUZZ_CHECK(file.List(QStringLiteral("/")).isEmpty());
 }
 }
 
@@ -47,11 +63,14 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     buffer.open(QIODevice::WriteOnly);
     const bool isWritten = file.WriteTo(buffer);
     // A damaged stream is not written over with nothing.
-    if (!isWritten)
+    if (!isWritten) {
+        removeAll(file);
         return 0;
+    }
     CompoundFile again;
     bool isAgainWhole = true;
     FUZZ_CHECK(again.OpenBytes(buffer.data()));
     FUZZ_CHECK(!isWhole || listing(again, &isAgainWhole) == before);
+    removeAll(again);
     return 0;
 }

@@ -8,7 +8,9 @@
 #include "exchange/xlsxsheet.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwtaskcollection.h"
+#include "support/xmlguard.h"
 #include "support/xmltree.h"
+#include <QDomDocument>
 
 namespace {
 
@@ -27,6 +29,37 @@ void fillTitles()
                                       {3, QStringLiteral("Start")},
                                       {4, QStringLiteral("Complete")}};
 }
+
+// Through every row; whether the source ended without an error.
+bool readAll(sheetrows::Source &source, QString &cells)
+{
+    sheetrows::Row row;
+    while (source.next(row)) {
+        cells += QString::number(row.number) + QLatin1Char(':');
+        for (const sheetrows::Cell &cell : row.cells)
+            cells += QStringLiteral("%1 %2 %3|").arg(cell.column).arg(cell.isNumber).arg(cell.text);
+    }
+    return source.error().isEmpty();
+}
+
+// A part that both can read has the same cells in a DOM.
+void compareWithDom(const QByteArray &part, const QStringList &strings)
+{
+    xlsx::SheetSource stream(part, strings);
+    QString streamed, held;
+    QDomDocument dom;
+    if (!readAll(stream, streamed) || !stream.isWorksheet() || !dom.setContent(QString::fromUtf8(part)))
+        return;
+    const QDomNodeList children = dom.documentElement().childNodes();
+    int sheets = 0;
+    for (int i = 0; i < children.size(); ++i) {
+        if (children.at(i).nodeName() == QLatin1String("sheetData") && ++sheets == 1) {
+            xlsx::DomSheetSource source(children.at(i).childNodes(), strings);
+            FUZZ_CHECK(readAll(source, held));
+        }
+    }
+    FUZZ_CHECK(sheets != 1 || held == streamed);
+}
 }
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -40,6 +73,8 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     xlsx::readNumberFormats(parts.value(2), formats);
     for (const auto &format : qAsConst(formats))
         XLSXDataEngine::parseFormatType(format.second);
+
+    compareWithDom(parts.value(0), strings);
 
     // The one sheet is every sheet of the book, so that all readers see it.
     KWDocument document;
