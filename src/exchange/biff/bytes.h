@@ -71,11 +71,6 @@ class Sink
 public:
     static constexpr size_t limitBytes = 0x7F000000; // below what a QByteArray can hold
 
-    void reserve(size_t size)
-    {
-        if (size <= limitBytes && size > size_t(m_bytes.size()))
-            m_bytes.resize(int(size));
-    }
     bool ok() const { return m_ok; }
     quint32 size() const { return quint32(m_size); }
 

@@ -33,8 +33,6 @@ public:
     const Bytes &data() const { return m_data; }
     // Where the record's header stands in the stream.
     quint32 offset() const { return m_offset; }
-    // Whether next() ended where no record begins.
-    bool isAtEnd() const { return m_at + 4 > m_end; }
 
 private:
     const uchar *m_begin;
