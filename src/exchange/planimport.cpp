@@ -78,6 +78,8 @@ public:
         : m_sheet(sheet)
         , m_measures(cost::measuresOf(document.workCalendar()))
     {
+        m_tasks.reserve(document.taskCount());
+        m_assigned.reserve(int(sheet.assignments().size()));
         // From the last to the first, which is the one that a name means.
         for (int pos = document.taskCount() - 1; pos >= 0; --pos)
             m_tasks.insert(document.getTaskInfoAt(pos)->Name.trimmed(), document.getTaskInfoAt(pos));

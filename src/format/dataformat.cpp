@@ -4,7 +4,6 @@
 #include <QCoreApplication>
 #include <QDomDocument>
 #include <QLocale>
-#include <QRegularExpression>
 #include <cmath>
 #include <limits>
 
@@ -35,6 +34,31 @@ void insertGroups(QString &text, int wholeLength, int groupSize)
 {
     for (int place = wholeLength - groupSize; place > 0; place -= groupSize)
         text.insert(place, QLatin1Char(','));
+}
+
+bool isAsciiDigit(QChar sign)
+{
+    return sign >= QLatin1Char('0') && sign <= QLatin1Char('9');
+}
+
+bool isAsciiLetter(QChar sign)
+{
+    const ushort lower = sign.unicode() | 0x20;
+    return lower >= 'a' && lower <= 'z';
+}
+
+bool isSign(QChar sign)
+{
+    return sign == QLatin1Char('+') || sign == QLatin1Char('-');
+}
+
+// The first place from `place` on whose sign is not of the kind; the end when there is none.
+template <typename Kind>
+int skip(const QString &text, int place, Kind isOfKind)
+{
+    while (place < text.size() && isOfKind(text.at(place)))
+        ++place;
+    return place;
 }
 
 // The moment of a wall-clock time; one that the zone skips counts from the date's beginning.
@@ -101,9 +125,6 @@ QString DataFormat::formatNumber(double value, int groupSize, int decimals, int 
 
 QString DataFormat::numberStringFromString(const QString &text, int mode)
 {
-    static const QRegularExpression numberPattern(
-        QStringLiteral("[+-]?[\\d]+([\\.][\\d]*)?([Ee][+-]?[0-9]{0,2})?"));
-    static const QRegularExpression lettersPattern(QStringLiteral("[a-zA-Z]+"));
     QString plain;
     plain.reserve(text.size());
     for (const QChar sign : text) {
@@ -111,19 +132,26 @@ QString DataFormat::numberStringFromString(const QString &text, int mode)
             sign != QLatin1Char(','))
             plain.append(sign);
     }
-    const QRegularExpressionMatch match = numberPattern.match(plain);
-    if (!match.hasMatch())
+    const int digit = skip(plain, 0, [](QChar sign) { return !isAsciiDigit(sign); });
+    if (digit == plain.size())
         return QStringLiteral("0");
 
+    const int begin = digit > 0 && isSign(plain.at(digit - 1)) ? digit - 1 : digit;
+    int end = skip(plain, digit, isAsciiDigit);
+    if (end < plain.size() && plain.at(end) == QLatin1Char('.'))
+        end = skip(plain, end + 1, isAsciiDigit);
     // "7eggs" is seven eggs, not seven to an empty power, which would read as 0.
-    QString number = match.captured();
-    int digits = number.size();
-    while (!number.at(digits - 1).isDigit() && number.at(digits - 1) != QLatin1Char('.'))
-        --digits;
-    number.truncate(digits);
+    if (end < plain.size() && plain.at(end).toLower() == QLatin1Char('e')) {
+        constexpr int maxPowerDigits = 2;
+        const int power = end + 1 < plain.size() && isSign(plain.at(end + 1)) ? end + 2 : end + 1;
+        const int powerEnd = qMin(power + maxPowerDigits, skip(plain, power, isAsciiDigit));
+        end = powerEnd > power ? powerEnd : end;
+    }
+    const QString number = plain.mid(begin, end - begin);
     if (mode == 0)
         return number;
-    return number + lettersPattern.match(plain, match.capturedStart() + digits).captured();
+    const int letters = skip(plain, end, [](QChar sign) { return !isAsciiLetter(sign); });
+    return number + plain.midRef(letters, skip(plain, letters, isAsciiLetter) - letters);
 }
 
 double DataFormat::numberFromString(const QString &text)
