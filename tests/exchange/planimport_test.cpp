@@ -4,7 +4,7 @@
 #include "resources/resourceinfodata.h"
 #include "support/gridbook.h"
 #include "support/kwclock.h"
-#include "support/project.h"
+#include "support/workbooktitles.h"
 #include "table/columntypes.h"
 #include <gtest/gtest.h>
 
@@ -38,14 +38,7 @@ protected:
     ~PlanImport() override
     {
         KWClock::set(QDateTime());
-        document.reset();
-        for (int sheet = 0; sheet < exceltitles::SheetCount; ++sheet)
-            ExcelTitles::clearExcelTitles(exceltitles::workbookTitles(exceltitles::Sheet(sheet)));
-        RowColumnData::s_columnNames.clear();
-        KWDocument::s_longUnitNames.clear();
-        ResourceInfoData::s_typeItems.clear();
-        ExcelTitles::s_resourcNames.clear();
-        ExcelTitles::s_workAssignNames.clear();
+        KWDocument::s_longUnitNames = m_unitNames;
     }
     bool import(const char *tasks, const char *resources = "", const char *assignments = "",
                 bool is1904 = false)
@@ -79,8 +72,12 @@ protected:
         }
         return text;
     }
+    const WorkbookTitles titles;
     std::unique_ptr<KWDocument> document;
     Findings findings;
+
+private:
+    const QMap<unsigned int, QString> m_unitNames = KWDocument::s_longUnitNames;
 };
 
 TEST_F(PlanImport, BuildsOutlineAndLinksFromLevelsAndRows)
@@ -163,6 +160,7 @@ const CellCase cellCases[] = {
     {"Start", "1969-12-30", "2024-03-11 08:00", true},
     {"Start", "", "2024-03-11 08:00"},
     {"Finish", "2024-03-15 17:00", "2024-03-15 17:00"},
+    {"Finish", "2024-03-11 09:00", "2024-03-11 09:00"}, // an hour of the stored day that clocks may skip
     {"Finish", "2024-03-15 17:30", "2024-03-15 17:00"},
     {"Finish", "2024-03-15 18:00", "2024-03-15 17:00"},
     {"Finish", "2024-03-15", "2024-03-15 17:00"},
@@ -200,6 +198,15 @@ const CellCase cellCases[] = {
     {"ID", "=-1", "1", true},
 };
 INSTANTIATE_TEST_SUITE_P(All, CellOfATask, testing::ValuesIn(cellCases));
+
+TEST_F(PlanImport, EndsASummaryWithItsMilestone)
+{
+    ASSERT_TRUE(import("Name|Level|Start|Finish|Duration\n"
+                       "All|1|2024-03-04|2024-03-11 08:00|5d\n"
+                       "Dig|2|2024-03-04|2024-03-08|5d\n"
+                       "Ready|2|2024-03-11 08:00|2024-03-11 08:00|0d"));
+    EXPECT_EQ(document->getTaskInfoAt(0)->Finish, document->getTaskInfoAt(2)->Finish);
+}
 
 TEST_F(PlanImport, ReadsResourcesAndAssignments)
 {

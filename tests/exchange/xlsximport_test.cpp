@@ -5,6 +5,7 @@
 #include "kwzip.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "support/workbooktitles.h"
 #include "table/rowcolumndata.h"
 #include <QDir>
 #include <QDomDocument>
@@ -150,12 +151,6 @@ protected:
         put("xl/styles.xml",
             "<styleSheet><numFmts><numFmt numFmtId='164' formatCode='m/d'/></numFmts></styleSheet>");
     }
-    ~Package() override
-    {
-        for (int sheet = 0; sheet < exceltitles::SheetCount; ++sheet)
-            ExcelTitles::clearExcelTitles(exceltitles::workbookTitles(exceltitles::Sheet(sheet)));
-        RowColumnData::s_columnNames.clear();
-    }
     void put(const QString &part, const QByteArray &text)
     {
         QFile file(folder.filePath("package/" + part));
@@ -169,6 +164,7 @@ protected:
         EXPECT_TRUE(KWZip::zip(book, folder.filePath("package")));
         return book;
     }
+    const WorkbookTitles titles;
     const QTemporaryDir folder;
 };
 
@@ -201,7 +197,7 @@ TEST_F(Package, LeavesThePlanAloneWhenTheMainPartsCannotBeRead)
     put("xl/worksheets/sheet1.xml", worksheet("<row><c t='str'><v>name</v></c></row>"));
     EXPECT_FALSE(engine.importData(packed()));
     QFile::remove(folder.filePath("package/xl/worksheets/sheet1.xml"));
-    put("xl/sharedStrings.xml", "<sst><si>");
+    put("xl/SharedStrings.xml", "<sst><si>"); // so some programs name it
     EXPECT_FALSE(engine.importData(packed()));
     EXPECT_EQ(document.taskCount(), 1);
     EXPECT_FALSE(document.isModified());
