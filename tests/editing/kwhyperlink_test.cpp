@@ -1,7 +1,6 @@
 // A task's hyperlinks: their kinds, their addresses, and both stored forms.
 #include "editing/kwhyperlink.h"
 #include "model/kwdocument.h"
-#include <QDir>
 #include <QDomDocument>
 #include <gtest/gtest.h>
 #include <limits>
@@ -180,14 +179,6 @@ TEST(LinkSheet, addsLinksWithFreshNamesAndIDs)
     EXPECT_EQ(shown(*sheet.autoAddHyperlink()), "2|1||H4|||||");
 }
 
-TEST(LinkSheet, contentShowsAddressesOrNames)
-{
-    const KWHyperlinkSheet sheet =
-        sheetOf({link(1, "Site", "example.com"), link(2, "", "a.pdf"), KWHyperlink()});
-    EXPECT_EQ(sheet.content(true).toStdString(), "example.com;a.pdf;");
-    EXPECT_EQ(sheet.content(false).toStdString(), "Site;a.pdf;");
-}
-
 TEST(LinkSheet, copiesAreDeep)
 {
     KWHyperlinkSheet source = fullSheet();
@@ -209,33 +200,6 @@ TEST(LinkSheet, copiesAreDeep)
 }
 
 // ---- Stored forms -----------------------------------------------------------------------------------------
-
-QDomElement savedElement(QDomDocument &document, const KWHyperlinkSheet &sheet)
-{
-    QDomElement task = document.createElement(utf8("Task"));
-    document.appendChild(task);
-    sheet.saveTo(task, 14);
-    return task;
-}
-
-TEST(LinkXml, writesOnlyWhatHasText)
-{
-    QDomDocument document;
-    EXPECT_FALSE(savedElement(document, KWHyperlinkSheet()).hasChildNodes());
-    KWHyperlink made = link(5, "", "a.pdf");
-    made.relatAddress = utf8("../a.pdf");
-    QDomDocument second;
-    const QDomElement list = savedElement(second, sheetOf({made})).firstChildElement(utf8("Hyperlinks"));
-    const QDomElement saved = list.firstChildElement(utf8("Hyperlink"));
-    EXPECT_EQ(saved.attributes().size(), 2);
-    EXPECT_EQ(saved.attribute(utf8("ID")).toStdString(), "5");
-    EXPECT_EQ(saved.attribute(utf8("Type")).toStdString(), "2");
-    std::string children;
-    for (QDomElement child = saved.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
-        children += (child.tagName() + QLatin1Char('=') + child.attribute(utf8("V")) + QLatin1Char(' '))
-                        .toStdString();
-    EXPECT_EQ(children, "Address=a.pdf RelatAddress=../a.pdf ");
-}
 
 TEST(LinkXml, hostileElementsLeaveDefaults)
 {

@@ -54,26 +54,11 @@ Options parsed(const char *line)
     return options;
 }
 
-TEST(CommandLine, formatFollowsTheNameUnlessSaid)
-{
-    EXPECT_EQ(parsed("schedule p.csv -o out.CSV").format, Options::Csv);
-    EXPECT_EQ(parsed("schedule p.csv -o out.json").format, Options::Json);
-    EXPECT_EQ(parsed("schedule p.csv -o out.txt").format, Options::Table);
-    EXPECT_EQ(parsed("schedule p.csv -o out.json --csv").format, Options::Csv);
-}
-
 TEST(CommandLine, checkIsLoadThatSaysNo)
 {
     EXPECT_EQ(parsed("check p.csv").command, QStringLiteral("load"));
     EXPECT_TRUE(parsed("check p.csv").check);
     EXPECT_FALSE(parsed("load p.csv").check);
-}
-
-TEST(CommandLine, helpOptionNamesTheCommand)
-{
-    const Options options = parsed("schedule plan.csv --help");
-    EXPECT_EQ(options.command, QStringLiteral("help"));
-    EXPECT_EQ(options.arguments, QStringList{QStringLiteral("schedule")});
 }
 
 }

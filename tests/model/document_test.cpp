@@ -60,28 +60,6 @@ TEST(FreeName, isOneNoTaskHas)
     }
 }
 
-// ---- Extremes ---------------------------------------------------------------------------------------------
-
-TEST(Extremes, areThoseOfAllTasksHiddenOnesIncluded)
-{
-    KWDocument document;
-    EXPECT_EQ(document.getMinStartSecs(), 0u);
-    EXPECT_EQ(document.getMaxFinishSecs(), 0u);
-    EXPECT_EQ(document.getMaxLevel(), 0);
-    addNamed(document, {"A", "B", "C"});
-    const quint32 starts[] = {3000000000u, 5, 7};
-    for (int pos = 0; pos < 3; ++pos) {
-        KWTaskInfo *task = document.getTaskInfoAt(pos);
-        task->Start = starts[pos];
-        task->Finish = starts[pos] + 1;
-        task->Level = -pos - 1;
-    }
-    document.getTaskInfoAt(1)->HideID = 1;
-    EXPECT_EQ(document.getMinStartSecs(), 5u);
-    EXPECT_EQ(document.getMaxFinishSecs(), 3000000001u);
-    EXPECT_EQ(document.getMaxLevel(), -1);
-}
-
 // ---- Files ------------------------------------------------------------------------------------------------
 
 TEST(FileNames, aSecondPathBecomesTheDocumentsPath)

@@ -165,16 +165,4 @@ TEST(Walks, aChildOfSeveralParentsIsVisitedOnce)
     EXPECT_EQ(outline::descendants(outline.tasks(), outline.task(1)).size(), 120u);
 }
 
-TEST(Walks, oneTaskBelowAnotherAHundredThousandTimes)
-{
-    constexpr int depth = 100000;
-    Outline outline;
-    outline.add();
-    for (int id = 2; id <= depth; ++id) {
-        outline.add();
-        outline.put(id - 1, id);
-    }
-    EXPECT_EQ(outline::descendants(outline.tasks(), outline.task(1)).size(), depth - 1u);
-    EXPECT_EQ(outline::ancestors(outline.tasks(), outline.task(depth)).size(), depth - 1u);
-}
 }

@@ -279,26 +279,6 @@ TEST(RemovingLinks, followsTheChainOfTheGivenTaskToItsEnd)
     EXPECT_EQ(linkText(p.document()), "A > B (B)\nB > C (C)\nC > D (D)\nX > Y (Y)\n");
 }
 
-TEST(RemovingLinks, endsInRingsAndDiamonds)
-{
-    KWDocument document;
-    constexpr quint32 layers = 60;
-    for (quint32 id = 1; id <= 2 * layers; ++id) {
-        auto *task = new KWTaskInfo;
-        task->ID = id;
-        document.appendTaskInfoList(task);
-    }
-    for (quint32 id = 1; id + 2 <= 2 * layers; ++id) {
-        randomplan::link(document, id, id + 2);
-        randomplan::link(document, id, id % 2 ? id + 3 : id + 1);
-    }
-    randomplan::link(document, 2 * layers, 1);
-    KWTaskInfo *first = document.getTaskInfoByID(1);
-    document.taskCollection()->deleteDependIDFromParent(document.getTaskInfoByID(2), first);
-    EXPECT_TRUE(first->Predecessors.isEmpty());
-    EXPECT_EQ(first->Depends.size(), 2);
-}
-
 TEST(RebuildingLinks, takesPredecessorsAsTheMasterCopy)
 {
     Project p(week, "A\nB\nC\nD\n");

@@ -10,45 +10,6 @@ namespace {
 
 const char june[] = "Mon-Fri 8-12 13-17, start 2024-06-03";
 
-// ---- Walks ------------------------------------------------------------------------------------------------
-
-std::string below(Project &p, const char *name)
-{
-    QList<quint32> ids{99};
-    p.document().taskCollection()->subIDListByTask(&p.task(name), ids);
-    std::string text;
-    for (const quint32 id : ids)
-        text += std::to_string(id) + ' ';
-    return text;
-}
-
-std::string above(Project &p, const char *name)
-{
-    QList<KWTaskInfo *> tasks{nullptr};
-    p.document().taskCollection()->parentIDListByTask(&p.task(name), tasks);
-    std::string text;
-    for (const KWTaskInfo *task : tasks)
-        text += task->Name.toStdString() + ' ';
-    return text;
-}
-
-const char family[] = "Top\n"        // 1
-                      "  Left\n"     // 2
-                      "    Deep\n"   // 3
-                      "      Leaf\n" // 4
-                      "    Twin\n"   // 5
-                      "  Right\n";   // 6
-
-TEST(Walks, endInRings)
-{
-    Project p(june, family);
-    p.task("Leaf").Childs = {2, 4, 5, 1};
-    p.task("Top").ParentID = 4;
-    EXPECT_EQ(below(p, "Left"), "99 3 4 5 1 6 ");
-    EXPECT_EQ(above(p, "Right"), "Top Leaf Deep Left ");
-    EXPECT_EQ(above(p, "Deep"), "Left Top Leaf ");
-}
-
 // ---- Dates ------------------------------------------------------------------------------------------------
 
 TEST(SummaryDates, stayWhenAChildHasNone)
@@ -110,20 +71,6 @@ TEST(SummaryPercent, ignoresOneSecondAndTurnsNoNumberToZero)
 }
 
 // ---- Baseline ---------------------------------------------------------------------------------------------
-
-TEST(Baseline, ofASummaryWithoutLeavesIsCleared)
-{
-    Project p(june, "Sum\n"
-                    "  Last\n");
-    p.task("Sum").BaseStart = p.task("Sum").BaseFinish = 5;
-    p.task("Sum").Childs = {77};
-    p.task("Sum").basisSubUpdateBaselineStartAndFinish(&p.document());
-    EXPECT_EQ(p.task("Sum").BaseStart, 0u);
-    EXPECT_EQ(p.task("Sum").BaseFinish, 0u);
-    p.task("Last").BaseStart = 7;
-    p.task("Last").basisSubUpdateBaselineStartAndFinish(&p.document());
-    EXPECT_EQ(p.task("Last").BaseStart, 7u);
-}
 
 // Any outline, broken ones included: the children of a task are any tasks, its parent is any task.
 RC_GTEST_PROP(Baseline, ofAncestorsEqualsTheirLeaves, ())

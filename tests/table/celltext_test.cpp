@@ -112,20 +112,6 @@ TEST_F(Cells, ofALeaf)
     EXPECT_EQ(cell(p, "Roof", 24), "2");
 }
 
-TEST_F(Cells, ofASummary)
-{
-    Project p(walls, tasks);
-    showAllColumns(p);
-    assign(p, "Walls", "Ann", 10);
-    assign(p, "Roof", "Ben", 10);
-    EXPECT_EQ(cell(p, "House", 4), "5.5d");
-    EXPECT_EQ(cell(p, "House", 5), "13.6%");
-    EXPECT_EQ(cell(p, "House", 7), "Ann; Ben");
-    EXPECT_EQ(cell(p, "House", 9), "440");
-    EXPECT_EQ(cell(p, "House", 11), "44h");
-    EXPECT_EQ(cell(p, "House", 23), "1");
-}
-
 TEST_F(Cells, ofCostsAreEmptyWithoutAssignments)
 {
     Project p(walls, tasks);

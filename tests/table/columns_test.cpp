@@ -1,5 +1,4 @@
 // The table's columns and row heights, and their XML.
-#include "format/unitutil.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "support/sortedxml.h"
@@ -66,21 +65,6 @@ protected:
 
     KWDocument m_document;
 };
-
-TEST_F(Columns, DefaultsFollowTheTypes)
-{
-    KWDocument document; // made after the titles
-    const RowColumnData &table = *document.rowColumnData();
-    EXPECT_EQ(shown(table),
-              "T0 T1 T2 T3 T4 T5 (T6) T7 (T8) (T9) (T10) (T11) (T12) (T13) (T14) (T15) (T16) (T17) "
-              "(T18) (T19) (T20) (T21) (T22) (T23)");
-    QStringList widths;
-    for (const Column *column : table.columns())
-        widths.append(QString::number(column->width / UnitUtil::dpiScale96()));
-    EXPECT_EQ(widths.join(QLatin1Char(' ')).toStdString(),
-              "30 240 128 128 80 80 80 200 200 128 128 80 128 128 128 128 80 80 80 200 128 128 128 80");
-    EXPECT_TRUE(RowColumnData(nullptr).columns().isEmpty());
-}
 
 TEST_F(Columns, AreFoundByPlaceAndTitle)
 {
