@@ -1,4 +1,5 @@
 #include "editing/renamebackup.h"
+#include "editing/sheetplaces.h"
 #include "model/kwdocument.h"
 #include <algorithm>
 

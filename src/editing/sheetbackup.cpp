@@ -1,4 +1,5 @@
 #include "editing/sheetbackup.h"
+#include "editing/sheetplaces.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "resources/kwtaskinfo_cost.h"
@@ -9,23 +10,7 @@
 
 namespace sheetbackup {
 
-// IDs from files may repeat.
-ResourceInfo *find(const ResourceInfoData &sheet, qint32 id, int index)
-{
-    ResourceInfo *info = sheet.getResourceInfoAt(index);
-    return info && info->ID == id ? info : sheet.getResourceInfoByID(id);
-}
-
 namespace {
-
-// The place of a recorded entry in the sheet; -1 when it is not there.
-int placeOf(const ResourceInfoData &sheet, const UndoDocResourceItem &item)
-{
-    ResourceInfo *info = find(sheet, item.info.ID, item.index);
-    if (!info)
-        info = sheet.getResourceInfoByName(item.info.name);
-    return info ? sheet.infos.indexOf(info) : -1;
-}
 
 // Which recorded entry an assignment belongs to.
 class Owners
@@ -91,6 +76,7 @@ UndoDocResourceItem entry(const KWDocument &document, const ResourceInfo &info)
     item.info = info;
     item.index = sheet.infos.indexOf(const_cast<ResourceInfo *>(&info));
     item.exists = item.index >= 0;
+    noteShared(sheet, info, item);
     return now(document, {item}).front();
 }
 
@@ -105,6 +91,19 @@ void appendAssignments(const KWDocument &document, const QString &name, QVector<
     }
 }
 
+bool holds(const KWDocument &document, const Entries &entries, const ResourceInfo &info)
+{
+    const ResourceInfoData &sheet = *document.resourceInfoData();
+    const int place = sheet.infos.indexOf(const_cast<ResourceInfo *>(&info));
+    if (place >= 0) {
+        const std::vector<int> places = placesOf(sheet, entries);
+        return std::find(places.begin(), places.end(), place) != places.end();
+    }
+    return std::any_of(entries.begin(), entries.end(), [&info](const UndoDocResourceItem &item) {
+        return !item.exists && item.info.ID == info.ID;
+    });
+}
+
 Entries now(const KWDocument &document, const Entries &backups)
 {
     Entries entries;
@@ -112,9 +111,13 @@ Entries now(const KWDocument &document, const Entries &backups)
         return entries; // without a walk over the tasks
     const ResourceInfoData &sheet = *document.resourceInfoData();
     Owners owners(sheet);
+    const std::vector<int> places = placesOf(sheet, backups);
     for (const UndoDocResourceItem &backup : backups) {
         UndoDocResourceItem item;
-        const int place = placeOf(sheet, backup);
+        const int place = places[entries.size()];
+        item.isIdShared = backup.isIdShared;
+        item.isNameShared = backup.isNameShared;
+        item.sheetSize = sheet.infos.size();
         item.exists = place >= 0;
         item.info = item.exists ? *sheet.infos[place] : backup.info;
         item.index = item.exists ? place : backup.index;

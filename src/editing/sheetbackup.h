@@ -8,9 +8,6 @@ class KWDocument;
 // Backups of the resource sheet, with the assignments that follow its entries by name.
 namespace sheetbackup {
 
-// The entry with that ID, the one at `index` rather than another; null when there is none.
-ResourceInfo *find(const ResourceInfoData &sheet, qint32 id, int index);
-
 // An entry with its assignments as they stand; one that is not in the sheet is recorded as missing.
 UndoDocResourceItem entry(const KWDocument &document, const ResourceInfo &info);
 void appendAssignments(const KWDocument &document, const QString &name, QVector<UndoResource> &assignments);
@@ -20,6 +17,7 @@ using Entries = std::vector<UndoDocResourceItem>;
 // The entries that the backups are of, found by ID, else by name, with the assignments of the name that each
 // has and of the one that it had. No assignment is taken twice.
 Entries now(const KWDocument &document, const Entries &backups);
+bool holds(const KWDocument &document, const Entries &entries, const ResourceInfo &info);
 // Exchanges them for `current`, which is how they stand. Entries keep their records.
 void restore(KWDocument &document, const Entries &backups, const Entries &current, bool withAssignments);
 

@@ -152,15 +152,12 @@ void TaskAction::backupAllColData()
 
 void TaskAction::addDocResource(ResourceInfo *info)
 {
-    if (!document() || !info)
+    if (!document() || !info || sheetbackup::holds(*document(), m_backups->entries, *info))
         return;
     UndoDocResourceItem item = sheetbackup::entry(*document(), *info);
     for (const UndoDocResourceItem &recorded : m_backups->entries) {
-        if (recorded.exists == item.exists && recorded.info.ID == item.info.ID &&
-            recorded.index == item.index)
-            return;
-        // Its assignments are recorded with the other entry of that name.
-        if (recorded.info.name.trimmed() == item.info.name.trimmed())
+        // Nothing tells its assignments from those of the other entry, where they are recorded.
+        if (recorded.info.ID == item.info.ID && recorded.info.name.trimmed() == item.info.name.trimmed())
             item.resources.clear();
     }
     m_backups->entries.push_back(item);

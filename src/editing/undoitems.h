@@ -53,6 +53,10 @@ public:
     ResourceInfo info;
     bool exists = true; // false: the sheet had no such entry
     int index = 0;      // its place in the sheet
+    int sheetSize = 0;  // entries that the sheet had
+    // With another entry: then the ID or the name alone does not tell which one it is.
+    bool isIdShared = false;
+    bool isNameShared = false;
     QVector<UndoResource> resources;
 };
 

@@ -282,6 +282,15 @@ INSTANTIATE_TEST_SUITE_P(
                          task->deleteResourceByID(ann(document).ID);
                      document.resourceInfoData()->deleteResourceByName(ann(document).name);
                  }},
+        EditCase{"anEntryThatGoesWhileAnotherHasItsName",
+                 [](KWDocument &document) {
+                     recordAnn(document);
+                     ActionManager::addDocResource(document.resourceInfoData()->infos.last());
+                 },
+                 [](KWDocument &document) {
+                     document.resourceInfoData()->infos.last()->name = QStringLiteral("Ann ");
+                     document.resourceInfoData()->deleteResourceByName(QStringLiteral("Ann"));
+                 }},
         EditCase{"aRenameToTheNameOfAnother",
                  [](KWDocument &document) {
                      recordAnn(document);
