@@ -79,7 +79,6 @@ public:
         , m_measures(cost::measuresOf(document.workCalendar()))
     {
         m_tasks.reserve(document.taskCount());
-        m_assigned.reserve(int(sheet.assignments().size()));
         // From the last to the first, which is the one that a name means.
         for (int pos = document.taskCount() - 1; pos >= 0; --pos)
             m_tasks.insert(document.getTaskInfoAt(pos)->Name.trimmed(), document.getTaskInfoAt(pos));
@@ -115,20 +114,35 @@ public:
 private:
     Resource &assigned(KWTaskInfo &task, const AssignmentSheet::Assignment &row)
     {
+        if (Resource *resource = find(task, row.resource))
+            return *resource;
+        const ResourceInfo *info = m_infos.value(row.resource);
+        if (!info)
+            m_sheet.reportRow(row.row, text("there is no resource ") + row.resource,
+                              text("assigned without a rate"));
+        Resource *resource = CostPass::append(task, row.resource, info);
+        if (m_met.contains(&task))
+            m_assigned.insert({&task, row.resource}, resource);
+        return *resource;
+    }
+
+    // Few tasks have more resources than can be looked through.
+    Resource *find(const KWTaskInfo &task, const QString &name)
+    {
+        constexpr int few = 8;
+        if (task.resourceList.size() <= few) {
+            for (Resource *resource : task.resourceList) {
+                if (resource->name.trimmed() == name)
+                    return resource;
+            }
+            return nullptr;
+        }
         if (!m_met.contains(&task)) {
             m_met.insert(&task);
             for (int i = task.resourceList.size() - 1; i >= 0; --i)
                 m_assigned.insert({&task, task.resourceList[i]->name.trimmed()}, task.resourceList[i]);
         }
-        Resource *&resource = m_assigned[{&task, row.resource}];
-        if (!resource) {
-            const ResourceInfo *info = m_infos.value(row.resource);
-            if (!info)
-                m_sheet.reportRow(row.row, text("there is no resource ") + row.resource,
-                                  text("assigned without a rate"));
-            resource = CostPass::append(task, row.resource, info);
-        }
-        return *resource;
+        return m_assigned.value({&task, name});
     }
 
     const AssignmentSheet &m_sheet;

@@ -447,6 +447,10 @@ QList<KWTaskLink> TaskSheet::links() const
 
 void TaskSheet::reportRefused(const QList<KWTaskLink> &links) const
 {
+    const bool isAnyRefused = std::any_of(
+        links.begin(), links.end(), [](const KWTaskLink &link) { return link.refusal != LinkRefusal::None; });
+    if (!isAnyRefused)
+        return;
     QHash<quint32, int> rowOfId;
     for (const Staged &staged : m_tasks)
         rowOfId.insert(staged.id, staged.row);
