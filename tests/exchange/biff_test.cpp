@@ -366,6 +366,27 @@ TEST(Written, recordsAreTheFormatsByteByByte)
     EXPECT_EQ(recordsOf(stream, 0x00E0)[15].mid(8, 12), QStringLiteral("010020000000"));
 }
 
+TEST(Written, recordsWithoutAFixedLayoutReadWhatTheyWrote)
+{
+    using Formula = YExcel::Worksheet::CellTable::RowBlock::CellBlock::Formula;
+    const auto check = [](const auto &record) {
+        biff::Sink sink;
+        record.Write(sink);
+        const QByteArray stream = sink.takeBytes();
+        biff::RecordStream records(stream, 0, quint32(stream.size()));
+        std::decay_t<decltype(record)> again;
+        EXPECT_TRUE(records.next() && again.Read(records)) << record.Code();
+        EXPECT_EQ(again.Data(), record.Data()) << record.Code();
+    };
+    YExcel::Workbook::Style named;
+    named.format = 16;
+    named.name = YExcel::LargeString(biff::Text::fromString(QStringLiteral("Mine")));
+    check(named);
+    check(Formula());
+    check(Formula::Array());
+    check(Formula::ShrFmla());
+}
+
 TEST(Written, offsetsLeadToWhatTheyName)
 {
     const QByteArray stream = writtenStream();

@@ -28,6 +28,29 @@ Workbook::Workbook()
     formats[biff::cellFormat].used = 0;
 }
 
+bool Workbook::Style::Read(const biff::RecordStream &from)
+{
+    biff::ContinuedBytes data(from);
+    format = data.u16();
+    if (!IsKnown())
+        return name.Read(data);
+    known = data.u8();
+    outlineLevel = data.u8();
+    return data.ok();
+}
+
+void Workbook::Style::Write(biff::Sink &to) const
+{
+    biff::ContinuedSink sink(to, code);
+    const quint8 head[] = {quint8(format), quint8(format >> 8)};
+    const quint8 number[] = {known, outlineLevel};
+    sink.raw(head, sizeof head);
+    if (IsKnown())
+        sink.raw(number, sizeof number);
+    else
+        name.Write(sink);
+}
+
 bool Workbook::SharedStringTable::Read(const biff::RecordStream &from)
 {
     biff::ContinuedBytes data(from);

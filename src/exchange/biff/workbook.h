@@ -70,18 +70,20 @@ public:
         }
     };
 
-    // Only of a style that every reader knows; one with a name of its own is read without it.
-    struct Style final : RecordOf<Style, biff::code::style>
+    // A style that every reader knows by number, or one with a name of its own.
+    struct KWGANTT_EXPORT Style final : Record
     {
+        static constexpr quint16 code = biff::code::style;
+
         quint16 format = 0x8000; // the upper bit says that the style is a known one
         quint8 known = 0;
         quint8 outlineLevel = 0xFF;
+        LargeString name;
 
-        template <class Self, class Io>
-        static void fields(Self &self, Io &io)
-        {
-            io(self.format, self.known, self.outlineLevel);
-        }
+        bool IsKnown() const { return format & 0x8000; }
+        quint16 Code() const override { return code; }
+        bool Read(const biff::RecordStream &from) override;
+        void Write(biff::Sink &to) const override;
     };
 
     struct BoundSheet final : RecordOf<BoundSheet, biff::code::boundSheet>
