@@ -405,11 +405,11 @@ bool DomSheetSource::next(Row &row)
         const QDomElement inlineString = firstChild(cell, "is");
         const QDomElement value = firstChild(cell, "v");
         if (!inlineString.isNull())
-            row.cells.push_back({column, withoutEscapes(inlineTextOf(inlineString)), false});
+            row.cells.push_back({column, withoutEscapes(xmlguard::clean(inlineTextOf(inlineString))), false});
         else if (!value.isNull())
             row.cells.push_back(cellOf(column,
                                        CellKind::of(view(cell.attribute(QStringLiteral("t")).toLatin1())),
-                                       value.text(), m_strings));
+                                       xmlguard::clean(value.text()), m_strings));
     }
     return true;
 }

@@ -87,8 +87,9 @@ INSTANTIATE_TEST_SUITE_P(
                   "<row r='1'><c r='A1'><v> 1.5e3 </v></c><c r='B1' t='n'><v>nan</v></c><c r='C1' "
                   "t='b'><v>1</v></c>"
                   "<c r='D1' t='str'><f>A1</f><v>ab</v><v>c</v></c><c r='E1' t='e'><v>#N/A</v></c>"
-                  "<c r='F1' t='d'><v>2026-03-16T08:30:00.000Z</v></c></row>",
-                  "1: 1=1.5e3 2 nan 3 1 4 ab 5 #N/A 6 2026-03-16 08:30:00\n"},
+                  "<c r='F1' t='d'><v>2026-03-16T08:30:00.000Z</v></c><c><v>\x0f"
+                  "46</v></c></row>",
+                  "1: 1=1.5e3 2 nan 3 1 4 ab 5 #N/A 6 2026-03-16 08:30:00 7=46\n"},
         SheetCase{"MissingAndOddReferences",
                   "<row><c><v>1</v></c><c r='AAA1'><v>2</v></c><c r='a1'><v>3</v></c><c><v>4</v></c>"
                   "<c r='ZZ9'><v>5</v></c></row><row r='0'/><row r='7'><c r=''><v>6</v></c></row><row/>",
