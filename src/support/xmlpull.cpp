@@ -240,7 +240,8 @@ bool XmlPull::readAttributes()
         const char *close = at + 1;
         while (close != m_end && *close != *at && *close != '<')
             ++close;
-        if (close == m_end || *close == '<')
+        const bool isNamedTwice = rawAttribute(name).data() != nullptr;
+        if (close == m_end || *close == '<' || isNamedTwice)
             break;
         m_attributes.push_back({name, view(at + 1, close)});
         at = close + 1;

@@ -103,9 +103,9 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Xlsx, RefusesWhatIsNoSoundXml)
 {
     QStringList strings;
-    for (const char *part :
-         {"", "<worksheet>", "<worksheet></sheet>", "<worksheet/><worksheet/>", "<a><b></a></b>",
-          "<worksheet x=1/>", "<!DOCTYPE worksheet><worksheet/>", "<worksheet/>x"}) {
+    for (const char *part : {"", "<worksheet>", "<worksheet></sheet>", "<worksheet/><worksheet/>",
+                             "<a><b></a></b>", "<worksheet x=1/>", "<worksheet x='' y='' x=''/>",
+                             "<!DOCTYPE worksheet><worksheet/>", "<worksheet/>x"}) {
         xlsx::SheetSource source(part, strings);
         EXPECT_EQ(shown(source), "") << part;
         EXPECT_NE(source.error().toStdString(), "") << part;
