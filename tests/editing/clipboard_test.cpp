@@ -246,12 +246,13 @@ public:
         const int row = below(document.visibleRowCount() + 1);
         KWTaskInfo *task = document.getTaskInfoByRow(row);
         KWTaskInfo *other = document.getTaskInfoByRow(below(document.visibleRowCount()));
-        switch (below(document.taskCount() < 6 ? 3 : 10)) {
+        switch (below(document.taskCount() < 6 ? 3 : 14)) {
         case 0:
         case 1:
             task = document.insertTaskByRow(row);
             task->Progress = below(9);
-            document.rowColumnData()->replaceRowHeightByRow(row, 20 + below(50) / 2.0);
+            task->Notes = QString::number(20 + below(50) / 2.0);
+            document.rowColumnData()->replaceRowHeightByRow(row, task->Notes.toDouble());
             break;
         case 2:
         case 3:
@@ -278,6 +279,19 @@ public:
         case 9:
             document.taskCollection()->taskDependTask(task, other);
             break;
+        case 10:
+            document.outdentTaskByRow(row);
+            break;
+        case 11:
+            document.moveUpByRow(row);
+            break;
+        case 12:
+            document.moveDownByRow(row);
+            break;
+        case 13: // what is below an expanded one would keep its level
+            if (task && (task->IsToggler || !task->isParent()))
+                document.removeTaskByRow(row);
+            break;
         }
     }
     QList<int> rows(const KWDocument &document)
@@ -298,9 +312,11 @@ std::string sumFaults(KWDocument &document)
     std::string faults;
     for (KWTaskInfo *task : document.taskList()) {
         const auto sums = [task] {
+            QStringList names = task->Resources.split(QStringLiteral("; "));
+            names.sort(); // moves leave their order
             return QStringLiteral("%1 %2 %3 %4 %5")
                 .arg(QString::number(task->Cost, 'f', 4), QString::number(task->Work, 'f', 4),
-                     QString::number(task->RemainingCost, 'f', 4), task->Resources,
+                     QString::number(task->RemainingCost, 'f', 4), names.join(' '),
                      QString::number(task->resourceList.size()));
         };
         const QString before = sums();
@@ -310,6 +326,19 @@ std::string sumFaults(KWDocument &document)
             task->basisSubUpdateResourceName(&document);
         if (sums() != before)
             faults += before.toStdString() + " instead of " + sums().toStdString() + '\n';
+    }
+    return faults;
+}
+
+// Tasks with another height than the one that they note.
+std::string heightFaults(const KWDocument &document)
+{
+    std::string faults;
+    for (int pos = 0; pos < document.taskCount(); ++pos) {
+        const QString noted = document.getTaskInfoAt(pos)->Notes;
+        const double height = document.rowColumnData()->getRowHeightByPos(pos, false);
+        if (!noted.isEmpty() && noted.toDouble() != height)
+            faults += std::to_string(height) + " instead of " + noted.toStdString() + '\n';
     }
     return faults;
 }
@@ -338,6 +367,8 @@ TEST(Clipboard, doesToRandomProjectsWhatTheSlowReadingDoes)
             ClipbdManager &manager = document.clipbdManager();
             for (int edits = 12; edits > 0; --edits)
                 random.edit(document);
+            ASSERT_EQ(outlineFaults(document, true) + sumFaults(document) + heightFaults(document), "")
+                << "edits of seed " << seed << " step " << step;
             Rows expected = rowsOf(document);
             const int kind = document.taskCount() > 60 ? 1 : random.below(4);
             if (kind < 2) {
