@@ -251,8 +251,8 @@ TEST(Stretch, putsTheFinish)
 RC_GTEST_PROP(Edits, leaveStartsOnWorkingDaysAndDurationsAsMeasured, ())
 {
     const char *calendar = *rc::gen::element(
-        "Mon-Fri 8-12 13-17, start 2024-03-04, off 2024-03-28 2024-04-02", "Mon-Sat 0-24, start 2024-03-04",
-        "Mon Wed Fri 8:30-12 13-17:30, start 2024-03-04, work 2024-03-31", "Tue 9-17, start 2024-03-05");
+        "Mon-Fri 8-12 13-17, start 2024-03-04, off 2024-03-28..2024-04-02", "Mon-Sat 0-24, start 2024-03-04",
+        "Mon+Wed+Fri 8:30-12 13-17:30, start 2024-03-04, work 2024-03-31", "Tue 9-17, start 2024-03-05");
     Project p(calendar, "Sum\n"
                         "  First 2d\n"
                         "  Inner\n"
@@ -309,7 +309,7 @@ TEST(Edits, endOnBrokenDocuments)
                                      "Mon-Fri 17-8",
                                      "Mon-Fri 8:10-8:40",
                                      "none 8-17",
-                                     "Mon-Fri 8-17, off 1970-01-01 2106-12-31"};
+                                     "Mon-Fri 8-17, off 1970-01-01..2106-12-31"};
     for (const char *calendar : calendars) {
         for (unsigned int minor = 0; minor <= 7; ++minor) {
             Project p(calendar, "Sum\n"

@@ -25,7 +25,7 @@ void readWeekdays(const QString &text, bool *days)
 {
     if (text == "none")
         return;
-    for (const QString &part : (text == "all" ? QString("Mon-Sun") : text).split(',')) {
+    for (const QString &part : (text == "all" ? QString("Mon-Sun") : text).split('+')) {
         const QStringList ends = part.split('-');
         const int last = weekdayNames.indexOf(ends.last());
         for (int day = weekdayNames.indexOf(ends.first()); day <= last; ++day)
@@ -45,6 +45,10 @@ CalendarText::CalendarText(const QString &text)
         const QStringList words = parts[i].split(' ', Qt::SkipEmptyParts);
         if (words[0] == "old") {
             oldVersion = true;
+            continue;
+        }
+        if (words[0] == "start") {
+            start = QDate::fromString(words[1], Qt::ISODate);
             continue;
         }
         const QStringList dates = words[1].split("..");
@@ -86,7 +90,7 @@ QString textOf(quint32 secs)
 QString randomCalendar(std::mt19937 &random, Hours hours)
 {
     static const QStringList weeks = {"Mon-Fri", "Mon-Fri", "Mon-Sat",         "all",
-                                      "Mon,Wed", "Sun",     "Tue-Thu,Sat-Sun", "none"};
+                                      "Mon+Wed", "Sun",     "Tue-Thu+Sat-Sun", "none"};
     static const QStringList whole = {"8-12 13-17",  "8-12 13-17", "8-17",  "0-24",
                                       "0-12 13-24",  "9-12 14-18", "16-24", "8-10 11-13 14-18",
                                       "16-20 21-24", "22-23"};

@@ -1,14 +1,15 @@
 #pragma once
 #include "schedule/worktime.h"
+#include <QDate>
 #include <QString>
 #include <memory>
 #include <random>
 
 // A working calendar written as text, parts separated by ";":
 //   Mon-Fri 8-12 13-17:30; off 2024-05-01..2024-05-03; work 2024-05-04 8-12; plain 2024-06-10 8-10 11-17; old
-// First the days ("Mon,Wed-Fri", "all", "none") and hours of the week. "off" and "work" are exceptions,
+// First the days ("Mon+Wed-Fri", "all", "none") and hours of the week. "off" and "work" are exceptions,
 // "plain" is a calendar without the exception flag; each has its dates and its own hours. "old" sets the
-// old-version flag.
+// old-version flag, "start 2024-03-04" the date at which a project starts.
 class CalendarText
 {
 public:
@@ -24,6 +25,7 @@ public:
     QList<KWDayTime *> hours;
     QList<KWCalendar *> exceptions;
     bool oldVersion = false;
+    QDate start;
 };
 
 // "2024-05-01 08:30" in local time, as seconds since 1970; the time may be missing, and may have seconds.

@@ -3,6 +3,7 @@
 #include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
+#include "support/calendartext.h"
 #include "table/rowcolumndata.h"
 #include <QLocale>
 #include <QMap>
@@ -12,7 +13,6 @@
 
 namespace {
 
-const QStringList weekdays{"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"};
 const QMap<QString, unsigned int> units{{"y", 0}, {"q", 1}, {"mon", 2}, {"w", 3},
                                         {"d", 4}, {"h", 5}, {"min", 6}};
 const char durationPattern[] = "^(\\d+(?:\\.\\d+)?)(min|mon|d|h|w|q|y)$";
@@ -20,21 +20,6 @@ const char durationPattern[] = "^(\\d+(?:\\.\\d+)?)(min|mon|d|h|w|q|y)$";
 [[noreturn]] void refuse(const QString &what)
 {
     throw std::invalid_argument(what.toStdString());
-}
-
-QDate dateOf(const QString &text)
-{
-    const QDate date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
-    if (!date.isValid())
-        refuse("no date: " + text);
-    return date;
-}
-
-// "8" or "13:30"
-quint32 secsOfDay(const QString &text)
-{
-    const QStringList parts = text.split(':');
-    return parts.value(0).toUInt() * 3600 + parts.value(1).toUInt() * 60;
 }
 
 QStringList wordsOf(const QString &text)
@@ -89,37 +74,12 @@ Project::~Project() = default;
 
 void Project::readSettings(const QString &text)
 {
-    m_document->StartDate = quint32(QDate(2024, 3, 4).startOfDay().toSecsSinceEpoch());
-    for (const QString &part : text.split(',')) {
-        const QStringList words = wordsOf(part);
-        const QString first = words.value(0);
-        if (first == "start") {
-            m_document->StartDate = quint32(dateOf(words.value(1)).startOfDay().toSecsSinceEpoch());
-        } else if (first == "off" || first == "work") {
-            auto *exception = new KWCalendar;
-            m_document->calendars.append(exception);
-            exception->isException = true;
-            exception->isWork = first == "work";
-            exception->startDate = dateOf(words.value(1));
-            exception->finishDate = dateOf(words.value(words.size() > 2 ? 2 : 1));
-        } else {
-            std::fill(std::begin(m_document->WorkDay), std::end(m_document->WorkDay), false);
-            qDeleteAll(m_document->workTimes);
-            m_document->workTimes.clear();
-            for (const QString &word : words) {
-                const QStringList ends = word.split('-');
-                const int from = weekdays.indexOf(ends.first());
-                const int to = weekdays.indexOf(ends.last());
-                if (from >= 0 && to >= from)
-                    std::fill(m_document->WorkDay + from, m_document->WorkDay + to + 1, true);
-                else if (ends.size() == 2 && ends.first().at(0).isDigit())
-                    m_document->workTimes.append(
-                        new KWDayTime(secsOfDay(ends.first()), secsOfDay(ends.last())));
-                else if (word != "none")
-                    refuse("neither weekdays nor hours: " + word);
-            }
-        }
-    }
+    CalendarText calendar(QString(text).replace(',', ';'));
+    std::copy(calendar.workingDays, calendar.workingDays + 7, m_document->WorkDay);
+    m_document->workTimes.swap(calendar.hours);
+    m_document->calendars.swap(calendar.exceptions);
+    const QDate start = calendar.start.isValid() ? calendar.start : QDate(2024, 3, 4);
+    m_document->StartDate = quint32(start.startOfDay().toSecsSinceEpoch());
 }
 
 KWTaskInfo &Project::add(const QString &line)
@@ -167,12 +127,8 @@ KWTaskInfo &Project::add(const QString &line)
 
 quint32 Project::moment(const QString &date) const
 {
-    const QStringList parts = wordsOf(date);
-    const QDate day = dateOf(parts.value(0));
-    if (parts.size() < 2)
-        return quint32(day.startOfDay().toSecsSinceEpoch());
-    const QDateTime clock(day, QTime(0, 0).addSecs(int(secsOfDay(parts[1]))));
-    return KWTaskInfo::secsHourTransDay(m_document.get(), quint32(clock.toSecsSinceEpoch()));
+    const quint32 secs = secsOf(date.toUtf8().constData());
+    return date.contains(' ') ? KWTaskInfo::secsHourTransDay(m_document.get(), secs) : secs;
 }
 
 void Project::setDuration(KWTaskInfo &task, const QString &duration)

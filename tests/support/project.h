@@ -11,9 +11,7 @@
 //             "  Walls  2d\n"
 //             "  Roof 3d after Walls\n");
 //
-// Settings, separated by commas: weekdays ("Mon-Fri", "Mon Wed Fri", "none") and working intervals ("8-12",
-// "13:30-17"); "start DATE" (4 March 2024, a Monday, without); any number of "off DATE [DATE]" and "work DATE
-// [DATE]" for days off and worked days, ends included.
+// Settings are a CalendarText with commas; without a start the project begins on 4 March 2024, a Monday.
 //
 // Tasks, one a line, two blanks of indent for each level: a name, then in any order a duration (d h w min mon
 // q y), "milestone", "NN%", "start DATE [HH:MM]" (clock time); "after NAME, NAME" comes last. A leaf without
