@@ -48,6 +48,19 @@ void removeAll(CompoundFile &file)
     }
     FUZZ_CHECK(file.List(QStringLiteral("/")).isEmpty());
 }
+
+// An empty file can be filled, and says no to what makes no sense.
+void fill(CompoundFile &file)
+{
+    const QString storage = QStringLiteral("/a"), stream = QStringLiteral("/a/b");
+    FUZZ_CHECK(file.MakeDirectory(storage) && file.ChangeDirectory(storage));
+    FUZZ_CHECK(file.MakeFile(QStringLiteral("../a/./b")) && file.WriteFile(stream, QByteArray(5000, 'x')));
+    FUZZ_CHECK(file.FileSize(QStringLiteral("b")) == 5000 && file.FileSize(storage) < 0);
+    FUZZ_CHECK(!file.MakeFile(stream) && !file.MakeFile(QStringLiteral("/c/b")));
+    FUZZ_CHECK(!file.RemoveFile(storage) && !file.RemoveDirectory(stream));
+    FUZZ_CHECK(!file.WriteFile(storage, "x") && !file.ChangeDirectory(stream));
+    FUZZ_CHECK(file.RemoveDirectory(storage) && file.FileSize(stream) < 0);
+}
 }
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -65,6 +78,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // A damaged stream is not written over with nothing.
     if (!isWritten) {
         removeAll(file);
+        fill(file);
         return 0;
     }
     CompoundFile again;
@@ -72,5 +86,6 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     FUZZ_CHECK(again.OpenBytes(buffer.data()));
     FUZZ_CHECK(!isWhole || listing(again, &isAgainWhole) == before);
     removeAll(again);
+    fill(again);
     return 0;
 }

@@ -49,6 +49,25 @@ Cells cellsOf(const BasicExcel &book)
     cells.canBeWritten = cells.canBeWritten && book.GetTotalWorkSheets() > 0;
     return cells;
 }
+
+// Texts as wide characters and back are the same texts.
+void rewriteTexts(BasicExcel &book)
+{
+    for (int i = 0; i < book.GetTotalWorkSheets(); ++i) {
+        BasicExcelWorksheet *sheet = book.GetWorksheet(i);
+        for (int row = sheet->NextRow(0); row >= 0; row = sheet->NextRow(row + 1)) {
+            for (int column = 0; column < sheet->GetTotalCols(); ++column) {
+                BasicExcelCell *cell = sheet->Cell(row, column);
+                const QString text = cell->GetText();
+                if (text.isEmpty() || text.contains(QChar(0)))
+                    continue;
+                const std::wstring wide = cell->GetWString();
+                FUZZ_CHECK(text.size() > 32767 || cell->SetWString(wide.c_str()));
+                FUZZ_CHECK(cell->GetText() == text);
+            }
+        }
+    }
+}
 }
 
 int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -66,5 +85,6 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     BasicExcel again;
     FUZZ_CHECK(again.LoadBytes(file));
     FUZZ_CHECK(cellsOf(again).text == before.text);
+    rewriteTexts(again);
     return 0;
 }
