@@ -3,7 +3,6 @@
 #include "model/kwtaskinfo.h"
 #include "resources/resource.h"
 #include "schedule/kwtaskcollection.h"
-#include "support/casename.h"
 #include "support/outlinecheck.h"
 #include "table/rowcolumndata.h"
 #include <QClipboard>
@@ -427,54 +426,9 @@ struct Foreign
 {
     const char *name;
     const char *tasks;
-    const char
-        *pasted; // before C; ID, name, parent, level, children, successors, predecessors, what hides it
+    // Before C: ID, name, parent, level, children, successors, predecessors, what hides it.
+    const char *pasted;
 };
-
-void PrintTo(const Foreign &each, std::ostream *out)
-{
-    *out << each.name;
-}
-
-class ForeignTasks : public testing::TestWithParam<Foreign>
-{
-};
-
-TEST_P(ForeignTasks, becomeBranchesOfTheirOwn)
-{
-    KWDocument document;
-    fill(document);
-    const QByteArray tasks =
-        QByteArray(GetParam().tasks).replace("<Task ", "<Task Start='1773619200' Finish='1773705600' ");
-    setClipboard(clipboardOf(tasks, "<RowHeightList RowHeight='50'/>"));
-    ASSERT_TRUE(document.clipbdManager().paste(2));
-    QString text;
-    for (int pos = 2; pos < document.taskCount() - 1; ++pos) {
-        const KWTaskInfo &task = *document.getTaskInfoAt(pos);
-        const auto list = [](const QList<quint32> &ids) {
-            QStringList texts;
-            for (const quint32 id : ids)
-                texts.append(QString::number(id));
-            return texts.join(',');
-        };
-        text += QStringLiteral("%1 %2 in %3 level %4")
-                    .arg(QString::number(task.ID), task.Name)
-                    .arg(task.ParentID)
-                    .arg(task.Level);
-        const std::pair<const char *, QString> lists[] = {{" has ", list(task.Childs)},
-                                                          {" before ", list(task.Depends)},
-                                                          {" after ", list(task.Predecessors)}};
-        for (const auto &[word, ids] : lists)
-            text += ids.isEmpty() ? QString() : word + ids;
-        if (task.HideID != 0)
-            text += QStringLiteral(" hidden by %1").arg(task.HideID);
-        text += '\n';
-        EXPECT_EQ(document.rowColumnData()->getRowHeightByPos(pos, false), pos == 2 ? 50 : 30);
-    }
-    EXPECT_EQ(text.toStdString(), GetParam().pasted);
-    QString faults = QString::fromStdString(outlineFaults(document, false));
-    EXPECT_EQ(faults.remove(QRegularExpression("[^\n]*font weight[^\n]*\n")).toStdString(), "");
-}
 
 const Foreign foreign[] = {
     {"IDsAndNamesOfTheTarget",
@@ -506,7 +460,44 @@ const Foreign foreign[] = {
      "10 P in 2 level 2 has 11\n11 Q in 10 level 3 hidden by 10\n"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Clipboard, ForeignTasks, testing::ValuesIn(foreign), caseName<Foreign>);
+TEST(ForeignTasks, becomeBranchesOfTheirOwn)
+{
+    for (const Foreign &each : foreign) {
+        SCOPED_TRACE(each.name);
+        KWDocument document;
+        fill(document);
+        const QByteArray tasks =
+            QByteArray(each.tasks).replace("<Task ", "<Task Start='1773619200' Finish='1773705600' ");
+        setClipboard(clipboardOf(tasks, "<RowHeightList RowHeight='50'/>"));
+        ASSERT_TRUE(document.clipbdManager().paste(2));
+        QString text;
+        for (int pos = 2; pos < document.taskCount() - 1; ++pos) {
+            const KWTaskInfo &task = *document.getTaskInfoAt(pos);
+            const auto list = [](const QList<quint32> &ids) {
+                QStringList texts;
+                for (const quint32 id : ids)
+                    texts.append(QString::number(id));
+                return texts.join(',');
+            };
+            text += QStringLiteral("%1 %2 in %3 level %4")
+                        .arg(QString::number(task.ID), task.Name)
+                        .arg(task.ParentID)
+                        .arg(task.Level);
+            const std::pair<const char *, QString> lists[] = {{" has ", list(task.Childs)},
+                                                              {" before ", list(task.Depends)},
+                                                              {" after ", list(task.Predecessors)}};
+            for (const auto &[word, ids] : lists)
+                text += ids.isEmpty() ? QString() : word + ids;
+            if (task.HideID != 0)
+                text += QStringLiteral(" hidden by %1").arg(task.HideID);
+            text += '\n';
+            EXPECT_EQ(document.rowColumnData()->getRowHeightByPos(pos, false), pos == 2 ? 50 : 30);
+        }
+        EXPECT_EQ(text.toStdString(), each.pasted);
+        QString faults = QString::fromStdString(outlineFaults(document, false));
+        EXPECT_EQ(faults.remove(QRegularExpression("[^\n]*font weight[^\n]*\n")).toStdString(), "");
+    }
+}
 
 TEST(Clipboard, refusesWhatIsNoClipboardOfTasks)
 {

@@ -45,60 +45,52 @@ const char *const sharedStrings =
     "<si><r><rPr><b/></rPr><t xml:space='preserve'>b </t></r><r><t>&amp;&#x63;&lt;d&gt;\r\ne</t></r></si>"
     "<si><t>x_x000D_y_x005F_x000D_z_x0041__x0001_</t></si></sst>";
 
-class Worksheet : public testing::TestWithParam<SheetCase>
-{
-};
-
 // The stream and the DOM give the same cells.
-TEST_P(Worksheet, GivesItsCells)
+TEST(Worksheet, GivesItsCells)
 {
-    QStringList strings;
-    ASSERT_TRUE(xlsx::readSharedStrings(sharedStrings, strings, nullptr));
-    xlsx::SheetSource stream(worksheet(GetParam().data), strings);
-    EXPECT_TRUE(stream.isWorksheet());
-    EXPECT_EQ(shown(stream), GetParam().rows);
-    EXPECT_EQ(stream.error().toStdString(), "");
-    QDomDocument document;
-    ASSERT_TRUE(document.setContent(QString::fromUtf8(worksheet(GetParam().data))));
-    const QDomElement sheetData = document.documentElement().firstChildElement("sheetData");
-    xlsx::DomSheetSource dom(sheetData.childNodes(), strings);
-    EXPECT_EQ(shown(dom), GetParam().rows);
+    const SheetCase cases[] = {
+        {"SharedStrings",
+         "<row r='2'><c r='A2' t='s'><v>0</v></c><c r='C2' t='s'><v>1</v></c><c r='D2' t='s'><v>2</v></c>"
+         "<c r='E2' t='s'><v>3</v></c><c r='F2' t='s'><v> 0 </v></c></row>",
+         "2: 1 zero 3  4 a 5 b &c<d>\ne 6 zero\n"},
+        {"EscapedControlCharacters", "<row><c t='s'><v>4</v></c></row>", "1: 1 x\ry_x000D_z_x0041_\n"},
+        {"StringIndexesOutsideTheTable",
+         "<row><c t='s'><v>5</v></c><c t='s'><v>-1</v></c><c t='s'><v>1e0</v></c><c t='s'/></row>",
+         "1: 1  2  3 \n"},
+        {"InlineStrings",
+         "<row r='1'><c r='A1' t='inlineStr'><is><t>in</t></is><v>0</v></c><c r='B1'><is><r><t>a</t></r>"
+         "<r><t> b</t></r><rPh><t>X</t></rPh></is></c><c r='C1' t='inlineStr'><is/></c></row>",
+         "1: 1 in 2 a b 3 \n"},
+        {"CellKinds",
+         "<row r='1'><c r='A1'><v> 1.5e3 </v></c><c r='B1' t='n'><v>nan</v></c><c r='C1' "
+         "t='b'><v>1</v></c>"
+         "<c r='D1' t='str'><f>A1</f><v>ab</v><v>c</v></c><c r='E1' t='e'><v>#N/A</v></c>"
+         "<c r='F1' t='d'><v>2026-03-16T08:30:00.000Z</v></c><c><v>\x0f"
+         "46</v></c></row>",
+         "1: 1=1.5e3 2 nan 3 1 4 ab 5 #N/A 6 2026-03-16 08:30:00 7=46\n"},
+        {"MissingAndOddReferences",
+         "<row><c><v>1</v></c><c r='AAA1'><v>2</v></c><c r='a1'><v>3</v></c><c><v>4</v></c>"
+         "<c r='ZZ9'><v>5</v></c></row><row r='0'/><row r='7'><c r=''><v>6</v></c></row><row/>",
+         "1: 1=1 2=4 702=5\n2:\n7:\n8:\n"},
+        {"Prefixes",
+         "<x:row xmlns:x='u' r='3'><x:c r='B3' t='inlineStr'><x:is><x:t>p</x:t></x:is></x:c></x:row>"
+         "<!-- <row/> --><row r='1'><c r='A1'><v><![CDATA[<9>]]></v></c></row>",
+         "3: 2 p\n1: 1 <9>\n"}};
+    for (const SheetCase &row : cases) {
+        SCOPED_TRACE(row.name);
+        QStringList strings;
+        ASSERT_TRUE(xlsx::readSharedStrings(sharedStrings, strings, nullptr));
+        xlsx::SheetSource stream(worksheet(row.data), strings);
+        EXPECT_TRUE(stream.isWorksheet());
+        EXPECT_EQ(shown(stream), row.rows);
+        EXPECT_EQ(stream.error().toStdString(), "");
+        QDomDocument document;
+        ASSERT_TRUE(document.setContent(QString::fromUtf8(worksheet(row.data))));
+        const QDomElement sheetData = document.documentElement().firstChildElement("sheetData");
+        xlsx::DomSheetSource dom(sheetData.childNodes(), strings);
+        EXPECT_EQ(shown(dom), row.rows);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, Worksheet,
-    testing::Values(
-        SheetCase{
-            "SharedStrings",
-            "<row r='2'><c r='A2' t='s'><v>0</v></c><c r='C2' t='s'><v>1</v></c><c r='D2' t='s'><v>2</v></c>"
-            "<c r='E2' t='s'><v>3</v></c><c r='F2' t='s'><v> 0 </v></c></row>",
-            "2: 1 zero 3  4 a 5 b &c<d>\ne 6 zero\n"},
-        SheetCase{"EscapedControlCharacters", "<row><c t='s'><v>4</v></c></row>",
-                  "1: 1 x\ry_x000D_z_x0041_\n"},
-        SheetCase{"StringIndexesOutsideTheTable",
-                  "<row><c t='s'><v>5</v></c><c t='s'><v>-1</v></c><c t='s'><v>1e0</v></c><c t='s'/></row>",
-                  "1: 1  2  3 \n"},
-        SheetCase{
-            "InlineStrings",
-            "<row r='1'><c r='A1' t='inlineStr'><is><t>in</t></is><v>0</v></c><c r='B1'><is><r><t>a</t></r>"
-            "<r><t> b</t></r><rPh><t>X</t></rPh></is></c><c r='C1' t='inlineStr'><is/></c></row>",
-            "1: 1 in 2 a b 3 \n"},
-        SheetCase{"CellKinds",
-                  "<row r='1'><c r='A1'><v> 1.5e3 </v></c><c r='B1' t='n'><v>nan</v></c><c r='C1' "
-                  "t='b'><v>1</v></c>"
-                  "<c r='D1' t='str'><f>A1</f><v>ab</v><v>c</v></c><c r='E1' t='e'><v>#N/A</v></c>"
-                  "<c r='F1' t='d'><v>2026-03-16T08:30:00.000Z</v></c><c><v>\x0f"
-                  "46</v></c></row>",
-                  "1: 1=1.5e3 2 nan 3 1 4 ab 5 #N/A 6 2026-03-16 08:30:00 7=46\n"},
-        SheetCase{"MissingAndOddReferences",
-                  "<row><c><v>1</v></c><c r='AAA1'><v>2</v></c><c r='a1'><v>3</v></c><c><v>4</v></c>"
-                  "<c r='ZZ9'><v>5</v></c></row><row r='0'/><row r='7'><c r=''><v>6</v></c></row><row/>",
-                  "1: 1=1 2=4 702=5\n2:\n7:\n8:\n"},
-        SheetCase{"Prefixes",
-                  "<x:row xmlns:x='u' r='3'><x:c r='B3' t='inlineStr'><x:is><x:t>p</x:t></x:is></x:c></x:row>"
-                  "<!-- <row/> --><row r='1'><c r='A1'><v><![CDATA[<9>]]></v></c></row>",
-                  "3: 2 p\n1: 1 <9>\n"}),
-    [](const auto &each) { return each.param.name; });
 
 TEST(Xlsx, RefusesWhatIsNoSoundXml)
 {
