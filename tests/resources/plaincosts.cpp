@@ -1,7 +1,8 @@
 #include "resources/plaincosts.h"
 #include "schedule/localclock.h"
 #include "support/kwclock.h"
-#include <cmath>
+#include <algorithm>
+#include <array>
 
 namespace plaincosts {
 namespace {
@@ -145,6 +146,9 @@ double resourceCost(KWDocument &document, const KWTaskInfo &task, const Resource
     const auto value = [&](unsigned int in) {
         return KWTaskInfo::getDurationValue(&document, resource.workSecs, in);
     };
+    const auto by = [&resource](const std::array<double, 5> &costUnits) {
+        return resource.costUnit < 0 || resource.costUnit > 4 ? 0 : costUnits[size_t(resource.costUnit)];
+    };
     double time = 0;
     if (unit <= 2) {
         // Seconds on the wall clock.
@@ -153,38 +157,16 @@ double resourceCost(KWDocument &document, const KWTaskInfo &task, const Resource
         const double end = double(clock->moment(start.day, start.secs + qint64(ws)));
         const double days = KWTaskInfo::getDurationValue(
             &document, KWTaskInfo::durationSecs(&document, task.Start, secs(end), 4), 4);
-        if (resource.costUnit == 0)
-            time = hpd * days * 60 * rate;
-        if (resource.costUnit == 1)
-            time = hpd * days * rate;
-        if (resource.costUnit == 2)
-            time = rate * days;
-        if (resource.costUnit == 3)
-            time = days / wdpw * rate;
-        if (resource.costUnit == 4)
-            time = unit == 2 ? rate * value(2) : unit == 1 ? 3 * value(1) * rate : 12 * value(0) * rate;
+        time = by({hpd * days * 60 * rate, hpd * days * rate, rate * days, days / wdpw * rate,
+                   unit == 2   ? rate * value(2)
+                   : unit == 1 ? 3 * value(1) * rate
+                               : 12 * value(0) * rate});
     } else if (unit == 3 || unit == 4) {
-        if (resource.costUnit == 0)
-            time = ws / 86400 * hpd * 60 * rate;
-        if (resource.costUnit == 1)
-            time = ws / 86400 * hpd * rate;
-        if (resource.costUnit == 2)
-            time = ws / 86400 * rate;
-        if (resource.costUnit == 3)
-            time = ws / 86400 / wdpw * rate;
-        if (resource.costUnit == 4)
-            time = value(4) / 22 * rate;
+        time = by({ws / 86400 * hpd * 60 * rate, ws / 86400 * hpd * rate, ws / 86400 * rate,
+                   ws / 86400 / wdpw * rate, value(4) / 22 * rate});
     } else if (unit == 5 || unit == 6) {
-        if (resource.costUnit == 0)
-            time = ws / 60 * rate;
-        if (resource.costUnit == 1)
-            time = ws / 3600 * rate;
-        if (resource.costUnit == 2)
-            time = over(ws / 3600, hpd) * rate;
-        if (resource.costUnit == 3)
-            time = over(ws / 3600, hpd) / wdpw * rate;
-        if (resource.costUnit == 4)
-            time = over(value(5), hpd) / 22 * rate;
+        time = by({ws / 60 * rate, ws / 3600 * rate, over(ws / 3600, hpd) * rate,
+                   over(ws / 3600, hpd) / wdpw * rate, over(value(5), hpd) / 22 * rate});
     }
     return resource.percent * resource.costPer + time;
 }
@@ -192,24 +174,11 @@ double resourceCost(KWDocument &document, const KWTaskInfo &task, const Resource
 double hours(KWDocument &document, const KWTaskInfo &task, double work)
 {
     const double hpd = hoursPerDay(document);
-    switch (task.DurationUnits) {
-    case 0:
-        return work * 264 * hpd;
-    case 1:
-        return work * 66 * hpd;
-    case 2:
-        return work * 22 * hpd;
-    case 3:
-        return daysPerWeek(document) * work * hpd;
-    case 4:
-        return work * hpd;
-    case 5:
-        return work;
-    case 6:
-        return work / 60;
-    default:
-        return 0;
-    }
+    const double byUnit[] = {work * 264 * hpd, work * 66 * hpd,
+                             work * 22 * hpd,  daysPerWeek(document) * work * hpd,
+                             work * hpd,       work,
+                             work / 60,        0};
+    return byUnit[std::min<unsigned int>(task.DurationUnits, 7)];
 }
 
 void updateCostAndWork(KWDocument &document, KWTaskInfo &task)
@@ -389,31 +358,18 @@ void changeAllTaskSameNameResource(KWDocument &document, const ResourceInfo &inf
         Resource *resource = named(*task, info.name);
         if (!resource)
             continue;
-        switch (what) {
-        case 0:
+        if (what == 0) {
             resource->type = info.type;
-            if (info.type != 0) {
-                resource->workSecs = 0;
-                resource->overtimeCost = 0;
-            } else {
-                resource->workSecs = secs(task->DurationSecs * resource->percent);
-            }
-            break;
-        case 1:
+            resource->workSecs = info.type != 0 ? 0 : secs(task->DurationSecs * resource->percent);
+            resource->overtimeCost = info.type != 0 ? 0 : resource->overtimeCost;
+        } else if (what == 1) {
             resource->costUnit = info.costUnit;
-            break;
-        case 2:
+        } else if (what == 2 || what == 4) { // the overtime rate copies the standard rate, too
             resource->cost = info.cost;
-            break;
-        case 3:
+        } else if (what == 3) {
             resource->overtimeUnit = info.overtimeUnit;
-            break;
-        case 4:
-            resource->cost = info.cost;
-            break;
-        case 5:
+        } else if (what == 5) {
             resource->costPer = info.costPer;
-            break;
         }
         updateCostAndWork(document, *task);
     }
