@@ -17,6 +17,7 @@
 #include <QGuiApplication>
 #include <QMimeData>
 #include <limits>
+#include <unordered_map>
 
 namespace {
 
@@ -45,16 +46,45 @@ outline::Tasks tasksOf(const KWDocument &document)
 
 // ---- What is copied ---------------------------------------------------------------------------------------
 
-struct ClipbdManager::Selection
+class ClipbdManager::Selection
 {
-    TaskIndex ids;
+public:
     Selection(const KWDocument &document, const QList<int> &rows)
+        : m_tasks(tasksOf(document))
     {
         for (const int row : rows) {
             if (const KWTaskInfo *task = document.getTaskInfoByRow(row))
-                ids.add(task->ID);
+                m_ids.add(task->ID);
         }
     }
+
+    // Whether an ancestor is selected. In a deep outline the ways up of many tasks are nearly the same, so
+    // each part of them is gone once.
+    bool isBelow(const KWTaskInfo &task)
+    {
+        std::vector<quint32> way;
+        bool isInside = false;
+        for (const KWTaskInfo *at = &task; at->ParentID != 0 && !isInside;) {
+            at = m_tasks.byId(at->ParentID);
+            if (!at || at->ID == task.ID)
+                break;
+            const auto [known, isNew] = m_isInside.emplace(at->ID, m_ids.contains(at->ID));
+            isInside = known->second;
+            if (!isNew) // also what closes a ring
+                break;
+            way.push_back(at->ID);
+        }
+        if (isInside) {
+            for (const quint32 id : way)
+                m_isInside[id] = true;
+        }
+        return isInside;
+    }
+
+private:
+    outline::Tasks m_tasks;
+    TaskIndex m_ids;
+    std::unordered_map<quint32, bool> m_isInside; // it or an ancestor of it is selected
 };
 
 bool ClipbdManager::isReady() const
@@ -67,28 +97,19 @@ void ClipbdManager::topTaskListByMultiRow(QList<int> &rows)
     if (!isReady() || rows.isEmpty())
         return;
     m_topTasks.clear();
-    const Selection selection(*m_document, rows);
+    Selection selection(*m_document, rows);
     TaskIndex added;
     for (const int row : qAsConst(rows)) {
         const KWTaskInfo *task = m_document->getTaskInfoByRow(row);
-        if (task && added.add(task->ID))
-            addTopTask(task, selection);
+        if (task && added.add(task->ID) && !selection.isBelow(*task))
+            m_topTasks.append(task->ID);
     }
 }
 
 void ClipbdManager::appendTopTaskList(KWTaskInfo *task, QList<int> &rows)
 {
-    if (isReady() && task && !isTopTask(task))
-        addTopTask(task, Selection(*m_document, rows));
-}
-
-void ClipbdManager::addTopTask(const KWTaskInfo *task, const Selection &selection)
-{
-    for (const KWTaskInfo *ancestor : outline::ancestors(tasksOf(*m_document), *task)) {
-        if (selection.ids.contains(ancestor->ID))
-            return;
-    }
-    m_topTasks.append(task->ID);
+    if (isReady() && task && !isTopTask(task) && !Selection(*m_document, rows).isBelow(*task))
+        m_topTasks.append(task->ID);
 }
 
 bool ClipbdManager::isTopTask(KWTaskInfo *task) const
@@ -251,7 +272,7 @@ bool ClipbdManager::pasteUnder(int row)
     return parent && pasteTo(placeUnder(*parent));
 }
 
-bool ClipbdManager::readClipboard(clipboardxml::Content &content) const
+bool ClipbdManager::readClipboard(clipboardxml::Content &content, bool &isOwn) const
 {
     const QClipboard *source = clipboard();
     const QMimeData *data = source ? source->mimeData(QClipboard::Clipboard) : nullptr;
@@ -263,7 +284,8 @@ bool ClipbdManager::readClipboard(clipboardxml::Content &content) const
         RuningLog::log(QLatin1String("Clipboard not read: ") + error);
         return false;
     }
-    if (digestOf(bytes) != m_written)
+    isOwn = digestOf(bytes) == m_written;
+    if (!isOwn)
         content.dropAssignments();
     return true;
 }
@@ -296,7 +318,8 @@ std::vector<KWTaskInfo *> ClipbdManager::numberBranches(const QList<KWTaskInfo *
 bool ClipbdManager::pasteTo(const Place &place)
 {
     clipboardxml::Content content;
-    if (!readClipboard(content))
+    bool isOwn = false;
+    if (!readClipboard(content, isOwn))
         return false;
     const QList<KWTaskInfo *> tasks = content.takeTasks();
     pasted::Branches branches(tasks);
@@ -313,7 +336,9 @@ bool ClipbdManager::pasteTo(const Place &place)
 
     content.giveColumns(*m_document->rowColumnData());
     m_document->insertTasks(place.pos, tasks, content.heights());
-    std::vector<KWTaskInfo *> changed = branches.robbed();
+    std::vector<KWTaskInfo *> changed;
+    if (isOwn) // others came without money
+        changed = branches.robbed();
     if (place.parent) {
         joinParent(tops, place);
         changed.push_back(place.parent);

@@ -61,15 +61,14 @@ public:
     void delDependOrDependOn(KWTaskInfo *task, QList<KWTaskInfo *> &oldTasks, QList<KWTaskInfo *> &newTasks);
 
 private:
-    struct Selection;
+    class Selection;
     struct Place;
     bool isReady() const;
-    void addTopTask(const KWTaskInfo *task, const Selection &selection);
     bool putOnClipboard(QList<quint32> &ids, QList<int> &rows);
     Place placeAt(int row) const;
     Place placeUnder(KWTaskInfo &parent) const;
     bool pasteTo(const Place &place);
-    bool readClipboard(clipboardxml::Content &content) const;
+    bool readClipboard(clipboardxml::Content &content, bool &isOwn) const;
     std::vector<KWTaskInfo *> numberBranches(const QList<KWTaskInfo *> &tasks, const Place &place,
                                              pasted::Branches &branches) const;
     void joinParent(const std::vector<KWTaskInfo *> &tops, const Place &place);
