@@ -128,7 +128,7 @@ TEST(Edits, giveThePicture)
 {
     const Titles titles;
     const EditCase cases[] = {
-        // NewTasks
+        // New tasks.
         {"addedNamesDiffer", "A\nB\n", "add; add; add", "A\nB h50\nNew1\nNew4\nNew5\n"},
         {"addBelowTheParentOfTheLastTask", "A\n  B\n", "add", "A\n  B h50\n  New1\n"},
         {"addGoesByTheLastVisibleTask", "A\n  B\n  C\n", "collapse A; add",
@@ -141,8 +141,7 @@ TEST(Edits, giveThePicture)
         {"subOfACollapsedTaskIsVisible", family, "collapse C; sub C",
          "A\n  B h50\n  C - {New1 D}\n    D in C\n    New1\n  E\nF\n"},
         {"subWithoutATask", "A\nB\n", "sub Nobody", "A\nB h50\n"},
-        // Indents
-
+        // Indents.
         {"topLevel", "A\nB\n  C\n", "indent B", "A\n  B h50\n    C\n"},
         {"firstTopLevelTask", "A\nB\n", "indent A", "nothing\nA\nB h50\n"},
         {"firstChild", family, "indent B", "nothing\nA\n  B h50\n  C\n    D\n  E\nF\n"},
@@ -159,8 +158,7 @@ TEST(Edits, giveThePicture)
         {"thenShownAgain", "A\n  B\n  C\n    D\n  E\n    F\n      G\n",
          "collapse C; collapse F; indent E; expand C",
          "A\n  B h50\n  C\n    D\n    E\n      F -\n        G in F\n"},
-        // Outdents
-
+        // Outdents.
         {"lastChildIsOnlyLifted", family, "outdent E", "A\n  B h50\n  C\n    D\nE\nF\n"},
         {"onlyChild", family, "outdent D", "A\n  B h50\n  C\n  D\n  E\nF\n"},
         {"middleChildTakesItsFollowers", family, "outdent B", "A\nB h50\n  C\n    D\n  E\nF\n"},
@@ -173,7 +171,7 @@ TEST(Edits, giveThePicture)
          "A\n  B - h50\n    C in B\n  New1\n    D\n"},
         {"onlyVisibleChildOfACollapsedTask", "A\n  B\n  C\n", "collapse A; sub A; outdent New1",
          "A -\n  B in A h50\n  C in A\nNew1\n"},
-        // Moves
+        // Moves.
         {"firstChildUp", family, "up B", "row -1\nA\n  B h50\n  C\n    D\n  E\nF\n"},
         {"upOverAnotherBranch", family, "up E", "row 2\nA\n  B h50\n  E\n  C\n    D\nF\n"},
         {"upWithContent", family, "up C", "row 1\nA\n  C\n    D\n  B h50\n  E\nF\n"},
@@ -183,7 +181,7 @@ TEST(Edits, giveThePicture)
          "row 1\nF\nA -\n  B in A h50\n  C in A\n    D in A\n  E in A\n"},
         {"lastDown", family, "down F", "row -1\nA\n  B h50\n  C\n    D\n  E\nF\n"},
         {"noTask", family, "down Nobody", "row -1\nA\n  B h50\n  C\n    D\n  E\nF\n"},
-        // Removals
+        // Removals.
         {"leaf", family, "remove E", "A\n  B h50\n  C\n    D\nF\n"},
         {"onlyChild", family, "remove D", "A\n  B h50\n  C\n  E\nF\n"},
         {"expandedKeepsItsChildren", family, "remove C", "A\n  B h50\n  D\n  E\nF\n"},
