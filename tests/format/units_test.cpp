@@ -50,6 +50,28 @@ TEST(UnitNames, unknownOnesConvertNothingAndAreNotRegistered)
     EXPECT_EQ(UnitUtil::pixelToUnit(7.25, QStringLiteral("a later key")), 7.25);
 }
 
+TEST(Screen, takesWhatTheHostMeasured)
+{
+    const auto restored = qScopeGuard([] {
+        UnitUtil::s_inited = false;
+        UnitUtil::initScreen(1, 1, QSizeF());
+    });
+    UnitUtil::s_pixPerMM = 1;
+    UnitUtil::initScreen(2, 1.7, QSizeF(1920.5, 1079.4));
+    EXPECT_FALSE(UnitUtil::s_inited);
+    EXPECT_EQ(UnitUtil::s_cacheWidth, 2823);
+    EXPECT_EQ(UnitUtil::s_cacheHeight, 1882);
+    EXPECT_EQ(UnitUtil::s_screenSize, QSize(1921, 1079));
+    EXPECT_EQ(UnitUtil::dpiScale96(), 1);
+    EXPECT_DOUBLE_EQ(UnitUtil::from7Val(8), 7.559055118110237);
+
+    UnitUtil::initScreen(1, 0, QSizeF(std::numeric_limits<double>::quiet_NaN(), 1e300));
+    EXPECT_EQ(UnitUtil::s_screenSize.width(), 0);
+    UnitUtil::s_inited = true;
+    UnitUtil::initScreen(1, 3, QSizeF(1, 1));
+    EXPECT_EQ(UnitUtil::s_pixelRatio, 0);
+}
+
 TEST(FeetAndInches, areWrittenWithTheirMarks)
 {
     const struct
