@@ -174,6 +174,23 @@ TEST(SheetFile, comesBackAsItWasSaved)
     EXPECT_EQ(loaded.infos.size(), 4);
 }
 
+TEST(AssignmentFile, comesBackWithoutWhatXmlCannotCarry)
+{
+    Resource ann;
+    ann.name = "A\x01"
+               "nn";
+    ann.percent = std::numeric_limits<double>::infinity();
+    ann.workSecs = 4294967295u;
+    QDomDocument document;
+    QDomElement list = document.createElement("ResourceList");
+    ann.save(list);
+    Resource back;
+    back.parse(list.firstChildElement("Resource"));
+    EXPECT_EQ(back.name, "Ann");
+    EXPECT_EQ(back.percent, 0);
+    EXPECT_EQ(back.workSecs, 4294967295u);
+}
+
 TEST(SheetFile, absentAndEmptyAttributesKeepTheirDefaults)
 {
     QDomDocument document;
