@@ -8,7 +8,8 @@ void KWDocument::updateResourcesName()
 {
     if (!m_taskCollection)
         return;
-    const CostPass pass(*this);
+    CostPass pass(*this);
+    pass.gather();
     // Leaves first, then each summary once: one after the other every leaf would rebuild all its ancestors.
     for (KWTaskInfo *task : taskList()) {
         if (!task->isParent())
@@ -16,7 +17,7 @@ void KWDocument::updateResourcesName()
     }
     for (KWTaskInfo *task : taskList()) {
         if (task->isParent())
-            CostPass::joinNames(*task, pass.below(*task));
+            CostPass::joinNames(*task, pass.leavesBelow(*task));
     }
 }
 
@@ -24,7 +25,8 @@ void KWDocument::updateCostCompletCostWork()
 {
     if (!m_taskCollection)
         return;
-    const CostPass pass(*this);
+    CostPass pass(*this);
+    pass.gather();
     for (KWTaskInfo *task : taskList())
         pass.updateRemainCost(*task);
     basisSubUpdateFromSomeColumn();
@@ -34,7 +36,8 @@ void KWDocument::basisSubUpdateFromSomeColumn()
 {
     if (!m_taskCollection)
         return;
-    const CostPass pass(*this);
+    CostPass pass(*this);
+    pass.gather();
     for (KWTaskInfo *task : taskList()) {
         if (task->isParent())
             pass.sumAll(*task);

@@ -15,6 +15,46 @@ CostPass::CostPass(KWDocument &document)
 {
 }
 
+void CostPass::gather()
+{
+    std::vector<KWTaskInfo *> tops;
+    for (KWTaskInfo *task : m_tasks.list) {
+        if (task->ParentID == 0)
+            tops.push_back(task);
+    }
+    m_branches = outline::Branches(m_tasks, tops);
+}
+
+void CostPass::gather(const std::vector<KWTaskInfo *> &summaries)
+{
+    std::vector<KWTaskInfo *> tops;
+    for (KWTaskInfo *task : summaries) {
+        if (task->ParentID == 0 || !m_tasks.byId(task->ParentID))
+            tops.push_back(task);
+    }
+    m_branches = outline::Branches(m_tasks, tops);
+}
+
+std::vector<KWTaskInfo *> CostPass::below(const KWTaskInfo &task) const
+{
+    if (!m_branches.knows(task))
+        return outline::descendants(m_tasks, task);
+    const auto range = m_branches.below(task);
+    return {range.begin(), range.end()};
+}
+
+std::vector<KWTaskInfo *> CostPass::leavesBelow(const KWTaskInfo &task) const
+{
+    if (!m_branches.knows(task)) {
+        std::vector<KWTaskInfo *> leaves = outline::descendants(m_tasks, task);
+        const auto isSummary = [](const KWTaskInfo *found) { return found->isParent(); };
+        leaves.erase(std::remove_if(leaves.begin(), leaves.end(), isSummary), leaves.end());
+        return leaves;
+    }
+    const auto range = m_branches.leavesBelow(task);
+    return {range.begin(), range.end()};
+}
+
 void CostPass::updateCostAndWork(KWTaskInfo &task) const
 {
     if (task.isParent()) {
@@ -43,6 +83,8 @@ void CostPass::updateRemainCost(KWTaskInfo &task) const
     }
     const double change = remaining - task.RemainingCost;
     task.RemainingCost = remaining;
+    if (change == 0)
+        return;
     for (KWTaskInfo *ancestor : above(task))
         ancestor->RemainingCost += change;
 }
@@ -152,15 +194,15 @@ void CostPass::sumWithoutBaseline(KWTaskInfo &summary, const std::vector<KWTaskI
 
 void CostPass::sumWithoutBaseline(KWTaskInfo &summary) const
 {
-    sumWithoutBaseline(summary, below(summary));
+    sumWithoutBaseline(summary, leavesBelow(summary));
 }
 
 void CostPass::sumAll(KWTaskInfo &summary) const
 {
-    const std::vector<KWTaskInfo *> below = this->below(summary);
-    sumWithoutBaseline(summary, below);
-    summary.BaselineCost = cost::baselineText(cost::baselineOfLeaves(below));
-    rollup::baseline(m_tasks, summary);
+    const std::vector<KWTaskInfo *> leaves = leavesBelow(summary);
+    sumWithoutBaseline(summary, leaves);
+    summary.BaselineCost = cost::baselineText(cost::baselineOfLeaves(leaves));
+    rollup::baseline(leaves, summary);
 }
 
 void CostPass::joinAncestorNames(const KWTaskInfo &task) const
@@ -173,7 +215,7 @@ void CostPass::joinAncestorNames(const KWTaskInfo &task) const
 
 // ---- Several branches -------------------------------------------------------------------------------------
 
-void CostPass::sumFrom(const std::vector<KWTaskInfo *> &changed) const
+void CostPass::sumFrom(const std::vector<KWTaskInfo *> &changed)
 {
     for (KWTaskInfo *task : changed) {
         if (task->isParent())
@@ -182,7 +224,9 @@ void CostPass::sumFrom(const std::vector<KWTaskInfo *> &changed) const
         updateCostAndWork(*task);
         task->Resources = names::ofAssignments(*task);
     }
-    for (KWTaskInfo *task : outline::withAncestors(m_tasks, changed)) {
+    const std::vector<KWTaskInfo *> concerned = outline::withAncestors(m_tasks, changed);
+    gather(concerned);
+    for (KWTaskInfo *task : concerned) {
         if (task->isParent())
             sumWithoutBaseline(*task);
     }

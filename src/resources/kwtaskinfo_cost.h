@@ -1,5 +1,5 @@
 #pragma once
-#include "model/outline.h"
+#include "model/branches.h"
 #include "resources/cost.h"
 
 class KWDocument;
@@ -15,10 +15,11 @@ public:
     explicit CostPass(KWDocument &document);
 
     const cost::Measures &measures() const { return m_measures; }
-    std::vector<KWTaskInfo *> below(const KWTaskInfo &task) const
-    {
-        return outline::descendants(m_tasks, task);
-    }
+    // Before many summaries are asked for what is below them; without it each is walked on its own.
+    void gather(); // the whole outline
+    void gather(const std::vector<KWTaskInfo *> &summaries);
+    std::vector<KWTaskInfo *> below(const KWTaskInfo &task) const;
+    std::vector<KWTaskInfo *> leavesBelow(const KWTaskInfo &task) const;
     std::vector<KWTaskInfo *> above(const KWTaskInfo &task) const
     {
         return outline::ancestors(m_tasks, task);
@@ -39,7 +40,7 @@ public:
     // False, and nothing changed, when there is no assignment of the old name. Names are left to the caller.
     bool rename(KWTaskInfo &task, const QString &oldName, const QString &newName) const;
 
-    // ---- One summary from the tasks below it --------------------------------------------------------------
+    // ---- One summary from the leaves below it, whatever else stands among them ----------------------------
     void sumCostAndWork(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const;
     static void joinNames(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below);
     void sumWithoutBaseline(KWTaskInfo &summary) const; // work, costs and names
@@ -49,7 +50,7 @@ public:
     // ---- Several branches ---------------------------------------------------------------------------------
     // Work, cost, remaining cost and names of these tasks and of all above them, each once, after what is
     // below them changed. All is summed anew from the leaves; baselines stay.
-    void sumFrom(const std::vector<KWTaskInfo *> &changed) const;
+    void sumFrom(const std::vector<KWTaskInfo *> &changed);
 
     // ---- All tasks (resources/kwtaskinfo_sumup.cpp) -------------------------------------------------------
     // Costs and work of every task that has assignments, and of the summaries from their leaves. A summary
@@ -60,5 +61,6 @@ private:
     void sumWithoutBaseline(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const;
 
     outline::Tasks m_tasks;
+    outline::Branches m_branches;
     cost::Measures m_measures;
 };

@@ -26,7 +26,7 @@ void KWTaskInfo::updateParentPercent(KWDocument *document)
 void KWTaskInfo::basisSubUpdateBaselineStartAndFinish(KWDocument *document)
 {
     if (document && document->taskCollection() && isParent())
-        rollup::baseline({document->taskList(), document->taskIndex()}, *this);
+        rollup::baseline(outline::descendants({document->taskList(), document->taskIndex()}, *this), *this);
 }
 
 void KWTaskInfo::updateParentBaselineStartAndFinish(KWDocument *document)

@@ -83,11 +83,13 @@ double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tas
     return weighted != 0.0 && total != 0.0 ? weighted / total : 0.0;
 }
 
-void baseline(const outline::Tasks &tasks, KWTaskInfo &summary)
+void baseline(const std::vector<KWTaskInfo *> &below, KWTaskInfo &summary)
 {
     Span span;
-    std::unordered_set<const KWTaskInfo *> seen;
-    addSubtrees(tasks, summary, seen, span);
+    for (const KWTaskInfo *task : below) {
+        if (!task->isParent())
+            span.add(task->BaseStart, task->BaseFinish);
+    }
     store(span, summary);
 }
 

@@ -15,7 +15,7 @@ bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, 
 double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,
                const KWTaskInfo &summary);
 // BaseStart and BaseFinish from the descendants that are no summaries; 0 without such a descendant.
-void baseline(const outline::Tasks &tasks, KWTaskInfo &summary);
+void baseline(const std::vector<KWTaskInfo *> &below, KWTaskInfo &summary);
 // The same for every ancestor of the task, nearest first.
 void ancestorBaselines(const outline::Tasks &tasks, const KWTaskInfo &task);
 }
