@@ -119,8 +119,8 @@ void UnitUtil::initScreen(double, double pixelRatio, const QSizeF &screenSize)
     if (s_inited)
         return;
     s_pixelRatio = pixelRatio;
-    s_cacheWidth = wholeOf(4800 / pixelRatio);
-    s_cacheHeight = wholeOf(3200 / pixelRatio);
+    s_cacheWidth = pixelRatio == 0 ? 0 : wholeOf(4800 / pixelRatio);
+    s_cacheHeight = pixelRatio == 0 ? 0 : wholeOf(3200 / pixelRatio);
     s_dpiScale = 1;
     s_screenSize = QSize(roundedHalfUp(screenSize.width()), roundedHalfUp(screenSize.height()));
     s_pixPerPt = pixelsPerPoint;
