@@ -13,8 +13,11 @@ bool XLSXDataBase::praserShareStrXml(const QString &folder)
     m_sharedStrings.clear();
     m_stringIndex.clear();
     const QString parts = withSlash(folder) + QLatin1String("xl/");
-    // Not every program writes the name in these cases; filters ignore them.
-    const QString name = QDir(parts).entryList({QStringLiteral("sharedStrings.xml")}, QDir::Files).value(0);
+    QString name = QStringLiteral("sharedStrings.xml");
+    // Not every program writes the name in these cases; filters ignore them. Looked for first as it is
+    // written: a folder that cannot be listed looks empty, and the plan would lose its texts.
+    if (!QFile::exists(parts + name))
+        name = QDir(parts).entryList({name}, QDir::Files).value(0);
     // Programs that write inline strings only leave the part out.
     if (name.isEmpty())
         return true;
