@@ -366,6 +366,17 @@ QDomElement firstChild(const QDomElement &parent, const char *name)
     return child;
 }
 
+// The element's own text, like the pull parser's; QDomElement::text() adds that of the elements inside.
+QString ownText(const QDomElement &element)
+{
+    QString text;
+    for (QDomNode child = element.firstChild(); !child.isNull(); child = child.nextSibling()) {
+        if (child.isText() || child.isCDATASection())
+            text += child.nodeValue();
+    }
+    return text;
+}
+
 // The texts of the "t" elements, runs included.
 QString inlineTextOf(const QDomElement &inlineString)
 {
@@ -373,7 +384,7 @@ QString inlineTextOf(const QDomElement &inlineString)
     for (QDomElement child = inlineString.firstChildElement(); !child.isNull();
          child = child.nextSiblingElement()) {
         if (localName(child) == QLatin1String("t"))
-            text += child.text();
+            text += ownText(child);
         else if (localName(child) == QLatin1String("r"))
             text += inlineTextOf(child);
     }
@@ -409,7 +420,7 @@ bool DomSheetSource::next(Row &row)
         else if (!value.isNull())
             row.cells.push_back(cellOf(column,
                                        CellKind::of(view(cell.attribute(QStringLiteral("t")).toLatin1())),
-                                       xmlguard::clean(value.text()), m_strings));
+                                       xmlguard::clean(ownText(value)), m_strings));
     }
     return true;
 }
