@@ -62,15 +62,16 @@ bool Branches::knows(const KWTaskInfo &summary) const
     return !m_places.empty() && m_placeOf.contains(summary.ID) && placeOf(summary).summary == &summary;
 }
 
-Branches::Range Branches::below(const KWTaskInfo &summary) const
+std::vector<KWTaskInfo *> Branches::below(const KWTaskInfo &summary) const
 {
     const Place &place = placeOf(summary);
-    return {m_order.data() + place.first, m_order.data() + place.last};
+    return {m_order.begin() + std::ptrdiff_t(place.first), m_order.begin() + std::ptrdiff_t(place.last)};
 }
 
-Branches::Range Branches::leavesBelow(const KWTaskInfo &summary) const
+std::vector<KWTaskInfo *> Branches::leavesBelow(const KWTaskInfo &summary) const
 {
     const Place &place = placeOf(summary);
-    return {m_leaves.data() + place.firstLeaf, m_leaves.data() + place.lastLeaf};
+    return {m_leaves.begin() + std::ptrdiff_t(place.firstLeaf),
+            m_leaves.begin() + std::ptrdiff_t(place.lastLeaf)};
 }
 }

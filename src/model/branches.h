@@ -10,22 +10,14 @@ namespace outline {
 class Branches
 {
 public:
-    struct Range
-    {
-        KWTaskInfo *const *first = nullptr;
-        KWTaskInfo *const *last = nullptr;
-        KWTaskInfo *const *begin() const { return first; }
-        KWTaskInfo *const *end() const { return last; }
-    };
-
     // Nothing is known.
     Branches() = default;
     // The branches of these tasks, the tasks included.
     Branches(const Tasks &tasks, const std::vector<KWTaskInfo *> &roots);
 
     // Both need `knows`, and are in the order of `descendants`.
-    Range below(const KWTaskInfo &summary) const;
-    Range leavesBelow(const KWTaskInfo &summary) const;
+    std::vector<KWTaskInfo *> below(const KWTaskInfo &summary) const;
+    std::vector<KWTaskInfo *> leavesBelow(const KWTaskInfo &summary) const;
     // Whether the task is a summary in one of the branches. Where branches meet or run in a ring, nothing is
     // known.
     bool knows(const KWTaskInfo &summary) const;

@@ -17,18 +17,13 @@ CostPass::CostPass(KWDocument &document)
 
 void CostPass::gather()
 {
-    std::vector<KWTaskInfo *> tops;
-    for (KWTaskInfo *task : m_tasks.list) {
-        if (task->ParentID == 0)
-            tops.push_back(task);
-    }
-    m_branches = outline::Branches(m_tasks, tops);
+    gather({m_tasks.list.begin(), m_tasks.list.end()});
 }
 
-void CostPass::gather(const std::vector<KWTaskInfo *> &summaries)
+void CostPass::gather(const std::vector<KWTaskInfo *> &tasks)
 {
     std::vector<KWTaskInfo *> tops;
-    for (KWTaskInfo *task : summaries) {
+    for (KWTaskInfo *task : tasks) {
         if (task->ParentID == 0 || !m_tasks.byId(task->ParentID))
             tops.push_back(task);
     }
@@ -37,22 +32,12 @@ void CostPass::gather(const std::vector<KWTaskInfo *> &summaries)
 
 std::vector<KWTaskInfo *> CostPass::below(const KWTaskInfo &task) const
 {
-    if (!m_branches.knows(task))
-        return outline::descendants(m_tasks, task);
-    const auto range = m_branches.below(task);
-    return {range.begin(), range.end()};
+    return m_branches.knows(task) ? m_branches.below(task) : outline::descendants(m_tasks, task);
 }
 
 std::vector<KWTaskInfo *> CostPass::leavesBelow(const KWTaskInfo &task) const
 {
-    if (!m_branches.knows(task)) {
-        std::vector<KWTaskInfo *> leaves = outline::descendants(m_tasks, task);
-        const auto isSummary = [](const KWTaskInfo *found) { return found->isParent(); };
-        leaves.erase(std::remove_if(leaves.begin(), leaves.end(), isSummary), leaves.end());
-        return leaves;
-    }
-    const auto range = m_branches.leavesBelow(task);
-    return {range.begin(), range.end()};
+    return m_branches.knows(task) ? m_branches.leavesBelow(task) : outline::descendants(m_tasks, task);
 }
 
 void CostPass::updateCostAndWork(KWTaskInfo &task) const

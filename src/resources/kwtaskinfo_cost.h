@@ -16,9 +16,10 @@ public:
 
     const cost::Measures &measures() const { return m_measures; }
     // Before many summaries are asked for what is below them; without it each is walked on its own.
-    void gather(); // the whole outline
-    void gather(const std::vector<KWTaskInfo *> &summaries);
+    void gather();                                       // the whole outline
+    void gather(const std::vector<KWTaskInfo *> &tasks); // the branches whose tops are among these
     std::vector<KWTaskInfo *> below(const KWTaskInfo &task) const;
+    // For sums that count leaves only: where nothing was gathered, the summaries stand among them.
     std::vector<KWTaskInfo *> leavesBelow(const KWTaskInfo &task) const;
     std::vector<KWTaskInfo *> above(const KWTaskInfo &task) const
     {
