@@ -105,7 +105,7 @@ TEST_F(Undo, recordsOneActionAtATime)
     ActionManager::addUndoAction();
     auto document = std::make_unique<KWDocument>();
     ActionManager &actions = document->actionManager();
-    ActionManager::preUndoAction(document.get(), editType + 1, 0); // has no name
+    ActionManager::preUndoAction(document.get(), editType + 1000, 0); // has no name
     ActionManager::preUndoAction(nullptr, editType, 0);
     EXPECT_EQ(ActionManager::pendingAction(), nullptr);
     ActionManager::preUndoAction(document.get(), editType, 1);

@@ -190,7 +190,7 @@ TEST(Cells, usedSizeFollowsWhatIsThere)
 
 // ---- Files ------------------------------------------------------------------------------------------------
 
-RC_GTEST_PROP(RoundTrip, givesTheSameCells, ())
+RC_GTEST_PROP(WorkbookRoundTrip, givesTheSameCells, ())
 {
     const QString alphabet = QStringLiteral("aé\u0080\u00ff\u4e2d\U0001F5D3\n ");
     BasicExcel book;
