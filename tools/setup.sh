@@ -8,7 +8,21 @@ die() { printf '%s: %s\n' "${0##*/}" "$*" >&2; exit 1; }
 
 is_installed() { dpkg-query -W -f='${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed; }
 
-# Installs those of the named packages that are missing; asks nothing of a machine that has them all.
+# Of apt's many lines those that show how far it is: every tenth package, through what would be a silent minute.
+apt_progress() {
+    local line count=0
+    while IFS= read -r line; do
+        case $line in
+            'Need to get'* | Fetched*) printf '%s\n' "$line" ;;
+            Unpacking* | 'Setting up'*)
+                count=$((count + 1))
+                if [ $((count % 10)) -eq 0 ]; then printf '%s ...\n' "${line%% (*}"; fi ;;
+        esac
+    done
+}
+
+# Installs those of the named packages that are missing; asks nothing of a machine that has them all. Ends with the
+# reason that apt gave and the command to type by hand when it cannot.
 need() {
     if ! command -v dpkg-query >/dev/null; then
         say "No Debian here: going on with what is installed (needed: $*)"
@@ -21,37 +35,56 @@ need() {
     if [ ${#missing[@]} -eq 0 ]; then
         return
     fi
+    local by_hand="apt-get install --no-install-recommends ${missing[*]}"
     local as_root=()
     if [ "$(id -u)" -ne 0 ]; then
-        command -v sudo >/dev/null || die "as root, run: apt-get install --no-install-recommends ${missing[*]}"
+        command -v sudo >/dev/null || die "needs ${#missing[@]} packages; as root, run: apt-get update && $by_hand"
+        sudo -v || die "needs ${#missing[@]} packages and sudo does not let you; as root, run: apt-get update && $by_hand"
         as_root=(sudo)
     fi
-    local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q)
+    local apt=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q) log reason
+    log=$(mktemp)
     say "Installing ${missing[*]}"
-    "${apt[@]}" update >/dev/null || die "the package lists cannot be fetched: is there a network?"
-    # Of apt's many lines those that show how far it is.
-    "${apt[@]}" install -y --no-install-recommends "${missing[@]}" | sed -un '/^Need to get\|^Fetched\|^Setting up/p' >&2 \
-        || die "the packages could not be installed"
+    # One source that does not answer need not be the one that has the packages, so the install is tried all the same.
+    "${apt[@]}" update >"$log" 2>&1 || sed -n 's/^[EW]: /apt: /p' "$log" >&2
+    if "${apt[@]}" install -y --no-install-recommends "${missing[@]}" 2>&1 | tee -a "$log" | apt_progress >&2; then
+        rm -f "$log"
+        return
+    fi
+    reason=$(sed -n 's/^E: //p' "$log" | head -3)
+    rm -f "$log"
+    die "the packages could not be installed: ${reason:-apt gave no reason}
+as root, run: apt-get update && $by_hand"
 }
 
-# Configures build/PRESET with the given options; a folder that has them already is left alone.
+# Whether a build folder is whole and was made for this checkout where it stands: a folder whose first configuring failed
+# has a cache too, a moved checkout's folder builds nowhere, and a copied one's builds the checkout it was copied from.
+is_configured() {
+    local folder=$1
+    [ -f "$folder/build.ninja" ] && [ -f "$folder/CMakeCache.txt" ] \
+        && grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$folder/CMakeCache.txt" \
+        && grep -qxF "CMAKE_CACHEFILE_DIR:INTERNAL=$folder" "$folder/CMakeCache.txt"
+}
+
+# Configures build/PRESET with the given options; a folder that has them already is left alone, one that is not whole or
+# belongs to another checkout is made anew.
 configure() {
-    local preset=$1 option cache="$root/build/$1/CMakeCache.txt" is_ready=yes
+    local preset=$1 option folder="$root/build/$1" is_ready=yes
     shift
-    [ -f "$cache" ] || is_ready=no
+    if ! is_configured "$folder"; then
+        is_ready=no
+        rm -rf "$folder"
+    fi
     for option in "$@"; do
         # "-DNAME=VALUE" stands in the cache as "NAME:TYPE=VALUE".
-        grep -q "^$(sed -E 's/^-D([^=]*)=(.*)$/\1:[A-Z]*=\2$/' <<<"$option")" "$cache" 2>/dev/null || is_ready=no
+        grep -q "^$(sed -E 's/^-D([^=]*)=(.*)$/\1:[A-Z]*=\2$/' <<<"$option")" "$folder/CMakeCache.txt" 2>/dev/null || is_ready=no
     done
     if [ $is_ready = yes ]; then
         return
     fi
     say "Configuring build/$preset"
     local how=()
-    if [ ! -f "$cache" ]; then
-        if command -v ninja >/dev/null; then how+=(-G Ninja); fi
-        if command -v ccache >/dev/null; then how+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
-    fi
+    if command -v ccache >/dev/null; then how+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
     (cd "$root" && cmake --preset "$preset" "${how[@]}" "$@") >&2 || die "build/$preset could not be configured"
 }
 
