@@ -2,6 +2,8 @@
 #include "schedule/dayoff.h"
 #include "schedule/duration.h"
 #include <cmath>
+#include <limits>
+#include <optional>
 
 namespace walk {
 
@@ -85,29 +87,46 @@ public:
 
     HourPoint moveFinish(HourPoint point, qint64 days, qint64 secs) const
     {
-        if (count() == 0)
-            return point;
-        const Place place = moved(point, days, secs);
-        const int day = dayAt(place.index);
-        if (place.workedSecs == 0)
-            return {day, spanFrom()};
-        const qint64 hoursBefore = (place.workedSecs - 1) / secsPerHour;
-        return {day, m_calendar.breaks(day).freeHour[size_t(hoursBefore)] * secsPerHour + place.workedSecs -
-                         hoursBefore * secsPerHour};
+        return count() == 0 ? point : finishAt(moved(point, days, secs));
     }
 
     HourPoint moveStart(HourPoint point, qint64 days, qint64 secs) const
     {
+        return count() == 0 ? point : startAt(moved(point, days, secs));
+    }
+
+    // The finish whose working time since `from` is nearest to the target; the later one of equals.
+    HourPoint nearestFinish(HourPoint from, qint64 targetSecs) const
+    {
         if (count() == 0)
-            return point;
-        const Place place = moved(point, days, secs);
-        const int day = dayAt(place.index);
-        const Breaks &breaks = m_calendar.breaks(day);
-        const qint64 hoursBefore = place.workedSecs / secsPerHour;
-        if (hoursBefore >= breaks.freeHours)
-            return asStart({day, spanTo()});
-        return {day, breaks.freeHour[size_t(hoursBefore)] * secsPerHour + place.workedSecs -
-                         hoursBefore * secsPerHour};
+            return from;
+        const qint64 own = indexOf(from.day);
+        const qint64 ofOwnDate = workSecs(m_calendar, from, {from.day, spanTo()});
+        if (targetSecs <= ofOwnDate)
+            return finishAt({own, placeOf(from).workedSecs + targetSecs});
+        const Reach reach = nearest(targetSecs - ofOwnDate, count() - own - 1,
+                                    [&](qint64 dates) { return total(own + 1 + dates); });
+        const qint64 index = std::min(own + 1 + reach.dates, count() - 1);
+        if (reach.isWholeDate || index < own + 1 + reach.dates)
+            return {dayAt(index), spanTo()};
+        return finishAt({index, reach.secs});
+    }
+
+    // The start whose working time up to `to` is nearest to the target; the earlier one of equals.
+    HourPoint nearestStart(HourPoint to, qint64 targetSecs) const
+    {
+        if (count() == 0)
+            return to;
+        const qint64 own = indexOf(to.day);
+        const qint64 ofOwnDate = works(to.day) ? workSecs(m_calendar, {to.day, spanFrom()}, to) : 0;
+        if (targetSecs <= ofOwnDate)
+            return startAt({own, ofOwnDate - targetSecs});
+        const Reach reach =
+            nearest(targetSecs - ofOwnDate, own, [&](qint64 dates) { return total(own - 1 - dates); });
+        const qint64 index = std::max<qint64>(own - 1 - reach.dates, 0);
+        if (reach.isWholeDate || index > own - 1 - reach.dates)
+            return asStart({dayAt(index), spanFrom()});
+        return startAt({index, total(index) - reach.secs});
     }
 
     // The same moment as the beginning of the work after it: out of a break, off a day's end.
@@ -145,6 +164,60 @@ private:
         qint64 index = 0;
         qint64 workedSecs = 0;
     };
+
+    // How far a working time leads: whole dates, each worth the hours of a day, and a part of the date there.
+    struct Reach
+    {
+        qint64 dates = 0;
+        qint64 secs = 0;
+        bool isWholeDate = false; // all of that date, though its own work may not be enough
+    };
+
+    // A date with fewer hours than a day is worth those hours up to its end and a day's hours past it, so
+    // some working times are met nowhere; with more hours than a day, some are met on several dates. The
+    // farthest one of equals. `totalOf` gives the work of a date; past `dateCount` dates nothing is asked.
+    template <typename TotalOf>
+    Reach nearest(qint64 targetSecs, qint64 dateCount, TotalOf totalOf) const
+    {
+        const qint64 perDay = qint64(m_calendar.hoursPerDay()) * secsPerHour;
+        const qint64 farthest = targetSecs / perDay;
+        if (farthest >= dateCount)
+            return {farthest, 0, true};
+        // A date has up to 24 hours and a day at least one.
+        constexpr qint64 datesToTry = 24;
+        Reach best;
+        qint64 least = std::numeric_limits<qint64>::max();
+        for (qint64 dates = farthest; dates >= std::max<qint64>(0, farthest - datesToTry); --dates) {
+            const qint64 secs = targetSecs - dates * perDay;
+            const qint64 ofDate = totalOf(dates);
+            const qint64 missing = secs <= ofDate ? 0 : std::min(secs - ofDate, std::abs(perDay - secs));
+            if (missing >= least)
+                continue;
+            best = {dates, secs, secs >= ofDate};
+            least = missing;
+        }
+        return best;
+    }
+
+    HourPoint finishAt(Place place) const
+    {
+        const int day = dayAt(place.index);
+        if (place.workedSecs == 0)
+            return {day, spanFrom()};
+        const qint64 hoursBefore = (place.workedSecs - 1) / secsPerHour;
+        return {day, m_calendar.breaks(day).freeHour[size_t(hoursBefore)] * secsPerHour + place.workedSecs -
+                         hoursBefore * secsPerHour};
+    }
+    HourPoint startAt(Place place) const
+    {
+        const int day = dayAt(place.index);
+        const Breaks &breaks = m_calendar.breaks(day);
+        const qint64 hoursBefore = place.workedSecs / secsPerHour;
+        if (hoursBefore >= breaks.freeHours)
+            return asStart({day, spanTo()});
+        return {day, breaks.freeHour[size_t(hoursBefore)] * secsPerHour + place.workedSecs -
+                         hoursBefore * secsPerHour};
+    }
 
     qint64 spanFrom() const { return qint64(m_calendar.startHour()) * secsPerHour; }
     qint64 spanTo() const { return qint64(m_calendar.finishHour()) * secsPerHour; }
@@ -237,67 +310,58 @@ double targetHours(const WorkCalendar &calendar, double value, unsigned int unit
     }
 }
 
-bool isBefore(HourPoint a, HourPoint b)
+// In whole minutes, so that binary noise cannot turn a whole day into hours; half minutes go up.
+qint64 wholeMinutes(double hours)
 {
-    return a.day < b.day || (a.day == b.day && a.secs < b.secs);
+    return qint64(std::clamp(std::floor(hours * 60 + 0.5 + 1e-6), -largestValue, largestValue));
 }
 
 // Moves the point until the working time between it and the start is the target. `measure` gives the hours a
-// point achieves, `move` takes it on by working time, `isBeyond` says that a point lies on the wrong side of
-// the start. Where no point has that working time, the nearest one found.
-template <typename Measure, typename Move, typename IsBeyond>
-HourPoint corrected(HourPoint point, double target, int hoursPerDay, Measure measure, Move move,
-                    IsBeyond isBeyond)
+// point achieves, `move` takes it on by working time. Nothing where the steps jump over the target.
+template <typename Measure, typename Move>
+std::optional<HourPoint> corrected(HourPoint point, double target, int hoursPerDay, Measure measure,
+                                   Move move)
 {
-    constexpr double tie = 1e-6;
-    HourPoint best = point;
-    double leastMissing = HUGE_VAL;
     for (int i = 0; i < maxCorrections; ++i) {
         const double missing = target - measure(point);
         if (std::abs(missing) < toleranceHours)
             return point;
-        if (std::abs(missing) < leastMissing - tie && !isBeyond(point)) {
-            best = point;
-            leastMissing = std::abs(missing);
-        }
-        // In whole minutes first, so that binary noise cannot turn a whole day into hours; half minutes go
-        // up.
         const qint64 minutesPerDay = qint64(hoursPerDay) * 60;
-        const qint64 minutes =
-            qint64(std::clamp(std::floor(missing * 60 + 0.5 + 1e-6), -largestValue, largestValue));
+        const qint64 minutes = wholeMinutes(missing);
         const qint64 days = std::clamp(minutes / minutesPerDay, -largestDays, largestDays);
         const HourPoint next = move(point, days, minutes % minutesPerDay * 60);
         if (next.day == point.day && next.secs == point.secs)
             break;
         point = next;
     }
-    return best;
+    return std::nullopt;
 }
 
+// A start on a day off stands for the same time of the next working date, a finish for that of the last one.
 Wall forward(const WorkCalendar &calendar, Wall start, Wall coarse, double target)
 {
     const Stepper stepper(calendar);
-    const HourPoint from = toHourClock(calendar, start);
+    const HourPoint from = toHourClock(calendar, dayoff::startForward(calendar, start, false));
     const HourPoint begin = toHourClock(calendar, dayoff::finishForward(calendar, coarse, false));
-    const HourPoint finish = corrected(
+    const std::optional<HourPoint> finish = corrected(
         begin, target, calendar.hoursPerDay(),
         [&](HourPoint point) { return workHours(calendar, from, stepper.asStored(point)); },
-        [&](HourPoint point, qint64 days, qint64 secs) { return stepper.moveFinish(point, days, secs); },
-        [&](HourPoint point) { return isBefore(point, from); });
-    return dayoff::finishBack(calendar, toDayWall(calendar, finish), true);
+        [&](HourPoint point, qint64 days, qint64 secs) { return stepper.moveFinish(point, days, secs); });
+    const HourPoint found = finish ? *finish : stepper.nearestFinish(from, wholeMinutes(target) * 60);
+    return dayoff::finishBack(calendar, toDayWall(calendar, found), true);
 }
 
-Wall backward(const WorkCalendar &calendar, Wall start, Wall coarse, double target)
+Wall backward(const WorkCalendar &calendar, Wall finish, Wall coarse, double target)
 {
     const Stepper stepper(calendar);
-    const HourPoint to = toHourClock(calendar, start);
+    const HourPoint to = toHourClock(calendar, dayoff::finishBack(calendar, finish, false));
     const HourPoint begin =
         stepper.asStart(toHourClock(calendar, dayoff::startBack(calendar, coarse, false)));
-    const HourPoint found = corrected(
+    const std::optional<HourPoint> start = corrected(
         begin, target, calendar.hoursPerDay(),
         [&](HourPoint point) { return workHours(calendar, point, to); },
-        [&](HourPoint point, qint64 days, qint64 secs) { return stepper.moveStart(point, -days, -secs); },
-        [&](HourPoint point) { return isBefore(to, point); });
+        [&](HourPoint point, qint64 days, qint64 secs) { return stepper.moveStart(point, -days, -secs); });
+    const HourPoint found = start ? *start : stepper.nearestStart(to, wholeMinutes(target) * 60);
     return dayoff::startBack(calendar, toDayWall(calendar, found), true);
 }
 

@@ -52,8 +52,17 @@ TEST(Walk, endsThere)
         // The end of a day of part hours is worth its 8, not the 9 of a day that is not over.
         {"aDaysEndCountsAsItIsStored", "Mon-Fri 8:30-12 13-17:30", "2024-03-08", 18, Unit::Hour,
          "Tue 2024-03-12 02:24"},
-        {"aStartOnADayOffIsNotUndercut", "Sun 8:30-12 13-17:30", "2024-08-24 00:50:44", 32, Unit::Minute,
-         "Sun 2024-08-25 01:00"},
+        // Stands for 8:21 on Sunday.
+        {"aStartOnADayOffWaitsForAWorkingDate", "Sun 8:30-12 13-17:30", "2024-08-24 00:50:44", 32,
+         Unit::Minute, "Sun 2024-08-25 02:07:12"},
+        // 3 hours on Monday and the 7 of Tuesday; stored, Tuesday's end would be worth 8.
+        {"aShortDateEndsWithItsOwnHours", "Mon-Fri 8-12 13-17; work 2024-09-10 9-12 14-17",
+         "2024-09-09 16:00", 10, Unit::Hour, "Wed 2024-09-11 00:00"},
+        {"aDateOfFiveHoursEndsInTheEvening", "Mon-Fri 8-12 13-17; work 2024-09-10 8-10 14-17", "2024-09-09",
+         13, Unit::Hour, "Wed 2024-09-11 00:00"},
+        // No start has 8 hours: Tuesday 8:00 has 7, and Monday's end 10.
+        {"backOverAShortDateIsItsBeginning", "Mon-Fri 8-12 13-17; work 2024-09-10 8-10 14-17",
+         "2024-09-11 05:20", -8, Unit::Hour, "Tue 2024-09-10 00:00"},
         {"oldVersionHoursIgnoreLunch", "Mon-Fri 8-12 13-17; old", "2024-03-04", 9, Unit::Hour,
          "Tue 2024-03-05 00:00"}};
     for (const WalkCase &c : cases) {

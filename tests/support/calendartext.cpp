@@ -110,7 +110,7 @@ QString randomCalendar(std::mt19937 &random, Hours hours)
         "", "", "8-12", "18-20", "8-10 14-17", "9-11 12-13:30 15-18", "6-7 8-12 12-17"};
     const auto one = [&random](const QStringList &of) { return of[int(random() % unsigned(of.size()))]; };
     QString text = one(weeks) + ' ' + one(hours == Hours::any && random() % 2 ? odd : whole);
-    for (unsigned int i = random() % 7; i > 0; --i) {
+    for (unsigned int i = random() % (hours == Hours::any ? 40 : 7); i > 0; --i) {
         const QDate first = QDate(2024, 1, 1).addDays(random() % 366);
         const QDate last = first.addDays(random() % 3 ? 0 : random() % 12);
         text += "; " + one({"off", "off", "work", "plain"}) + ' ' + first.toString(Qt::ISODate) + ".." +

@@ -1,5 +1,6 @@
 #include "support/slowcalendar.h"
 #include <QDateTime>
+#include <climits>
 #include <cmath>
 
 namespace {
@@ -10,6 +11,11 @@ const QDate lastDate(2106, 2, 10);
 
 // A millionth of a second stands against binary noise below a whole number.
 constexpr double noise = 1e-6;
+
+int wholeMinutes(double hours)
+{
+    return int(std::floor(hours * 60 + 0.5 + noise));
+}
 
 quint32 clamped(qint64 secs)
 {
@@ -33,11 +39,6 @@ SlowCalendar::Point inDate(QDate date, qint64 secs)
 qint64 asIfUtc(SlowCalendar::Point point)
 {
     return epoch.daysTo(point.date) * 86400 + point.secs;
-}
-
-bool before(SlowCalendar::Point a, SlowCalendar::Point b)
-{
-    return asIfUtc(a) < asIfUtc(b);
 }
 
 QDate dateOfFinish(SlowCalendar::Point stored)
@@ -184,11 +185,10 @@ int SlowCalendar::daysOff(QDate first, QDate last) const
 SlowCalendar::Point SlowCalendar::toHour(Point stored) const
 {
     const double fraction = stored.secs / 86400.0;
-    const double base = double(asIfUtc({stored.date, startHour * 3600}));
-    const qint64 shown = qint64(std::floor(base + (finishHour - startHour) * 3600 * fraction + noise));
+    const qint64 shown =
+        qint64(std::floor(startHour * 3600 + (finishHour - startHour) * 3600 * fraction + noise));
     const qint64 second = shown % 60;
-    const qint64 minute = shown - second + (second >= (m_oldVersion ? 40 : 30) ? 60 : 0);
-    return {stored.date, minute - asIfUtc({stored.date, 0})};
+    return {stored.date, shown - second + (second >= (m_oldVersion ? 40 : 30) ? 60 : 0)};
 }
 
 SlowCalendar::Point SlowCalendar::toDay(Point shown) const
@@ -475,44 +475,70 @@ SlowCalendar::Point SlowCalendar::asStart(Point point) const
 
 SlowCalendar::Point SlowCalendar::forward(Point start, Point coarse, double target) const
 {
-    const Point a = toHour(start);
+    const Point a = toHour(startForward(start, false));
+    const qint64 dayEnd = finishHour * 3600;
+    // A day's end is stored as the next date's beginning.
+    const auto stored = [&](Point b) {
+        return workHours(a, b.secs == dayEnd ? Point{b.date.addDays(1), startHour * 3600} : b);
+    };
     Point b = toHour(finishForward(coarse, false));
-    Point best = b;
-    double least = HUGE_VAL;
     for (int i = 0; i < 100; ++i) {
-        // A day's end is stored as the next date's beginning.
-        const bool dayEnd = b.secs == finishHour * 3600;
-        const double missing = target - workHours(a, dayEnd ? Point{b.date.addDays(1), startHour * 3600} : b);
-        if (std::abs(missing) < least - 1e-6 && (!before(b, a) || std::abs(missing) < 59 / 3600.0)) {
-            best = b;
-            least = std::abs(missing);
-        }
+        const double missing = target - stored(b);
         if (std::abs(missing) < 59 / 3600.0)
-            break;
-        const int minutes = int(std::floor(missing * 60 + 0.5 + 1e-6));
+            return finishBack(toDay(b), true);
+        const int minutes = wholeMinutes(missing);
         b = moveFinish(b, minutes / (hoursPerDay * 60), minutes % (hoursPerDay * 60) * 60);
     }
-    return finishBack(toDay(best), true);
+    // Every minute until the target is long past; the later one of equals, but before a break.
+    int least = INT_MAX;
+    for (QDate date = a.date; stored({date, startHour * 3600}) < target + 24; date = nextCounting(date, 1)) {
+        for (qint64 secs = date == a.date ? a.secs : startHour * 3600; secs <= dayEnd; secs += 60) {
+            const int minutes = wholeMinutes(target);
+            int missing = std::abs(minutes - wholeMinutes(workHours(a, {date, secs})));
+            if (secs == dayEnd)
+                missing = std::min(missing, std::abs(minutes - wholeMinutes(stored({date, secs}))));
+            const bool inBreak = missing == 0 && date == b.date && secs < dayEnd;
+            if (missing < least || (missing == least && !inBreak)) {
+                b = {date, secs};
+                least = missing;
+            }
+        }
+    }
+    return finishBack(toDay(b), true);
 }
 
-SlowCalendar::Point SlowCalendar::backward(Point start, Point coarse, double target) const
+SlowCalendar::Point SlowCalendar::backward(Point finish, Point coarse, double target) const
 {
-    const Point a = toHour(start);
+    const Point a = toHour(finishBack(finish, false));
     Point b = asStart(toHour(startBack(coarse, false)));
-    Point best = b;
-    double least = HUGE_VAL;
     for (int i = 0; i < 100; ++i) {
         const double missing = target - workHours(b, a);
-        if (std::abs(missing) < least - 1e-6 && (!before(a, b) || std::abs(missing) < 59 / 3600.0)) {
-            best = b;
-            least = std::abs(missing);
-        }
         if (std::abs(missing) < 59 / 3600.0)
-            break;
-        const int minutes = int(std::floor(missing * 60 + 0.5 + 1e-6));
+            return startBack(toDay(b), true);
+        const int minutes = wholeMinutes(missing);
         b = moveStart(b, -minutes / (hoursPerDay * 60), -minutes % (hoursPerDay * 60) * 60);
     }
-    return startBack(toDay(best), true);
+    // Every minute at which work begins; the earlier one of equals.
+    int least = INT_MAX;
+    const qint64 dayEnd = finishHour * 3600;
+    QDate date = counts(a.date) ? a.date : nextCounting(a.date, -1);
+    for (; workHours({date, dayEnd}, a) < target + 24; date = nextCounting(date, -1)) {
+        for (qint64 secs = date == a.date ? a.secs : dayEnd - 60; secs >= startHour * 3600; secs -= 60) {
+            if (!(asStart({date, secs}) == Point{date, secs}))
+                continue;
+            const int minutes = wholeMinutes(target);
+            int missing = std::abs(minutes - wholeMinutes(workHours({date, secs}, a)));
+            if (secs == startHour * 3600) {
+                const double before = workHours({nextCounting(date, -1), dayEnd}, a);
+                missing = std::min(missing, std::abs(minutes - wholeMinutes(before)));
+            }
+            if (missing <= least) {
+                b = {date, secs};
+                least = missing;
+            }
+        }
+    }
+    return startBack(toDay(b), true);
 }
 
 SlowCalendar::Point SlowCalendar::oldVersionWalk(Point start, Point coarse, bool isForward) const

@@ -77,7 +77,7 @@ private:
     Point moveStart(Point point, int days, qint64 secs) const;
     Point asStart(Point point) const;
     Point forward(Point start, Point coarse, double target) const;
-    Point backward(Point start, Point coarse, double target) const;
+    Point backward(Point finish, Point coarse, double target) const;
     Point oldVersionWalk(Point start, Point coarse, bool isForward) const;
 
     bool m_workingDays[7];
