@@ -1,12 +1,12 @@
 // Measures copy, cut and paste of about a thousand tasks in the middle of generated projects, beside what any
 // structural edit costs: the roll-up of all dates and the place of all bars.
 #include "costs.h"
+#include "engine/text/columntypes.h"
 #include "generator.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "report.h"
 #include "schedule/kwtaskcollection.h"
-#include "table/columntypes.h"
 #include "table/rowcolumndata.h"
 #include <QGuiApplication>
 

@@ -1,9 +1,9 @@
 #include "costs.h"
+#include "engine/record/resource.h"
 #include "generator.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "report.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 
 namespace costs {

@@ -1,12 +1,12 @@
 #include "generator.h"
+#include "engine/record/outline.h"
+#include "engine/time/dayoff.h"
+#include "engine/time/duration.h"
+#include "engine/time/localclock.h"
+#include "engine/time/walk.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
-#include "schedule/dayoff.h"
-#include "schedule/duration.h"
 #include "schedule/kwcalendar.h"
-#include "schedule/localclock.h"
-#include "schedule/walk.h"
 #include "table/rowcolumndata.h"
 #include <random>
 

@@ -3,13 +3,13 @@
 // Every line gives the best of several runs: seconds of processor time, microseconds a task, the growth from
 // the size before, and the time divided by a bare kernel's in the same run where the two do the same work.
 #include "costs.h"
+#include "engine/time/worktime.h"
 #include "generator.h"
 #include "kernel.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "report.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/worktime.h"
 #include "tableedits.h"
 #include <QGuiApplication>
 #include <cstdio>

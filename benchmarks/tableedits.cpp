@@ -1,11 +1,11 @@
 #include "tableedits.h"
 #include "costs.h"
+#include "engine/text/columntypes.h"
 #include "generator.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "report.h"
 #include "schedule/kwtaskcollection.h"
-#include "table/columntypes.h"
 #include "table/rowcolumndata.h"
 
 namespace tableedits {

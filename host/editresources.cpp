@@ -1,8 +1,8 @@
 // Editing the resource sheet and assignments.
 #include "edit.h"
+#include "engine/record/resource.h"
 #include "model/kwtaskinfo.h"
 #include "resources/assignmentbatch.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "sheettext.h"
 #include "taskref.h"

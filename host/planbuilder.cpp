@@ -1,6 +1,6 @@
 // From the rows of a file to a document: tasks, outline, given dates and links.
+#include "engine/record/outline.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
 #include "plan.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/findings.h"

@@ -1,7 +1,7 @@
 #include "sheetfile.h"
+#include "engine/record/resource.h"
 #include "model/kwtaskinfo.h"
 #include "resources/assignmentbatch.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "sheettext.h"
 #include "support/findings.h"

@@ -1,7 +1,7 @@
 #include "taskref.h"
+#include "engine/network/linkrefusal.h"
 #include "explain.h"
 #include "model/kwtaskinfo.h"
-#include "schedule/linkrefusal.h"
 #include "texts.h"
 
 namespace taskref {

@@ -1,8 +1,8 @@
 // A task's values in and out of an undo record.
 #include "editing/undoitems.h"
-#include "model/fieldxml.h"
+#include "engine/record/fieldxml.h"
+#include "engine/record/taskfields.h"
 #include "model/kwtaskinfo.h"
-#include "model/taskfields.h"
 
 namespace {
 

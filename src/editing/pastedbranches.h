@@ -1,5 +1,5 @@
 #pragma once
-#include "model/taskindex.h"
+#include "engine/record/taskindex.h"
 #include <QList>
 #include <vector>
 

@@ -1,9 +1,9 @@
 #include "editing/sheetbackup.h"
 #include "editing/sheetplaces.h"
+#include "engine/cost/costpass.h"
+#include "engine/cost/names.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/kwtaskinfo_cost.h"
-#include "resources/names.h"
 #include <QHash>
 #include <algorithm>
 #include <map>

@@ -4,11 +4,11 @@
 #include "editing/renamebackup.h"
 #include "editing/sheetbackup.h"
 #include "editing/tasksnapshot.h"
+#include "engine/network/linkgraph.h"
+#include "engine/record/taskindex.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/taskindex.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/linkgraph.h"
 #include "table/rowcolumndata.h"
 #include <optional>
 #include <vector>

@@ -1,11 +1,11 @@
 #include "editing/tasksnapshot.h"
-#include "model/fieldxml.h"
+#include "engine/record/fieldxml.h"
+#include "engine/record/resource.h"
+#include "engine/record/resourcefields.h"
+#include "engine/record/taskfields.h"
+#include "engine/record/taskindex.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/taskfields.h"
-#include "model/taskindex.h"
-#include "resources/resource.h"
-#include "resources/resourcefields.h"
 #include "table/rowcolumndata.h"
 #include <algorithm>
 #include <cstring>

@@ -1,7 +1,7 @@
 #pragma once
 #include "editing/kwhyperlink.h"
+#include "engine/record/resource.h"
 #include "kwgantt_export.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include <QDate>
 #include <QFont>

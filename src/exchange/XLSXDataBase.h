@@ -51,7 +51,7 @@ public:
     void createOthers();  // the workbook, all relationships, the theme, the printer settings
     void createSharedString();
 
-    // ---- Reading (exchange/XLSXDataBase_import.cpp) -------------------------------------------------------
+    // ---- Reading ------------------------------------------------------------------------------------------
     // Replaces the shared strings by those of an unpacked package: one entry for each "si", the texts of its
     // runs joined. A missing part leaves the list empty; false when it is no sound XML.
     bool praserShareStrXml(const QString &folder);

@@ -1,14 +1,14 @@
 #include "exchange/planexport.h"
+#include "engine/record/outline.h"
+#include "engine/record/resource.h"
+#include "engine/text/celltext.h"
+#include "engine/text/columntypes.h"
+#include "engine/time/duration.h"
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
-#include "schedule/duration.h"
 #include "support/xmlguard.h"
-#include "table/celltext.h"
-#include "table/columntypes.h"
 #include <algorithm>
 
 using columntypes::Kind;

@@ -1,7 +1,7 @@
 #pragma once
+#include "engine/cost/cost.h"
+#include "engine/record/taskindex.h"
 #include "exchange/exceltitles.h"
-#include "model/taskindex.h"
-#include "resources/cost.h"
 #include <QString>
 #include <functional>
 #include <vector>

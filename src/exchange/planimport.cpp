@@ -1,12 +1,12 @@
 #include "exchange/planimport.h"
+#include "engine/cost/costpass.h"
+#include "engine/network/links.h"
+#include "engine/record/resource.h"
 #include "exchange/resourcesheets.h"
 #include "exchange/tasksheet.h"
 #include "model/kwdocument.h"
-#include "resources/kwtaskinfo_cost.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/links.h"
 #include "table/rowcolumndata.h"
 #include <QPair>
 

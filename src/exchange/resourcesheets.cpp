@@ -1,8 +1,8 @@
 #include "exchange/resourcesheets.h"
+#include "engine/time/duration.h"
 #include "exchange/exceltitles.h"
 #include "exchange/tasksheet.h"
 #include "resources/resourceinfodata.h"
-#include "schedule/duration.h"
 #include <algorithm>
 #include <limits>
 

@@ -1,7 +1,7 @@
 #pragma once
+#include "engine/cost/names.h"
 #include "exchange/cellvalues.h"
 #include "exchange/sheetreader.h"
-#include "resources/names.h"
 #include <QHash>
 #include <QSet>
 #include <memory>

@@ -1,12 +1,12 @@
 #include "exchange/tasksheet.h"
+#include "engine/record/outline.h"
+#include "engine/text/columntypes.h"
+#include "engine/time/duration.h"
+#include "engine/time/worktime.h"
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
-#include "model/outline.h"
-#include "schedule/duration.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/worktime.h"
 #include "support/kwclock.h"
-#include "table/columntypes.h"
 #include "table/rowcolumndata.h"
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 #pragma once
+#include "engine/network/linkrefusal.h"
+#include "engine/record/taskindex.h"
 #include "exchange/cellvalues.h"
 #include "exchange/sheetreader.h"
 #include "model/kwtaskinfo.h"
-#include "model/taskindex.h"
-#include "schedule/linkrefusal.h"
 #include <QHash>
 #include <QSet>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
+#include "engine/record/taskindex.h"
+#include "engine/time/calendarcache.h"
 #include "model/kwdocument.h"
-#include "model/taskindex.h"
-#include "schedule/calendarcache.h"
 #include <vector>
 
 // What a document derives from its list to answer at once. Each table covers the first so many tasks and is

@@ -1,11 +1,11 @@
 // Editing the outline: new tasks, one level in or out, places among siblings, removal.
+#include "engine/cost/cost.h"
+#include "engine/cost/costpass.h"
+#include "engine/record/outline.h"
+#include "engine/time/localclock.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
-#include "resources/cost.h"
-#include "resources/kwtaskinfo_cost.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/localclock.h"
 #include "support/kwclock.h"
 #include "table/rowcolumndata.h"
 #include <QScopedValueRollback>

@@ -1,10 +1,14 @@
-// The task as a record: construction, copies, ID lists, progress levels and the font of its row.
+// The task as a record: construction, copies, ID lists, progress levels, the font of its row, the XML
+// element.
 #include "model/kwtaskinfo.h"
-#include "model/idlist.h"
+#include "engine/record/idlist.h"
+#include "engine/record/resource.h"
+#include "engine/record/taskfields.h"
+#include "engine/time/duration.h"
 #include "model/kwdocument.h"
-#include "model/taskfields.h"
-#include "resources/resource.h"
-#include "schedule/duration.h"
+#include "model/kwtaskinfo_xml.h"
+#include "support/xmlsink.h"
+#include "support/xmlsource.h"
 #include <QCoreApplication>
 #include <QStringList>
 #include <array>
@@ -288,4 +292,19 @@ int KWTaskInfo::indexFromPercent(double fraction)
             return index;
     }
     return int(progressLevels.size());
+}
+
+// ---- XML --------------------------------------------------------------------------------------------------
+
+void KWTaskInfo::saveTo(QDomElement &parent, unsigned int) const
+{
+    DomSink sink(parent);
+    taskxml::write(sink, *this);
+}
+
+bool KWTaskInfo::parse(const QDomElement &element, unsigned int)
+{
+    DomSource source(element);
+    taskxml::read(source, *this);
+    return true;
 }

@@ -1,7 +1,7 @@
 #pragma once
 #include "editing/kwhyperlink.h"
+#include "engine/record/trackedfield.h"
 #include "kwgantt_export.h"
-#include "model/trackedfield.h"
 #include <QDateTime>
 #include <QDomElement>
 #include <QFont>
@@ -78,7 +78,7 @@ public:
     bool isParent() const { return !Childs.isEmpty(); }
     static QString unitString(unsigned int unit);
 
-    // ---- XML (model/kwtaskinfo_xml.cpp) -------------------------------------------------------------------
+    // ---- XML (model/kwtaskinfo.cpp) -----------------------------------------------------------------------
     // Appends a "Task" element; an empty task writes nothing. Numbers that are not finite are written as 0,
     // texts without the characters that XML cannot carry.
     void saveTo(QDomElement &parent, unsigned int version) const;
@@ -154,7 +154,7 @@ public:
                                 unsigned int unit);
     static bool dateOnDayOff(KWDocument *document, const QDateTime &when);
 
-    // ---- Durations (schedule/kwtaskinfo_duration.cpp) -----------------------------------------------------
+    // ---- Durations (schedule/kwtaskinfo_dates.cpp) --------------------------------------------------------
     static quint32 durationSecs(KWDocument *document, quint32 start, quint32 finish, unsigned int unit);
     static double getDurationValue(KWDocument *document, quint32 durationSecs, unsigned int unit);
     static quint32 backwardsDateTime(KWDocument *document, quint32 start, double value, unsigned int unit);
@@ -175,7 +175,7 @@ public:
     // Drags the finish to a chart position.
     void stretch(KWDocument *document, double x, bool snap);
 
-    // ---- Chart positions (schedule/kwtaskinfo_chart.cpp) --------------------------------------------------
+    // ---- Chart positions (schedule/kwtaskinfo_dates.cpp) --------------------------------------------------
     // Where a milestone is anchored on the document's scale.
     static quint32 milestoneSecs(KWDocument *document, quint32 secs);
     int taskDayPoint(KWDocument *document, bool start) const; // whole pixels

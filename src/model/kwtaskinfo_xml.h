@@ -1,10 +1,10 @@
 #pragma once
 #include "editing/hyperlinkxml.h"
-#include "model/fieldxml.h"
+#include "engine/record/fieldxml.h"
+#include "engine/record/resource.h"
+#include "engine/record/resourcefields.h"
+#include "engine/record/taskfields.h"
 #include "model/kwtaskinfo.h"
-#include "model/taskfields.h"
-#include "resources/resource.h"
-#include "resources/resourcefields.h"
 #include <QFont>
 
 // The XML form of a task, over any of the XML sinks and sources.

@@ -1,8 +1,8 @@
 #include "resources/assignmentbatch.h"
+#include "engine/cost/costpass.h"
+#include "engine/cost/names.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/kwtaskinfo_cost.h"
-#include "resources/names.h"
 #include "resources/resourceinfodata.h"
 #include <QHash>
 #include <QSet>

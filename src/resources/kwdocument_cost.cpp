@@ -1,8 +1,8 @@
 // Names, costs and work of all tasks.
+#include "engine/cost/costpass.h"
+#include "engine/cost/names.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/kwtaskinfo_cost.h"
-#include "resources/names.h"
 
 void KWDocument::updateResourcesName()
 {

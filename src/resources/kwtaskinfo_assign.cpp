@@ -1,10 +1,10 @@
 // A task's assignments and the text that names them.
+#include "engine/cost/cost.h"
+#include "engine/cost/costpass.h"
+#include "engine/cost/names.h"
+#include "engine/record/resource.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/cost.h"
-#include "resources/kwtaskinfo_cost.h"
-#include "resources/names.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include <algorithm>
 

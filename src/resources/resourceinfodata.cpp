@@ -1,9 +1,9 @@
 #include "resources/resourceinfodata.h"
+#include "engine/cost/costpass.h"
+#include "engine/cost/names.h"
+#include "engine/record/resource.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/kwtaskinfo_cost.h"
-#include "resources/names.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata_xml.h"
 #include <QHash>
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
+#include "engine/record/resource.h"
 #include "kwgantt_export.h"
-#include "resources/resource.h"
 #include <QList>
 #include <QMap>
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
-#include "model/fieldxml.h"
-#include "resources/resourcefields.h"
+#include "engine/record/fieldxml.h"
+#include "engine/record/resourcefields.h"
 
 // The resource sheet as an XML element, over any of the XML sinks and sources.
 namespace sheetxml {

@@ -1,10 +1,10 @@
 // Dates of the whole project: durations, links, late dates and slack.
+#include "engine/network/latedates.h"
+#include "engine/network/links.h"
+#include "engine/record/outline.h"
+#include "engine/time/duration.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
-#include "schedule/duration.h"
-#include "schedule/latedates.h"
-#include "schedule/links.h"
 #include <algorithm>
 #include <limits>
 

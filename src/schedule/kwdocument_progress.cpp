@@ -1,10 +1,10 @@
 // Progress by the calendar, and the progress bars.
+#include "engine/network/rollup.h"
+#include "engine/time/timescale.h"
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/rollup.h"
-#include "schedule/timescale.h"
 #include "support/kwclock.h"
 
 namespace {

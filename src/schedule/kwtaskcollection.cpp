@@ -1,11 +1,11 @@
 // The chart's time axis: range, unit boundaries, width, bar points.
 #include "schedule/kwtaskcollection.h"
+#include "engine/record/taskahead.h"
+#include "engine/time/timerange.h"
+#include "engine/time/timescale.h"
 #include "format/unitutil.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/taskahead.h"
-#include "schedule/timerange.h"
-#include "schedule/timescale.h"
 #include "support/kwclock.h"
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
+#include "engine/network/linkrefusal.h"
 #include "kwgantt_export.h"
-#include "schedule/linkrefusal.h"
 #include <QDateTime>
 #include <QList>
 #include <vector>
@@ -83,7 +83,7 @@ public:
     void updateTaskInfoParentTime(KWTaskInfo *task);
     void updateOptionTaskTime();
 
-    // ---- Days off (schedule/kwtaskcollection_dayoff.cpp) --------------------------------------------------
+    // ---- Days off (schedule/kwtaskcollection_moves.cpp) ---------------------------------------------------
     // Each returns secs unchanged when no weekday works, 0 for a missing document.
     static quint32 moveBackOneDayStartOnDayOff(KWDocument *document, quint32 secs, bool hourClock);
     static quint32 moveForwarstartOnDayOff(KWDocument *document, quint32 secs, bool hourClock);

@@ -1,12 +1,12 @@
 // Links between tasks: making and removing them, pushing along them, and showing those of the active task.
+#include "engine/network/linkgraph.h"
+#include "engine/network/links.h"
+#include "engine/network/push.h"
+#include "engine/record/outline.h"
+#include "engine/time/timescale.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/linkgraph.h"
-#include "schedule/links.h"
-#include "schedule/push.h"
-#include "schedule/timescale.h"
 
 namespace {
 

@@ -1,10 +1,13 @@
-// What follows when a bar is moved: its content, its length, its ancestors.
+// What follows when a bar is moved: its content, its length, its ancestors; and the steps off days off.
+#include "engine/network/moves.h"
+#include "engine/record/outline.h"
+#include "engine/time/dayoff.h"
+#include "engine/time/timescale.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/moves.h"
-#include "schedule/timescale.h"
+
+// ---- Moves ------------------------------------------------------------------------------------------------
 
 bool KWTaskCollection::isStrechOrMoveToChange(const KWTaskInfo *task, quint32 oldStart, quint32 oldFinish)
 {
@@ -47,4 +50,31 @@ void KWTaskCollection::recalculateTask(KWTaskInfo *task, quint32 oldStart)
         moves::keepDuration(m_document->workCalendar(), *task, oldStart);
     refreshTask(task);
     updateTaskInfoParentTime(task);
+}
+
+// ---- Days off ---------------------------------------------------------------------------------------------
+
+quint32 KWTaskCollection::moveBackOneDayStartOnDayOff(KWDocument *document, quint32 secs, bool hourClock)
+{
+    return document ? dayoff::startBack(document->workCalendar(), secs, hourClock) : 0;
+}
+
+quint32 KWTaskCollection::moveForwarstartOnDayOff(KWDocument *document, quint32 secs, bool hourClock)
+{
+    return document ? dayoff::startForward(document->workCalendar(), secs, hourClock) : 0;
+}
+
+quint32 KWTaskCollection::addFinishOnDayOff(KWDocument *document, quint32 secs, bool hourClock)
+{
+    return document ? dayoff::finishForward(document->workCalendar(), secs, hourClock) : 0;
+}
+
+quint32 KWTaskCollection::reduceFinishOnDayOff(KWDocument *document, quint32 secs, bool hourClock)
+{
+    return document ? dayoff::finishBack(document->workCalendar(), secs, hourClock) : 0;
+}
+
+unsigned int KWTaskCollection::continuousDayOff(KWDocument *document, quint32 secs)
+{
+    return document ? dayoff::run(document->workCalendar(), secs) : 0;
 }

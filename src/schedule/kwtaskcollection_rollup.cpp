@@ -1,11 +1,11 @@
 // Walks over the outline, and the dates that summaries take from their children.
+#include "engine/network/rollup.h"
+#include "engine/record/outline.h"
+#include "engine/record/taskahead.h"
+#include "engine/time/timescale.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
-#include "model/taskahead.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/rollup.h"
-#include "schedule/timescale.h"
 
 void KWTaskCollection::subIDListByTask(const KWTaskInfo *task, QList<quint32> &ids) const
 {

@@ -1,9 +1,61 @@
-// A task's late dates, slack and critical flag.
+// Durations of tasks, the walk by a duration, late dates and slack, and where a task stands on the chart.
+#include "engine/network/latedates.h"
+#include "engine/record/outline.h"
+#include "engine/time/dayoff.h"
+#include "engine/time/duration.h"
+#include "engine/time/timescale.h"
+#include "engine/time/walk.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
-#include "schedule/duration.h"
-#include "schedule/latedates.h"
+#include "schedule/kwtaskcollection.h"
+
+// ---- Durations --------------------------------------------------------------------------------------------
+
+quint32 KWTaskInfo::durationSecs(KWDocument *document, quint32 start, quint32 finish, unsigned int unit)
+{
+    return document ? duration::secs(document->workCalendar(), start, finish, unit) : 0;
+}
+
+double KWTaskInfo::getDurationValue(KWDocument *document, quint32 durationSecs, unsigned int unit)
+{
+    return document ? duration::value(document->workCalendar(), durationSecs, unit) : 0.0;
+}
+
+quint32 KWTaskInfo::backwardsDateTime(KWDocument *document, quint32 start, double value, unsigned int unit)
+{
+    if (!document || !document->taskCollection())
+        return start;
+    return walk::byUnits(document->workCalendar(), start, value, unit);
+}
+
+quint32 KWTaskInfo::getTaskPercentFinishSecs(KWDocument *document, const KWTaskInfo *task)
+{
+    if (!document || !task)
+        return 0;
+    if (!document->taskCollection())
+        return task->Start;
+    return walk::partOf(document->workCalendar(), task->Start, task->Finish, task->DurationUnits,
+                        task->Percent);
+}
+
+double KWTaskInfo::getDurValueByTaskInfo(KWDocument *document, const KWTaskInfo *task)
+{
+    if (!document || !task)
+        return 0.0;
+    return duration::ofTask(document->workCalendar(), task->Start, task->Finish, task->DurationUnits);
+}
+
+double KWTaskInfo::stretchDayOff(KWDocument *document, quint32 start, quint32 finish)
+{
+    return document ? duration::stretchDayOff(document->workCalendar(), start, finish) : 0.0;
+}
+
+quint32 KWTaskInfo::removeLastDayOff(KWDocument *document, quint32 secs)
+{
+    return document ? dayoff::removeLast(document->workCalendar(), secs) : secs;
+}
+
+// ---- Late dates and slack ---------------------------------------------------------------------------------
 
 void KWTaskInfo::updateEarlyLate(KWDocument *document, quint32 projectFinish)
 {
@@ -34,4 +86,40 @@ void KWTaskInfo::recurDependTaskMaxDurValue(KWDocument *document, const KWTaskIn
         lengths.push_back(duration::valueBetween(calendar, other->Start, other->Finish, unit, false));
     for (const double pathSum : latedates::pathSums(network, lengths, sum))
         sums.append(pathSum);
+}
+
+// ---- Chart positions --------------------------------------------------------------------------------------
+
+namespace {
+
+bool hasScale(const KWDocument *document)
+{
+    return document && document->taskCollection();
+}
+}
+
+quint32 KWTaskInfo::milestoneSecs(KWDocument *document, quint32 secs)
+{
+    return hasScale(document) ? document->taskCollection()->scale().milestoneAnchor(secs) : 0;
+}
+
+int KWTaskInfo::taskDayPoint(KWDocument *document, bool start) const
+{
+    return hasScale(document) ? document->taskCollection()->scale().dayPoint(*this, start) : 0;
+}
+
+int KWTaskInfo::taskHourPoint(KWDocument *document, bool start) const
+{
+    return hasScale(document) ? document->taskCollection()->scale().hourPoint(*this, start) : 0;
+}
+
+int KWTaskInfo::taskMinutePoint(KWDocument *document, bool start) const
+{
+    return hasScale(document) ? document->taskCollection()->scale().minutePoint(*this, start) : 0;
+}
+
+void KWTaskInfo::updateOneTaskFirstWidth(KWDocument *document)
+{
+    if (hasScale(document))
+        FirstWidth = document->taskCollection()->scale().finishedWidth(*this);
 }

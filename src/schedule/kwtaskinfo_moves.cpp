@@ -1,11 +1,11 @@
 // Dragging a bar and its finish.
+#include "engine/network/moves.h"
+#include "engine/record/outline.h"
+#include "engine/time/dayoff.h"
+#include "engine/time/timescale.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
-#include "schedule/dayoff.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/moves.h"
-#include "schedule/timescale.h"
 #include <algorithm>
 #include <cstdlib>
 

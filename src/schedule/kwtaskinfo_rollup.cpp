@@ -1,10 +1,10 @@
 // Percent, baseline and visibility along the outline.
+#include "engine/network/rollup.h"
+#include "engine/record/outline.h"
+#include "engine/time/timescale.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/rollup.h"
-#include "schedule/timescale.h"
 
 void KWTaskInfo::updateParentPercent(KWDocument *document)
 {

@@ -1,7 +1,7 @@
 // What dates and hours work, the two clocks and the counts of days, asked of a document.
+#include "engine/time/worktime.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "schedule/worktime.h"
 #include "support/kwclock.h"
 
 using worktime::HourPoint;

@@ -1,7 +1,12 @@
 #include "table/rowcolumndata.h"
+#include "editing/undoitems.h"
+#include "engine/record/outline.h"
 #include "format/unitutil.h"
 #include "model/kwdocument.h"
-#include "model/outline.h"
+#include "support/xmlsink.h"
+#include "support/xmlsource.h"
+#include "table/rowcolumndata_xml.h"
+#include <cmath>
 
 QMap<int, QString> RowColumnData::s_columnNames;
 QMap<int, QString> RowColumnData::s_priorityNames;
@@ -107,4 +112,75 @@ void RowColumnData::setRowHeightCount(int count)
 int RowColumnData::posOfRow(int row) const
 {
     return m_document ? m_document->getPosByRow(row) : -1;
+}
+
+// ---- Undo records -----------------------------------------------------------------------------------------
+
+void RowColumnData::getUndoRowVal(UndoItemData *item) const
+{
+    constexpr bool scaled = false;
+    if (item && m_document)
+        item->rowHeight = getRowHeightByPos(m_document->getPosByID(item->ID), scaled);
+}
+
+void RowColumnData::setUndoRowVal(const UndoItemData *item)
+{
+    if (!item || !m_document)
+        return;
+    const int pos = m_document->getPosByID(item->ID);
+    constexpr bool scaled = false;
+    // Most edits leave it alone, and a change moves every row below.
+    if (getRowHeightByPos(pos, scaled) != item->rowHeight)
+        replaceRowHeight(pos, item->rowHeight);
+}
+
+void RowColumnData::ColumnData::getUndoColVal(UndoColData *column) const
+{
+    if (!column)
+        return;
+    column->isHide = isHide;
+    column->title = title;
+    column->width = width;
+}
+
+void RowColumnData::ColumnData::setUndoColVal(const UndoColData *column)
+{
+    if (!column)
+        return;
+    isHide = column->isHide;
+    title = column->title;
+    width = column->width;
+}
+
+// ---- XML --------------------------------------------------------------------------------------------------
+
+QString tablexml::heightsText(const QList<double> &heights)
+{
+    constexpr int digits = 6;
+    QString text;
+    for (int pos = 0; pos < heights.size(); ++pos) {
+        if (pos > 0)
+            text += QLatin1Char(';');
+        const double height = heights[pos];
+        text += QString::number(std::isfinite(height) ? height : 0.0, 'g', digits);
+    }
+    return text;
+}
+
+QList<double> tablexml::heights(const XmlText &text)
+{
+    QList<double> heights;
+    text.split(';', Qt::SkipEmptyParts, [&heights](const XmlText &part) { heights.append(part.toDouble()); });
+    return heights;
+}
+
+void RowColumnData::save(QDomElement &parent) const
+{
+    DomSink sink(parent);
+    tablexml::write(sink, *this);
+}
+
+void RowColumnData::parse(const QDomElement &element, bool skipRowHeights)
+{
+    tablexml::read(DomSource(element), *this, skipRowHeights);
 }

@@ -1,6 +1,6 @@
 #pragma once
+#include "engine/record/trackedfield.h"
 #include "kwgantt_export.h"
-#include "model/trackedfield.h"
 #include <QDomElement>
 #include <QHash>
 #include <QList>
@@ -92,16 +92,16 @@ public:
     // Changes with every change of the heights but an addition at the end.
     quint64 revision() const { return m_revision; }
 
-    // ---- Undo records (table/rowcolumndata_undo.cpp) ------------------------------------------------------
+    // ---- Undo records -------------------------------------------------------------------------------------
     // The row height of the record's task; nothing happens when there is no such task.
     void getUndoRowVal(UndoItemData *item) const;
     void setUndoRowVal(const UndoItemData *item);
 
-    // ---- Cells (table/celltext.cpp) -----------------------------------------------------------------------
+    // ---- Cells --------------------------------------------------------------------------------------------
     // The text at a visible row and a column number; empty when there is no such task or column.
     QString itemText(int row, int column) const;
 
-    // ---- Files (table/rowcolumndata_xml.cpp) --------------------------------------------------------------
+    // ---- Files --------------------------------------------------------------------------------------------
     // Appends "RowHeightList" and "ColumnList"; heights are kept with six digits.
     void save(QDomElement &parent) const;
     // Replaces the lists that the element holds; unreadable numbers are 0.

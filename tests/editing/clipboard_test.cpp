@@ -1,7 +1,7 @@
 // Branches on the clipboard: small projects as pictures, and random ones against a slow reading of the rules.
+#include "engine/record/resource.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/resource.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/outlinecheck.h"
 #include "table/rowcolumndata.h"

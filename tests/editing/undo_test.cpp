@@ -1,7 +1,7 @@
 // The stacks of actions, and what each kind of backup brings back.
 #include "editing/taskaction.h"
+#include "engine/record/resource.h"
 #include "model/kwtaskinfo.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"

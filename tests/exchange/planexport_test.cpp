@@ -1,7 +1,7 @@
 // Which rows the sheets of a workbook have, and the text of every field.
+#include "engine/record/resource.h"
 #include "exchange/planexport.h"
 #include "format/dataformat.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "support/project.h"
 #include "support/workbooktitles.h"

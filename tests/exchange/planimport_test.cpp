@@ -1,11 +1,11 @@
 // What a workbook's sheets become, and what the findings say of what is spoilt.
+#include "engine/record/resource.h"
+#include "engine/text/columntypes.h"
 #include "exchange/planexport.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "support/gridbook.h"
 #include "support/kwclock.h"
 #include "support/workbooktitles.h"
-#include "table/columntypes.h"
 #include <gtest/gtest.h>
 
 namespace {

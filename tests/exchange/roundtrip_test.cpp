@@ -1,9 +1,9 @@
 // Random plans go out as XLSX files, plain and readable, and come back, but for what the format cannot carry.
 //
 // KW_XLSX_PLANS says how many plans are tried, KW_XLSX_SEED where they begin.
+#include "engine/record/resource.h"
 #include "exchange/XLSXDataEngine.h"
 #include "exchange/planexport.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"

@@ -1,8 +1,8 @@
 // Each fault that a document from elsewhere may have is found, and told once.
+#include "engine/record/resource.h"
 #include "invariants.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/resource.h"
 #include "support/findings.h"
 #include "table/rowcolumndata.h"
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // Outlines from levels, and walks over outlines that a file may have broken.
+#include "engine/record/outline.h"
 #include "model/kwtaskinfo.h"
-#include "model/outline.h"
 #include <gtest/gtest.h>
 #include <memory>
 #include <vector>

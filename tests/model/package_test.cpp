@@ -1,10 +1,10 @@
 // The document as a package: what is written, what comes back, what a failure leaves alone.
+#include "engine/record/resource.h"
 #include "kwfilepathmanager.h"
 #include "kwversion.h"
 #include "kwzip.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "runinglog.h"
 #include "schedule/kwcalendar.h"

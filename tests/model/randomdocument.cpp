@@ -1,7 +1,7 @@
 #include "model/randomdocument.h"
-#include "model/fieldxml.h"
-#include "model/taskfields.h"
-#include "resources/resourcefields.h"
+#include "engine/record/fieldxml.h"
+#include "engine/record/resourcefields.h"
+#include "engine/record/taskfields.h"
 #include "schedule/kwcalendar.h"
 #include "table/rowcolumndata.h"
 #include <cmath>

@@ -1,10 +1,10 @@
 // Random documents: what was saved comes back, but for what the format cannot carry, and stays so.
 #include "editing/hyperlinkxml.h"
-#include "model/fieldxml.h"
+#include "engine/record/fieldxml.h"
+#include "engine/record/resourcefields.h"
+#include "engine/record/taskfields.h"
 #include "model/kwdocument_options.h"
 #include "model/randomdocument.h"
-#include "model/taskfields.h"
-#include "resources/resourcefields.h"
 #include "schedule/kwcalendar.h"
 #include "support/folder.h"
 #include "table/rowcolumndata.h"

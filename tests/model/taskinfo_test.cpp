@@ -1,8 +1,8 @@
 // The task as a record: copies, cleared fields, ID lists, progress levels.
+#include "engine/record/resource.h"
+#include "engine/record/taskfields.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "model/taskfields.h"
-#include "resources/resource.h"
 #include <QGuiApplication>
 #include <gtest/gtest.h>
 #include <limits>

@@ -1,5 +1,5 @@
 #include "resources/plaincosts.h"
-#include "schedule/localclock.h"
+#include "engine/time/localclock.h"
 #include "support/kwclock.h"
 #include <algorithm>
 #include <array>

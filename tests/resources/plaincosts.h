@@ -1,7 +1,7 @@
 #pragma once
+#include "engine/record/resource.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include <string>
 

@@ -1,7 +1,7 @@
 // The resource sheet: names, texts, files, changed entries.
+#include "engine/record/resource.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "resources/resource.h"
 #include "resources/resourceinfodata.h"
 #include "support/project.h"
 #include <QDomDocument>

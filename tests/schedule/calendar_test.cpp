@@ -1,4 +1,4 @@
-#include "schedule/calendarcache.h"
+#include "engine/time/calendarcache.h"
 #include "schedule/kwcalendar.h"
 #include "support/calendartext.h"
 #include "support/kwclock.h"

@@ -1,7 +1,7 @@
+#include "engine/time/duration.h"
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "schedule/duration.h"
 #include "support/calendartext.h"
 #include "support/slowcalendar.h"
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // Late dates, slack texts and the critical path.
-#include "schedule/duration.h"
+#include "engine/network/latedates.h"
+#include "engine/time/duration.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/latedates.h"
 #include "schedule/randomplan.h"
 #include "support/project.h"
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "schedule/localclock.h"
+#include "engine/time/localclock.h"
 #include "support/zone.h"
 #include <QDateTime>
 #include <QLocale>

@@ -1,11 +1,11 @@
 // Whole networks against the integer arithmetic of a bare kernel: working day k of the project is the k-th
 // working date of the calendar, so every date, late date and slack is known by construction.
+#include "engine/time/localclock.h"
 #include "generator.h"
 #include "kernel.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/localclock.h"
 #include <QLocale>
 #include <QStringList>
 #include <gtest/gtest.h>

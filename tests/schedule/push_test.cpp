@@ -1,12 +1,12 @@
 // Pushes down the chain: where successors land, and what comes along.
-#include "model/outline.h"
-#include "schedule/duration.h"
+#include "engine/network/moves.h"
+#include "engine/network/push.h"
+#include "engine/network/rollup.h"
+#include "engine/record/outline.h"
+#include "engine/time/duration.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/moves.h"
-#include "schedule/push.h"
 #include "schedule/randomplan.h"
-#include "schedule/rollup.h"
 #include "support/project.h"
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "schedule/randomplan.h"
-#include "model/outline.h"
+#include "engine/record/outline.h"
+#include "engine/time/localclock.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/localclock.h"
 #include "table/rowcolumndata.h"
 
 namespace randomplan {

@@ -1,9 +1,9 @@
 // The time axis against its rules written out plainly on QDateTime.
+#include "engine/time/timerange.h"
+#include "engine/time/timescale.h"
 #include "format/unitutil.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
-#include "schedule/timerange.h"
-#include "schedule/timescale.h"
 #include "support/calendartext.h"
 #include "support/kwclock.h"
 #include "support/project.h"

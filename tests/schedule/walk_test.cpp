@@ -1,6 +1,6 @@
-#include "schedule/dayoff.h"
-#include "schedule/duration.h"
-#include "schedule/walk.h"
+#include "engine/time/dayoff.h"
+#include "engine/time/duration.h"
+#include "engine/time/walk.h"
 #include "support/calendartext.h"
 #include "support/slowcalendar.h"
 #include <gtest/gtest.h>

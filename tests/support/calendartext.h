@@ -1,5 +1,5 @@
 #pragma once
-#include "schedule/worktime.h"
+#include "engine/time/worktime.h"
 #include <QDate>
 #include <QString>
 #include <memory>

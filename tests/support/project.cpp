@@ -1,5 +1,5 @@
 #include "support/project.h"
-#include "model/outline.h"
+#include "engine/record/outline.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"

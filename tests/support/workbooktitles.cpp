@@ -1,7 +1,7 @@
 #include "support/workbooktitles.h"
+#include "engine/text/columntypes.h"
 #include "exchange/XLSXDataBase.h"
 #include "resources/resourceinfodata.h"
-#include "table/columntypes.h"
 
 using exceltitles::Sheet;
 

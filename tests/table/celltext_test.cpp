@@ -1,9 +1,9 @@
 // The text of every kind of cell.
+#include "engine/record/resource.h"
+#include "engine/text/celltext.h"
+#include "engine/text/columntypes.h"
 #include "format/dataformat.h"
-#include "resources/resource.h"
 #include "support/project.h"
-#include "table/celltext.h"
-#include "table/columntypes.h"
 #include "table/rowcolumndata.h"
 #include <QLocale>
 #include <QScopeGuard>

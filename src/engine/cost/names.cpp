@@ -1,0 +1,96 @@
+#include "engine/cost/names.h"
+#include "engine/record/resource.h"
+#include "model/kwtaskinfo.h"
+#include "resources/resourceinfodata.h"
+#include <limits>
+
+namespace names {
+
+namespace {
+
+// The greatest ID, at least 0.
+int greatestId(const QVector<ResourceInfo *> &infos)
+{
+    int greatest = 0;
+    for (const ResourceInfo *info : infos) {
+        if (info)
+            greatest = std::max(greatest, info->ID);
+    }
+    return greatest;
+}
+
+int after(int id)
+{
+    return id == std::numeric_limits<int>::max() ? id : id + 1;
+}
+}
+
+bool Distinct::add(const QString &name)
+{
+    const QString trimmed = name.trimmed();
+    if (trimmed.isEmpty() || m_seen.contains(trimmed))
+        return false;
+    m_seen.insert(trimmed);
+    m_list.append(trimmed);
+    return true;
+}
+
+void Distinct::addAssignmentsOf(const KWTaskInfo &task)
+{
+    for (const Resource *resource : task.resourceList)
+        add(resource->name);
+}
+
+void Distinct::addLeaves(const std::vector<KWTaskInfo *> &tasks)
+{
+    for (const KWTaskInfo *task : tasks) {
+        if (!task->isParent())
+            addAssignmentsOf(*task);
+    }
+}
+
+QString ofAssignments(const KWTaskInfo &task)
+{
+    QString text;
+    for (const Resource *resource : task.resourceList) {
+        const QString name = resource->name.trimmed();
+        if (name.isEmpty())
+            continue;
+        if (text.isEmpty())
+            text = name;
+        else
+            text += QLatin1String("; ") + name;
+    }
+    return text;
+}
+
+Unique::Unique(const QVector<ResourceInfo *> &infos)
+    : m_nextId(names::nextId(infos))
+{
+    m_names.reserve(infos.size());
+    for (const ResourceInfo *info : infos) {
+        if (info)
+            m_names.insert(info->name);
+    }
+}
+
+QString Unique::different(const QString &name) const
+{
+    QString candidate = name;
+    // Kept on purpose: the first number is one past the next ID, and numbers gather behind the name.
+    for (qint64 number = qint64(m_nextId) + 1; m_names.contains(candidate.trimmed()); ++number)
+        candidate += QString::number(number);
+    return candidate;
+}
+
+void Unique::add(const QString &name, int id)
+{
+    m_names.insert(name);
+    m_nextId = std::max(m_nextId, after(id));
+}
+
+int nextId(const QVector<ResourceInfo *> &infos)
+{
+    return after(greatestId(infos));
+}
+}

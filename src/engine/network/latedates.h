@@ -1,0 +1,112 @@
+#pragma once
+#include "engine/network/linkgraph.h"
+#include "engine/record/outline.h"
+#include "engine/time/worktime.h"
+#include <QString>
+#include <vector>
+
+class KWTaskInfo;
+
+// How late a task may be without moving the project's finish. Only links count, not the outline; the links
+// between the tasks of a ring do not count at all.
+namespace latedates {
+
+// Slack is measured in days, hours or minutes, never in anything longer.
+unsigned int slackUnit(unsigned int minorUnit);
+
+// Tasks and the links from each to its successors.
+struct Network
+{
+    std::vector<const KWTaskInfo *> tasks;
+    linkgraph::Graph graph;
+    std::vector<char> listsUnknown; // the task lists a successor that does not exist
+};
+Network wholeNetwork(const outline::Tasks &tasks);                         // in list order
+Network networkAfter(const outline::Tasks &tasks, const KWTaskInfo &task); // the task first
+
+// What comes after a task.
+struct Tail
+{
+    enum Kind {
+        Last,   // no successors
+        NoPath, // only successors that do not exist, or that lead to such tasks only
+        Path
+    };
+    Kind kind = Last;
+    qint64 secs = 0; // of work on the longest path through the successors, its own not included
+};
+// For each task of the network; `lengths` is the work of each in seconds.
+std::vector<Tail> tails(const Network &network, const std::vector<quint32> &lengths);
+
+// More paths than this are not listed.
+constexpr double maxPaths = 1 << 20;
+// `sum` plus the lengths of the tasks after the first one, for each path through its successors, depth first.
+// Of too many paths only the greatest sum.
+std::vector<double> pathSums(const Network &network, const std::vector<double> &lengths, double sum);
+
+// Remembers the latest results of a costly function of numbers.
+template <typename Value>
+class Recent
+{
+public:
+    template <typename Make>
+    const Value &get(qint64 key, Make make)
+    {
+        Slot &slot = m_slots[(quint64(key) * 0x9e3779b97f4a7c15ULL) >> (64 - bits)];
+        if (!slot.isSet || slot.key != key)
+            slot = {key, make(), true};
+        return slot.value;
+    }
+
+private:
+    static constexpr int bits = 12;
+    struct Slot
+    {
+        qint64 key = 0;
+        Value value = Value();
+        bool isSet = false;
+    };
+    std::vector<Slot> m_slots = std::vector<Slot>(1 << bits);
+};
+
+// Slack of one project as value and text.
+class SlackTexts
+{
+public:
+    SlackTexts(const worktime::WorkCalendar &calendar, unsigned int unit, const QString &unitName);
+
+    // Units as shown, from a date to its latest one; 0.0 when that is not later.
+    double between(quint32 early, quint32 late) const;
+    QString text(double units);
+
+private:
+    const worktime::WorkCalendar &m_calendar;
+    unsigned int m_unit;
+    QString m_unitName;
+    Recent<QString> m_texts;
+};
+
+// Fills in the late dates, slack and critical flag of one project's tasks.
+class LateDates
+{
+public:
+    LateDates(const worktime::WorkCalendar &calendar, quint32 projectFinish, unsigned int unit,
+              const QString &unitName);
+
+    quint32 length(const KWTaskInfo &task) const; // seconds of work in the unit
+    void apply(KWTaskInfo &task, quint32 lengthSecs, const Tail &tail);
+
+private:
+    quint32 beforeFinish(qint64 workSecs);
+
+    const worktime::WorkCalendar &m_calendar;
+    quint32 m_projectFinish;
+    unsigned int m_unit;
+    SlackTexts m_slack;
+    Recent<quint32> m_beforeFinish;
+};
+
+// The slack texts from the dates as they stand. A task that has begun has no start slack. Returns the finish
+// slack's value.
+double writeSlack(KWTaskInfo &task, SlackTexts &texts);
+}

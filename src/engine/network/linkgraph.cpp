@@ -1,0 +1,227 @@
+#include "engine/network/linkgraph.h"
+#include <algorithm>
+#include <cstdlib>
+
+namespace linkgraph {
+
+namespace {
+
+constexpr int unvisited = -1;
+
+// The node whose edges are the links of the task that begins here, for each node.
+std::vector<int> linkEnds(const EventNetwork &network)
+{
+    std::vector<int> ends(network.nodes().size());
+    for (int node = 0; node < int(ends.size()); ++node)
+        ends[node] = network.endOfBegin(node);
+    return ends;
+}
+
+// The links alone, between the nodes where tasks end.
+Graph linksOnly(const EventNetwork &network, const std::vector<int> &ends)
+{
+    const Graph &events = network.graph();
+    Graph links;
+    for (int node = 0; node < events.count(); ++node) {
+        const int first = events.first[node];
+        for (int edge = first; edge < first + network.nodes()[node].linkCount; ++edge)
+            links.targets.push_back(ends[events.targets[edge]]);
+        links.first.push_back(int(links.targets.size()));
+    }
+    return links;
+}
+
+Graph without(const Graph &graph, const std::vector<char> &deadEdge)
+{
+    Graph rest;
+    for (int node = 0; node < graph.count(); ++node) {
+        for (int edge = graph.first[node]; edge < graph.first[node + 1]; ++edge) {
+            if (!deadEdge[edge])
+                rest.targets.push_back(graph.targets[edge]);
+        }
+        rest.first.push_back(int(rest.targets.size()));
+    }
+    return rest;
+}
+}
+
+Components components(const Graph &graph)
+{
+    struct Step
+    {
+        int node, edge;
+    };
+    const int count = graph.count();
+    Components found;
+    found.of.assign(size_t(count), unvisited);
+    found.order.reserve(size_t(count));
+    std::vector<int> visitedAt(graph.first.size() - 1, unvisited);
+    std::vector<int> lowest(graph.first.size() -
+                            1); // the earliest visited node of its component that it leads to
+    std::vector<int> open;      // visited, component not yet known
+    std::vector<Step> path;
+    int visits = 0;
+    int number = 0;
+    const auto enter = [&](int node) {
+        visitedAt[node] = lowest[node] = visits++;
+        open.push_back(node);
+        path.push_back({node, graph.first[node]});
+    };
+    for (int root = 0; root < count; ++root) {
+        if (visitedAt[root] == unvisited)
+            enter(root);
+        while (!path.empty()) {
+            Step &step = path.back();
+            const int node = step.node;
+            if (step.edge < graph.first[node + 1]) {
+                const int target = graph.targets[step.edge++];
+                if (visitedAt[target] == unvisited)
+                    enter(target);
+                else if (found.of[target] == unvisited)
+                    lowest[node] = std::min(lowest[node], visitedAt[target]);
+                found.hasRings = found.hasRings || target == node;
+                continue;
+            }
+            path.pop_back();
+            found.order.push_back(node);
+            if (!path.empty()) {
+                int &above = lowest[path.back().node];
+                above = std::min(above, lowest[node]);
+            }
+            if (lowest[node] != visitedAt[node])
+                continue;
+            found.hasRings = found.hasRings || open.back() != node;
+            int member = 0;
+            do {
+                member = open.back();
+                open.pop_back();
+                found.of[member] = number;
+            } while (member != node);
+            ++number;
+        }
+    }
+    std::reverse(found.order.begin(), found.order.end());
+    return found;
+}
+
+namespace {
+
+int *zeroed(int count)
+{
+    void *memory = std::calloc(std::max<std::size_t>(1, std::size_t(count)), sizeof(int));
+    Q_CHECK_PTR(memory);
+    return static_cast<int *>(memory);
+}
+}
+
+EventNetwork::EventNetwork(const outline::Tasks &tasks)
+    : m_tasks(tasks)
+    , m_nodeOfEvent(zeroed(2 * tasks.list.size()), std::free)
+{
+    m_nodes.reserve(size_t(tasks.list.size()));
+    for (int pos = 0; pos < tasks.list.size(); ++pos)
+        add(pos, false);
+    expandAll();
+}
+
+EventNetwork::EventNetwork(const outline::Tasks &tasks, const std::vector<int> &starts)
+    : m_tasks(tasks)
+    , m_nodeOfEvent(zeroed(2 * tasks.list.size()), std::free)
+{
+    for (const int pos : starts)
+        add(pos, false);
+    expandAll();
+}
+
+// A task without children has one event.
+int &EventNetwork::slot(int pos, bool end) const
+{
+    return m_nodeOfEvent[2 * std::size_t(pos) + (end && m_tasks.list[pos]->isParent() ? 1 : 0)];
+}
+
+int EventNetwork::add(int pos, bool end)
+{
+    int &number = slot(pos, end);
+    if (number == 0) {
+        m_nodes.push_back({pos, !end, end, 0});
+        number = int(m_nodes.size());
+    }
+    return number - 1;
+}
+
+void EventNetwork::expandAll()
+{
+    for (size_t i = 0; i < m_nodes.size(); ++i) {
+        const Node node = m_nodes[i];
+        int links = 0;
+        forEachFollower(m_tasks, node.pos, node.ends, [&](int pos, bool isEnd, bool isLink) {
+            m_graph.targets.push_back(add(pos, isEnd));
+            links += isLink ? 1 : 0;
+        });
+        m_nodes[i].linkCount = links;
+        if (!m_tasks.list[node.pos]->isParent())
+            m_nodes[i].begins = m_nodes[i].ends = true;
+        m_graph.first.push_back(int(m_graph.targets.size()));
+    }
+}
+
+int EventNetwork::endOfBegin(int node) const
+{
+    return m_nodes[node].ends ? node : m_graph.targets[m_graph.first[node + 1] - 1];
+}
+
+Schedule schedule(const EventNetwork &network, const outline::Tasks &tasks)
+{
+    const Graph &events = network.graph();
+    Components all = components(events);
+    Schedule result;
+    if (!all.hasRings) {
+        result.order = std::move(all.order);
+        return result;
+    }
+    const std::vector<int> ends = linkEnds(network);
+    const Components links = components(linksOnly(network, ends));
+    const auto isSummary = [&](int node) { return tasks.list[network.nodes()[node].pos]->isParent(); };
+    result.deadEdge.assign(events.targets.size(), 0);
+    for (int node = 0; node < events.count(); ++node) {
+        const int first = events.first[node];
+        for (int edge = first; edge < first + network.nodes()[node].linkCount; ++edge) {
+            const int target = events.targets[edge];
+            const bool inLinkRing = links.of[node] == links.of[ends[target]];
+            const bool inRing = all.of[node] == all.of[target];
+            result.deadEdge[edge] = inLinkRing || (inRing && (isSummary(node) || isSummary(target)));
+        }
+    }
+    result.order = components(without(events, result.deadEdge)).order;
+    return result;
+}
+
+std::vector<std::vector<int>> rings(const EventNetwork &network)
+{
+    const Graph &events = network.graph();
+    const Components all = components(events);
+    std::vector<std::vector<int>> result;
+    if (!all.hasRings)
+        return result;
+    std::vector<std::vector<int>> members(events.first.size());
+    std::vector<char> isRing(events.first.size());
+    for (int node = 0; node < events.count(); ++node) {
+        const size_t component = size_t(all.of[node]);
+        for (int edge = events.first[node]; edge < events.first[node + 1]; ++edge) {
+            if (all.of[events.targets[edge]] == int(component))
+                isRing[component] = 1;
+        }
+        members[component].push_back(network.nodes()[node].pos);
+    }
+    for (size_t component = 0; component < members.size(); ++component) {
+        if (!isRing[component])
+            continue;
+        std::vector<int> &places = members[component];
+        std::sort(places.begin(), places.end());
+        places.erase(std::unique(places.begin(), places.end()), places.end());
+        result.push_back(std::move(places));
+    }
+    std::sort(result.begin(), result.end());
+    return result;
+}
+}

@@ -1,0 +1,211 @@
+#include "engine/network/links.h"
+#include "engine/network/linkgraph.h"
+#include "model/kwtaskinfo.h"
+#include <algorithm>
+
+namespace links {
+
+using outline::Tasks;
+
+namespace {
+
+using IdList = QList<quint32> KWTaskInfo::*;
+
+constexpr int none = -1;
+
+// ---- Whether a task leads to another ----------------------------------------------------------------------
+
+// The IDs of a task, of the summaries above it but below the one it shares with another task, and of all
+// below it.
+TaskIndex family(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &other)
+{
+    TaskIndex ids;
+    ids.add(a.ID);
+    const KWTaskInfo *common = outline::commonSummary(tasks, a, other);
+    for (const KWTaskInfo *above : outline::ancestors(tasks, a)) {
+        if (above == common)
+            break;
+        ids.add(above->ID);
+    }
+    for (const KWTaskInfo *below : outline::descendants(tasks, a))
+        ids.add(below->ID);
+    return ids;
+}
+
+bool contains(const std::vector<KWTaskInfo *> &tasks, quint32 id)
+{
+    return std::any_of(tasks.begin(), tasks.end(), [id](const KWTaskInfo *task) { return task->ID == id; });
+}
+
+// One event reached on the way from b to a.
+struct Reached
+{
+    int pos = 0;
+    bool isEnd = false;
+    int from = none; // index of the event that led here
+};
+
+// Looks for a way along links and outline from the begin of b to the end of a, the nearest first.
+bool isReached(const Tasks &tasks, int a, int b, QList<quint32> *ring)
+{
+    TaskIndex aboveA;
+    for (const KWTaskInfo *above : outline::ancestors(tasks, *tasks.list[a]))
+        aboveA.add(above->ID);
+    std::vector<Reached> reached;
+    TaskIndex seen;
+    int from = none;
+    const auto reach = [&](int pos, bool isEnd, bool isLink) {
+        const KWTaskInfo &task = *tasks.list[pos];
+        // The end of a summary that holds a says nothing of a itself.
+        const bool goesUp = isEnd && !isLink && aboveA.contains(task.ID);
+        const bool ends = isEnd || !task.isParent();
+        if (!goesUp && seen.add(2 * quint32(pos) + (ends ? 1 : 0)))
+            reached.push_back({pos, ends, from});
+        return pos == a && ends;
+    };
+    bool found = reach(b, false, true);
+    for (size_t i = 0; i < reached.size() && !found; ++i) {
+        const Reached event = reached[i];
+        from = int(i);
+        linkgraph::forEachFollower(tasks, event.pos, event.isEnd, [&](int pos, bool isEnd, bool isLink) {
+            found = found || reach(pos, isEnd, isLink);
+        });
+    }
+    if (found && ring) {
+        std::vector<int> path;
+        for (int i = int(reached.size()) - 1; i != none; i = reached[i].from)
+            path.push_back(reached[i].pos);
+        std::reverse(path.begin(), path.end());
+        *ring = ringAlong(tasks, path);
+    }
+    return found;
+}
+
+// ---- The lists --------------------------------------------------------------------------------------------
+
+void removeAlong(const Tasks &tasks, const std::vector<KWTaskInfo *> &from, KWTaskInfo &x, IdList onward,
+                 IdList back)
+{
+    TaskIndex seen;
+    TaskIndex parted;
+    std::vector<KWTaskInfo *> open = from;
+    while (!open.empty()) {
+        KWTaskInfo *task = open.back();
+        open.pop_back();
+        if (!seen.add(task->ID))
+            continue;
+        for (const quint32 id : qAsConst(task->*onward)) {
+            KWTaskInfo *next = tasks.byId(id);
+            if (next && !seen.contains(id))
+                open.push_back(next);
+        }
+        if ((task->*onward).removeAll(x.ID) > 0)
+            parted.add(task->ID);
+    }
+    QList<quint32> &others = x.*back;
+    others.erase(
+        std::remove_if(others.begin(), others.end(), [&](quint32 id) { return parted.contains(id); }),
+        others.end());
+}
+
+}
+
+LinkRefusal outlineRefusal(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b)
+{
+    if (contains(outline::ancestors(tasks, a), b.ID))
+        return LinkRefusal::OwnSummary;
+    if (contains(outline::ancestors(tasks, b), a.ID))
+        return LinkRefusal::OwnSubtask;
+    return LinkRefusal::None;
+}
+
+int placeByBar(const Tasks &tasks, const QList<quint32> &ids, double x)
+{
+    for (int i = 0; i < ids.size(); ++i) {
+        const KWTaskInfo *task = tasks.byId(ids[i]);
+        if (task && task->x1 > x)
+            return i;
+    }
+    return ids.size();
+}
+
+QList<quint32> ringAlong(const Tasks &tasks, const std::vector<int> &path)
+{
+    QList<quint32> ids{tasks.list[path.back()]->ID};
+    for (size_t i = 0; i + 1 < path.size(); ++i) {
+        // A task is there with its begin and its end.
+        if (path[i] != path.back() && (i == 0 || path[i] != path[i - 1]))
+            ids.append(tasks.list[path[i]]->ID);
+    }
+    return ids;
+}
+
+bool leadsTo(const Tasks &tasks, const KWTaskInfo &t, const KWTaskInfo &a)
+{
+    if (t.Depends.isEmpty())
+        return false;
+    const TaskIndex ids = family(tasks, a, t);
+    return std::any_of(t.Depends.begin(), t.Depends.end(), [&](quint32 id) { return ids.contains(id); });
+}
+
+LinkRefusal refusal(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b, QList<quint32> *ring)
+{
+    const int posOfA = tasks.index.posOf(a.ID);
+    const int posOfB = tasks.index.posOf(b.ID);
+    if (posOfA < 0 || posOfB < 0)
+        return LinkRefusal::Missing;
+    if (posOfA == posOfB)
+        return LinkRefusal::Self;
+    if (a.Depends.contains(b.ID))
+        return LinkRefusal::Twice;
+    const LinkRefusal byOutline = outlineRefusal(tasks, a, b);
+    if (byOutline != LinkRefusal::None)
+        return byOutline;
+    // A child that names another summary is still below this one.
+    if (contains(outline::descendants(tasks, a), b.ID))
+        return LinkRefusal::OwnSubtask;
+    return isReached(tasks, posOfA, posOfB, ring) ? LinkRefusal::Loop : LinkRefusal::None;
+}
+
+void insert(const Tasks &tasks, KWTaskInfo &a, KWTaskInfo &b)
+{
+    a.insertDependID(placeByBar(tasks, a.Depends, b.x1), b.ID);
+    b.insertDependOnID(placeByBar(tasks, b.Predecessors, a.x1), a.ID);
+}
+
+void removeDownstream(const Tasks &tasks, const std::vector<KWTaskInfo *> &from, KWTaskInfo &x)
+{
+    removeAlong(tasks, from, x, &KWTaskInfo::Depends, &KWTaskInfo::Predecessors);
+}
+
+void removeUpstream(const Tasks &tasks, const std::vector<KWTaskInfo *> &from, KWTaskInfo &x)
+{
+    removeAlong(tasks, from, x, &KWTaskInfo::Predecessors, &KWTaskInfo::Depends);
+}
+
+void completeSuccessors(const Tasks &tasks)
+{
+    std::vector<std::vector<quint32>> named(size_t(tasks.list.size()));
+    for (KWTaskInfo *task : tasks.list) {
+        std::sort(task->Predecessors.begin(), task->Predecessors.end());
+        for (const quint32 id : qAsConst(task->Predecessors)) {
+            const int predecessor = tasks.index.posOf(id);
+            if (predecessor >= 0)
+                named[predecessor].push_back(task->ID);
+        }
+    }
+    for (int pos = 0; pos < tasks.list.size(); ++pos) {
+        QList<quint32> &successors = tasks.list[pos]->Depends;
+        std::vector<quint32> &ids = named[pos];
+        std::sort(ids.begin(), ids.end());
+        ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
+        std::sort(successors.begin(), successors.end());
+        std::vector<quint32> missing;
+        std::set_difference(ids.begin(), ids.end(), successors.begin(), successors.end(),
+                            std::back_inserter(missing));
+        for (const quint32 id : missing)
+            successors.append(id);
+        std::sort(successors.begin(), successors.end());
+    }
+}
+}

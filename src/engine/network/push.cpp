@@ -1,0 +1,308 @@
+#include "engine/network/push.h"
+#include "engine/network/linkgraph.h"
+#include "engine/network/moves.h"
+#include "engine/network/rollup.h"
+#include "model/kwtaskinfo.h"
+#include <algorithm>
+
+namespace push {
+
+using linkgraph::EventNetwork;
+using linkgraph::Schedule;
+using worktime::WorkCalendar;
+
+namespace {
+
+constexpr int secsPerMinute = 60;
+constexpr int none = -1;
+
+// Day-clock seconds of one minute of the hour clock, rounded up.
+qint64 shownMinuteSecs(const WorkCalendar &calendar)
+{
+    const qint64 span = calendar.spanSecs();
+    return span > 0 ? (qint64(secsPerMinute) * LocalClock::secsPerDay + span - 1) / span : secsPerMinute;
+}
+
+// One pass over a network. Every task is placed once, after all that can push it: the order of the links
+// makes no difference.
+class Pass
+{
+public:
+    Pass(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
+         const EventNetwork &network, const Schedule &schedule)
+        : m_calendar(calendar)
+        , m_tasks(tasks)
+        , m_hourScale(hourScale)
+        , m_network(network)
+        , m_schedule(schedule)
+        , m_state(network.nodes().size())
+    {
+    }
+
+    // A predecessor's finish for the task that begins at the node; the latest one counts.
+    void offer(int node, int predecessor, quint32 finish)
+    {
+        State &state = m_state[node];
+        if (finish > state.finish) {
+            state.finish = finish;
+            state.predecessor = predecessor;
+        }
+    }
+
+    // Every task pushes its successors.
+    void runAll()
+    {
+        m_fromAll = true;
+        rollUpAll();
+        run();
+    }
+    // Only tasks that were passed push their successors.
+    void run()
+    {
+        for (const int node : m_schedule.order) {
+            const EventNetwork::Node &event = m_network.nodes()[node];
+            if (event.begins)
+                place(node);
+            if (event.ends)
+                end(node);
+        }
+    }
+
+    bool isPassed(int node) const { return m_state[node].passed; }
+    // What runAll pushed or carried along to other dates, in list order.
+    std::vector<Move> moves()
+    {
+        std::sort(m_old.begin(), m_old.end(), [](const Old &a, const Old &b) { return a.pos < b.pos; });
+        std::vector<Move> moved;
+        for (const Old &old : m_old) {
+            KWTaskInfo *task = m_tasks.list[old.pos];
+            const int begin = m_network.beginOf(old.pos);
+            const bool pushed = m_state[begin].pushed;
+            if ((pushed || m_state[m_network.endOf(old.pos)].carried) &&
+                (task->Start != old.start || task->Finish != old.finish))
+                moved.push_back({task, old.start, old.finish,
+                                 pushed ? m_tasks.list[m_state[begin].predecessor] : nullptr});
+        }
+        return moved;
+    }
+    KWTaskInfo &task(int node) const { return *m_tasks.list[m_network.nodes()[node].pos]; }
+
+private:
+    struct State
+    {
+        quint32 finish = 0;      // of the latest predecessor so far
+        int predecessor = none;  // its place in the list
+        bool pushed = false;     // at the begin
+        bool passed = false;     // at the end: the dates were set in this pass
+        bool carried = false;    // at the end: moved with a summary above
+        bool remembered = false; // at the begin
+    };
+    struct Old
+    {
+        int pos;
+        quint32 start, finish;
+    };
+
+    // The dates of a task before its first change.
+    void remember(int pos)
+    {
+        State &state = m_state[m_network.beginOf(pos)];
+        if (!m_fromAll || state.remembered)
+            return;
+        state.remembered = true;
+        m_old.push_back({pos, m_tasks.list[pos]->Start, m_tasks.list[pos]->Finish});
+    }
+
+    void rollUpAll()
+    {
+        for (const int node : m_schedule.order) {
+            const EventNetwork::Node &event = m_network.nodes()[node];
+            if (event.ends && !event.begins) {
+                remember(event.pos);
+                rollup::dates(m_calendar, m_tasks, task(node));
+            }
+        }
+    }
+
+    // Whether the start moved. The finish goes along by the same seconds.
+    bool moveStart(KWTaskInfo &task, quint32 finish) const
+    {
+        bool moved = moves::startTo(m_calendar, task, target(finish), m_hourScale);
+        // On an hour-based scale the nearest minute of the hour clock can lie well before the finish.
+        if (!holds(finish, task.Start)) {
+            const quint32 later = worktime::clampSecs(target(finish) + shownMinuteSecs(m_calendar));
+            moved = moves::startTo(m_calendar, task, later, m_hourScale) || moved;
+        }
+        return moved;
+    }
+
+    bool moveTask(KWTaskInfo &task, quint32 finish) const
+    {
+        const quint32 oldStart = task.Start;
+        if (!moveStart(task, finish))
+            return false;
+        moves::keepDuration(m_calendar, task, oldStart);
+        return true;
+    }
+
+    void place(int node)
+    {
+        State &state = m_state[node];
+        KWTaskInfo &moving = task(node);
+        if (holds(state.finish, moving.Start))
+            return;
+        remember(m_network.nodes()[node].pos);
+        if (moving.isParent())
+            placeSummary(node);
+        else if (moveTask(moving, state.finish))
+            state.pushed = state.passed = true;
+    }
+
+    void placeSummary(int node)
+    {
+        State &state = m_state[node];
+        KWTaskInfo &summary = task(node);
+        const quint32 oldStart = summary.Start;
+        if (m_fromAll) {
+            for (const KWTaskInfo *below : outline::descendants(m_tasks, summary))
+                remember(m_tasks.index.posOf(below->ID));
+        }
+        if (!moveStart(summary, state.finish))
+            return;
+        const std::vector<KWTaskInfo *> below = moves::content(m_calendar, m_tasks, summary, oldStart);
+        if (!holds(state.finish, summary.Start))
+            placeContent(summary, below, state.finish);
+        state.pushed = true;
+        m_state[m_network.endOfBegin(node)].passed = true;
+        for (const KWTaskInfo *moved : below) {
+            const int end = m_network.endOf(m_tasks.index.posOf(moved->ID));
+            m_state[end].passed = m_state[end].carried = true;
+        }
+    }
+
+    // Tasks that stood on days off can keep their distance from the summary's start and still come too early.
+    void placeContent(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below, quint32 finish) const
+    {
+        for (auto it = below.rbegin(); it != below.rend(); ++it) {
+            KWTaskInfo &task = **it;
+            if (!rollup::dates(m_calendar, m_tasks, task) && task.Start != 0 && !holds(finish, task.Start))
+                moveTask(task, finish);
+        }
+        rollup::dates(m_calendar, m_tasks, summary);
+    }
+
+    void end(int node)
+    {
+        const bool passed = isPassed(node);
+        KWTaskInfo &ending = task(node);
+        if (passed && ending.isParent())
+            rollup::dates(m_calendar, m_tasks, ending);
+        if (!passed && !m_fromAll)
+            return;
+        const linkgraph::Graph &graph = m_network.graph();
+        const EventNetwork::Node &event = m_network.nodes()[node];
+        const int first = graph.first[node];
+        const int firstOther = first + event.linkCount;
+        for (int edge = first; edge < firstOther; ++edge) {
+            if (m_schedule.deadEdge.empty() || !m_schedule.deadEdge[edge])
+                offer(graph.targets[edge], event.pos, ending.Finish);
+        }
+        if (passed && firstOther < graph.first[node + 1])
+            m_state[graph.targets[firstOther]].passed = true;
+    }
+
+    const WorkCalendar &m_calendar;
+    const outline::Tasks &m_tasks;
+    bool m_hourScale;
+    const EventNetwork &m_network;
+    const Schedule &m_schedule;
+    bool m_fromAll = false;
+    std::vector<State> m_state;
+    std::vector<Old> m_old;
+};
+
+// Whether the predecessor's link to the task that begins at the node counts. When the push would come back to
+// the predecessor, it has to be a link that is no part of a ring.
+bool canPush(const EventNetwork &network, const Schedule &schedule, int predecessorPos, int successorNode)
+{
+    const int node = predecessorPos < 0 ? none : network.endOf(predecessorPos);
+    if (node == none)
+        return true;
+    const int first = network.graph().first[node];
+    for (int edge = first; edge < first + network.nodes()[node].linkCount; ++edge) {
+        if (network.graph().targets[edge] == successorNode)
+            return schedule.deadEdge.empty() || !schedule.deadEdge[edge];
+    }
+    return false;
+}
+
+int posOf(const outline::Tasks &tasks, const KWTaskInfo &task)
+{
+    const int pos = tasks.index.posOf(task.ID);
+    if (pos >= 0 && tasks.list[pos] == &task)
+        return pos;
+    return tasks.list.indexOf(const_cast<KWTaskInfo *>(&task)); // another task has the same ID
+}
+}
+
+bool holds(quint32 finish, quint32 start)
+{
+    return finish <= qint64(start) + toleranceSecs;
+}
+
+quint32 target(quint32 finish)
+{
+    const quint32 second = finish % secsPerMinute;
+    const qint64 whole = qint64(finish) - second;
+    return worktime::clampSecs(second < secsPerMinute / 2 ? whole : whole + secsPerMinute);
+}
+
+std::vector<KWTaskInfo *> along(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
+                                const std::vector<Link> &links)
+{
+    struct Ends
+    {
+        int predecessor; // places in the list
+        int successor;
+        quint32 finish;
+    };
+    std::vector<Ends> early;
+    std::vector<int> starts;
+    for (const Link &link : links) {
+        if (link.predecessor == link.successor || holds(link.predecessor->Finish, link.successor->Start))
+            continue;
+        const int successor = posOf(tasks, *link.successor);
+        if (successor >= 0) {
+            early.push_back({posOf(tasks, *link.predecessor), successor, link.predecessor->Finish});
+            starts.push_back(successor);
+        }
+    }
+    std::vector<KWTaskInfo *> passed;
+    if (early.empty())
+        return passed;
+
+    const EventNetwork network(tasks, starts);
+    const Schedule order = linkgraph::schedule(network, tasks);
+    Pass pass(calendar, tasks, hourScale, network, order);
+    for (const Ends &link : early) {
+        const int node = network.beginOf(link.successor);
+        if (canPush(network, order, link.predecessor, node))
+            pass.offer(node, link.predecessor, link.finish);
+    }
+    pass.run();
+    for (int node = 0; node < int(network.nodes().size()); ++node) {
+        if (pass.isPassed(node))
+            passed.push_back(&pass.task(node));
+    }
+    return passed;
+}
+
+std::vector<Move> all(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale)
+{
+    const EventNetwork network(tasks);
+    const Schedule order = linkgraph::schedule(network, tasks);
+    Pass pass(calendar, tasks, hourScale, network, order);
+    pass.runAll();
+    return pass.moves();
+}
+}

@@ -1,0 +1,114 @@
+#include "engine/network/rollup.h"
+#include "engine/time/duration.h"
+#include "model/kwtaskinfo.h"
+#include <algorithm>
+#include <unordered_set>
+
+namespace rollup {
+namespace {
+
+// The range of a set of tasks; none of them is not the same as one from 0 to 0.
+class Span
+{
+public:
+    void add(quint32 start, quint32 finish)
+    {
+        m_start = m_empty ? start : std::min(m_start, start);
+        m_finish = m_empty ? finish : std::max(m_finish, finish);
+        m_empty = false;
+    }
+    quint32 start() const { return m_start; }
+    quint32 finish() const { return m_finish; }
+
+private:
+    bool m_empty = true;
+    quint32 m_start = 0;
+    quint32 m_finish = 0;
+};
+
+void store(const Span &span, KWTaskInfo &summary)
+{
+    summary.BaseStart = span.start();
+    summary.BaseFinish = span.finish();
+}
+
+// Adds the leaves below the summary, the tasks already in `seen` and what lies below them left out.
+void addSubtrees(const outline::Tasks &tasks, const KWTaskInfo &summary,
+                 std::unordered_set<const KWTaskInfo *> &seen, Span &span)
+{
+    std::vector<const KWTaskInfo *> from{&summary};
+    while (!from.empty()) {
+        const KWTaskInfo *task = from.back();
+        from.pop_back();
+        for (const quint32 id : task->Childs) {
+            const KWTaskInfo *child = tasks.byId(id);
+            if (child && seen.insert(child).second) {
+                if (child->isParent())
+                    from.push_back(child);
+                else
+                    span.add(child->BaseStart, child->BaseFinish);
+            }
+        }
+    }
+}
+}
+
+bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, KWTaskInfo &summary)
+{
+    Span span;
+    for (const quint32 id : summary.Childs) {
+        if (const KWTaskInfo *child = tasks.byId(id))
+            span.add(child->Start, child->Finish);
+    }
+    if (span.start() == 0 || span.finish() == 0)
+        return false;
+    summary.Start = span.start();
+    summary.Finish = span.finish();
+    summary.DurationSecs = duration::secs(calendar, summary.Start, summary.Finish, summary.DurationUnits);
+    return true;
+}
+
+double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, const KWTaskInfo &summary)
+{
+    double weighted = 0.0;
+    double total = 0.0;
+    for (const quint32 id : summary.Childs) {
+        const KWTaskInfo *child = tasks.byId(id);
+        if (!child || child->Milestone)
+            continue;
+        const double length = duration::ofTask(calendar, child->Start, child->Finish, child->DurationUnits);
+        weighted += length * child->Percent;
+        total += length;
+    }
+    return weighted != 0.0 && total != 0.0 ? weighted / total : 0.0;
+}
+
+void baseline(const std::vector<KWTaskInfo *> &below, KWTaskInfo &summary)
+{
+    Span span;
+    for (const KWTaskInfo *task : below) {
+        if (!task->isParent())
+            span.add(task->BaseStart, task->BaseFinish);
+    }
+    store(span, summary);
+}
+
+void ancestorBaselines(const outline::Tasks &tasks, const KWTaskInfo &task)
+{
+    // A summary holds the one below it, so only the other branches of each are walked.
+    Span span;
+    std::unordered_set<const KWTaskInfo *> seen;
+    const KWTaskInfo *below = nullptr;
+    for (KWTaskInfo *ancestor : outline::ancestors(tasks, task)) {
+        if (below && !ancestor->Childs.contains(below->ID)) {
+            span = Span();
+            seen.clear();
+        }
+        below = ancestor;
+        if (!ancestor->isParent())
+            continue;
+        addSubtrees(tasks, *ancestor, seen, span);
+        store(span, *ancestor);
+    }
+}
+}

@@ -1,0 +1,21 @@
+#pragma once
+#include "engine/record/outline.h"
+#include "engine/time/worktime.h"
+
+class KWTaskInfo;
+
+// What a summary takes from the tasks below it.
+namespace rollup {
+
+// Start, Finish and DurationSecs from the direct children. False, and nothing changed, when there is no child
+// or the children have no start or no finish.
+bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, KWTaskInfo &summary);
+// The completed fraction of the direct children, each weighted by its length in its own unit; milestones do
+// not count. 0.0 when nothing is done or the children have no length.
+double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,
+               const KWTaskInfo &summary);
+// BaseStart and BaseFinish from the descendants that are no summaries; 0 without such a descendant.
+void baseline(const std::vector<KWTaskInfo *> &below, KWTaskInfo &summary);
+// The same for every ancestor of the task, nearest first.
+void ancestorBaselines(const outline::Tasks &tasks, const KWTaskInfo &task);
+}

@@ -1,0 +1,77 @@
+#include "engine/record/branches.h"
+#include "model/kwtaskinfo.h"
+
+namespace outline {
+
+Branches::Branches(const Tasks &tasks, const std::vector<KWTaskInfo *> &roots)
+{
+    for (KWTaskInfo *root : roots) {
+        if (!add(tasks, root)) {
+            *this = Branches();
+            return;
+        }
+    }
+}
+
+bool Branches::add(const Tasks &tasks, KWTaskInfo *root)
+{
+    struct Branch
+    {
+        std::size_t place;
+        int nextChild;
+    };
+    std::vector<Branch> path;
+    const auto enter = [&](KWTaskInfo *task) {
+        const bool isLeaf = !task->isParent();
+        if (!m_placeOf.add(task->ID, isLeaf ? 0 : int(m_places.size())))
+            return false;
+        m_order.push_back(task);
+        if (isLeaf) {
+            m_leaves.push_back(task);
+            return true;
+        }
+        path.push_back({m_places.size(), 0});
+        m_places.push_back({task, m_order.size(), m_order.size(), m_leaves.size(), m_leaves.size()});
+        return true;
+    };
+    if (!enter(root))
+        return false;
+    while (!path.empty()) {
+        Branch &branch = path.back();
+        Place &place = m_places[branch.place];
+        if (branch.nextChild < place.summary->Childs.size()) {
+            KWTaskInfo *child = tasks.byId(place.summary->Childs[branch.nextChild++]);
+            if (child && !enter(child))
+                return false;
+        } else {
+            place.last = m_order.size();
+            place.lastLeaf = m_leaves.size();
+            path.pop_back();
+        }
+    }
+    return true;
+}
+
+const Branches::Place &Branches::placeOf(const KWTaskInfo &summary) const
+{
+    return m_places[std::size_t(m_placeOf.posOf(summary.ID))];
+}
+
+bool Branches::knows(const KWTaskInfo &summary) const
+{
+    return !m_places.empty() && m_placeOf.contains(summary.ID) && placeOf(summary).summary == &summary;
+}
+
+std::vector<KWTaskInfo *> Branches::below(const KWTaskInfo &summary) const
+{
+    const Place &place = placeOf(summary);
+    return {m_order.begin() + std::ptrdiff_t(place.first), m_order.begin() + std::ptrdiff_t(place.last)};
+}
+
+std::vector<KWTaskInfo *> Branches::leavesBelow(const KWTaskInfo &summary) const
+{
+    const Place &place = placeOf(summary);
+    return {m_leaves.begin() + std::ptrdiff_t(place.firstLeaf),
+            m_leaves.begin() + std::ptrdiff_t(place.lastLeaf)};
+}
+}

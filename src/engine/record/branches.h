@@ -1,0 +1,40 @@
+#pragma once
+#include "engine/record/outline.h"
+
+namespace outline {
+
+// Some branches of the outline in one walk: what lies below each of their tasks is then a range, found in no
+// time. A walk of its own for every summary costs the square of the depth.
+//
+// Valid while neither the task list nor an ID or a child list changes.
+class Branches
+{
+public:
+    // Nothing is known.
+    Branches() = default;
+    // The branches of these tasks, the tasks included.
+    Branches(const Tasks &tasks, const std::vector<KWTaskInfo *> &roots);
+
+    // Both need `knows`, and are in the order of `descendants`.
+    std::vector<KWTaskInfo *> below(const KWTaskInfo &summary) const;
+    std::vector<KWTaskInfo *> leavesBelow(const KWTaskInfo &summary) const;
+    // Whether the task is a summary in one of the branches. Where branches meet or run in a ring, nothing is
+    // known.
+    bool knows(const KWTaskInfo &summary) const;
+
+private:
+    struct Place
+    {
+        const KWTaskInfo *summary;
+        std::size_t first, last;         // in m_order, the summary itself not included
+        std::size_t firstLeaf, lastLeaf; // in m_leaves
+    };
+    bool add(const Tasks &tasks, KWTaskInfo *root);
+    const Place &placeOf(const KWTaskInfo &summary) const;
+
+    std::vector<KWTaskInfo *> m_order;
+    std::vector<KWTaskInfo *> m_leaves;
+    std::vector<Place> m_places;
+    TaskIndex m_placeOf; // 0 for the leaves, which have no place
+};
+}

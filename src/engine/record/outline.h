@@ -1,0 +1,80 @@
+#pragma once
+#include "engine/record/taskindex.h"
+#include "kwgantt_export.h"
+#include <QList>
+#include <algorithm>
+#include <functional>
+#include <unordered_map>
+#include <vector>
+
+class KWTaskInfo;
+
+// The outline: parents, children and levels, walked without recursion and safe against rings.
+namespace outline {
+
+// The tasks with their index. Refers to the list; valid while neither the list nor an ID changes.
+struct Tasks
+{
+    const QList<KWTaskInfo *> &list;
+    const TaskIndex &index;
+    KWTaskInfo *byId(quint32 id) const; // null when there is none
+};
+
+// Descendants in pre-order, each once; a ring or a doubled child is entered only the first time.
+// The task itself is not part of the result.
+std::vector<KWTaskInfo *> descendants(const Tasks &tasks, const KWTaskInfo &task);
+// Visits them in that order up to the first for which `visit` is true; whether there is one.
+bool anyDescendant(const Tasks &tasks, const KWTaskInfo &task,
+                   const std::function<bool(KWTaskInfo *)> &visit);
+// Ancestors, nearest first; stops at an unknown ID and at a task met before, the task itself included.
+std::vector<KWTaskInfo *> ancestors(const Tasks &tasks, const KWTaskInfo &task);
+// These tasks and all above them, each once; the last in the list comes first, so that in a sound outline
+// what is below comes before what is above.
+std::vector<KWTaskInfo *> withAncestors(const Tasks &tasks, const std::vector<KWTaskInfo *> &changed);
+// The nearest ancestor of a that is also one of b; null when there is none.
+KWTaskInfo *commonSummary(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b);
+
+// Gives a summary more children, one after the other as KWTaskInfo::addTaskInfoChildID would.
+void addChilds(const Tasks &tasks, KWTaskInfo &summary, const std::vector<KWTaskInfo *> &children);
+void removeChilds(KWTaskInfo &summary, const TaskIndex &ids);
+// Cuts the links of tasks that leave, on the side of the tasks that stay.
+void cutLinks(const Tasks &tasks, const std::vector<KWTaskInfo *> &leaving, const TaskIndex &leavingIds);
+
+// Moves `count` entries one after the other from place `from` + i to place `to` + i; what lies outside the
+// list stays.
+template <typename T>
+void moveEntries(QList<T> &list, int from, int to, int count)
+{
+    count = std::min(count, list.size() - std::max(from, to));
+    if (count <= 0 || from < 0 || to < 0)
+        return;
+    const auto begin = list.begin();
+    if (to < from) { // each of them lands behind the one before: the block stays together
+        std::rotate(begin + to, begin + from, begin + from + count);
+        return;
+    }
+    for (int i = 0; i < count; ++i)
+        list.move(from + i, to + i);
+}
+
+// Builds the outline from levels, one task at a time in row order.
+//
+// A task of level n becomes the last child of the most recent task of exactly level n - 1, wherever that is,
+// and the parent's font becomes bold; a task of level 1, and one for which there is no such task, gets
+// ParentID 0. Either way its own row font is set. The tasks must stay alive and keep their IDs as long as the
+// builder is used.
+class KWGANTT_EXPORT LevelBuilder
+{
+public:
+    void add(KWTaskInfo &task);
+
+private:
+    struct Parent
+    {
+        KWTaskInfo *task = nullptr;
+        bool hasForeignChilds = false; // children that this builder did not give it
+    };
+    std::unordered_map<qint64, Parent> m_lastOfLevel;
+    TaskIndex m_addedIds;
+};
+}
