@@ -14,5 +14,6 @@ int main(int argc, char **argv)
     new QGuiApplication(argc, argv);
     const QTemporaryDir configuration;
     KWFilePathManager::setConfigRoot(configuration.path());
+    qputenv("XDG_CONFIG_HOME", configuration.path().toUtf8()); // for the programs that tests start
     return RUN_ALL_TESTS();
 }
