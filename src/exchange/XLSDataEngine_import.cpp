@@ -56,7 +56,6 @@ private:
         } else if (from.Type() == BasicExcelCell::DOUBLE) {
             cell.text = QString::number(from.GetDouble(), 'g', QLocale::FloatingPointShortest);
             cell.isNumber = true;
-            cell.shown = shownNumber(from.GetDouble());
         } else {
             cell.text = from.GetText();
         }

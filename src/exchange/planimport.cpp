@@ -2,13 +2,19 @@
 #include "engine/cost/costpass.h"
 #include "engine/network/links.h"
 #include "engine/record/resource.h"
+#include "engine/time/duration.h"
 #include "exchange/resourcesheets.h"
+#include "exchange/taskdates.h"
 #include "exchange/tasksheet.h"
 #include "model/kwdocument.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwtaskcollection.h"
+#include "support/kwclock.h"
 #include "table/rowcolumndata.h"
+#include <QMap>
 #include <QPair>
+#include <cmath>
+#include <limits>
 
 using exceltitles::Sheet;
 using sheetrows::Cell;
@@ -40,68 +46,460 @@ void showTitledColumns(RowColumnData &table)
     }
 }
 
-// ---- Tasks ------------------------------------------------------------------------------------------------
+// ---- Names and IDs ----------------------------------------------------------------------------------------
 
-void replaceTasks(KWDocument &document, TaskSheet &sheet)
+constexpr int maxNumberedUnits = 255; // of a name that gets a number
+
+// Names that no other task has, as KWDocument::differentSuffixTaskName makes them one after the other.
+class UniqueNames
 {
-    document.clearTaskInfoList();
-    const QList<KWTaskInfo *> tasks = sheet.takeTasks();
-    for (KWTaskInfo *task : tasks)
-        document.appendTaskInfoList(task);
+public:
+    // The name, or a free one in its place; either is taken from then on.
+    QString take(const QString &name)
+    {
+        ++m_count;
+        if (name.isEmpty())
+            return name;
+        const QString trimmed = name.trimmed();
+        if (!m_taken.contains(trimmed)) {
+            m_taken.insert(trimmed);
+            return name;
+        }
+        const QString base = name.left(maxNumberedUnits);
+        qint64 &number = m_nextNumber[base];
+        // The tasks before this one, and one.
+        number = std::max(number, qint64(m_count));
+        QString numbered;
+        do
+            numbered = base + QString::number(number++);
+        while (m_taken.contains(numbered.trimmed()));
+        m_taken.insert(numbered.trimmed());
+        return numbered;
+    }
 
-    RowColumnData &table = *document.rowColumnData();
-    table.setRowHeights({});
-    table.setRowHeightCount(tasks.size());
-    showTitledColumns(table);
+private:
+    QSet<QString> m_taken; // trimmed
+    // Behind each name, the numbers below this one that were looked at are taken.
+    QHash<QString, qint64> m_nextNumber;
+    int m_count = 0; // of tasks, since numbers begin after it
+};
 
-    QList<KWTaskLink> links = sheet.links();
-    links::insertAll({document.taskList(), document.taskIndex()}, links);
-    sheet.reportRefused(links);
-    constexpr bool byTag = false;
-    document.updateDependTask(byTag);
-}
-
-// ---- Resources and assignments ----------------------------------------------------------------------------
-
-void replaceResources(ResourceInfoData &infos, ResourceSheet &sheet)
+// IDs that no other task has.
+class UniqueIds
 {
-    infos.clearResourceInfoData();
-    for (std::unique_ptr<ResourceInfo> &info : sheet.takeInfos())
-        infos.appendResourceInfo(info.release());
-}
+public:
+    bool take(quint32 id) // false for 0 and for one that is taken
+    {
+        if (id == 0 || !m_taken.add(id))
+            return false;
+        m_greatest = std::max(m_greatest, id);
+        return true;
+    }
+    quint32 takeNext() // one more than the greatest, the lowest free one when there is none
+    {
+        if (m_greatest < std::numeric_limits<quint32>::max()) {
+            take(m_greatest + 1);
+            return m_greatest;
+        }
+        while (!take(m_lowestFree))
+            ++m_lowestFree;
+        return m_lowestFree;
+    }
+
+private:
+    TaskIndex m_taken;
+    quint32 m_greatest = 0;
+    quint32 m_lowestFree = 1;
+};
+
+// ---- A staged plan becomes the document's
+// ------------------------------------------------------------------
+
+class Replacer
+{
+public:
+    Replacer(KWDocument &document, staged::Plan &plan, const Rules &rules, Findings *findings)
+        : m_document(document)
+        , m_plan(plan)
+        , m_tasks(plan.tasks)
+        , m_rules(rules)
+        , m_findings(findings)
+    {
+    }
+
+    // Everything but tasks and calendar, into a document that has these.
+    void addSheets()
+    {
+        if (m_plan.resources)
+            replaceResources();
+        assign();
+        CostPass(m_document).sumUp();
+        m_document.taskCollection()->updateRageAndTaskPoint();
+        m_document.setModified(true);
+    }
+
+    ImportedPlan run()
+    {
+        chooseIds();
+        chooseNames();
+        outline::LevelBuilder builder;
+        for (const staged::Task &staged : m_tasks)
+            builder.add(*staged.task);
+        replaceCalendar();
+        chooseStart();
+        setDates();
+        setSummaryDates();
+        handOver();
+        link();
+        addSheets();
+        return std::move(m_imported);
+    }
+
+private:
+    void report(const staged::Task &staged, const QString &what, const QString &taken)
+    {
+        if (m_findings)
+            m_findings->add(m_rules.place + QLatin1Char(' ') + QString::number(staged.row), what, taken);
+    }
+    const worktime::WorkCalendar &calendar() { return m_document.workCalendar(); }
+
+    // IDs that stand in the file are kept before others are given, so that none loses its own to a row
+    // without.
+    void chooseIds()
+    {
+        UniqueIds ids;
+        std::vector<bool> isTaken(m_tasks.size(), false);
+        const auto settle = [&](std::size_t i) {
+            staged::Task &staged = m_tasks[i];
+            staged.task->ID = ids.takeNext();
+            if (staged.id != 0)
+                report(staged, QString::number(staged.id) + text(" is the ID of another task"),
+                       text("ID ") + QString::number(staged.task->ID));
+        };
+        for (std::size_t i = 0; i < m_tasks.size(); ++i) {
+            isTaken[i] = ids.take(m_tasks[i].id);
+            if (isTaken[i])
+                m_tasks[i].task->ID = m_tasks[i].id;
+            else if (m_rules.uniqueNames)
+                settle(i);
+        }
+        for (std::size_t i = 0; i < m_tasks.size() && !m_rules.uniqueNames; ++i) {
+            if (!isTaken[i])
+                settle(i);
+        }
+    }
+
+    void chooseNames()
+    {
+        UniqueNames names;
+        for (const staged::Task &staged : m_tasks) {
+            if (!m_rules.uniqueNames)
+                break;
+            const QString name = staged.task->Name;
+            staged.task->Name = names.take(name);
+            if (staged.task->Name != name)
+                report(staged, name + text(" is the name of another task"),
+                       text("named ") + staged.task->Name);
+        }
+    }
+
+    void replaceCalendar()
+    {
+        if (!m_plan.calendar)
+            return;
+        const staged::Calendar &from = *m_plan.calendar;
+        std::copy(from.week.begin(), from.week.end(), m_document.WorkDay);
+        qDeleteAll(m_document.workTimes);
+        m_document.workTimes.clear();
+        for (const staged::Interval &interval : from.hours)
+            m_document.workTimes.append(new KWDayTime(interval.startSecs, interval.finishSecs));
+        m_document.clearCalendar();
+        for (const staged::CalendarException &exception : from.exceptions) {
+            auto *calendar = new KWCalendar;
+            calendar->name = exception.name;
+            calendar->startDate = exception.from;
+            calendar->finishDate = exception.to;
+            calendar->isException = true;
+            calendar->isWork = exception.works;
+            for (const staged::Interval &interval : exception.hours)
+                calendar->dayTimes.append(new KWDayTime(interval.startSecs, interval.finishSecs));
+            m_document.calendars.append(calendar);
+        }
+    }
+
+    void chooseStart()
+    {
+        m_imported.isStartGiven = m_plan.start.isGiven();
+        quint32 earliest = std::numeric_limits<quint32>::max();
+        if (m_plan.start.isGiven())
+            earliest = m_plan.start.kind == staged::Moment::Stored
+                           ? m_plan.start.secs
+                           : shownmoment::start(calendar(), m_plan.start.shown);
+        for (const staged::Task &staged : m_tasks) {
+            if (!m_plan.start.isGiven() && staged.moments[staged::Start].isGiven())
+                earliest = std::min(earliest, taskdates::stored(calendar(), staged, staged::Start));
+        }
+        if (earliest == std::numeric_limits<quint32>::max())
+            earliest = shownmoment::start(calendar(), {LocalClock::dayOf(KWClock::now().date()), 0, false});
+        m_imported.start = earliest;
+    }
+
+    void setDates()
+    {
+        using Place = std::pair<staged::MomentField, quint32 KWTaskInfo::*>;
+        constexpr Place others[] = {{staged::LateStart, &KWTaskInfo::LateStart},
+                                    {staged::LateFinish, &KWTaskInfo::LateFinish},
+                                    {staged::BaseStart, &KWTaskInfo::BaseStart},
+                                    {staged::BaseFinish, &KWTaskInfo::BaseFinish}};
+        for (const staged::Task &staged : m_tasks) {
+            KWTaskInfo &task = *staged.task;
+            if (staged.length)
+                task.DurationUnits = staged.length->unit;
+            else if (!staged.hasUnit)
+                task.DurationUnits = m_document.ProjectUnit;
+            for (const auto &[field, member] : others)
+                task.*member = taskdates::stored(calendar(), staged, field);
+            if (!staged.code.isEmpty())
+                m_imported.codes.insert(task.ID, staged.code);
+            if (task.isParent()) {
+                task.Start = taskdates::stored(calendar(), staged, staged::Start);
+                task.Finish = taskdates::stored(calendar(), staged, staged::Finish);
+                continue;
+            }
+            const taskdates::Dates dates =
+                taskdates::of(calendar(), staged, m_imported.start, m_rules.lengthDecides);
+            task.Start = dates.start;
+            task.Finish = dates.finish;
+            task.Milestone = dates.isMilestone;
+            task.DurationSecs = duration::secs(calendar(), task.Start, task.Finish, task.DurationUnits);
+            if (!staged.moments[staged::Start].isGiven())
+                m_imported.withoutStart.insert(task.ID);
+            if (dates.isEvening)
+                m_imported.evenings.insert(task.ID);
+            tell(staged, dates.remark);
+        }
+    }
+
+    void tell(const staged::Task &staged, taskdates::Remark remark)
+    {
+        using taskdates::Remark;
+        const QString oneDay = text("taken as one day long");
+        if (!staged.hasPlace)
+            report(staged, text("it has neither a number nor a start, as totals have"),
+                   text("taken as a task"));
+        switch (remark) {
+        case Remark::None:
+            return;
+        case Remark::StartAlone:
+            return report(staged, text("neither a length nor a finish"), oneDay);
+        case Remark::FinishAlone:
+            return report(staged, text("neither a length nor a start"), oneDay);
+        case Remark::Nothing:
+            if (!m_plan.hasDates)
+                return;
+            return report(staged, text("neither dates nor a length"), oneDay);
+        case Remark::Backwards:
+            return report(staged, text("it finishes before it starts"),
+                          staged.length ? text("the length counts") : oneDay);
+        case Remark::LengthContradicts:
+            return report(staged, text("the length is not that from start to finish"),
+                          text("start and finish count"));
+        case Remark::FinishContradicts:
+            return report(staged, text("the finish is not where start and length lead"),
+                          text("the length counts"));
+        case Remark::ZeroLength:
+            return report(staged, text("the length is 0, and there is time between start and finish"),
+                          text("start and finish count"));
+        case Remark::MilestoneWithLength:
+            return report(staged, text("a milestone with time between start and finish"),
+                          text("a milestone at its start"));
+        }
+    }
+
+    // Whether a moment is what the file shows as the finish.
+    bool shows(const staged::Moment &written, quint32 finish)
+    {
+        if (written.kind != staged::Moment::Shown || finish == 0)
+            return false;
+        const shownmoment::Moment shown = shownmoment::ofFinish(calendar(), finish);
+        return shown.day == written.shown.day && shown.secs == written.shown.secs;
+    }
+
+    // What a summary's file does not say, its subtasks do. The same moment has two forms, an evening and the
+    // morning after: the subtasks' counts.
+    void setSummaryDates()
+    {
+        struct Span
+        {
+            quint32 start = std::numeric_limits<quint32>::max();
+            quint32 finish = 0;
+        };
+        std::vector<Span> spans(m_tasks.size());
+        TaskIndex places;
+        for (std::size_t i = 0; i < m_tasks.size(); ++i)
+            places.add(m_tasks[i].task->ID, int(i));
+        for (std::size_t i = m_tasks.size(); i-- > 0;) {
+            KWTaskInfo &task = *m_tasks[i].task;
+            if (task.isParent()) {
+                const bool isGiven = task.Start > 0 && task.Finish > task.Start;
+                if (!isGiven || shownmoment::isSame(calendar(), task.Start, spans[i].start))
+                    task.Start = spans[i].start;
+                if (!isGiven || shownmoment::isSame(calendar(), task.Finish, spans[i].finish) ||
+                    shows(m_tasks[i].moments[staged::Finish], spans[i].finish))
+                    task.Finish = spans[i].finish;
+                task.DurationSecs = duration::secs(calendar(), task.Start, task.Finish, task.DurationUnits);
+            }
+            const int parent = task.ParentID == 0 ? -1 : places.posOf(task.ParentID);
+            if (parent < 0)
+                continue;
+            Span &span = spans[std::size_t(parent)];
+            span.start = std::min(span.start, task.Start);
+            span.finish = std::max(span.finish, task.Finish);
+        }
+    }
+
+    void handOver()
+    {
+        m_document.clearTaskInfoList();
+        m_ids.reserve(m_tasks.size());
+        for (staged::Task &staged : m_tasks) {
+            m_ids.push_back(staged.task->ID);
+            m_document.appendTaskInfoList(staged.task.release());
+        }
+        RowColumnData &table = *m_document.rowColumnData();
+        table.setRowHeights({});
+        table.setRowHeightCount(int(m_tasks.size()));
+    }
+
+    void link()
+    {
+        QList<KWTaskLink> links;
+        for (const staged::Link &wanted : m_plan.links) {
+            KWTaskLink link;
+            link.predecessor = m_ids[std::size_t(wanted.predecessor)];
+            link.successor = m_ids[std::size_t(wanted.successor)];
+            links.append(link);
+        }
+        m_imported.refusedLinks = m_plan.refusedLinks;
+        m_imported.links = links::insertAll({m_document.taskList(), m_document.taskIndex()}, links);
+        for (int i = 0; i < links.size(); ++i) {
+            if (links[i].refusal != LinkRefusal::None)
+                tellRefusal(links[i], m_plan.links[std::size_t(i)]);
+        }
+        constexpr bool byTag = false;
+        m_document.updateDependTask(byTag);
+        if (m_rules.placesBehind && !m_imported.withoutStart.isEmpty() && m_imported.links > 0)
+            placeBehind();
+    }
+
+    void tellRefusal(const KWTaskLink &link, const staged::Link &wanted)
+    {
+        if (link.refusal == LinkRefusal::Twice)
+            return;
+        ++m_imported.refusedLinks;
+        const bool isLoop = link.refusal == LinkRefusal::Loop || link.refusal == LinkRefusal::Self;
+        report(m_tasks[std::size_t(wanted.successor)],
+               (isLoop ? text("it would wait for itself through row ")
+                       : text("it cannot wait for its own summary or subtask in row ")) +
+                   QString::number(m_tasks[std::size_t(wanted.predecessor)].row),
+               text("no predecessor"));
+    }
+
+    // Pushes all, and puts those back that the file places.
+    void placeBehind()
+    {
+        struct Dates
+        {
+            KWTaskInfo *task;
+            quint32 start, finish, durationSecs;
+        };
+        std::vector<Dates> given;
+        for (KWTaskInfo *task : m_document.taskList()) {
+            if (!task->isParent() && !m_imported.withoutStart.contains(task->ID))
+                given.push_back({task, task->Start, task->Finish, task->DurationSecs});
+        }
+        KWTaskCollection &collection = *m_document.taskCollection();
+        collection.pushAllSuccessors();
+        for (const Dates &dates : given) {
+            dates.task->Start = dates.start;
+            dates.task->Finish = dates.finish;
+            dates.task->DurationSecs = dates.durationSecs;
+        }
+        const QList<KWTaskInfo *> &tasks = m_document.taskList();
+        constexpr bool pushes = false;
+        for (auto task = tasks.rbegin(); task != tasks.rend(); ++task)
+            collection.updateTaskTimeToChildsTask(*task, pushes);
+    }
+
+    void replaceResources()
+    {
+        ResourceInfoData &infos = *m_document.resourceInfoData();
+        infos.clearResourceInfoData();
+        for (std::unique_ptr<ResourceInfo> &info : *m_plan.resources)
+            infos.appendResourceInfo(info.release());
+    }
+
+    void assign();
+
+    KWDocument &m_document;
+    staged::Plan &m_plan;
+    std::vector<staged::Task> &m_tasks;
+    const Rules &m_rules;
+    Findings *m_findings;
+    std::vector<quint32> m_ids; // of the tasks, after they were handed over
+    ImportedPlan m_imported;
+};
+
+// ---- Assignments ------------------------------------------------------------------------------------------
 
 // Finds tasks, resources and assignments by their names.
 class Assigner
 {
 public:
-    Assigner(KWDocument &document, const AssignmentSheet &sheet)
-        : m_sheet(sheet)
+    Assigner(KWDocument &document, const Rules &rules, Findings *findings)
+        : m_document(document)
+        , m_rules(rules)
+        , m_findings(findings)
         , m_measures(cost::measuresOf(document.workCalendar()))
     {
         m_tasks.reserve(document.taskCount());
         // From the last to the first, which is the one that a name means.
-        for (int pos = document.taskCount() - 1; pos >= 0; --pos)
-            m_tasks.insert(document.getTaskInfoAt(pos)->Name.trimmed(), document.getTaskInfoAt(pos));
+        for (int pos = document.taskCount() - 1; pos >= 0; --pos) {
+            KWTaskInfo *&task = m_tasks[document.getTaskInfoAt(pos)->Name.trimmed()];
+            if (task)
+                m_shared.insert(task->Name.trimmed());
+            task = document.getTaskInfoAt(pos);
+        }
         const QVector<ResourceInfo *> &infos = document.resourceInfoData()->infos;
         for (int i = infos.size() - 1; i >= 0; --i)
             m_infos.insert(infos[i]->name.trimmed(), infos[i]);
     }
 
-    void add(const AssignmentSheet::Assignment &row)
+    void add(const staged::Assignment &row)
     {
         if (row.resource.isEmpty())
             return;
-        KWTaskInfo *task = m_tasks.value(row.task.trimmed());
+        KWTaskInfo *task =
+            row.task >= 0 ? m_document.getTaskInfoAt(row.task) : m_tasks.value(row.taskName.trimmed());
         if (!task) {
-            m_sheet.reportRow(row.row, text("there is no task ") + row.task, text("left out"));
+            report(row, text("there is no task ") + row.taskName, text("left out"));
             return;
         }
-        if (task->isParent())
+        if (row.task < 0 && m_shared.contains(row.taskName.trimmed()))
+            m_uncertain.insert(row.taskName.trimmed(), row.row);
+        if (task->isParent()) {
+            if (m_rules.comparesWork)
+                report(row, text("a summary takes no resources"), text("left out"));
             return;
+        }
         Resource &resource = assigned(*task, row);
         const bool isMaterial = resource.type != 0;
         if (row.units)
             resource.percent = *row.units;
+        if (m_rules.comparesWork && row.work) {
+            compareWork(*task, resource, row);
+            return;
+        }
         if (isMaterial)
             return;
         if (row.work)
@@ -111,15 +509,55 @@ public:
             resource.workSecs = cost::workSecs(*task, resource);
     }
 
+    // Rows that name a task by a name that several have.
+    void tellUncertain()
+    {
+        constexpr int mostNamed = 5;
+        if (m_uncertain.isEmpty() || !m_findings)
+            return;
+        QStringList places;
+        for (auto name = m_uncertain.begin(); name != m_uncertain.end() && places.size() < mostNamed; ++name)
+            places.append(
+                QStringLiteral("%1 (%2 %3)").arg(name.key(), m_rules.assignmentPlace).arg(name.value()));
+        m_findings->add(QString(),
+                        QStringLiteral("%1 names of assigned tasks stand for several tasks: %2")
+                            .arg(m_uncertain.size())
+                            .arg(places.join(QLatin1String(", "))),
+                        text("the first task of the name has the assignments"));
+    }
+
 private:
-    Resource &assigned(KWTaskInfo &task, const AssignmentSheet::Assignment &row)
+    // Where work follows from the task's length, what the file says of it is only compared.
+    void compareWork(const KWTaskInfo &task, Resource &resource, const staged::Assignment &row)
+    {
+        constexpr double sameHours = 0.02; // a minute, and what rounding leaves
+        const bool isMaterial = resource.type != 0;
+        if (!isMaterial)
+            resource.workSecs = cost::workSecs(task, resource);
+        const double counted = isMaterial ? resource.percent
+                                          : cost::toHours(m_measures, cost::work(m_measures, task, resource),
+                                                          task.DurationUnits);
+        const double written =
+            cost::toHours(m_measures, *row.work, isMaterial ? duration::Hour : row.workUnit);
+        if (std::fabs(counted - written) > sameHours)
+            report(row, QStringLiteral("%1 hours of work are counted as %2").arg(written).arg(counted),
+                   text("work is the task's length times the units"));
+    }
+
+    void report(const staged::Assignment &row, const QString &what, const QString &taken)
+    {
+        if (m_findings)
+            m_findings->add(m_rules.assignmentPlace + QLatin1Char(' ') + QString::number(row.row), what,
+                            taken);
+    }
+
+    Resource &assigned(KWTaskInfo &task, const staged::Assignment &row)
     {
         if (Resource *resource = find(task, row.resource))
             return *resource;
         const ResourceInfo *info = m_infos.value(row.resource);
         if (!info)
-            m_sheet.reportRow(row.row, text("there is no resource ") + row.resource,
-                              text("assigned without a rate"));
+            report(row, text("there is no resource ") + row.resource, text("assigned without a rate"));
         Resource *resource = CostPass::append(task, row.resource, info);
         if (m_met.contains(&task))
             m_assigned.insert({&task, row.resource}, resource);
@@ -145,27 +583,33 @@ private:
         return m_assigned.value({&task, name});
     }
 
-    const AssignmentSheet &m_sheet;
+    KWDocument &m_document;
+    const Rules &m_rules;
+    Findings *m_findings;
     const cost::Measures m_measures;
     QHash<QString, KWTaskInfo *> m_tasks;
+    QSet<QString> m_shared;         // names of several tasks
+    QMap<QString, int> m_uncertain; // of these, those that rows name; with the last such row
     QHash<QString, const ResourceInfo *> m_infos;
     QSet<const KWTaskInfo *> m_met;
     QHash<QPair<const KWTaskInfo *, QString>, Resource *> m_assigned;
 };
 
-void addAssignments(KWDocument &document, const AssignmentSheet &sheet)
+void Replacer::assign()
 {
-    Assigner assigner(document, sheet);
-    for (const AssignmentSheet::Assignment &row : sheet.assignments())
+    if (m_plan.assignments.empty())
+        return;
+    Assigner assigner(m_document, m_rules, m_findings);
+    for (const staged::Assignment &row : m_plan.assignments)
         assigner.add(row);
+    if (!m_rules.uniqueNames)
+        assigner.tellUncertain();
+}
 }
 
-void finish(KWDocument &document)
+ImportedPlan replace(KWDocument &document, staged::Plan &plan, const Rules &rules, Findings *findings)
 {
-    CostPass(document).sumUp();
-    document.taskCollection()->updateRageAndTaskPoint();
-    document.setModified(true);
-}
+    return Replacer(document, plan, rules, findings).run();
 }
 
 void readTitles(KWDocument &document, const Book &book)
@@ -179,63 +623,148 @@ void readTitles(KWDocument &document, const Book &book)
     }
 }
 
-bool importBook(KWDocument &document, const Book &book, Findings *findings)
+namespace {
+
+Rules rulesOf(const sheetrows::Reading &reading, const sheetrows::Reader &tasks,
+              const sheetrows::Reader &assignments)
 {
-    TaskSheet tasks(document, book.is1904, findings);
-    ResourceSheet resources(*document.resourceInfoData(), findings);
-    AssignmentSheet assignments(findings);
+    Rules rules;
+    rules.uniqueNames = reading.isExact;
+    rules.lengthDecides = reading.lengthDecides;
+    rules.comparesWork = reading.comparesWork;
+    rules.placesBehind = !reading.isExact && reading.placesBehind;
+    rules.place = tasks.place();
+    rules.assignmentPlace = assignments.place();
+    return rules;
+}
+
+QSet<QString> summaryNames(const staged::Plan &plan)
+{
+    QHash<qint64, const KWTaskInfo *> lastOfLevel;
+    QSet<QString> names;
+    for (const staged::Task &staged : plan.tasks) {
+        const KWTaskInfo &task = *staged.task;
+        const KWTaskInfo *summary = task.Level > 1 ? lastOfLevel.value(qint64(task.Level) - 1) : nullptr;
+        if (summary && !summary->Name.isEmpty())
+            names.insert(summary->Name.trimmed());
+        lastOfLevel.insert(task.Level, &task);
+    }
+    return names;
+}
+
+// What a column of resources' names says, "Ann[50%];Crane", where no sheet of assignments does.
+void assignFromColumn(staged::Plan &plan)
+{
+    QSet<QString> known;
+    for (const auto &info : *plan.resources)
+        known.insert(info->name.trimmed());
+    for (std::size_t i = 0; i < plan.tasks.size(); ++i) {
+        for (const QString &written : plan.tasks[i].task->Resources.split(QLatin1Char(';'))) {
+            const QString part = written.trimmed();
+            const int bracket = part.endsWith(QLatin1Char(']')) ? part.lastIndexOf(QLatin1Char('[')) : -1;
+            staged::Assignment assignment;
+            assignment.row = plan.tasks[i].row;
+            assignment.task = int(i);
+            assignment.units = 1;
+            std::optional<double> units;
+            if (bracket > 0) {
+                sheetrows::Cell cell;
+                cell.text = part.mid(bracket + 1).chopped(1);
+                units = cellvalues::fraction(cell, cellvalues::Comma::Decimal);
+            }
+            assignment.resource = (units ? part.left(bracket) : part).trimmed();
+            if (units)
+                assignment.units = *units;
+            if (known.contains(assignment.resource))
+                plan.assignments.push_back(std::move(assignment));
+        }
+    }
+}
+}
+
+bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading &reading, Findings *findings,
+                ImportedPlan *imported, const staged::Moment &start)
+{
+    TaskSheet tasks(reading, findings, book.names[exceltitles::TaskSheet]);
+    ResourceSheet resources(*document.resourceInfoData(), reading, findings,
+                            book.names[exceltitles::ResourceSheet]);
+    AssignmentSheet assignments(reading, findings, book.names[exceltitles::AssignmentSheet]);
     sheetrows::Reader *const readers[] = {&tasks, &resources, &assignments};
 
     ExcelTitles::initImportMapList(&document);
-    std::array<bool, exceltitles::SheetCount> isUsed{};
-    for (std::size_t sheet = 0; sheet < isUsed.size(); ++sheet) {
-        isUsed[sheet] =
-            book.sheets[sheet] && readers[sheet]->read(*book.sheets[sheet]) && readers[sheet]->isKnown();
-        setTitles(Sheet(sheet), readers[sheet]->titles());
-        if (sheet == exceltitles::TaskSheet && isUsed[sheet]) {
-            tasks.arrange();
+    staged::Plan plan;
+    plan.start = start;
+    for (int sheet = 0; sheet < exceltitles::SheetCount; ++sheet) {
+        sheetrows::Reader &reader = *readers[sheet];
+        Source *source = book.sheets[std::size_t(sheet)];
+        const bool isRead = source && reader.read(*source);
+        setTitles(Sheet(sheet), reader.titles());
+        if (sheet == exceltitles::TaskSheet) {
+            if (!isRead || !reader.isKnown()) {
+                if (findings && source && source->error().isEmpty())
+                    findings->add(book.names[std::size_t(sheet)],
+                                  reader.hasBlankTitles() ? text("the cells of its first row are empty")
+                                  : reader.hasTitles()    ? text("no title of its first row is known")
+                                                          : text("it has no first row with titles"),
+                                  text("nothing imported"));
+                return false;
+            }
+            tasks.finish(plan);
             // Workbooks repeat the assignments below a summary for the summary.
-            assignments.leaveOut(tasks.summaryNames());
+            assignments.leaveOut(summaryNames(plan));
+            assignments.findTasks(plan);
+        } else if (sheet == exceltitles::ResourceSheet && isRead && reader.hasTitles()) {
+            resources.finish(plan);
+        } else if (sheet == exceltitles::AssignmentSheet && isRead && reader.isKnown()) {
+            assignments.finish(plan);
+        } else if (sheet == exceltitles::AssignmentSheet && !source && plan.resources && !reading.isExact) {
+            assignFromColumn(plan);
         }
     }
-    if (tasks.hasBlankTitles()) {
-        if (findings)
-            findings->add(text("task sheet"), text("the cells of its first row are empty"),
-                          text("nothing imported"));
-        return true;
-    }
-    if (!isUsed[exceltitles::TaskSheet]) {
-        if (findings)
-            findings->add(text("task sheet"), text("no title of its first row is known"),
-                          text("nothing imported"));
+    if (tasks.isRefused() || resources.isRefused() || assignments.isRefused())
         return false;
-    }
-    replaceTasks(document, tasks);
-    if (isUsed[exceltitles::ResourceSheet])
-        replaceResources(*document.resourceInfoData(), resources);
-    if (isUsed[exceltitles::AssignmentSheet])
-        addAssignments(document, assignments);
-    finish(document);
+    ImportedPlan result = replace(document, plan, rulesOf(reading, tasks, assignments), findings);
+    if (imported)
+        *imported = std::move(result);
+    return true;
+}
+
+bool importBook(KWDocument &document, const Book &book, Findings *findings)
+{
+    sheetrows::Reading reading;
+    reading.is1904 = book.is1904;
+    if (!importBook(document, book, reading, findings))
+        return false;
+    showTitledColumns(*document.rowColumnData());
     return true;
 }
 
 bool importSheet(KWDocument &document, Sheet sheet, Source &source, bool is1904, Findings *findings)
 {
-    TaskSheet tasks(document, is1904, findings);
-    ResourceSheet resources(*document.resourceInfoData(), findings);
-    AssignmentSheet assignments(findings);
+    sheetrows::Reading reading;
+    reading.is1904 = is1904;
+    const Book names;
+    TaskSheet tasks(reading, findings, names.names[exceltitles::TaskSheet]);
+    ResourceSheet resources(*document.resourceInfoData(), reading, findings,
+                            names.names[exceltitles::ResourceSheet]);
+    AssignmentSheet assignments(reading, findings, names.names[exceltitles::AssignmentSheet]);
     sheetrows::Reader *const readers[] = {&tasks, &resources, &assignments};
-    if (!readers[sheet]->read(source) || !readers[sheet]->isKnown())
+    const bool isRead = readers[sheet]->read(source);
+    if (!isRead || !(sheet == exceltitles::ResourceSheet ? resources.hasTitles() : readers[sheet]->isKnown()))
         return false;
+    staged::Plan plan;
+    const Rules rules = rulesOf(reading, tasks, assignments);
     if (sheet == exceltitles::TaskSheet) {
-        tasks.arrange();
-        replaceTasks(document, tasks);
-    } else if (sheet == exceltitles::ResourceSheet) {
-        replaceResources(*document.resourceInfoData(), resources);
-    } else {
-        addAssignments(document, assignments);
+        tasks.finish(plan);
+        replace(document, plan, rules, findings);
+        showTitledColumns(*document.rowColumnData());
+        return true;
     }
-    finish(document);
+    if (sheet == exceltitles::ResourceSheet)
+        resources.finish(plan);
+    else
+        assignments.finish(plan);
+    Replacer(document, plan, rules, findings).addSheets();
     return true;
 }
 

@@ -34,18 +34,13 @@ QString text(const char *latin1)
 {
     return QString::fromLatin1(latin1);
 }
-
-int keyOf(const QMap<int, QString> &names, const QString &title, int count)
-{
-    const int key = names.key(title, -1);
-    return key < count ? key : -1;
-}
 }
 
 // ---- Resources --------------------------------------------------------------------------------------------
 
-ResourceSheet::ResourceSheet(const ResourceInfoData &texts, Findings *findings)
-    : Reader(findings, text("resource sheet"))
+ResourceSheet::ResourceSheet(const ResourceInfoData &texts, const sheetrows::Reading &reading,
+                             Findings *findings, const QString &name)
+    : Reader(exceltitles::ResourceSheet, reading, findings, name)
     , m_texts(texts)
     , m_names({})
 {
@@ -53,13 +48,14 @@ ResourceSheet::ResourceSheet(const ResourceInfoData &texts, Findings *findings)
 
 ResourceSheet::~ResourceSheet() = default;
 
-int ResourceSheet::fieldOf(const QString &title) const
+void ResourceSheet::finish(staged::Plan &plan)
 {
-    return keyOf(ExcelTitles::s_resourcNames, title, resourceKeys);
+    plan.resources = std::move(m_infos);
 }
 
-void ResourceSheet::addRow(int row, const std::vector<KnownCell> &cells)
+void ResourceSheet::addRow(const sheetrows::Row &source, const std::vector<KnownCell> &cells)
 {
+    const int row = source.line;
     auto info = std::make_unique<ResourceInfo>();
     for (const KnownCell &known : cells)
         apply(row, known, *info);
@@ -68,9 +64,9 @@ void ResourceSheet::addRow(int row, const std::vector<KnownCell> &cells)
     m_ids.insert(info->ID);
 
     // Rows are counted from the one below the titles.
-    const QString wanted = info->name.isEmpty()
-                               ? ExcelTitles::s_workAssignNames.value(ResourceName) + QString::number(row - 1)
-                               : info->name;
+    const QString wanted = info->name.isEmpty() ? ExcelTitles::s_workAssignNames.value(ResourceName) +
+                                                      QString::number(source.number - 1)
+                                                : info->name;
     info->name = m_names.has(wanted) ? m_names.different(wanted.left(maxNumberedUnits)) : wanted;
     if (info->name != wanted)
         report(row, QString(), wanted + text(" is the name of another resource"),
@@ -82,12 +78,12 @@ void ResourceSheet::addRow(int row, const std::vector<KnownCell> &cells)
 void ResourceSheet::apply(int row, const KnownCell &known, ResourceInfo &info)
 {
     const Cell &cell = *known.cell;
-    constexpr double any = std::numeric_limits<double>::lowest();
-    constexpr double whole = 1;
-    constexpr double percent = 100;
+    const bool isText = known.field == Name || known.field >= Group;
+    if (!isText && cell.text.trimmed().isEmpty())
+        return;
     switch (known.field) {
     case Id: {
-        const qint64 id = cellvalues::whole(cell).value_or(0);
+        const qint64 id = cellvalues::whole(cell, reading().comma).value_or(0);
         const bool fits = id > std::numeric_limits<qint32>::min() && id <= std::numeric_limits<qint32>::max();
         info.ID = fits ? int(id) : 0;
         if (info.ID == 0 || m_ids.contains(info.ID))
@@ -95,14 +91,13 @@ void ResourceSheet::apply(int row, const KnownCell &known, ResourceInfo &info)
         return;
     }
     case Name:
-        info.name = cell.asText();
+        info.name = cell.text;
         return;
     case MaxUnits:
-        // Kept on purpose: a percentage even without its sign.
-        readAmount(row, cell, 0, percent, info.unit);
+        readMaxUnits(row, known, info.unit);
         return;
     case Type: {
-        const int type = m_texts.getTypeIndex(cell.text);
+        const int type = typeOf(cell.text);
         if (type >= 0)
             info.type = type;
         else
@@ -116,44 +111,92 @@ void ResourceSheet::apply(int row, const KnownCell &known, ResourceInfo &info)
         readRate(row, cell, info.overtimeCost, info.overtimeUnit);
         return;
     case CostPerUse:
-        readAmount(row, cell, any, whole, info.costPer);
+        readAmount(row, cell, info.costPer);
         return;
     case Group:
-        info.group = cell.asText();
+        info.group = cell.text;
         return;
     case Email:
-        info.email = cell.asText();
+        info.email = cell.text;
         return;
     case Notes:
-        info.notes = cell.asText();
+        info.notes = cell.text;
         return;
     default:
         return;
     }
 }
 
+int ResourceSheet::typeOf(const QString &written) const
+{
+    const int type = m_texts.getTypeIndex(written);
+    if (type >= 0 || reading().isExact)
+        return type;
+    static const QStringList work = {QStringLiteral("work"), QStringLiteral("arbeit"),
+                                     QString::fromUtf8("工时")};
+    static const QStringList material = {QStringLiteral("material"), QString::fromUtf8("材料")};
+    const QString word = written.trimmed().toLower();
+    return work.contains(word) ? 0 : material.contains(word) ? 1 : -1;
+}
+
 void ResourceSheet::readRate(int row, const Cell &cell, double &money, qint32 &unit)
 {
-    const std::optional<cellvalues::Rate> rate = cellvalues::rate(cell);
+    const std::optional<cellvalues::Rate> rate = cellvalues::rate(cell, reading().comma);
     if (!rate) {
         report(row, &cell, text("is no rate"), text("left out"));
         return;
     }
+    reportComma(row, cell, rate->money);
     money = rate->money;
+    if (rate->unit.isEmpty())
+        return;
     const int read = m_texts.getCostUnitIndex(rate->unit);
-    if (read >= 0)
+    if (read >= 0) {
         unit = read;
-    else if (!rate->unit.isEmpty())
+        return;
+    }
+    // The rates that there are count in minutes to months.
+    constexpr int costUnits[] = {-1, -1, 4, 3, 2, 1, 0}; // by duration::Unit
+    constexpr double monthsOf[] = {12, 3};
+    const std::optional<unsigned int> called = cellvalues::unitCalled(rate->unit.mid(1));
+    if (!called) {
         report(row, &cell, text("has no known unit of time"), text("money for an hour"));
+    } else if (*called <= duration::Quarter) {
+        unit = costUnits[duration::Month];
+        money /= monthsOf[*called];
+        report(row, &cell, text("is no rate for a month or less"),
+               text("read as ") + QString::number(money, 'g', 12) + text("/m"));
+    } else {
+        unit = costUnits[*called];
+    }
 }
 
-void ResourceSheet::readAmount(int row, const Cell &cell, double least, double divisor, double &amount)
+void ResourceSheet::readMaxUnits(int row, const KnownCell &known, double &units)
 {
-    const std::optional<double> read = cellvalues::number(cell);
-    if (read && *read >= least)
-        amount = *read / divisor;
-    else
-        report(row, &cell, text("is no such number"), text("left out"));
+    const Cell &cell = *known.cell;
+    const bool isSigned = cellvalues::hasPercentSign(cell);
+    const std::optional<double> read = cellvalues::fraction(cell, reading().comma);
+    if (!read || *read < 0) {
+        report(row, &cell, text("is no amount"), text("left out"));
+        return;
+    }
+    reportComma(row, cell, isSigned ? *read * 100 : *read);
+    // A percentage even without its sign; one that the file shows as such is what it shows.
+    const bool isFraction = isSigned || (cell.isPercent && !reading().isExact);
+    units = isFraction ? *read : *read / 100;
+    if (!isFraction && !known.title->isPercent && *read > 0 && *read <= 1)
+        report(row, &cell, text("is taken as a percentage"), QString::number(units * 100) + QLatin1Char('%'));
+}
+
+void ResourceSheet::readAmount(int row, const Cell &cell, double &amount)
+{
+    const std::optional<double> read = cellvalues::number(cell, reading().comma);
+    if (!read) {
+        report(row, &cell, text("is no amount"), text("left out"));
+        return;
+    }
+    reportComma(row, cell, *read);
+    amount = *read;
 }
 
 int ResourceSheet::freeId()
@@ -168,17 +211,25 @@ int ResourceSheet::freeId()
 
 // ---- Assignments ------------------------------------------------------------------------------------------
 
-AssignmentSheet::AssignmentSheet(Findings *findings)
-    : Reader(findings, text("assignment sheet"))
+AssignmentSheet::AssignmentSheet(const sheetrows::Reading &reading, Findings *findings, const QString &name)
+    : Reader(exceltitles::AssignmentSheet, reading, findings, name)
     , m_unitNames(unitNames())
 {
 }
 
 AssignmentSheet::~AssignmentSheet() = default;
 
-int AssignmentSheet::fieldOf(const QString &title) const
+void AssignmentSheet::findTasks(const staged::Plan &plan)
 {
-    return keyOf(ExcelTitles::s_workAssignNames, title, assignmentKeys);
+    for (std::size_t i = plan.tasks.size(); i-- > 0;) {
+        if (plan.tasks[i].id != 0)
+            m_placeOfId.insert(plan.tasks[i].id, int(i));
+    }
+}
+
+void AssignmentSheet::finish(staged::Plan &plan)
+{
+    plan.assignments = std::move(m_assignments);
 }
 
 bool AssignmentSheet::isLeftOut(const QString &task)
@@ -190,31 +241,43 @@ bool AssignmentSheet::isLeftOut(const QString &task)
     return m_isLastLeftOut;
 }
 
-void AssignmentSheet::addRow(int row, const std::vector<KnownCell> &cells)
+void AssignmentSheet::addRow(const sheetrows::Row &row, const std::vector<KnownCell> &cells)
 {
-    if (std::any_of(cells.begin(), cells.end(), [this](const KnownCell &known) {
-            return known.field == TaskName && isLeftOut(known.cell->asText());
+    const bool hasId = std::any_of(cells.begin(), cells.end(),
+                                   [](const KnownCell &known) { return known.field == titletable::TaskId; });
+    if (!hasId && std::any_of(cells.begin(), cells.end(), [this](const KnownCell &known) {
+            return known.field == TaskName && isLeftOut(known.cell->text);
         }))
         return;
-    Assignment assignment;
-    assignment.row = row;
+    staged::Assignment assignment;
+    assignment.row = row.line;
     for (const KnownCell &known : cells) {
         const Cell &cell = *known.cell;
         switch (known.field) {
+        case titletable::TaskId: {
+            const qint64 id = cellvalues::whole(cell, reading().comma).value_or(0);
+            assignment.task =
+                id > 0 && id <= std::numeric_limits<quint32>::max() ? m_placeOfId.value(quint32(id), -1) : -1;
+            if (assignment.task < 0) {
+                report(row.line, &cell, text("is the ID of no task"), text("left out"));
+                return;
+            }
+            break;
+        }
         case TaskName:
-            assignment.task = cell.asText();
+            assignment.taskName = cell.text;
             break;
         case ResourceName:
-            assignment.resource = cell.asText().trimmed();
+            assignment.resource = cell.text.trimmed();
             break;
         case Work: {
-            const Amount work = amountOf(row, cell, Work);
+            const Amount work = amountOf(row.line, known);
             assignment.work = work.value;
             assignment.workUnit = work.unit;
             break;
         }
         case Units:
-            assignment.units = amountOf(row, cell, Units).value;
+            assignment.units = amountOf(row.line, known).value;
             break;
         default:
             break;
@@ -223,26 +286,33 @@ void AssignmentSheet::addRow(int row, const std::vector<KnownCell> &cells)
     m_assignments.push_back(std::move(assignment));
 }
 
-AssignmentSheet::Amount AssignmentSheet::amountOf(int row, const Cell &cell, int field)
+AssignmentSheet::Amount AssignmentSheet::amountOf(int row, const KnownCell &known)
 {
-    QHash<QString, Amount> &known = m_amounts[field == Work ? 0 : 1][cell.isNumber ? 1 : 0];
-    const auto found = known.constFind(cell.text);
-    if (found != known.constEnd())
+    const Cell &cell = *known.cell;
+    QHash<QString, Amount> &amounts = m_amounts[known.field == Work ? 0 : 1][known.title->isPercent ? 2
+                                                                             : cell.isNumber        ? 1
+                                                                                                    : 0];
+    const auto found = amounts.constFind(cell.text);
+    if (found != amounts.constEnd())
         return *found;
     Amount amount;
-    amount.value = field == Work ? cellvalues::number(cell) : cellvalues::fraction(cell);
+    amount.value = known.field == Work ? cellvalues::number(cell, reading().comma)
+                                       : cellvalues::fraction(cell, reading().comma);
+    // Work is a number with a unit behind it.
+    if (!amount.value && known.field == Work && reading().comma == cellvalues::Comma::Decimal)
+        amount.value = cellvalues::number(cell);
+    if (amount.value && known.title->isPercent && !cellvalues::hasPercentSign(cell))
+        *amount.value /= 100;
     amount.unit = cellvalues::unit(cell.text, m_unitNames).value_or(duration::Hour);
     if (!amount.value || *amount.value < 0) {
+        if (cell.text.trimmed().isEmpty())
+            return Amount();
         report(row, &cell, text("is no amount"), text("left out"));
         amount.value.reset();
         return amount;
     }
-    known.insert(cell.text, amount);
+    reportComma(row, cell, *amount.value);
+    amounts.insert(cell.text, amount);
     return amount;
-}
-
-void AssignmentSheet::reportRow(int row, const QString &what, const QString &instead) const
-{
-    report(row, QString(), what, instead);
 }
 }

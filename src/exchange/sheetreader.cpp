@@ -14,9 +14,11 @@ QString shown(const QString &text)
 }
 }
 
-Reader::Reader(Findings *findings, const QString &sheet)
-    : m_findings(findings)
-    , m_sheet(sheet)
+Reader::Reader(exceltitles::Sheet sheet, const Reading &reading, Findings *findings, const QString &name)
+    : m_kind(sheet)
+    , m_reading(reading)
+    , m_findings(findings)
+    , m_name(name)
 {
 }
 
@@ -26,19 +28,23 @@ bool Reader::read(Source &source)
     std::vector<Row> early;
     Row row;
     while (source.next(row)) {
+        row.line = row.line > 0 ? row.line : row.number;
         if (row.number == 1 && !m_hasTitles)
             readTitles(row);
         else if (m_hasTitles)
             readRow(row);
         else
             early.push_back(row);
+        row.line = 0;
     }
     if (m_hasTitles) {
         for (const Row &each : early)
             readRow(each);
     }
     if (!source.error().isEmpty() && m_findings)
-        m_findings->add(m_sheet, source.error(), QStringLiteral("not read"));
+        m_findings->add(m_name, source.error(), QStringLiteral("not read"));
+    if (m_isKnown)
+        reportUntitled();
     return source.error().isEmpty();
 }
 
@@ -48,6 +54,22 @@ bool Reader::hasBlankTitles() const
                                             [](const Cell &cell) { return cell.text.isEmpty(); });
 }
 
+bool Reader::hasField(int field) const
+{
+    return std::any_of(m_fieldOfColumn.begin(), m_fieldOfColumn.end(),
+                       [field](const titletable::Known &known) { return known.field == field; });
+}
+
+QString Reader::titleOfField(int field) const
+{
+    for (const Cell &cell : m_titles) {
+        if (cell.column > 0 && cell.column < int(m_fieldOfColumn.size()) &&
+            m_fieldOfColumn[std::size_t(cell.column)].field == field)
+            return cell.text.trimmed();
+    }
+    return QString();
+}
+
 void Reader::readTitles(const Row &row)
 {
     m_hasTitles = true;
@@ -55,13 +77,29 @@ void Reader::readTitles(const Row &row)
     for (const Cell &cell : row.cells) {
         if (cell.column < 1 || cell.column > maxColumns)
             continue;
-        if (cell.column >= int(m_fieldOfColumn.size()))
-            m_fieldOfColumn.resize(std::size_t(cell.column) + 1, -1);
-        const int field = cell.text.isEmpty() ? -1 : fieldOf(cell.text);
-        m_fieldOfColumn[std::size_t(cell.column)] = field;
-        m_isKnown = m_isKnown || field >= 0;
-        if (field < 0 && !cell.text.isEmpty())
-            report(row.number, cell.text, QStringLiteral("no such column"), QStringLiteral("not read"));
+        const std::size_t column = std::size_t(cell.column);
+        if (column >= m_fieldOfColumn.size()) {
+            m_fieldOfColumn.resize(column + 1);
+            m_hasTitle.resize(column + 1, false);
+        }
+        if (cell.text.trimmed().isEmpty())
+            continue;
+        m_hasTitle[column] = true;
+        titletable::Known known = titletable::find(m_kind, cell.text, m_reading.isExact);
+        m_isKnown = m_isKnown || known.field >= 0;
+        if (known.field >= 0 && !m_reading.isExact && hasField(known.field)) {
+            report(row.line, cell.text, QStringLiteral("it is a second ") + shown(titleOfField(known.field)),
+                   QStringLiteral("not read"));
+            known.field = -1;
+        } else if (known.field < 0) {
+            const QString nearest =
+                isCounting() ? QString() : titletable::nearest(m_kind, cell.text, m_reading.isExact);
+            report(row.line, cell.text, QStringLiteral("no such column"),
+                   nearest.isEmpty()
+                       ? QStringLiteral("not read")
+                       : QStringLiteral("not read; did you mean ") + shown(nearest) + QLatin1Char('?'));
+        }
+        m_fieldOfColumn[column] = known;
     }
 }
 
@@ -70,17 +108,56 @@ void Reader::readRow(const Row &row)
     m_cells.clear();
     bool isBlank = true;
     for (const Cell &cell : row.cells) {
-        if (cell.column < 1 || cell.column >= int(m_fieldOfColumn.size()) || cell.text.isEmpty())
+        if (cell.column < 1 || cell.column > maxColumns || cell.text.isEmpty())
             continue;
-        const int field = m_fieldOfColumn[std::size_t(cell.column)];
-        if (field < 0)
+        const std::size_t column = std::size_t(cell.column);
+        const bool isSpace =
+            std::all_of(cell.text.begin(), cell.text.end(), [](QChar sign) { return sign.isSpace(); });
+        if (column >= m_hasTitle.size() || !m_hasTitle[column]) {
+            if (isSpace)
+                continue;
+            if (column >= m_untitled.size())
+                m_untitled.resize(column + 1);
+            if (m_untitled[column].cells++ == 0)
+                m_untitled[column].firstRow = row.line;
             continue;
-        m_cells.push_back({field, &cell});
-        isBlank = isBlank &&
-                  std::all_of(cell.text.begin(), cell.text.end(), [](QChar sign) { return sign.isSpace(); });
+        }
+        if (m_fieldOfColumn[column].field < 0)
+            continue;
+        m_cells.push_back({m_fieldOfColumn[column].field, &cell, &m_fieldOfColumn[column]});
+        isBlank = isBlank && isSpace;
     }
     if (!isBlank)
-        addRow(row.number, m_cells);
+        addRow(row, m_cells);
+}
+
+void Reader::reportUntitled() const
+{
+    for (std::size_t column = 0; column < m_untitled.size(); ++column) {
+        const Untitled &untitled = m_untitled[column];
+        if (untitled.cells > 0)
+            report(untitled.firstRow, QString(),
+                   QStringLiteral("column %1 has no title and %2 cells").arg(column).arg(untitled.cells),
+                   QStringLiteral("not read"));
+    }
+}
+
+QString Reader::place() const
+{
+    return m_name.isEmpty() ? m_reading.word : m_name + QLatin1String(", ") + m_reading.word;
+}
+
+void Reader::refuse(int row, const Cell *cell, const QString &what, const QString &instead)
+{
+    m_isRefused = m_isRefused || m_reading.isStrict;
+    report(row, cell, what, m_reading.isStrict ? QStringLiteral("nothing was read") : instead);
+}
+
+void Reader::reportComma(int row, const Cell &cell, double value) const
+{
+    if (m_reading.comma == cellvalues::Comma::Groups && cellvalues::hasOddComma(cell))
+        report(row, &cell, QStringLiteral("has a comma that groups no digits"),
+               QStringLiteral("read as ") + QString::number(value));
 }
 
 QString Reader::titleOf(const Cell &cell) const
@@ -109,7 +186,7 @@ void Reader::report(int row, const QString &column, const QString &what, const Q
     if (isCounting())
         m_findings->add(QString(), what);
     else if (m_findings)
-        m_findings->add(m_sheet + QLatin1String(", row ") + QString::number(row) +
+        m_findings->add(place() + QLatin1Char(' ') + QString::number(row) +
                             (column.isEmpty() ? QString() : QLatin1String(", ") + shown(column)),
                         what, instead);
 }

@@ -1,24 +1,47 @@
 #pragma once
+#include "exchange/cellvalues.h"
 #include "exchange/sheetrows.h"
+#include "exchange/titletable.h"
 #include "support/findings.h"
 #include <vector>
 
-// The rows of one worksheet by the titles of its columns.
+// The rows of one sheet by the titles of its columns.
 namespace sheetrows {
+
+// How files of a kind are meant.
+struct Reading
+{
+    // Titles letter for letter, and cells by the rules of the interface's own importData: names and IDs are
+    // made unique one row after the other, a number among percentages is a fraction, a date that cannot be
+    // read is today's.
+    bool isExact = true;
+    bool isStrict = false; // a cell that cannot be read refuses the file
+    bool linksById =
+        false; // a plain number among predecessors is an ID, where there are IDs; else the row's place
+    bool lengthDecides = false; // where a length contradicts the finish
+    bool is1904 = false;        // day numbers count from 1 January 1904
+    // A number without its sign in the column of what is done: a percentage; else as the whole column says.
+    bool plainPercent = false;
+    bool comparesWork = false; // see planimport::Rules
+    bool placesBehind = true;
+    cellvalues::Comma comma = cellvalues::Comma::Groups;
+    QString word = QStringLiteral("row"); // for a row in findings
+};
 
 // A cell that is not empty, in a column whose title is known.
 struct KnownCell
 {
     int field = 0; // what the title stands for
     const Cell *cell = nullptr;
+    const titletable::Known *title = nullptr;
 };
 
 // Reads a sheet; what the fields mean is up to those that derive from it.
 class Reader
 {
 public:
-    // The findings are not owned; null drops them. `sheet` is how they name the sheet.
-    Reader(Findings *findings, const QString &sheet);
+    // The findings are not owned; null drops them. `name` is how they call the sheet; it may be empty.
+    Reader(exceltitles::Sheet sheet, const Reading &reading, Findings *findings, const QString &name);
     virtual ~Reader() = default;
     Reader(const Reader &) = delete;
     Reader &operator=(const Reader &) = delete;
@@ -29,28 +52,50 @@ public:
     bool isKnown() const { return m_isKnown; }
     // Whether it has title cells, and all of them empty.
     bool hasBlankTitles() const;
+    bool hasTitles() const { return m_hasTitles; }
+    // A cell could not be read, where that refuses the file.
+    bool isRefused() const { return m_isRefused; }
     // The cells of row 1.
     const std::vector<Cell> &titles() const { return m_titles; }
+    bool hasField(int field) const;
+    QString titleOfField(int field) const;
+    QString place() const; // what stands before a row's number in findings
 
 protected:
-    virtual int fieldOf(const QString &title) const = 0; // -1 for a title that is not known
     // A row that has something in a known column.
-    virtual void addRow(int row, const std::vector<KnownCell> &cells) = 0;
+    virtual void addRow(const Row &row, const std::vector<KnownCell> &cells) = 0;
+    const Reading &reading() const { return m_reading; }
     void report(int row, const Cell *cell, const QString &what, const QString &instead) const;
     void report(int row, const QString &column, const QString &what, const QString &instead) const;
+    // A cell that cannot be read.
+    void refuse(int row, const Cell *cell, const QString &what, const QString &instead);
+    // A number whose comma was taken for a group's.
+    void reportComma(int row, const Cell &cell, double value) const;
     QString titleOf(const Cell &cell) const;
 
 private:
     void readTitles(const Row &row);
     void readRow(const Row &row);
+    void reportUntitled() const;
     bool isCounting() const;
 
+    struct Untitled // a column without a title that has cells
+    {
+        int firstRow = 0;
+        int cells = 0;
+    };
+
+    const exceltitles::Sheet m_kind;
+    const Reading &m_reading;
     Findings *m_findings;
-    const QString m_sheet;
+    const QString m_name;
     bool m_isKnown = false;
     bool m_hasTitles = false;
+    bool m_isRefused = false;
     std::vector<Cell> m_titles;
-    std::vector<int> m_fieldOfColumn; // by column number
-    std::vector<KnownCell> m_cells;   // of the row being read
+    std::vector<titletable::Known> m_fieldOfColumn; // by column number
+    std::vector<bool> m_hasTitle;                   // by column number
+    std::vector<Untitled> m_untitled;               // by column number
+    std::vector<KnownCell> m_cells;                 // of the row being read
 };
 }

@@ -2,23 +2,22 @@
 #include <QString>
 #include <vector>
 
-// The cells of a worksheet, row by row, whatever kind of workbook they come from.
+// The cells of a sheet, row by row, whatever kind of file they come from.
 namespace sheetrows {
 
 struct Cell
 {
     int column = 0; // from 1
     QString text;
-    bool isNumber = false;     // the text is a finite number that the workbook holds as one
-    QString shown = QString(); // the number as a column of texts takes it; null for the text itself
-
-    const QString &asText() const { return shown.isNull() ? text : shown; }
+    bool isNumber = false;  // the text is a finite number that the file holds as one
+    bool isPercent = false; // such a number is shown as a percentage
 };
 
 struct Row
 {
     int number = 0; // from 1, the titles
     std::vector<Cell> cells;
+    int line = 0; // where a user finds the row, when its number does not say it
 };
 
 // One sheet, read once from its first row to its last.

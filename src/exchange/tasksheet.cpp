@@ -1,13 +1,9 @@
 #include "exchange/tasksheet.h"
-#include "engine/record/outline.h"
 #include "engine/text/columntypes.h"
 #include "engine/time/duration.h"
-#include "engine/time/worktime.h"
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
-#include "schedule/kwtaskcollection.h"
 #include "support/kwclock.h"
-#include "table/rowcolumndata.h"
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -21,14 +17,71 @@ namespace planimport {
 namespace {
 
 // One text that many cells share can name far more than its file is long.
-constexpr qint64 maxTagUnits = 32 << 20;
-constexpr std::size_t maxTags = 1000000;
+constexpr qint64 maxLinkUnits = 32 << 20;
+constexpr std::size_t maxLinks = 1000000;
 constexpr int maxHyperlinks = 1000000;
-constexpr int maxNumberedUnits = 255; // of a name that gets a number
+constexpr int deepestLevel = 1000;
+constexpr int idType = 0;
+constexpr int startType = 2;
+constexpr int finishType = 3;
+constexpr int lengthType = 4;
+constexpr int levelType = 23;
 
 QString text(const char *latin1)
 {
     return QString::fromLatin1(latin1);
+}
+
+// The numbers of "1.2.3", at most as many as there are levels; 0 when the text is no such code.
+int levelOfCode(const QString &code)
+{
+    int level = 1;
+    bool isDigitBefore = false;
+    for (const QChar sign : code.trimmed()) {
+        if (sign.isDigit()) {
+            isDigitBefore = true;
+        } else if (sign == QLatin1Char('.') && isDigitBefore) {
+            ++level;
+            isDigitBefore = false;
+        } else {
+            return 0;
+        }
+    }
+    // "1." is level 1.
+    return isDigitBefore ? level : level - 1;
+}
+
+bool isYes(const Cell &cell)
+{
+    static const QStringList noes = {QString(),
+                                     QStringLiteral("0"),
+                                     QStringLiteral("no"),
+                                     QStringLiteral("n"),
+                                     QStringLiteral("false"),
+                                     QStringLiteral("nein"),
+                                     QString::fromUtf8("否")};
+    return !noes.contains(cell.text.trimmed().toLower());
+}
+
+// The field of a column of moments.
+std::optional<staged::MomentField> momentField(int type)
+{
+    switch (type) {
+    case startType:
+        return staged::Start;
+    case finishType:
+        return staged::Finish;
+    case 14:
+        return staged::LateStart;
+    case 15:
+        return staged::LateFinish;
+    case 20:
+        return staged::BaseStart;
+    case 21:
+        return staged::BaseFinish;
+    default:
+        return std::nullopt;
+    }
 }
 }
 
@@ -42,177 +95,165 @@ cellvalues::UnitNames unitNames()
     return names;
 }
 
-// ---- Names and IDs ----------------------------------------------------------------------------------------
+// ---- Rows -------------------------------------------------------------------------------------------------
 
-QString UniqueNames::take(const QString &name)
-{
-    ++m_count;
-    const QString trimmed = name.trimmed();
-    if (!m_taken.contains(trimmed)) {
-        m_taken.insert(trimmed);
-        return name;
-    }
-    const QString base = name.left(maxNumberedUnits);
-    qint64 &number = m_nextNumber[base];
-    // The tasks before this one, and one.
-    number = std::max(number, qint64(m_count));
-    QString numbered;
-    do
-        numbered = base + QString::number(number++);
-    while (m_taken.contains(numbered.trimmed()));
-    m_taken.insert(numbered.trimmed());
-    return numbered;
-}
-
-bool UniqueIds::take(quint32 id)
-{
-    if (id == 0 || !m_taken.add(id))
-        return false;
-    m_greatest = std::max(m_greatest, id);
-    return true;
-}
-
-quint32 UniqueIds::takeNext()
-{
-    if (m_greatest < std::numeric_limits<quint32>::max()) {
-        take(m_greatest + 1);
-        return m_greatest;
-    }
-    while (!take(m_lowestFree))
-        ++m_lowestFree;
-    return m_lowestFree;
-}
-
-// ---- The sheet --------------------------------------------------------------------------------------------
-
-TaskSheet::TaskSheet(KWDocument &document, bool is1904, Findings *findings)
-    : Reader(findings, text("task sheet"))
-    , m_document(document)
-    , m_is1904(is1904)
+TaskSheet::TaskSheet(const sheetrows::Reading &reading, Findings *findings, const QString &name)
+    : Reader(exceltitles::TaskSheet, reading, findings, name)
     , m_unitNames(unitNames())
 {
 }
 
 TaskSheet::~TaskSheet() = default;
 
-int TaskSheet::fieldOf(const QString &title) const
-{
-    const int type = RowColumnData::s_columnNames.key(title, -1);
-    return columntypes::find(type) ? type : -1;
-}
-
-void TaskSheet::addRow(int row, const std::vector<KnownCell> &cells)
+void TaskSheet::addRow(const sheetrows::Row &row, const std::vector<KnownCell> &cells)
 {
     Staged staged;
-    staged.task = std::make_unique<KWTaskInfo>();
-    staged.row = row;
-    staged.wantedBegin = m_wantedTags.size();
+    staged.number = row.number;
+    staged.task.row = row.line;
+    staged.task.task = std::make_unique<KWTaskInfo>();
     for (const KnownCell &known : cells)
-        apply(known, staged);
-    complete(staged);
+        apply(known, staged.task);
+    KWTaskInfo &task = *staged.task.task;
+    const bool isOwnLevel = hasField(levelType) && task.Level < 1;
+    m_hasLevelZero = m_hasLevelZero || (isOwnLevel && task.Level == 0);
+    if (isOwnLevel && (reading().isExact || task.Level < 0)) {
+        report(row.line, QString(), text("the level is below 1"), text("level 1"));
+        task.Level = 1;
+    }
+    task.Progress = KWTaskInfo::indexFromPercent(task.Percent);
+    staged.task.hasPlace = !hasField(idType) || !hasField(startType) || staged.task.id != 0 ||
+                           staged.task.moments[staged::Start].isGiven() || !staged.task.length;
     m_tasks.push_back(std::move(staged));
 }
 
-void TaskSheet::apply(const KnownCell &known, Staged &staged)
+void TaskSheet::apply(const KnownCell &known, staged::Task &staged)
 {
-    const ColumnType &type = *columntypes::find(known.field);
     const Cell &cell = *known.cell;
     KWTaskInfo &task = *staged.task;
-    switch (type.import) {
+    if (known.field == titletable::OutlineCode) {
+        staged.code = cell.text.trimmed();
+        return;
+    }
+    if (known.field == titletable::MilestoneFlag) {
+        staged.isMilestone = isYes(cell);
+        return;
+    }
+    const ColumnType *type = columntypes::find(known.field);
+    if (!type)
+        return;
+    switch (type->import) {
     case Import::None:
         return;
     case Import::Text:
-        columntypes::setText(task, type.field, cell.asText());
+        columntypes::setText(task, type->field, cell.text);
         return;
     case Import::OwnId:
         readId(cell, staged);
         return;
     case Import::OwnName:
-        readName(cell, staged);
+        if (task.Name.isEmpty())
+            task.Name = cell.text;
         return;
     case Import::StartOnWorkday:
-        readMoment(known, StartOnWorkday, staged);
-        return;
     case Import::StartAsShown:
-        readMoment(known, StartAsShown, staged);
-        return;
     case Import::Finish:
-        readMoment(known, Finish, staged);
+        if (const auto field = momentField(known.field))
+            readMoment(known, *field, staged);
         return;
     case Import::Duration:
-        readDuration(cell, staged);
+        readLength(known, staged);
         return;
     case Import::Hyperlinks:
         readHyperlinks(cell, staged);
         return;
     case Import::RowTags:
-        readTags(cell, staged);
+        readPredecessors(cell, staged);
+        return;
+    case Import::Percent:
+        readPercent(cell, staged);
         return;
     case Import::Whole:
     case Import::Number:
     case Import::NumberText:
-    case Import::Percent:
         readNumber(known, staged);
         return;
     }
 }
 
-void TaskSheet::readId(const Cell &cell, Staged &staged)
+void TaskSheet::readId(const Cell &cell, staged::Task &staged)
 {
-    const qint64 id = cellvalues::whole(cell).value_or(0);
+    const qint64 id = cellvalues::whole(cell, reading().comma).value_or(0);
     // A second column of that title changes nothing any more.
     if (staged.id != 0)
         return;
-    if (id > 0 && id <= std::numeric_limits<quint32>::max() && m_ids.take(quint32(id))) {
+    if (id > 0 && id <= std::numeric_limits<quint32>::max())
         staged.id = quint32(id);
-        return;
-    }
-    staged.id = m_ids.takeNext();
-    report(staged.row, &cell, id > 0 ? text("is the ID of another task") : text("is no ID"),
-           text("ID ") + QString::number(staged.id));
+    else if (!cell.text.trimmed().isEmpty())
+        refuse(staged.row, &cell, text("is no ID"), text("the next free ID"));
 }
 
-void TaskSheet::readName(const Cell &cell, Staged &staged)
-{
-    if (!staged.task->Name.isEmpty())
-        return;
-    staged.task->Name = m_names.take(cell.asText());
-    if (staged.task->Name != cell.asText())
-        report(staged.row, &cell, text("is the name of another task"), text("named ") + staged.task->Name);
-}
-
-void TaskSheet::readNumber(const KnownCell &known, Staged &staged)
+void TaskSheet::readNumber(const KnownCell &known, staged::Task &staged)
 {
     const ColumnType &type = *columntypes::find(known.field);
     const Cell &cell = *known.cell;
-    const std::optional<double> value =
-        type.import == Import::Percent ? cellvalues::fraction(cell) : cellvalues::number(cell);
-    if (!value) {
-        report(staged.row, &cell, text("is no number"), text("left out"));
+    if (cell.text.trimmed().isEmpty())
+        return;
+    const std::optional<double> value = cellvalues::number(cell, reading().comma);
+    const bool isOutside = known.field == levelType && value && !reading().isExact && *value > deepestLevel;
+    if (!value || isOutside) {
+        refuse(staged.row, &cell, isOutside ? text("is no level from 1 to 1000") : text("is no number"),
+               text("left out"));
         return;
     }
-    if (type.import == Import::Percent)
-        staged.task->setPercent(*value);
-    else if (type.import == Import::NumberText)
-        columntypes::setText(*staged.task, type.field,
-                             cell.isNumber ? cell.text : DataFormat::numberStringFromString(cell.text, 0));
+    reportComma(staged.row, cell, *value);
+    if (type.import == Import::NumberText)
+        columntypes::setText(
+            *staged.task, type.field,
+            cell.isNumber ? cell.text
+                          : DataFormat::numberStringFromString(cellvalues::withPlainDigits(cell.text), 0));
     else
         columntypes::setNumber(*staged.task, type.field,
                                type.import == Import::Whole ? std::trunc(*value) : *value);
 }
 
-void TaskSheet::readDuration(const Cell &cell, Staged &staged)
+void TaskSheet::readPercent(const Cell &cell, staged::Task &staged)
 {
-    const std::optional<double> value = cellvalues::number(cell);
-    staged.takesNoTime = value && *value == 0;
-    const std::optional<unsigned int> unit = cellvalues::unit(cell.text, m_unitNames);
-    if (unit)
-        staged.task->DurationUnits = *unit;
-    else if (!cell.isNumber)
-        report(staged.row, &cell, text("has no known unit of time"), text("counted in days"));
+    if (cell.text.trimmed().isEmpty())
+        return;
+    std::optional<double> value = cellvalues::fraction(cell, reading().comma);
+    if (!value) {
+        refuse(staged.row, &cell, text("is no percentage"), text("left out"));
+        return;
+    }
+    const bool isPlain = !cellvalues::hasPercentSign(cell) && !cell.isPercent;
+    if (isPlain && (!reading().isExact || reading().plainPercent)) {
+        m_plainPercents.push_back({placeOfNewTask(), *value});
+        return;
+    }
+    reportComma(staged.row, cell, isPlain ? *value : *value * 100);
+    staged.task->setPercent(*value);
+    if (*value < 0 || *value > 1)
+        report(staged.row, &cell, text("is no percentage from 0 to 100"),
+               text("read as ") + QString::number(staged.task->Percent * 100) + QLatin1Char('%'));
 }
 
-void TaskSheet::readHyperlinks(const Cell &cell, Staged &staged)
+void TaskSheet::readLength(const KnownCell &known, staged::Task &staged)
+{
+    const Cell &cell = *known.cell;
+    if (cell.text.trimmed().isEmpty())
+        return;
+    const std::optional<cellvalues::Length> length =
+        cellvalues::length(cell.text, m_unitNames, known.title->bareUnit);
+    if (!length) {
+        refuse(staged.row, &cell, text("is no length of time"), text("left out"));
+        return;
+    }
+    staged.length = staged::Length{length->value, length->unit};
+    if (!length->isUnitKnown)
+        refuse(staged.row, &cell, text("has no known unit of time"), text("counted in days"));
+}
+
+void TaskSheet::readHyperlinks(const Cell &cell, staged::Task &staged)
 {
     KWHyperlinkSheet &sheet = staged.task->hyperlinks;
     for (const QString &part : cell.text.split(QLatin1Char(';'))) {
@@ -233,236 +274,327 @@ void TaskSheet::readHyperlinks(const Cell &cell, Staged &staged)
     }
 }
 
-void TaskSheet::readTags(const Cell &cell, Staged &staged)
+// ---- Predecessors -----------------------------------------------------------------------------------------
+
+// How a predecessor is written: a number is a row or an ID, as the kind of file has it; "#5" an ID; "1.2" an
+// outline code; "Paint the \"wall\"" in quotes a name that no other task has. "FS" may follow a number or a
+// code: links finish to start and have no lag.
+bool TaskSheet::readPredecessor(const QString &part, QString &refusal)
 {
-    m_tagUnits += cell.text.size();
-    if (m_tagUnits > maxTagUnits || m_wantedTags.size() >= maxTags) {
+    const int task = placeOfNewTask();
+    const QChar quote = part.at(0);
+    if (quote == QLatin1Char('"') || quote == QLatin1Char('\'')) {
+        const bool isClosed = part.size() > 2 && part.at(part.size() - 1) == quote;
+        if (!isClosed) {
+            refusal = text("has no closing quote");
+            return false;
+        }
+        m_wantedTexts.push_back({task, part.mid(1, part.size() - 2).trimmed(), false});
+        return true;
+    }
+    const bool isId = quote == QLatin1Char('#');
+    int end = isId ? 1 : 0;
+    bool hasDot = false;
+    while (end < part.size() && (part.at(end).isDigit() || (!isId && part.at(end) == QLatin1Char('.')))) {
+        hasDot = hasDot || part.at(end) == QLatin1Char('.');
+        ++end;
+    }
+    const QString number = part.mid(isId ? 1 : 0, end - (isId ? 1 : 0));
+    const QString kind = part.mid(end).trimmed().toUpper();
+    if (number.isEmpty()) {
+        refusal = text("is no task");
+        return false;
+    }
+    if (!kind.isEmpty() && kind != QLatin1String("FS")) {
+        static const QStringList kinds = {QStringLiteral("FS"), QStringLiteral("SS"), QStringLiteral("FF"),
+                                          QStringLiteral("SF")};
+        const bool isLink = kinds.contains(kind.left(2)) || kind.startsWith(QLatin1Char('+')) ||
+                            kind.startsWith(QLatin1Char('-'));
+        refusal = isLink ? text("is no link from finish to start without lag") : text("is no task");
+        return false;
+    }
+    if (hasDot && hasField(titletable::OutlineCode)) {
+        m_wantedTexts.push_back({task, cellvalues::withPlainDigits(number), true});
+        return true;
+    }
+    bool isNumber = false;
+    const quint32 value = cellvalues::withPlainDigits(number).toUInt(&isNumber);
+    if (!isNumber || value == 0) {
+        refusal = text("is no task");
+        return false;
+    }
+    m_wanted.push_back({task, value, isId || (reading().linksById && hasField(idType))});
+    return true;
+}
+
+void TaskSheet::readPredecessors(const Cell &cell, staged::Task &staged)
+{
+    m_linkUnits += cell.text.size();
+    if (m_linkUnits > maxLinkUnits || m_wanted.size() + m_wantedTexts.size() >= maxLinks) {
         report(staged.row, titleOf(cell), text("there are too many predecessors"), text("left out"));
         return;
     }
+    QString list = cell.text;
     // Some programs write 3 as "3.0" when it stands alone.
-    const QString list = cell.isNumber ? QString::number(cellvalues::whole(cell).value_or(0)) : cell.text;
-    bool isSound = true;
-    for (const QStringRef &part : list.splitRef(QLatin1Char(';'))) {
-        const QStringRef trimmed = part.trimmed();
-        const quint32 tag = trimmed.toUInt();
-        if (tag > 0)
-            m_wantedTags.push_back(tag);
-        else
-            isSound = isSound && trimmed.isEmpty();
+    if (cell.isNumber && !hasField(titletable::OutlineCode))
+        list = QString::number(cellvalues::whole(cell).value_or(0));
+    const std::size_t first = m_wanted.size();
+    QChar quote;
+    int begin = 0;
+    for (int at = 0; at <= list.size(); ++at) {
+        const QChar sign = at < list.size() ? list.at(at) : QChar(QLatin1Char(';'));
+        const bool isQuote = sign == QLatin1Char('"') || sign == QLatin1Char('\'');
+        if (at < list.size() && isQuote &&
+            (quote.isNull() ? list.mid(begin, at - begin).trimmed().isEmpty() : sign == quote)) {
+            quote = quote.isNull() ? sign : QChar();
+            continue;
+        }
+        const bool isEnd = sign == QLatin1Char(';') || sign == QLatin1Char(',') || sign == QChar(0xFF1B) ||
+                           sign == QChar(0xFF0C) || sign == QLatin1Char('\n');
+        if (at < list.size() && (!isEnd || !quote.isNull()))
+            continue;
+        const QString part = list.mid(begin, at - begin).trimmed();
+        begin = at + 1;
+        QString refusal;
+        if (!part.isEmpty() && !readPredecessor(part, refusal)) {
+            Cell named = cell;
+            named.text = part;
+            report(staged.row, &named, refusal, text("no predecessor"));
+            ++m_refusedLinks;
+        }
     }
-    if (!isSound)
-        report(staged.row, &cell, text("does not only hold row numbers"), text("the rest left out"));
     // Named once, however often.
-    const auto begin = m_wantedTags.begin() + std::ptrdiff_t(staged.wantedBegin);
-    std::sort(begin, m_wantedTags.end());
-    m_wantedTags.erase(std::unique(begin, m_wantedTags.end()), m_wantedTags.end());
+    const auto by = [](const Wanted &a, const Wanted &b) {
+        return a.isId != b.isId ? a.isId < b.isId : a.number < b.number;
+    };
+    const auto from = m_wanted.begin() + std::ptrdiff_t(first);
+    std::sort(from, m_wanted.end(), by);
+    m_wanted.erase(std::unique(from, m_wanted.end(),
+                               [](const Wanted &a, const Wanted &b) {
+                                   return a.isId == b.isId && a.number == b.number;
+                               }),
+                   m_wanted.end());
 }
 
 // ---- Moments ----------------------------------------------------------------------------------------------
 
-void TaskSheet::readMoment(const KnownCell &known, MomentUse use, Staged &staged)
-{
-    const columntypes::Field &field = columntypes::find(known.field)->field;
-    const Moment moment = momentOf(*known.cell, use, staged.row);
-    columntypes::setSecs(*staged.task, field, moment.secs);
-    if (field == columntypes::Field(&KWTaskInfo::Start))
-        staged.start = moment;
-    else if (field == columntypes::Field(&KWTaskInfo::Finish))
-        staged.finish = moment;
-}
-
 // Plans name the same moments again and again.
-TaskSheet::Moment TaskSheet::momentOf(const Cell &cell, MomentUse use, int row)
+void TaskSheet::readMoment(const KnownCell &known, staged::MomentField field, staged::Task &staged)
 {
-    QHash<QString, Moment> &known = m_moments[use][cell.isNumber ? 1 : 0];
-    const auto found = known.constFind(cell.text);
-    if (found != known.constEnd())
-        return *found;
-    const std::optional<QDateTime> shown = cellvalues::moment(cell, m_is1904);
-    if (!shown) {
-        report(row, &cell, text("is no date from 1970 to 2106"), text("today"));
-        const QDateTime today = KWClock::now().date().startOfDay();
-        return {stored(today, use), today.toSecsSinceEpoch()};
+    const Cell &cell = *known.cell;
+    if (cell.text.trimmed().isEmpty())
+        return;
+    QHash<QString, Read> &reads = m_moments[cell.isNumber ? 1 : 0];
+    auto found = reads.constFind(cell.text);
+    if (found == reads.constEnd()) {
+        const std::optional<cellvalues::Moment> moment = cellvalues::moment(cell, reading().is1904);
+        found = reads.insert(cell.text, {moment.has_value(), moment.value_or(cellvalues::Moment())});
     }
-    const Moment moment{stored(*shown, use), shown->toSecsSinceEpoch()};
-    known.insert(cell.text, moment);
-    return moment;
-}
-
-// From the moment that a user sees to the one that a task has.
-quint32 TaskSheet::stored(const QDateTime &shown, MomentUse use) const
-{
-    constexpr bool hourClock = false;
-    const auto typed = [this](const QDateTime &moment) {
-        constexpr bool start = true;
-        return worktime::clampSecs(
-            KWTaskInfo::editTimeTransDayTime(&m_document, moment, start).toSecsSinceEpoch());
-    };
-    if (use == Finish) {
-        // The rule for starts: the one for finishes answers a day early, where the clock may be put forward.
-        const quint32 finish =
-            endsItsDate(shown.time())
-                ? worktime::clampSecs(shown.date().addDays(1).startOfDay().toSecsSinceEpoch())
-                : typed(shown);
-        return KWTaskCollection::addFinishOnDayOff(&m_document, finish, hourClock);
+    if (!found->isSound) {
+        refuse(staged.row, &cell, text("is no date from 1970 to 2105"),
+               reading().isExact ? text("today") : text("left out"));
+        if (reading().isExact)
+            staged.moments[field] = shownmoment::Moment{LocalClock::dayOf(KWClock::now().date()), 0, false};
+        return;
     }
-    if (use == StartAsShown)
-        return typed(shown);
-    const quint32 workday = KWTaskCollection::moveForwarstartOnDayOff(
-        &m_document, worktime::clampSecs(shown.toSecsSinceEpoch()), hourClock);
-    return typed(QDateTime::fromSecsSinceEpoch(workday));
+    staged.moments[field] = found->moment.shown;
+    if (found->moment.isEither)
+        m_eitherDates.push_back({placeOfNewTask(), field, found->moment});
 }
 
-// A finish at 00:00 or before work begins, and one in the hour that begins when work has ended.
-bool TaskSheet::endsItsDate(const QTime &time) const
+// A column whose dates are all of the form 3/4/2026 has the day first where one of them can be nothing else.
+void TaskSheet::settleDates()
 {
-    const worktime::WorkCalendar &calendar = m_document.workCalendar();
-    return (time.hour() == 0 && time.minute() == 0) || time.hour() < calendar.startHour() ||
-           (time.hour() == calendar.finishHour() && time.minute() > 0);
-}
-
-// What the row does not say.
-void TaskSheet::complete(Staged &staged)
-{
-    KWTaskInfo &task = *staged.task;
-    if (staged.id == 0)
-        staged.id = m_ids.takeNext();
-    task.ID = staged.id;
-    if (task.Name.isEmpty())
-        m_names.addNameless();
-    if (task.Level < 1) {
-        report(staged.row, QString(), text("the level is below 1"), text("level 1"));
-        task.Level = 1;
-    }
-    if (task.Start == 0)
-        task.Start = stored(KWClock::now().date().startOfDay(), StartOnWorkday);
-    const bool isAfterStart = task.Finish > task.Start;
-    // A finish at the beginning of a day is the end of the one before, which days off may move past the
-    // start.
-    staged.takesNoTime =
-        staged.takesNoTime && (!isAfterStart || staged.finish.shownSecs <= staged.start.shownSecs);
-    if (staged.takesNoTime) {
-        // A milestone is as long as can be told apart from no time at all.
-        task.Finish = worktime::clampSecs(qint64(task.Start) + 1);
-    } else if (!isAfterStart) {
-        constexpr bool hourClock = false;
-        task.Finish = KWTaskCollection::addFinishOnDayOff(
-            &m_document, worktime::clampSecs(qint64(task.Start) + LocalClock::secsPerDay), hourClock);
-    }
-    task.DurationSecs = KWTaskInfo::durationSecs(&m_document, task.Start, task.Finish, task.DurationUnits);
-    staged.wantedEnd = m_wantedTags.size();
-}
-
-// ---- What comes of it -------------------------------------------------------------------------------------
-
-void TaskSheet::arrange()
-{
-    std::stable_sort(m_tasks.begin(), m_tasks.end(),
-                     [](const Staged &a, const Staged &b) { return a.row < b.row; });
-    outline::LevelBuilder builder;
-    for (Staged &staged : m_tasks)
-        builder.add(*staged.task);
-    for (Staged &staged : m_tasks)
-        staged.task->Milestone = staged.takesNoTime && !staged.task->isParent();
-    endWithMilestones();
-}
-
-// A summary may end with a milestone at the beginning of a day, where no finish is: as a finish that moment
-// is the end of the day before, or moved behind days off. Such a summary takes over what its subtask has.
-void TaskSheet::endWithMilestones()
-{
-    constexpr int secsPerMinute = 60;
-    constexpr bool start = false;
-    QHash<quint32, Staged *> summaries;
-    for (Staged &staged : m_tasks) {
-        const KWTaskInfo &task = *staged.task;
-        if (!task.isParent() || staged.finish.shownSecs == 0)
-            continue;
-        const QDateTime shown = KWTaskInfo::showDateTime(&m_document, task.Finish, start);
-        if (shown.toSecsSinceEpoch() / secsPerMinute != staged.finish.shownSecs / secsPerMinute)
-            summaries.insert(task.ID, &staged);
-    }
-    // Subtasks stand below their summaries.
-    for (auto staged = m_tasks.rbegin(); staged != m_tasks.rend() && !summaries.isEmpty(); ++staged) {
-        Staged *const summary = summaries.value(staged->task->ParentID);
-        if (!summary || summary->finish.shownSecs != staged->finish.shownSecs)
-            continue;
-        KWTaskInfo &task = *summary->task;
-        task.Finish = staged->task->Finish;
-        task.DurationSecs =
-            KWTaskInfo::durationSecs(&m_document, task.Start, task.Finish, task.DurationUnits);
-    }
-}
-
-QSet<QString> TaskSheet::summaryNames() const
-{
-    QSet<QString> names;
-    for (const Staged &staged : m_tasks) {
-        if (staged.task->isParent() && !staged.task->Name.isEmpty())
-            names.insert(staged.task->Name.trimmed());
-    }
-    return names;
-}
-
-QList<KWTaskInfo *> TaskSheet::takeTasks()
-{
-    QList<KWTaskInfo *> tasks;
-    tasks.reserve(int(m_tasks.size()));
-    for (Staged &staged : m_tasks)
-        tasks.append(staged.task.release());
-    return tasks;
-}
-
-int TaskSheet::posOfTag(quint32 tag) const
-{
-    // Tag 1 is the row below the titles.
-    const qint64 row = qint64(tag) + 1;
-    const auto found =
-        std::lower_bound(m_tasks.begin(), m_tasks.end(), row,
-                         [](const Staged &staged, qint64 wanted) { return staged.row < wanted; });
-    return found != m_tasks.end() && found->row == row ? int(found - m_tasks.begin()) : -1;
-}
-
-QList<KWTaskLink> TaskSheet::links() const
-{
-    QList<KWTaskLink> links;
-    for (const Staged &staged : m_tasks) {
-        for (std::size_t i = staged.wantedBegin; i < staged.wantedEnd; ++i) {
-            const int pos = posOfTag(m_wantedTags[i]);
-            if (pos < 0) {
-                report(staged.row, QString(),
-                       text("there is no task in row ") + QString::number(qint64(m_wantedTags[i]) + 1),
-                       text("no predecessor"));
+    for (int field = 0; field < staged::momentFields; ++field) {
+        bool isDayFirst = false;
+        bool isMonthFirst = false;
+        const EitherDate *undecided = nullptr;
+        for (const EitherDate &date : m_eitherDates) {
+            if (date.field != field)
                 continue;
-            }
-            KWTaskLink link;
-            link.predecessor = m_tasks[std::size_t(pos)].id;
-            link.successor = staged.id;
-            links.append(link);
+            isDayFirst = isDayFirst || !cellvalues::withMonthFirst(date.moment);
+            isMonthFirst = isMonthFirst || !cellvalues::withDayFirst(date.moment);
+            if (!undecided && date.moment.first != date.moment.second)
+                undecided = &date;
+        }
+        if (undecided && isDayFirst == isMonthFirst)
+            report(m_tasks[std::size_t(undecided->task)].task.row, titleOfDate(field),
+                   isDayFirst ? text("some of its dates have the day first, others the month")
+                              : text("nothing says whether day or month stand first in its dates"),
+                   text("the month first wherever that is a date"));
+        if (!isDayFirst || isMonthFirst)
+            continue;
+        for (const EitherDate &date : m_eitherDates) {
+            if (date.field == field)
+                m_tasks[std::size_t(date.task)].task.moments[std::size_t(field)] =
+                    cellvalues::withDayFirst(date.moment)->shown;
         }
     }
-    return links;
 }
 
-void TaskSheet::reportRefused(const QList<KWTaskLink> &links) const
+QString TaskSheet::titleOfDate(int field) const
 {
-    const bool isAnyRefused = std::any_of(
-        links.begin(), links.end(), [](const KWTaskLink &link) { return link.refusal != LinkRefusal::None; });
-    if (!isAnyRefused)
-        return;
-    QHash<quint32, int> rowOfId;
-    for (const Staged &staged : m_tasks)
-        rowOfId.insert(staged.id, staged.row);
-    for (const KWTaskLink &link : links) {
-        if (link.refusal == LinkRefusal::None)
-            continue;
-        const bool isLoop = link.refusal == LinkRefusal::Loop || link.refusal == LinkRefusal::Self;
-        report(rowOfId.value(link.successor), QString(),
-               (isLoop ? text("it would wait for itself through row ")
-                       : text("it cannot wait for its own summary or subtask in row ")) +
-                   QString::number(rowOfId.value(link.predecessor)),
-               text("no predecessor"));
+    for (int type = 0; type < columntypes::count; ++type) {
+        if (momentField(type) == staged::MomentField(field))
+            return titleOfField(type);
     }
+    return QString();
+}
+
+// ---- What only the whole sheet decides --------------------------------------------------------------------
+
+// Numbers without a sign: percentages where any is above 1 or the kind of file has them so, else fractions.
+void TaskSheet::settlePercent()
+{
+    const bool isAnyAbove = std::any_of(m_plainPercents.begin(), m_plainPercents.end(),
+                                        [](const PlainPercent &percent) { return percent.value > 1; });
+    const auto between =
+        std::find_if(m_plainPercents.begin(), m_plainPercents.end(),
+                     [](const PlainPercent &percent) { return percent.value > 0 && percent.value <= 1; });
+    constexpr int percentType = 5;
+    const bool arePercentages = isAnyAbove || reading().plainPercent;
+    if (reading().plainPercent && !isAnyAbove && between != m_plainPercents.end() && between->value < 1)
+        report(m_tasks[std::size_t(between->task)].task.row, titleOfField(percentType),
+               text("its numbers may be fractions"), text("read as percentages"));
+    for (const PlainPercent &percent : m_plainPercents) {
+        const staged::Task &staged = m_tasks[std::size_t(percent.task)].task;
+        const double value = arePercentages ? percent.value / 100 : percent.value;
+        staged.task->setPercent(value);
+        staged.task->Progress = KWTaskInfo::indexFromPercent(staged.task->Percent);
+        if (value < 0 || value > 1)
+            report(staged.row, titleOfField(percentType),
+                   QString::number(percent.value) + text(" is no percentage from 0 to 100"),
+                   text("read as ") + QString::number(staged.task->Percent * 100) + QLatin1Char('%'));
+    }
+}
+
+// Outline codes decide where every row has one; levels that begin at 0 move up by one.
+void TaskSheet::settleLevels()
+{
+    const bool isByCode = hasField(titletable::OutlineCode) &&
+                          std::all_of(m_tasks.begin(), m_tasks.end(), [](const Staged &staged) {
+                              const int level = levelOfCode(staged.task.code);
+                              return level > 0 && level <= deepestLevel;
+                          });
+    int before = 0;
+    for (Staged &staged : m_tasks) {
+        KWTaskInfo &task = *staged.task.task;
+        if (isByCode)
+            task.Level = levelOfCode(staged.task.code);
+        else if (m_hasLevelZero && !reading().isExact)
+            ++task.Level;
+        if (task.Level > before + 1 && !reading().isExact)
+            report(staged.task.row, QString(),
+                   text("level ") + QString::number(task.Level) + text(" follows level ") +
+                       QString::number(before),
+                   text("a task is one level below its summary"));
+        before = task.Level;
+    }
+}
+
+// Files may hold their rows in any order.
+void TaskSheet::sortRows()
+{
+    const auto by = [](const Staged &a, const Staged &b) { return a.number < b.number; };
+    if (std::is_sorted(m_tasks.begin(), m_tasks.end(), by))
+        return;
+    std::vector<int> order(m_tasks.size());
+    for (std::size_t i = 0; i < order.size(); ++i)
+        order[i] = int(i);
+    std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
+        return m_tasks[std::size_t(a)].number < m_tasks[std::size_t(b)].number;
+    });
+    std::vector<Staged> sorted;
+    std::vector<int> placeOf(m_tasks.size());
+    for (const int from : order) {
+        placeOf[std::size_t(from)] = int(sorted.size());
+        sorted.push_back(std::move(m_tasks[std::size_t(from)]));
+    }
+    m_tasks.swap(sorted);
+    for (Wanted &wanted : m_wanted)
+        wanted.task = placeOf[std::size_t(wanted.task)];
+    for (WantedText &wanted : m_wantedTexts)
+        wanted.task = placeOf[std::size_t(wanted.task)];
+    std::stable_sort(m_wanted.begin(), m_wanted.end(),
+                     [](const Wanted &a, const Wanted &b) { return a.task < b.task; });
+}
+
+void TaskSheet::findLinks(staged::Plan &plan)
+{
+    constexpr int several = -2;
+    const auto add = [&](QHash<QString, int> &places, const QString &key, int place) {
+        const auto found = places.find(key);
+        if (found == places.end())
+            places.insert(key, place);
+        else
+            *found = several;
+    };
+    QHash<quint32, int> placeOfId;
+    QHash<QString, int> placeOfCode, placeOfName;
+    const bool hasIds =
+        std::any_of(m_wanted.begin(), m_wanted.end(), [](const Wanted &wanted) { return wanted.isId; });
+    for (std::size_t i = m_tasks.size(); i-- > 0;) {
+        if (hasIds && m_tasks[i].task.id != 0)
+            placeOfId.insert(m_tasks[i].task.id, int(i)); // the first of an ID that stands twice
+        if (!m_wantedTexts.empty()) {
+            QString code = m_tasks[i].task.code;
+            add(placeOfCode, code.endsWith(QLatin1Char('.')) ? code.chopped(1) : code, int(i));
+            add(placeOfName, m_tasks[i].task.task->Name.trimmed(), int(i));
+        }
+    }
+    const auto refuse = [&](int task, const QString &what) {
+        report(m_tasks[std::size_t(task)].task.row, QString(), what, text("no predecessor"));
+        ++m_refusedLinks;
+    };
+    for (const Wanted &wanted : m_wanted) {
+        int place = -1;
+        // The first row stands below the titles.
+        const qint64 row = qint64(wanted.number) + 1;
+        if (wanted.isId) {
+            place = placeOfId.value(wanted.number, -1);
+        } else {
+            const auto found =
+                std::lower_bound(m_tasks.begin(), m_tasks.end(), row,
+                                 [](const Staged &staged, qint64 number) { return staged.number < number; });
+            if (found != m_tasks.end() && found->number == row)
+                place = int(found - m_tasks.begin());
+        }
+        if (place >= 0)
+            plan.links.push_back({place, wanted.task});
+        else
+            refuse(wanted.task,
+                   wanted.isId ? text("there is no task with the ID ") + QString::number(wanted.number)
+                   : reading().linksById ? text("there is no task ") + QString::number(wanted.number)
+                                         : text("there is no task in row ") + QString::number(row));
+    }
+    for (const WantedText &wanted : m_wantedTexts) {
+        const QString key =
+            wanted.isCode && wanted.text.endsWith(QLatin1Char('.')) ? wanted.text.chopped(1) : wanted.text;
+        const int place = (wanted.isCode ? placeOfCode : placeOfName).value(key, -1);
+        if (place >= 0)
+            plan.links.push_back({place, wanted.task});
+        else
+            refuse(wanted.task,
+                   (place == several ? text("there are several tasks ") : text("there is no task ")) +
+                       wanted.text);
+    }
+    plan.refusedLinks = m_refusedLinks;
+}
+
+void TaskSheet::finish(staged::Plan &plan)
+{
+    settleDates();
+    settlePercent();
+    sortRows();
+    settleLevels();
+    findLinks(plan);
+    const bool hasDates = hasField(startType) || hasField(finishType) || hasField(lengthType);
+    if (!hasDates && !m_tasks.empty())
+        report(1, QString(), text("there are neither dates nor lengths"), text("all tasks are one day long"));
+    plan.hasDates = hasDates;
+    plan.tasks.reserve(m_tasks.size());
+    for (Staged &staged : m_tasks)
+        plan.tasks.push_back(std::move(staged.task));
+    m_tasks.clear();
 }
 }

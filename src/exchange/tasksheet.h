@@ -1,115 +1,95 @@
 #pragma once
-#include "engine/network/linkrefusal.h"
-#include "engine/record/taskindex.h"
 #include "exchange/cellvalues.h"
 #include "exchange/sheetreader.h"
-#include "model/kwtaskinfo.h"
+#include "exchange/stagedplan.h"
 #include <QHash>
-#include <QSet>
-#include <memory>
 #include <vector>
 
-class KWDocument;
-
-// The task sheet of a workbook, read into tasks that no document holds yet.
+// The task sheet of a file, read into tasks that no document holds yet.
 namespace planimport {
 
-// As the document names them.
+// As the program names them.
 cellvalues::UnitNames unitNames();
-
-// Names that no other task has, as KWDocument::differentSuffixTaskName makes them one after the other.
-class UniqueNames
-{
-public:
-    // The name, or a free one in its place; either is taken from then on.
-    QString take(const QString &name);
-    void addNameless() { ++m_count; }
-
-private:
-    QSet<QString> m_taken; // trimmed
-    // Behind each name, the numbers below this one that were looked at are taken.
-    QHash<QString, qint64> m_nextNumber;
-    int m_count = 0; // of tasks, since numbers begin after it
-};
-
-// IDs that no other task has.
-class UniqueIds
-{
-public:
-    bool take(quint32 id); // false for 0 and for one that is taken
-    quint32 takeNext();    // one more than the greatest, the lowest free one when there is none
-
-private:
-    TaskIndex m_taken;
-    quint32 m_greatest = 0;
-    quint32 m_lowestFree = 1;
-};
 
 class TaskSheet : public sheetrows::Reader
 {
 public:
-    // Reads the working time of the document and changes nothing in it.
-    TaskSheet(KWDocument &document, bool is1904, Findings *findings);
+    TaskSheet(const sheetrows::Reading &reading, Findings *findings, const QString &name);
     ~TaskSheet() override;
 
-    // After reading, once: puts the tasks in the order of their rows and gives them their places in the
-    // outline.
-    void arrange();
-    QSet<QString> summaryNames() const; // trimmed
-    // Hands the tasks over; only once.
-    QList<KWTaskInfo *> takeTasks();
-    // The links between the tasks that were handed over: by ID, without those to rows that hold no task.
-    QList<KWTaskLink> links() const;
-    // Tells of the links that could not be made.
-    void reportRefused(const QList<KWTaskLink> &links) const;
+    // After reading, once: what only the whole sheet decides - the order of the rows, levels or outline
+    // codes, day or month first, fractions or percentages, links - then the tasks and links go to the plan.
+    void finish(staged::Plan &plan);
 
 protected:
-    int fieldOf(const QString &title) const override;
-    void addRow(int row, const std::vector<sheetrows::KnownCell> &cells) override;
+    void addRow(const sheetrows::Row &row, const std::vector<sheetrows::KnownCell> &cells) override;
 
 private:
-    struct Moment
-    {
-        quint32 secs = 0;     // as a task has it
-        qint64 shownSecs = 0; // as the cell has it
-    };
     struct Staged
     {
-        std::unique_ptr<KWTaskInfo> task;
-        quint32 id = 0;
-        int row = 0;
-        Moment start;
-        Moment finish;
-        bool takesNoTime = false;
-        std::size_t wantedEnd = 0; // the entries of m_wantedTags up to here, from those of the task before
-        std::size_t wantedBegin = 0;
+        staged::Task task;
+        int number = 0; // of the row, as links count them
     };
-    enum MomentUse { StartOnWorkday, StartAsShown, Finish, momentUses };
+    // A predecessor by a number: the place of its row below the titles, or its ID.
+    struct Wanted
+    {
+        int task;
+        quint32 number;
+        bool isId;
+    };
+    // By its outline code or by its name.
+    struct WantedText
+    {
+        int task;
+        QString text;
+        bool isCode;
+    };
+    struct EitherDate // of which day or month may stand first
+    {
+        int task;
+        staged::MomentField field;
+        cellvalues::Moment moment;
+    };
+    struct PlainPercent
+    {
+        int task;
+        double value;
+    };
 
-    void apply(const sheetrows::KnownCell &known, Staged &staged);
-    void readId(const sheetrows::Cell &cell, Staged &staged);
-    void readName(const sheetrows::Cell &cell, Staged &staged);
-    void readDuration(const sheetrows::Cell &cell, Staged &staged);
-    void readHyperlinks(const sheetrows::Cell &cell, Staged &staged);
-    void readTags(const sheetrows::Cell &cell, Staged &staged);
-    void readNumber(const sheetrows::KnownCell &known, Staged &staged);
-    void complete(Staged &staged);
-    void endWithMilestones();
-    void readMoment(const sheetrows::KnownCell &known, MomentUse use, Staged &staged);
-    Moment momentOf(const sheetrows::Cell &cell, MomentUse use, int row);
-    quint32 stored(const QDateTime &shown, MomentUse use) const;
-    bool endsItsDate(const QTime &finish) const;
-    int posOfTag(quint32 tag) const; // -1 when the row holds no task
+    void apply(const sheetrows::KnownCell &known, staged::Task &staged);
+    void readId(const sheetrows::Cell &cell, staged::Task &staged);
+    void readLength(const sheetrows::KnownCell &known, staged::Task &staged);
+    void readPercent(const sheetrows::Cell &cell, staged::Task &staged);
+    void readNumber(const sheetrows::KnownCell &known, staged::Task &staged);
+    void readHyperlinks(const sheetrows::Cell &cell, staged::Task &staged);
+    void readPredecessors(const sheetrows::Cell &cell, staged::Task &staged);
+    // Whether the part is one.
+    bool readPredecessor(const QString &part, QString &refusal);
+    void readMoment(const sheetrows::KnownCell &known, staged::MomentField field, staged::Task &staged);
+    int placeOfNewTask() const { return int(m_tasks.size()); }
 
-    KWDocument &m_document;
-    const bool m_is1904;
-    cellvalues::UnitNames m_unitNames;
+    void settleDates();
+    void settlePercent();
+    void settleLevels();
+    void sortRows();
+    void findLinks(staged::Plan &plan);
+    QString titleOfDate(int field) const;
+
+    const cellvalues::UnitNames m_unitNames;
     std::vector<Staged> m_tasks;
-    std::vector<quint32> m_wantedTags;
-    UniqueNames m_names;
-    UniqueIds m_ids;
-    QHash<QString, Moment> m_moments[momentUses][2]; // by text; the second is for numbers
-    qint64 m_tagUnits = 0;                           // of text that was searched for tags
+    std::vector<Wanted> m_wanted;
+    std::vector<WantedText> m_wantedTexts;
+    std::vector<EitherDate> m_eitherDates;
+    std::vector<PlainPercent> m_plainPercents;
+    struct Read // a moment of a text that was read before
+    {
+        bool isSound = false;
+        cellvalues::Moment moment;
+    };
+    QHash<QString, Read> m_moments[2]; // by text; the second is for numbers
+    qint64 m_linkUnits = 0;            // of text that was searched for predecessors
     int m_hyperlinks = 0;
+    int m_refusedLinks = 0;
+    bool m_hasLevelZero = false;
 };
 }

@@ -98,13 +98,14 @@ TEST_F(PlanImport, BuildsOutlineAndLinksFromLevelsAndRows)
                          "10 E in 7 at 3\n");
     EXPECT_EQ(found(),
               "task sheet, row 1, 'Colour': no such column; not read\n"
-              "task sheet, row 5, 'After': '2;9; 3;x;1;4' does not only hold row numbers; the rest left out\n"
-              "task sheet, row 6, 'ID': '5' is the ID of another task; ID 8\n"
-              "task sheet, row 7, 'Name': 'A' is the name of another task; named A5\n"
-              "task sheet, row 7, 'After': '2;2;4.0' does not only hold row numbers; the rest left out\n"
+              "task sheet, row 5, 'After': 'x' is no task; no predecessor\n"
+              "task sheet, row 7, 'After': '4.0' is no task; no predecessor\n"
               "task sheet, row 7: the level is below 1; level 1\n"
               "task sheet, row 5: there is no task in row 4; no predecessor\n"
               "task sheet, row 5: there is no task in row 10; no predecessor\n"
+              "task sheet, row 1: there are neither dates nor lengths; all tasks are one day long\n"
+              "task sheet, row 6: 5 is the ID of another task; ID 8\n"
+              "task sheet, row 7: A is the name of another task; named A5\n"
               "task sheet, row 5: it cannot wait for its own summary or subtask in row 2; no predecessor\n"
               "task sheet, row 5: it would wait for itself through row 3; no predecessor\n"
               "task sheet, row 5: it would wait for itself through row 5; no predecessor\n"
@@ -136,8 +137,12 @@ class CellOfATask : public PlanImport, public testing::WithParamInterface<CellCa
 TEST_P(CellOfATask, BecomesItsField)
 {
     const CellCase &param = GetParam();
+    const std::string title = param.title;
+    const std::string other = title == "Duration" ? "Start|" : "Duration|";
     ASSERT_TRUE(
-        import((std::string("Name|") + param.title + "\nA|" + param.cell).c_str(), "", "", param.is1904));
+        import(("Name|" + other + title + "\nA|" + (title == "Duration" ? "2024-03-11|" : "1d|") + param.cell)
+                   .c_str(),
+               "", "", param.is1904));
     const KWTaskInfo &task = *document->getTaskInfoAt(0);
     const int type = RowColumnData::s_columnNames.key(QString::fromLatin1(param.title));
     const QString shown =
@@ -162,15 +167,16 @@ const CellCase cellCases[] = {
     {"Finish", "2024-03-15 17:30", "2024-03-15 17:00"},
     {"Finish", "2024-03-15", "2024-03-15 17:00"},
     {"Finish", "2024-03-16 10:00", "2024-03-18 10:00"}, // a Saturday
-    {"Finish", "2024-03-01", "2024-03-11 17:00"},       // not after the start
     {"Finish", "31/31/2024", "2024-03-11 17:00", true},
-    {"Duration", "3 day", "1d"},
-    {"Duration", "2 Week", "0.2w"},
-    {"Duration", "=7", "1d"},
-    {"Duration", "3 moons", "1d", true},
+    {"Duration", "3 day", "3d"},
+    {"Duration", "2 Week", "2w"},
+    {"Duration", "=7", "7d"},
+    {"Duration", "3 moons", "3d", true},
+    {"Duration", "1,5d", "1.5d"},
+    {"Duration", "1,234d", "1d", true},
     {"Complete", "=0.125", "12.5%"},
-    {"Complete", "1,200 %", "100%"},
-    {"Complete", "-3%", "0%"},
+    {"Complete", "1,200 %", "100%", true},
+    {"Complete", "-3%", "0%", true},
     {"Complete", "half", "0%", true},
     {"Priority", "3High", "3"},
     {"Links", " www.a.com;; b ", "www.a.com;b"},
@@ -262,7 +268,6 @@ TEST_F(PlanImport, ReadsResourcesAndAssignments)
                     "Pay Ann; Zoe cost 185.594 left 185.594 work 330: Ann x1 5400s Zoe x0.5 14400s\n"
                     "Dig4  cost 0 left 0 work 0: milestone\n");
     EXPECT_EQ(found(),
-              "task sheet, row 5, 'Name': 'Dig' is the name of another task; named Dig4\n"
               "resource sheet, row 2, 'Overtime': '3/x' has no known unit of time; money for an hour\n"
               "resource sheet, row 3, 'ID': '3' cannot be the ID; the next free ID\n"
               "resource sheet, row 3, 'Overtime': 'x' is no rate; left out\n"
@@ -270,6 +275,8 @@ TEST_F(PlanImport, ReadsResourcesAndAssignments)
               "resource sheet, row 4, 'Rate': '/h' is no rate; left out\n"
               "assignment sheet, row 8, 'Work': '-4 h' is no amount; left out\n"
               "assignment sheet, row 8, 'Units': 'inf' is no amount; left out\n"
+              "task sheet, row 5: Dig is the name of another task; named Dig4\n"
+              "task sheet, row 4: the length is not that from start to finish; start and finish count\n"
               "assignment sheet, row 6: there is no resource Zoe; assigned without a rate\n"
               "assignment sheet, row 7: there is no task Nobody; left out\n");
 }

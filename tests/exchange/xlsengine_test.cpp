@@ -170,7 +170,7 @@ TEST_F(XlsEngine, ReadsNumbersAsTheirColumnsNeedThem)
                        .arg(task->Name, task->Resources, task->Notes, task->BaselineCost);
         return all.join('\n').toStdString();
     };
-    EXPECT_EQ(shown(), "1234567 \U0001F5D3 12345678 1.23457e+06 0.1234567\n7654321 3 0.1 x 12345678.5");
+    EXPECT_EQ(shown(), "1234567 \U0001F5D3 12345678 1234567 0.1234567\n7654321 3 0.1 x 12345678.5");
     EXPECT_EQ(p.dates().substr(0, 16), "\U0001F5D3 3 Jun 16:00");
     BasicExcel book;
     ASSERT_TRUE(book.LoadBytes(folder::get(file())));

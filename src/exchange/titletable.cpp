@@ -1,0 +1,214 @@
+#include "exchange/titletable.h"
+#include "engine/text/columntypes.h"
+#include "engine/time/duration.h"
+#include <QHash>
+#include <QPair>
+#include <QStringList>
+#include <algorithm>
+#include <vector>
+
+using exceltitles::Sheet;
+
+namespace titletable {
+namespace {
+
+// Column types of the task table.
+enum Type {
+    Id = 0,
+    Name = 1,
+    Start = 2,
+    Finish = 3,
+    Length = 4,
+    Percent = 5,
+    Priority = 6,
+    Resources = 7,
+    Links = 8,
+    Notes = 19,
+    BaseStart = 20,
+    BaseFinish = 21,
+    BaseCost = 22,
+    Level = 23,
+    Predecessors = 24
+};
+enum ResourceKey {
+    ResourceId,
+    ResourceName,
+    MaxUnits,
+    Kind,
+    Rate,
+    OvertimeRate,
+    CostPerUse,
+    Group,
+    Email,
+    ResourceNotes
+};
+enum AssignmentKey { TaskName, Resource, Complete, Work, Units };
+
+struct Words
+{
+    Sheet sheet;
+    int field;
+    const char *titles; // joined by blanks; lower case, letters and digits alone
+    unsigned int bareUnit = duration::Day;
+    bool isPercent = false;
+};
+
+constexpr Sheet tasks = exceltitles::TaskSheet;
+constexpr Sheet resources = exceltitles::ResourceSheet;
+constexpr Sheet assignments = exceltitles::AssignmentSheet;
+
+const Words table[] = {
+    {tasks, Id, "id taskid tag no number uniqueid nr nummer vorgangsnr vorgangsnummer 标识号 编号 序号"},
+    {tasks, OutlineCode, "wbs wbscode outlinenumber psp pspcode gliederungsnummer 大纲编号"},
+    {tasks, Level, "level outlinelevel ebene gliederungsebene 级别 大纲级别 层级"},
+    {tasks, Name,
+     "name taskname task title vorgang vorgangsname aufgabe bezeichnung titel 名称 任务 任务名称"},
+    {tasks, Start,
+     "start startdate begin begins starts anfang beginn startdatum anfangstermin 开始 开始时间 开始日期"},
+    {tasks, Finish,
+     "finish finishdate end enddate ends due duedate ende enddatum endtermin fertigstellung 完成时间 "
+     "完成日期 结束 结束时间 结束日期"},
+    {tasks, Length, "duration durationdays dauer dauertage 工期 持续时间"},
+    {tasks, Length, "durationhours dauerstunden", duration::Hour},
+    {tasks, Length, "durationminutes dauerminuten", duration::Minute},
+    {tasks, Percent,
+     "percent percentcomplete complete done progress abgeschlossen prozentabgeschlossen fortschritt "
+     "erledigt 完成百分比 进度 完成 完成率"},
+    {tasks, Priority, "priority priorität 优先级"},
+    {tasks, Predecessors,
+     "predecessors predecessor dependson dependencies after vorgänger 前置任务 前置 前导任务"},
+    {tasks, Resources, "resources resource resourcenames ressourcen ressource ressourcennamen 资源 资源名称"},
+    {tasks, Links, "hyperlinks hyperlink links 超链接"},
+    {tasks, Notes, "notes note notizen notiz bemerkung bemerkungen comment comments 备注"},
+    {tasks, BaseStart, "baselinestart basestart geplanteranfang 基线开始时间 比较基准开始时间"},
+    {tasks, BaseFinish, "baselinefinish basefinish geplantesende 基线完成时间 比较基准完成时间"},
+    {tasks, BaseCost, "baselinecost basecost geplantekosten 基线成本 比较基准成本"},
+    {tasks, MilestoneFlag, "milestone ismilestone meilenstein 里程碑"},
+    {tasks, Ignored, "summary startmin finishmin latestartmin latefinishmin slackmin sammelvorgang 摘要"},
+    {resources, ResourceId, "id no nr 标识号"},
+    {resources, ResourceName, "name resource resourcename ressource ressourcenname 名称 资源名称 资源"},
+    {resources, Kind, "type art typ 类型"},
+    {resources, MaxUnits, "maxunitspercent maxunits maximumunits maximaleeinheiten maxeinheiten 最大单位",
+     duration::Day, true},
+    {resources, Rate, "rate standardrate stdrate standardsatz 标准费率"},
+    {resources, OvertimeRate, "overtimerate ovtrate überstundensatz 加班费率"},
+    {resources, CostPerUse, "costperuse costuse kostenproeinsatz kosteneinsatz 每次使用成本"},
+    {resources, Group, "group gruppe 组 组名"},
+    {resources, Email, "email emailaddress 电子邮件"},
+    {resources, ResourceNotes, "notes note notizen 备注"},
+    {assignments, TaskId, "taskid tasktag vorgangsnr 任务标识号"},
+    {assignments, TaskName, "task taskname vorgang vorgangsname 任务 任务名称"},
+    {assignments, Resource, "resource resourcename ressource ressourcenname 资源 资源名称"},
+    {assignments, Complete, "complete percentcomplete abgeschlossen 完成百分比"},
+    {assignments, Work, "work workhours arbeit arbeitstunden 工时"},
+    {assignments, Units, "unitspercent", duration::Day, true},
+    {assignments, Units, "units assignmentunits einheiten 单位"},
+    {assignments, IgnoredAssignment, "cost kosten 成本"},
+};
+
+// What each word means, by the sheet and the word.
+const QHash<QPair<int, QString>, Known> &synonyms()
+{
+    static const QHash<QPair<int, QString>, Known> all = [] {
+        QHash<QPair<int, QString>, Known> byWord;
+        for (const Words &words : table) {
+            for (const QString &word : QString::fromUtf8(words.titles).split(QLatin1Char(' ')))
+                byWord.insert({words.sheet, word}, {words.field, words.bareUnit, words.isPercent});
+        }
+        return byWord;
+    }();
+    return all;
+}
+
+QString plain(const QString &title)
+{
+    QString letters;
+    for (const QChar sign : title) {
+        if (sign.isLetterOrNumber())
+            letters += sign.toLower();
+    }
+    // "#" is how many call their first column.
+    return letters.isEmpty() && title.trimmed() == QLatin1String("#") ? QStringLiteral("id") : letters;
+}
+
+// The program's titles of a sheet by field.
+QMap<int, QString> ownTitles(Sheet sheet)
+{
+    constexpr int keys[] = {columntypes::count, 10, 5};
+    const QMap<int, QString> &all = sheet == tasks       ? RowColumnData::s_columnNames
+                                    : sheet == resources ? ExcelTitles::s_resourcNames
+                                                         : ExcelTitles::s_workAssignNames;
+    QMap<int, QString> titles;
+    for (auto each = all.begin(); each != all.end(); ++each) {
+        if (each.key() >= 0 && each.key() < keys[sheet] && !each.value().isEmpty())
+            titles.insert(each.key(), each.value());
+    }
+    return titles;
+}
+
+int distance(const QString &a, const QString &b)
+{
+    std::vector<int> row(std::size_t(b.size()) + 1);
+    for (int j = 0; j <= b.size(); ++j)
+        row[std::size_t(j)] = j;
+    for (int i = 1; i <= a.size(); ++i) {
+        int before = row[0];
+        row[0] = i;
+        for (int j = 1; j <= b.size(); ++j) {
+            const int above = row[std::size_t(j)];
+            const int change = before + (a.at(i - 1) == b.at(j - 1) ? 0 : 1);
+            row[std::size_t(j)] = std::min({change, above + 1, row[std::size_t(j) - 1] + 1});
+            before = above;
+        }
+    }
+    return row.back();
+}
+}
+
+Known find(Sheet sheet, const QString &title, bool isExact)
+{
+    const QMap<int, QString> own = ownTitles(sheet);
+    Known known;
+    // Of the program's own titles the first key counts.
+    known.field = own.key(title, -1);
+    // What tells tasks of one name apart, as the task sheet calls it.
+    if (known.field < 0 && sheet == assignments && title == RowColumnData::s_columnNames.value(Id))
+        known.field = TaskId;
+    if (known.field >= 0 || isExact)
+        return known;
+    const QString letters = plain(title);
+    if (letters.isEmpty())
+        return known;
+    for (auto each = own.begin(); each != own.end(); ++each) {
+        if (plain(each.value()) == letters) {
+            known.field = each.key();
+            return known;
+        }
+    }
+    return synonyms().value({sheet, letters}, known);
+}
+
+QString nearest(Sheet sheet, const QString &title, bool isExact)
+{
+    constexpr int longest = 40;
+    const QString letters = plain(title);
+    if (letters.isEmpty() || letters.size() > longest)
+        return QString();
+    QStringList candidates = ownTitles(sheet).values();
+    for (auto word = synonyms().begin(); word != synonyms().end() && !isExact; ++word) {
+        if (word.key().first == sheet)
+            candidates += word.key().second;
+    }
+    std::sort(candidates.begin(), candidates.end());
+    QString best;
+    int least = std::max(1, letters.size() / 3) + 1;
+    for (const QString &candidate : qAsConst(candidates)) {
+        const int changes = distance(letters, plain(candidate));
+        if (changes < least) {
+            least = changes;
+            best = candidate;
+        }
+    }
+    return best;
+}
+}
