@@ -5,6 +5,7 @@
 #include "kwversion.h"
 #include "settings/kwconfig.h"
 #include "settings/kwprintconfig.h"
+#include "styles/themepalette.h"
 #include <QColor>
 #include <QDomElement>
 #include <QFont>
@@ -33,12 +34,7 @@ class WorkCalendar;
 class KWGANTT_EXPORT KWDocument
 {
 public:
-    // One theme: a name and twelve named colours.
-    struct ThemeColor
-    {
-        QString name;
-        QList<QColor> colors; // in the order of themeColorNames()
-    };
+    using ThemeColor = ThemePalette; // a name and twelve named colours
 
     // ---- Class-wide ---------------------------------------------------------------------------------------
     static KWConfig s_config;
@@ -81,6 +77,7 @@ public:
     void setModified(bool modified) { m_modified = modified; }
     void initThemeColor();
     const QList<ThemeColor> &themeColors() const { return m_themeColors; }
+    const ThemeColor &chosenTheme() const; // without colours when the document has no theme at all
     QColor themeColor(int index) const; // colour of the chosen theme; invalid outside 0..11
     static const QStringList &themeColorNames();
 

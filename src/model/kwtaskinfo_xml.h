@@ -5,13 +5,11 @@
 #include "engine/record/resourcefields.h"
 #include "engine/record/taskfields.h"
 #include "model/kwtaskinfo.h"
+#include "styles/formatxml.h"
 #include <QFont>
 
 // The XML form of a task, over any of the XML sinks and sources.
 namespace taskxml {
-
-constexpr int boldWeight = 58;     // from here on a font counts as bold in files
-constexpr int maxPointSize = 1638; // a file may name any size; a larger one is left aside
 
 // The font of the task read last: nearly all tasks of a document share one, which then exists once.
 struct FontMemo
@@ -24,13 +22,10 @@ struct FontMemo
 template <typename Sink>
 void writeFont(Sink &sink, const QFont &font)
 {
+    KWTextFormat format = KWTextFormat::fromFont(font);
+    format.pointSize = font.pointSize(); // a task's is a whole number
     sink.open("Format");
-    sink.attribute("Family", font.family());
-    sink.attribute("PointSize", qint32(font.pointSize()));
-    sink.attribute("Bold", font.weight() >= boldWeight);
-    sink.attribute("Italic", font.style() != QFont::StyleNormal);
-    sink.attribute("Underline", font.underline());
-    sink.attribute("StrikeOut", font.strikeOut());
+    formatxml::write(sink, format);
     sink.close();
 }
 
@@ -62,7 +57,7 @@ void applyFont(Source &source, QFont &font)
     if (!family.isEmpty())
         font.setFamily(family.toString());
     const qint32 pointSize = source.text("PointSize").toInt();
-    if (pointSize > 0 && pointSize <= maxPointSize)
+    if (pointSize > 0 && pointSize <= formatxml::maxPointSize)
         font.setPointSize(pointSize);
     const XmlText bold = source.text("Bold");
     if (!bold.isEmpty())
