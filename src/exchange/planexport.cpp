@@ -9,6 +9,7 @@
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
 #include "support/xmlguard.h"
+#include "table/resourcetext.h"
 #include <algorithm>
 
 using columntypes::Kind;
@@ -17,8 +18,7 @@ using exceltitles::Sheet;
 namespace planexport {
 namespace {
 
-// Keys of the resource and assignment fields, as ExcelTitles has them.
-enum ResourceKey { Id, Name, MaxUnits, Type, Rate, OvertimeRate, CostPerUse, Group, Email, Notes };
+// Keys of the assignment fields, as ExcelTitles has them.
 enum AssignmentKey { TaskName, ResourceName, Complete, Work, Units, assignmentKeys };
 
 constexpr int groupSize = 3;
@@ -33,11 +33,6 @@ QString amountText(double value, int group)
 {
     constexpr int decimals = 2;
     return DataFormat::formatNumber(value, group, decimals, 1);
-}
-
-QString moneyText(double value)
-{
-    return DataFormat::currencyText(amountText(value, groupSize));
 }
 
 QString nameOfUnit(duration::Unit unit)
@@ -64,7 +59,9 @@ bool isMaterial(const Resource &resource)
 Value valueOf(Sheet sheet, int field)
 {
     if (sheet == exceltitles::ResourceSheet)
-        return field == Id ? Value::Number : field == CostPerUse ? Value::Money : Value::None;
+        return field == resourcetext::Id           ? Value::Number
+               : field == resourcetext::CostPerUse ? Value::Money
+                                                   : Value::None;
     if (sheet == exceltitles::AssignmentSheet)
         return field == Work                         ? Value::Work
                : field == Complete || field == Units ? Value::Percent
@@ -283,31 +280,7 @@ QString Rows::taskText(const KWTaskInfo &task, int type) const
 
 QString Rows::resourceText(const ResourceInfo &resource, int key) const
 {
-    const ResourceInfoData &sheet = *m_document.resourceInfoData();
-    switch (key) {
-    case Id:
-        return QString::number(resource.ID);
-    case Name:
-        return resource.name;
-    case MaxUnits:
-        return percentText(resource.unit);
-    case Type:
-        return sheet.getTypeTextByIndex(resource.type);
-    case Rate:
-        return moneyText(resource.cost) + sheet.getCostUintText(resource.costUnit);
-    case OvertimeRate:
-        return moneyText(resource.overtimeCost) + sheet.getCostUintText(resource.overtimeUnit);
-    case CostPerUse:
-        return moneyText(resource.costPer);
-    case Group:
-        return resource.group;
-    case Email:
-        return resource.email;
-    case Notes:
-        return resource.notes;
-    default:
-        return QString();
-    }
+    return resourcetext::ofField(*m_document.resourceInfoData(), resource, key);
 }
 
 QString Rows::assignmentText(const Assignment &assignment, int key) const
@@ -366,7 +339,9 @@ Cell Rows::resourceCell(const ResourceInfo &resource, int key, bool withValue) c
     if (!withValue)
         return cell;
     cell.value = valueOf(exceltitles::ResourceSheet, key);
-    cell.number = key == Id ? resource.ID : key == CostPerUse ? resource.costPer : 0;
+    cell.number = key == resourcetext::Id           ? resource.ID
+                  : key == resourcetext::CostPerUse ? resource.costPer
+                                                    : 0;
     return cell;
 }
 
