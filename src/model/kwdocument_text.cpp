@@ -10,20 +10,22 @@ namespace {
 
 constexpr double indentWidthPixels = 40;
 
-// A text without markup is taken as it stands, so that its line breaks stay; all other is HTML.
-bool hasMarkup(const QString &text)
-{
-    return text.contains(QLatin1Char('<')) || text.contains(QLatin1Char('&'));
-}
-
 void loadText(QTextDocument &document, const QString &text)
 {
     document.setUndoRedoEnabled(false);
     document.setIndentWidth(indentWidthPixels);
-    if (hasMarkup(text))
+    // Everyday texts have "<" and "&" in them: only what looks like markup is read as such.
+    if (Qt::mightBeRichText(text))
         document.setHtml(text);
     else
         document.setPlainText(text);
+}
+
+// As toPlainText(), but with the blanks that do not break.
+QString plainText(const QTextDocument &document)
+{
+    QString text = document.toRawText();
+    return text.replace(QChar(QChar::ParagraphSeparator), QLatin1Char('\n'));
 }
 
 struct Search
@@ -144,8 +146,6 @@ bool KWDocument::replaceTextStr(QString &text, const QString &find, const QStrin
         cursor.insertText(replace);
     }
     cursor.endEditBlock();
-    // Signs of markup that came with the replacement are text and need escaping.
-    const bool staysPlain = !hasMarkup(text) && !hasMarkup(replace);
-    text = staysPlain ? document.toPlainText() : document.toHtml();
+    text = Qt::mightBeRichText(text) ? document.toHtml() : plainText(document);
     return true;
 }

@@ -63,13 +63,19 @@ TEST(RichTextForm, formatsStayAndPlainTextStaysPlain)
     QString rich = utf8("<p>one <b>two</b></p>");
     ASSERT_TRUE(KWDocument::replaceTextStr(rich, utf8("two"), utf8("2"), true, false, false));
     EXPECT_TRUE(rich.contains(utf8("font-weight:600")));
-    QString plain = utf8("first line\nsecond  line");
-    ASSERT_TRUE(KWDocument::replaceTextStr(plain, utf8("line"), utf8("row"), true, false, false));
-    EXPECT_EQ(plain.toStdString(), "first row\nsecond  row");
-    // What was plain may need markup after it.
-    QString markup = utf8("a and b");
-    ASSERT_TRUE(KWDocument::replaceTextStr(markup, utf8("and"), utf8("<u>"), true, false, false));
-    EXPECT_EQ(shown(markup), "a <u> b");
+    struct Row
+    {
+        const char *text, *find, *replace, *result;
+    };
+    const Row rows[] = {{"first line\nsecond  line", "line", "row", "first row\nsecond  row"},
+                        {"foo if a < b then stop", "foo", "bar", "bar if a < b then stop"},
+                        {"R & D\nfoo & more", "foo", "bar", "R & D\nbar & more"},
+                        {"7\u00a0mm foo", "foo", "<u>", "7\u00a0mm <u>"}};
+    for (const Row &row : rows) {
+        QString plain = utf8(row.text);
+        ASSERT_TRUE(KWDocument::replaceTextStr(plain, utf8(row.find), utf8(row.replace), true, false, false));
+        EXPECT_EQ(plain.toStdString(), row.result);
+    }
 }
 
 QString randomText(std::mt19937 &random, const char *signs, int most)
