@@ -73,10 +73,10 @@ void xmltext::read(const XmlText &text, QString &value)
 
 void xmltext::read(const XmlText &text, qint16 &value)
 {
-    if (text.isEmpty())
-        return;
-    const qint32 number = text.toInt();
-    value = number == qint16(number) ? qint16(number) : qint16(0);
+    bool fits = false;
+    const qint16 number = text.toString().toShort(&fits);
+    if (fits)
+        value = number;
 }
 
 void xmltext::read(const XmlText &text, qint32 &value)

@@ -64,7 +64,7 @@ private:
 namespace xmltext {
 
 void read(const XmlText &text, QString &value);
-void read(const XmlText &text, qint16 &value); // a number that does not fit is 0
+void read(const XmlText &text, qint16 &value); // left as it was by what is no number or does not fit
 void read(const XmlText &text, qint32 &value);
 void read(const XmlText &text, quint32 &value);
 void read(const XmlText &text, double &value);
