@@ -94,7 +94,7 @@ bool isPackage(const QString &path)
     return path.endsWith(QLatin1String(".kwpx")) || file.readAll().contains("document.xml");
 }
 
-int load(const QString &path, Console &console, Plan &plan)
+int load(const QString &path, Console &console, Plan &plan, Findings &findings)
 {
     if (namesCalendar(console.options())) {
         console.error(
@@ -109,6 +109,8 @@ int load(const QString &path, Console &console, Plan &plan)
                       t("--log FILE tells more"));
         return Console::CannotRead;
     }
+    for (const Finding &finding : document.loadFindings().list())
+        findings.add(finding.place, finding.what, finding.hint);
     plan.isPackage = true;
     plan.majorUnit = document.MajorUnit;
     plan.minorUnit = document.MinorUnit;

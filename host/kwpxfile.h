@@ -10,7 +10,7 @@ namespace kwpxfile {
 bool isPackage(const QString &path);
 // Reads the document and describes its tasks as rows. Console::Done, or the exit code; then the reason has
 // been told.
-int load(const QString &path, Console &console, Plan &plan);
+int load(const QString &path, Console &console, Plan &plan, Findings &findings);
 // What the plan holds beside its document, made anew from the document.
 void describe(Plan &plan);
 // The plan's document as a package. False when it cannot be written; the reason has been told then.

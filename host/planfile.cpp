@@ -257,7 +257,7 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
     plan.file = path;
     plan.slackUnit = console.options().slackUnit;
     if (kwpxfile::isPackage(path)) {
-        if (const int code = kwpxfile::load(path, console, plan))
+        if (const int code = kwpxfile::load(path, console, plan, findings))
             return code;
         plan::countSlackIn(plan, plan.slackUnit);
         plan.name = projectName(plan);

@@ -47,10 +47,13 @@ void ActionManager::setSnapshot(const TaskSnapshot &snapshot)
 
 void ActionManager::preUndoAction(KWDocument *document, int type, unsigned int flags)
 {
-    const QString name = undoName(type);
-    if (!document || name.isEmpty())
+    if (!document)
         return;
+    // Also where the type has no name: what follows is no part of the unfinished edit.
     clearUndoAction();
+    const QString name = undoName(type);
+    if (name.isEmpty())
+        return;
     s_pending = new TaskAction(document, name, flags);
 }
 
@@ -112,6 +115,17 @@ void ActionManager::backupAllOption()
 {
     if (s_pending)
         s_pending->backupAllOption();
+}
+
+void ActionManager::prepareReplacement()
+{
+    if (s_pending && s_pending->document() == m_document) {
+        s_pending->backupWholeDocument();
+        return;
+    }
+    emptyActionStack(m_undoActions);
+    emptyActionStack(m_redoActions);
+    *m_snapshot = TaskSnapshot();
 }
 
 void ActionManager::addUndoAction()

@@ -39,7 +39,8 @@ public:
     KWDocument *document() const { return m_document; }
 
     // ---- Recording ----------------------------------------------------------------------------------------
-    // Starts an action in place of an unfinished one. The flags are kept with it for the host.
+    // Starts an action in place of an unfinished one, which is dropped also where the type has no name. The
+    // flags are kept with it for the host.
     static void preUndoAction(KWDocument *document, int type, unsigned int flags);
     static void addChangeTaskInfo(KWTaskInfo *task);
     static void addTaskInfoHyperlink(KWTaskInfo *task);
@@ -51,6 +52,9 @@ public:
     static void backupAllDocResources();
     static void addEditTaskResourceName(ResourceInfo *info);
     static void backupAllOption();
+    // Before all of the document's content is replaced: an open action of this document records all of it.
+    // Without one both stacks are emptied, since what they hold belongs to other tasks.
+    void prepareReplacement();
     static void addUndoAction();   // hands the pending action to its document's manager
     static void clearUndoAction(); // drops it
     static TaskAction *pendingAction() { return s_pending; }

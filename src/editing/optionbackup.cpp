@@ -52,6 +52,17 @@ void restore(KWDocument &document, const Chart &backup)
     document.UnitWidth = backup.unitWidth;
 }
 
+Identity identityOf(const KWDocument &document)
+{
+    return {document.DocGuid, document.printConfig};
+}
+
+void restore(KWDocument &document, const Identity &backup)
+{
+    document.DocGuid = backup.guid;
+    document.printConfig = backup.page;
+}
+
 UndoOptionItemData optionsOf(const KWDocument &document)
 {
     UndoOptionItemData item;

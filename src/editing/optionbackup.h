@@ -1,5 +1,6 @@
 #pragma once
 #include "editing/undoitems.h"
+#include "settings/kwprintconfig.h"
 #include <QtGlobal>
 
 class KWDocument;
@@ -18,6 +19,15 @@ struct Chart
 };
 Chart chartOf(const KWDocument &document);
 void restore(KWDocument &document, const Chart &backup);
+
+// What only a file that is loaded replaces.
+struct Identity
+{
+    QString guid;
+    KWPrintConfig page;
+};
+Identity identityOf(const KWDocument &document);
+void restore(KWDocument &document, const Identity &backup);
 
 // All options that files keep, the working time and the calendars.
 UndoOptionItemData optionsOf(const KWDocument &document);

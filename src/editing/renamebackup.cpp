@@ -23,6 +23,17 @@ void restore(KWDocument &document, const Names &backups)
     }
 }
 
+namespace {
+
+bool isAnothers(const ResourceInfoData &sheet, const UndoEditResourceName &own, const QString &name)
+{
+    const ResourceInfo *entry = sheetbackup::find(sheet, own.ID, own.index);
+    return std::any_of(sheet.infos.begin(), sheet.infos.end(), [&](const ResourceInfo *info) {
+        return info && info != entry && info->name.trimmed() == name.trimmed();
+    });
+}
+}
+
 Assignments::Assignments(KWDocument &document, const Names &current, const Names &backups,
                          const sheetbackup::Entries &entries)
     : m_document(document)
@@ -35,9 +46,10 @@ Assignments::Assignments(KWDocument &document, const Names &current, const Names
                 return entry.info.ID == backup.ID &&
                        (entry.info.name == backup.name || entry.index == backup.index);
             });
-        // An assignment cannot be found by an empty name, nor get one.
-        if (isRecorded || current[i].name == backup.name || current[i].name.isEmpty() ||
-            backup.name.isEmpty())
+        // An assignment cannot be found by an empty name, nor get one. Where another entry has the name, too,
+        // its assignments are not to be taken: those that were this one's are recorded by task.
+        if (isRecorded || isAnothers(*document.resourceInfoData(), backup, current[i].name) ||
+            current[i].name == backup.name || current[i].name.isEmpty() || backup.name.isEmpty())
             continue;
         m_renamings.push_back({current[i].name, QChar(noCharacter) + QString::number(i), backup.name});
     }

@@ -1,7 +1,5 @@
 #include "editing/sheetbackup.h"
 #include "editing/sheetplaces.h"
-#include "engine/cost/costpass.h"
-#include "engine/cost/names.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include <QHash>
@@ -76,6 +74,7 @@ UndoDocResourceItem entry(const KWDocument &document, const ResourceInfo &info)
     item.info = info;
     item.index = sheet.infos.indexOf(const_cast<ResourceInfo *>(&info));
     item.exists = item.index >= 0;
+    item.entry = &info;
     noteShared(sheet, info, item);
     return now(document, {item}).front();
 }
@@ -119,6 +118,7 @@ Entries now(const KWDocument &document, const Entries &backups)
         item.isNameShared = backup.isNameShared;
         item.sheetSize = sheet.infos.size();
         item.exists = place >= 0;
+        item.entry = item.exists ? sheet.infos[place] : nullptr;
         item.info = item.exists ? *sheet.infos[place] : backup.info;
         item.index = item.exists ? place : backup.index;
         const int number = int(entries.size());
@@ -156,16 +156,8 @@ void insertAssignments(KWTaskInfo &task, const std::vector<const UndoResource *>
     }
 }
 
-bool hasNewNames(const Entries &backups, const Entries &current)
-{
-    return !std::equal(backups.begin(), backups.end(), current.begin(),
-                       [](const auto &a, const auto &b) { return a.info.name == b.info.name; });
-}
-
 void restoreAssignments(KWDocument &document, const Entries &backups, const Entries &current)
 {
-    // With the name of an entry the texts change, but for those that are somebody's own.
-    const bool isRenaming = hasNewNames(backups, current);
     std::map<quint32, TaskChange> changes;
     for (const UndoDocResourceItem &item : current) {
         for (const UndoResource &resource : item.resources)
@@ -176,27 +168,14 @@ void restoreAssignments(KWDocument &document, const Entries &backups, const Entr
             changes[resource.taskID].inserted.push_back(&resource);
     }
     const auto byPlace = [](const UndoResource *a, const UndoResource *b) { return a->index < b->index; };
-    std::vector<KWTaskInfo *> renamed;
     for (auto &[id, change] : changes) {
         KWTaskInfo *task = document.getTaskInfoByID(id);
         if (!task)
             continue;
         std::stable_sort(change.removed.begin(), change.removed.end(), byPlace);
         std::stable_sort(change.inserted.begin(), change.inserted.end(), byPlace);
-        const bool tellsThem =
-            isRenaming && !task->isParent() && task->Resources == names::ofAssignments(*task);
         removeAssignments(*task, change.removed);
         insertAssignments(*task, change.inserted);
-        const QString text = names::ofAssignments(*task);
-        if (tellsThem && task->Resources != text) {
-            task->Resources = text;
-            renamed.push_back(task);
-        }
-    }
-    const outline::Tasks tasks{document.taskList(), document.taskIndex()};
-    for (KWTaskInfo *summary : outline::withAncestors(tasks, renamed)) {
-        if (summary->isParent())
-            CostPass::joinNames(*summary, outline::descendants(tasks, *summary));
     }
 }
 }

@@ -17,39 +17,56 @@ int placeOf(const ResourceInfoData &sheet, ResourceInfo *info)
     return info ? sheet.infos.indexOf(info) : -1;
 }
 
-// IDs that repeat: by name as well, or the one at the old place while none can have gone.
+// The record itself, whatever it is called by now. A new one may lie where a deleted one was, so something of
+// it must be left.
+ResourceInfo *findRecord(const ResourceInfoData &sheet, const UndoDocResourceItem &item)
+{
+    const int place = item.entry ? sheet.infos.indexOf(const_cast<ResourceInfo *>(item.entry)) : -1;
+    if (place < 0)
+        return nullptr;
+    ResourceInfo *info = sheet.infos[place];
+    const bool isIt = info->ID == item.info.ID || info->name == item.info.name || place == item.index;
+    return isIt ? info : nullptr;
+}
+
+// IDs that repeat, where the sheet was made anew: by name as well, or the one at the old place. When entries
+// have gone, nothing tells which of equal ones it was.
 ResourceInfo *findAmongEqualIds(const ResourceInfoData &sheet, const UndoDocResourceItem &item)
 {
-    const auto isIt = [&item](const ResourceInfo *info) {
-        return info && info->ID == item.info.ID && info->name == item.info.name;
-    };
+    if (sheet.infos.size() < item.sheetSize)
+        return nullptr;
     ResourceInfo *there = sheet.getResourceInfoAt(item.index);
-    if (isIt(there))
+    if (there && there->ID == item.info.ID)
         return there;
-    const auto found = std::find_if(sheet.infos.begin(), sheet.infos.end(), isIt);
-    if (found != sheet.infos.end())
-        return *found;
-    return there && there->ID == item.info.ID && sheet.infos.size() >= item.sheetSize ? there : nullptr;
+    const auto found = std::find_if(sheet.infos.begin(), sheet.infos.end(), [&item](const auto *info) {
+        return info && info->ID == item.info.ID && info->name == item.info.name;
+    });
+    return found != sheet.infos.end() ? *found : nullptr;
+}
+
+ResourceInfo *findById(const ResourceInfoData &sheet, const UndoDocResourceItem &item)
+{
+    return item.isIdShared ? findAmongEqualIds(sheet, item) : find(sheet, item.info.ID, item.index);
 }
 }
 
 std::vector<int> placesOf(const ResourceInfoData &sheet, const std::vector<UndoDocResourceItem> &items)
 {
-    std::vector<int> places;
-    const auto add = [&](int place) {
-        places.push_back(std::find(places.begin(), places.end(), place) == places.end() ? place : -1);
+    std::vector<int> places(items.size(), -1);
+    // What is surest first: an entry that one record has is not another's.
+    const auto claim = [&](auto &&findEntry) {
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            const int place = places[i] < 0 ? placeOf(sheet, findEntry(items[i])) : -1;
+            if (place >= 0 && std::find(places.begin(), places.end(), place) == places.end())
+                places[i] = place;
+        }
     };
-    for (const UndoDocResourceItem &item : items) {
-        add(placeOf(sheet, item.isIdShared ? findAmongEqualIds(sheet, item)
-                                           : find(sheet, item.info.ID, item.index)));
-    }
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        if (places[i] >= 0 || items[i].isIdShared || items[i].isNameShared)
-            continue;
-        const int place = placeOf(sheet, sheet.getResourceInfoByName(items[i].info.name));
-        if (std::find(places.begin(), places.end(), place) == places.end())
-            places[i] = place;
-    }
+    claim([&](const UndoDocResourceItem &item) { return findRecord(sheet, item); });
+    claim([&](const UndoDocResourceItem &item) { return findById(sheet, item); });
+    claim([&](const UndoDocResourceItem &item) {
+        const bool isOne = !item.isIdShared && !item.isNameShared;
+        return isOne ? sheet.getResourceInfoByName(item.info.name) : nullptr;
+    });
     return places;
 }
 

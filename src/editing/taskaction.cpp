@@ -4,6 +4,8 @@
 #include "editing/renamebackup.h"
 #include "editing/sheetbackup.h"
 #include "editing/tasksnapshot.h"
+#include "engine/cost/costpass.h"
+#include "engine/cost/names.h"
 #include "engine/network/linkgraph.h"
 #include "engine/record/taskindex.h"
 #include "model/kwdocument.h"
@@ -22,6 +24,7 @@ struct TaskAction::Backups
     std::optional<TaskSnapshot> allTasks;
     std::optional<optionbackup::Chart> chart;
     std::optional<UndoOptionItemData> options;
+    std::optional<optionbackup::Identity> identity;
     std::optional<QVector<UndoColData>> columns;
     sheetbackup::Entries entries;
     std::optional<sheetbackup::Sheet> sheet;
@@ -95,7 +98,8 @@ bool TaskAction::isExist(quint32 taskID) const
 
 void TaskAction::addChangeTaskInfo(KWTaskInfo *task)
 {
-    if (document() && task && m_backups->taskIds.add(task->ID))
+    // After the whole list was recorded the task may have changed already.
+    if (document() && task && !m_backups->allTasks && m_backups->taskIds.add(task->ID))
         m_backups->tasks.push_back(valuesOf(*document(), *task));
 }
 
@@ -106,7 +110,7 @@ void TaskAction::addTaskInfoHyperlink(KWTaskInfo *task)
 
 void TaskAction::addTaskAllResources(KWTaskInfo *task)
 {
-    if (task && m_backups->assignmentIds.add(task->ID))
+    if (task && !m_backups->allTasks && m_backups->assignmentIds.add(task->ID))
         m_backups->assignments.push_back(assignmentsOf(*task));
 }
 
@@ -181,12 +185,28 @@ void TaskAction::addEditTaskResourceName(ResourceInfo *info)
             return;
     }
     m_backups->names.push_back({info->ID, index, info->name});
+    for (KWTaskInfo *task : document()->taskList()) {
+        if (task->isActiveTaskResource(info->name))
+            addTaskAllResources(task);
+    }
 }
 
 void TaskAction::backupAllOption()
 {
     if (document() && !m_backups->options)
         m_backups->options = optionbackup::optionsOf(*document());
+}
+
+void TaskAction::backupWholeDocument()
+{
+    if (!document())
+        return;
+    backupAllTaskData();
+    backupAllColData();
+    backupAllDocResources();
+    backupAllOption();
+    if (!m_backups->identity)
+        m_backups->identity = optionbackup::identityOf(*document());
 }
 
 void TaskAction::getAllContainResrourceTask(const ResourceInfo *info,
@@ -244,6 +264,8 @@ TaskAction::Backups TaskAction::now() const
         current.chart = optionbackup::chartOf(document);
     if (m_backups->options)
         current.options = optionbackup::optionsOf(document);
+    if (m_backups->identity)
+        current.identity = optionbackup::identityOf(document);
     if (m_backups->columns)
         current.columns = columnsOf(*document.rowColumnData());
     current.entries = sheetbackup::now(document, m_backups->entries);
@@ -285,6 +307,127 @@ void restoreAllTasks(KWDocument &document, const TaskSnapshot &backup, const Tas
 }
 }
 
+namespace {
+
+// Tasks whose assignments come back: what they cost and how they read before.
+class Assigned
+{
+public:
+    explicit Assigned(KWDocument &document)
+        : m_document(document)
+        , m_measures(cost::measuresOf(document.workCalendar()))
+    {
+    }
+
+    void add(quint32 id)
+    {
+        KWTaskInfo *task = m_document.getTaskInfoByID(id);
+        if (!task || task->isParent() || !m_ids.add(id))
+            return;
+        const bool tellsThem = task->Resources == names::ofAssignments(*task);
+        m_tasks.push_back({task, cost::ofAssignments(m_measures, *task), tellsThem});
+    }
+
+    void addAll()
+    {
+        for (const KWTaskInfo *task : m_document.taskList())
+            add(task->ID);
+    }
+
+    // Afterwards. A text that is somebody's own stays; costs only follow where the assignments cost anything
+    // else by now.
+    void follow(const TaskIndex &recordedValues, bool withTexts) const
+    {
+        std::vector<KWTaskInfo *> named;
+        std::vector<KWTaskInfo *> paid;
+        for (const Task &before : m_tasks) {
+            KWTaskInfo &task = *before.task;
+            if (recordedValues.contains(task.ID))
+                continue;
+            const QString text = names::ofAssignments(task);
+            if (withTexts && before.tellsThem && task.Resources != text) {
+                task.Resources = text;
+                named.push_back(&task);
+            }
+            const cost::Total total = cost::ofAssignments(m_measures, task);
+            if (total.cost == before.total.cost && total.work == before.total.work)
+                continue;
+            task.Cost = total.cost;
+            task.Work = total.work;
+            task.RemainingCost = cost::remaining(task);
+            paid.push_back(&task);
+        }
+        const outline::Tasks tasks{m_document.taskList(), m_document.taskIndex()};
+        CostPass pass(m_document);
+        const std::vector<KWTaskInfo *> namedAndAbove = outline::withAncestors(tasks, named);
+        pass.gather(namedAndAbove);
+        for (KWTaskInfo *summary : namedAndAbove) {
+            if (summary->isParent())
+                CostPass::joinNames(*summary, pass.leavesBelow(*summary));
+        }
+        const std::vector<KWTaskInfo *> paidAndAbove = outline::withAncestors(tasks, paid);
+        pass.gather(paidAndAbove);
+        for (KWTaskInfo *summary : paidAndAbove) {
+            if (!summary->isParent())
+                continue;
+            const std::vector<KWTaskInfo *> leaves = pass.leavesBelow(*summary);
+            pass.sumCostAndWork(*summary, leaves);
+            summary->RemainingCost = cost::remainingOfLeaves(leaves);
+        }
+    }
+
+private:
+    struct Task
+    {
+        KWTaskInfo *task;
+        cost::Total total;
+        bool tellsThem; // its names text is the names of its assignments
+    };
+    KWDocument &m_document;
+    cost::Measures m_measures;
+    TaskIndex m_ids;
+    std::vector<Task> m_tasks;
+};
+
+// The names texts of a whole list that came back: of leaves with assignments, and of the summaries above
+// them. Others have texts that somebody typed.
+void namesFollow(KWDocument &document)
+{
+    std::vector<KWTaskInfo *> renamed;
+    for (KWTaskInfo *task : document.taskList()) {
+        if (task->isParent() || !task->isHaveResource())
+            continue;
+        const QString text = names::ofAssignments(*task);
+        if (task->Resources == text)
+            continue;
+        task->Resources = text;
+        renamed.push_back(task);
+    }
+    CostPass pass(document);
+    const outline::Tasks tasks{document.taskList(), document.taskIndex()};
+    const std::vector<KWTaskInfo *> concerned = outline::withAncestors(tasks, renamed);
+    pass.gather(concerned);
+    for (KWTaskInfo *summary : concerned) {
+        if (summary->isParent())
+            CostPass::joinNames(*summary, pass.leavesBelow(*summary));
+    }
+}
+}
+
+// The tasks whose assignments the swap exchanges.
+template <typename Tasks>
+void TaskAction::addConcerned(const Backups &backups, const Backups &current, Tasks &tasks)
+{
+    for (const Backups *side : {&backups, &current}) {
+        for (const UndoDocResourceItem &item : side->entries) {
+            for (const UndoResource &resource : item.resources)
+                tasks.add(resource.taskID);
+        }
+        for (const UndoTaskResources &assignments : side->assignments)
+            tasks.add(assignments.taskID);
+    }
+}
+
 void TaskAction::restore(const Backups &backups, const Backups &current)
 {
     KWDocument &document = *this->document();
@@ -292,18 +435,29 @@ void TaskAction::restore(const Backups &backups, const Backups &current)
         optionbackup::restore(document, *backups.chart);
     if (backups.options)
         optionbackup::restore(document, *backups.options);
+    if (backups.identity)
+        optionbackup::restore(document, *backups.identity);
     if (backups.columns)
         setColumns(*backups.columns, *document.rowColumnData());
     if (backups.allTasks)
         restoreAllTasks(document, *backups.allTasks, *current.allTasks);
 
-    // Every task has its own assignments back already; else the sheet's come first, and those of single
-    // tasks, which are exact, last.
+    // Every task has its own assignments back already; else the sheet's come first, then those of single
+    // tasks, which are exact, and last the values that are recorded.
     const bool withTasks = !backups.allTasks;
+    Assigned assigned(document);
+    if (withTasks && backups.sheet)
+        assigned.addAll();
+    else if (withTasks)
+        addConcerned(backups, current, assigned);
     restoreSheet(backups, current, withTasks);
-    if (withTasks) {
-        restoreSingleTasks(backups);
-    } else {
+    // With the whole list, too: single tasks were recorded before it.
+    restoreSingleAssignments(backups);
+    if (withTasks)
+        assigned.follow(backups.taskIds, !backups.sheet);
+    restoreSingleValues(backups);
+    if (!withTasks) {
+        namesFollow(document);
         document.actionManager().setSnapshot(*backups.allTasks);
         document.taskCollection()->updateRageAndTaskPoint();
     }
@@ -326,7 +480,7 @@ void TaskAction::restoreSheet(const Backups &backups, const Backups &current, bo
         renamed.giveBack();
 }
 
-void TaskAction::restoreSingleTasks(const Backups &backups)
+void TaskAction::restoreSingleAssignments(const Backups &backups)
 {
     KWDocument &document = *this->document();
     for (const UndoTaskResources &backup : backups.assignments) {
@@ -337,6 +491,11 @@ void TaskAction::restoreSingleTasks(const Backups &backups)
         for (const Resource &resource : backup.resources)
             task->resourceList.append(new Resource(resource));
     }
+}
+
+void TaskAction::restoreSingleValues(const Backups &backups)
+{
+    KWDocument &document = *this->document();
     for (const UndoItemData &backup : backups.tasks) {
         if (KWTaskInfo *task = document.getTaskInfoByID(backup.ID)) {
             task->setUndoVal(&backup);

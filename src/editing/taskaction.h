@@ -8,7 +8,8 @@ class KWTaskInfo;
 // The undoable edit: backups of what it changes, each kind optional.
 //
 // A recorder is called before the change. Of what is recorded twice the first backup stays, null is ignored.
-// Costs belong to the tasks: whoever changes rates records the tasks that they reach as well.
+// Where assignments come back, the costs and names texts of their tasks and of the summaries above follow
+// from them, but for the values of tasks that are recorded: those come back as they were.
 class KWGANTT_EXPORT TaskAction : public KWOpeAction
 {
 public:
@@ -30,10 +31,13 @@ public:
     // Every task with all that belongs to it. An action that has this leaves single tasks aside.
     void backupAllTaskData();
     void backupAllColData();
-    void addDocResource(ResourceInfo *info);          // one entry of the sheet with its assignments
-    void backupAllDocResources();                     // the whole sheet and every task's assignments
-    void addEditTaskResourceName(ResourceInfo *info); // the assignments follow the name
-    void backupAllOption();                           // calendars, working time, options
+    void addDocResource(ResourceInfo *info); // one entry of the sheet with its assignments
+    void backupAllDocResources();            // the whole sheet and every task's assignments
+    // The assignments follow the name. Those that the entry has are recorded, in case another one has the
+    // new name.
+    void addEditTaskResourceName(ResourceInfo *info);
+    void backupAllOption();     // calendars, working time, options
+    void backupWholeDocument(); // all of these, the page and the document's ID
 
     // The assignments of an entry's name on all tasks, in document order; appended.
     void getAllContainResrourceTask(const ResourceInfo *info, QVector<UndoResource> &assignments) const;
@@ -50,8 +54,11 @@ private:
     Backups now() const;
     void addSingleTasks(Backups &current) const;
     void restore(const Backups &backups, const Backups &current);
+    template <typename Tasks>
+    static void addConcerned(const Backups &backups, const Backups &current, Tasks &tasks);
     void restoreSheet(const Backups &backups, const Backups &current, bool withAssignments);
-    void restoreSingleTasks(const Backups &backups);
+    void restoreSingleAssignments(const Backups &backups);
+    void restoreSingleValues(const Backups &backups);
 
     unsigned int m_type;
     std::unique_ptr<Backups> m_backups;

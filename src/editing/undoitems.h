@@ -52,8 +52,10 @@ class KWGANTT_EXPORT UndoDocResourceItem
 public:
     ResourceInfo info;
     bool exists = true; // false: the sheet had no such entry
-    int index = 0;      // its place in the sheet
-    int sheetSize = 0;  // entries that the sheet had
+    const ResourceInfo *entry =
+        nullptr;       // where it was, to tell it from equal ones; only compared, never read
+    int index = 0;     // its place in the sheet
+    int sheetSize = 0; // entries that the sheet had
     // With another entry: then the ID or the name alone does not tell which one it is.
     bool isIdShared = false;
     bool isNameShared = false;

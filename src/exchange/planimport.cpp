@@ -130,6 +130,7 @@ public:
     // Everything but tasks and calendar, into a document that has these.
     void addSheets()
     {
+        m_document.actionManager().prepareReplacement();
         if (m_plan.resources)
             replaceResources();
         assign();
@@ -140,6 +141,7 @@ public:
 
     ImportedPlan run()
     {
+        m_document.actionManager().prepareReplacement();
         chooseIds();
         chooseNames();
         outline::LevelBuilder builder;

@@ -6,6 +6,7 @@
 #include "settings/kwconfig.h"
 #include "settings/kwprintconfig.h"
 #include "styles/themepalette.h"
+#include "support/findings.h"
 #include <QColor>
 #include <QDomElement>
 #include <QFont>
@@ -73,6 +74,9 @@ public:
     KWTaskCollection *taskCollection() const { return m_taskCollection; }
     ResourceInfoData *resourceInfoData() const { return m_resourceInfoData; }
     RowColumnData *rowColumnData() const { return m_rowColumnData; }
+    // Set by every operation that changes what saving writes, also by those that refresh the chart: the
+    // widths of bars are saved, and a plan that is shown for the first time may get others. Members that a
+    // host writes itself do not set it. Loading leaves it alone.
     bool isModified() const { return m_modified; }
     void setModified(bool modified) { m_modified = modified; }
     void initThemeColor();
@@ -194,12 +198,15 @@ public:
     // Saves to the folder "autosave" of the configuration while the document is modified; true when it is
     // not.
     bool saveBackup();
-    // Loading takes dates, roll-ups and costs as they are stored and recomputes nothing.
+    // Loading takes dates, roll-ups and costs as they are stored and recomputes nothing. It empties both undo
+    // stacks; inside an open action of this document it is recorded there instead.
     void loadFromFile(const QString &path); // of a path that ends with ".kwpx"
     bool loadFromKWGT(const QString &path);
     bool loadDocument(const QString &folder, unsigned int version);
     bool loadStructure(const QString &path);        // loads, and tells whether the page could be read as well
     bool loadStructureFromDDX(const QString &path); // reads the version and the page only
+    // What the file loaded last holds that was not taken as it stands.
+    const Findings &loadFindings() const { return m_loadFindings; }
     // The version of the package read last; "1.4" for a text that is none.
     KWVersion loadedVersion() const { return m_loadedVersion; }
 
@@ -262,6 +269,7 @@ private:
     QString m_secondPath;
     QString m_backupName;
     KWVersion m_loadedVersion;
+    Findings m_loadFindings;
     // Count the changes of IDs and of hidden flags; a change of the list other than an append counts in both.
     mutable quint64 m_idRevision = 1;
     mutable quint64 m_hideRevision = 1;

@@ -1,4 +1,5 @@
 // The document as a package: a zip archive of XML files.
+#include "engine/record/taskindex.h"
 #include "kwfilepathmanager.h"
 #include "kwtemporarydir.h"
 #include "kwversion.h"
@@ -162,6 +163,22 @@ bool isWithinLimits(const QString &folder, QString *error)
     return true;
 }
 
+// A task hidden below one that is not there could never be shown.
+void showLostTasks(KWDocument &document, Findings &findings)
+{
+    const TaskIndex &index = document.taskIndex();
+    for (int pos = 0; pos < document.taskCount(); ++pos) {
+        KWTaskInfo &task = *document.getTaskInfoAt(pos);
+        if (task.HideID == 0 || index.contains(task.HideID))
+            continue;
+        findings.add(QStringLiteral("task %1").arg(pos + 1),
+                     QStringLiteral("it is hidden below the task with ID %1, which does not exist")
+                         .arg(task.HideID.value()),
+                     QStringLiteral("shown"));
+        task.HideID = 0;
+    }
+}
+
 // A package that has been unpacked and found sound, before anything of it is taken over.
 class UnpackedPackage
 {
@@ -279,7 +296,12 @@ bool KWDocument::loadDocument(const QString &folder, unsigned int)
     if (!root.is("Document"))
         return refuse("Package not read: ", folder, QStringLiteral("the root element is not \"Document\""));
     m_loadedVersion = versionOf(root.text("Version").toString());
+    m_actions.prepareReplacement();
+    const bool wasModified = isModified();
     documentxml::read(root, *this);
+    m_loadFindings.clear();
+    showLostTasks(*this, m_loadFindings);
+    setModified(wasModified);
     return true;
 }
 

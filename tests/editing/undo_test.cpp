@@ -9,6 +9,7 @@
 #include "support/project.h"
 #include "support/savedtext.h"
 #include "table/rowcolumndata.h"
+#include <QTemporaryDir>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -109,6 +110,9 @@ TEST_F(Undo, recordsOneActionAtATime)
     ActionManager::preUndoAction(nullptr, editType, 0);
     EXPECT_EQ(ActionManager::pendingAction(), nullptr);
     ActionManager::preUndoAction(document.get(), editType, 1);
+    ActionManager::preUndoAction(document.get(), editType + 1000, 0);
+    EXPECT_EQ(ActionManager::pendingAction(), nullptr);
+    ActionManager::preUndoAction(document.get(), editType, 1);
     ActionManager::preUndoAction(document.get(), editType, 2);
     ActionManager::addChangeTaskInfo(nullptr);
     ActionManager::addUndoAction();
@@ -130,6 +134,7 @@ struct EditCase
     const char *name;
     std::function<void(KWDocument &)> record;
     std::function<void(KWDocument &)> edit;
+    bool isWholeList = false; // brings names texts with the assignments
 };
 
 class UndoneEdits : public Undo, public testing::WithParamInterface<EditCase>
@@ -170,6 +175,8 @@ protected:
 TEST_P(UndoneEdits, comeBackAndGoAgain)
 {
     KWDocument &document = m_project.document();
+    if (GetParam().isWholeList)
+        m_project.task("Paint").Resources = QStringLiteral("Bob");
     const std::string before = savedText(document);
     ActionManager::preUndoAction(&document, editType, 0);
     GetParam().record(document);
@@ -249,7 +256,8 @@ INSTANTIATE_TEST_SUITE_P(
                      document.insertTaskByRow(1);
                      document.getTaskInfoByRow(1)->stretch(&document, 9000, true); // zooms out
                      document.taskCollection()->updateTaskCollection();
-                 }},
+                 },
+                 true},
         EditCase{"anIdAndSingleTasksWithTheList",
                  [](KWDocument &document) {
                      recordAll(document);
@@ -258,9 +266,11 @@ INSTANTIATE_TEST_SUITE_P(
                  [](KWDocument &document) {
                      document.getTaskInfoAt(1)->Name = QStringLiteral("Fence");
                      document.getTaskInfoAt(4)->ID = 77;
-                 }},
+                 },
+                 true},
         EditCase{"assignmentsInPlaceWithTheList", recordAll,
-                 [](KWDocument &document) { document.getTaskInfoAt(2)->getResourceAt(0)->percent = 0.5; }},
+                 [](KWDocument &document) { document.getTaskInfoAt(2)->getResourceAt(0)->percent = 0.5; },
+                 true},
         EditCase{"columns", [](KWDocument &) { ActionManager::backupAllColData(); },
                  [](KWDocument &document) {
                      document.rowColumnData()->moveColumnDataList(0, 3);
@@ -271,15 +281,24 @@ INSTANTIATE_TEST_SUITE_P(
         EditCase{"ratesOfAnEntry", recordAnn,
                  [](KWDocument &document) {
                      ann(document).costPer = 5;
-                     for (KWTaskInfo *task : document.taskList()) {
-                         if (Resource *assigned = task->getResourceByName(ann(document).name))
-                             assigned->costPer = 5;
-                     }
+                     ann(document).changeAllTaskSameNameResource(&document, ResourceInfo::ChangeCostPer);
+                 }},
+        EditCase{"ratesWithTheSheet", recordSheet,
+                 [](KWDocument &document) {
+                     ann(document).cost = 77;
+                     ann(document).changeAllTaskSameNameResource(&document, ResourceInfo::ChangeCost);
+                 }},
+        EditCase{"anEntryThatGetsAnotherIdAndName", recordAnn,
+                 [](KWDocument &document) {
+                     renameTo(document, 0, "Anna");
+                     ann(document).ID = 9;
                  }},
         EditCase{"anEntryThatGoesWithItsAssignments", recordAnn,
                  [](KWDocument &document) {
-                     for (KWTaskInfo *task : document.taskList())
-                         task->deleteResourceByID(ann(document).ID);
+                     for (KWTaskInfo *task : document.taskList()) {
+                         if (task->isActiveTaskResource(ann(document).name))
+                             task->addOrDelResourceByName(&document, ann(document).name, false);
+                     }
                      document.resourceInfoData()->deleteResourceByName(ann(document).name);
                  }},
         EditCase{"anEntryThatGoesWhileAnotherHasItsName",
@@ -298,6 +317,17 @@ INSTANTIATE_TEST_SUITE_P(
                          ActionManager::addChangeTaskInfo(document.getTaskInfoAt(pos));
                  },
                  [](KWDocument &document) { renameTo(document, 0, "Bob"); }},
+        EditCase{"aRenameToTheNameOfAnotherRecordedAsRename",
+                 [](KWDocument &document) { ActionManager::addEditTaskResourceName(&ann(document)); },
+                 [](KWDocument &document) { renameTo(document, 0, "Bob"); }},
+        EditCase{"aChangeBeforeTheListIsRecorded", recordSecond,
+                 [](KWDocument &document) {
+                     document.getTaskInfoAt(1)->Notes = QStringLiteral("damp");
+                     document.getTaskInfoAt(1)->getResourceAt(0)->percent = 0.25;
+                     recordAll(document);
+                     document.removeTaskByRow(2);
+                 },
+                 true},
         EditCase{"aRename",
                  [](KWDocument &document) { ActionManager::addEditTaskResourceName(&ann(document)); },
                  [](KWDocument &document) { renameTo(document, 0, "Anna"); }},
@@ -332,6 +362,8 @@ INSTANTIATE_TEST_SUITE_P(
                      document.resourceInfoData()->appendResourceInfo(new ResourceInfo);
                      document.getTaskInfoAt(2)->clearResources();
                      document.getTaskInfoAt(4)->resourceList.append(new Resource);
+                     for (const int pos : {2, 4})
+                         document.getTaskInfoAt(pos)->updateCostAndWork(&document);
                  }},
         EditCase{"calendarsAndOptions", [](KWDocument &) { ActionManager::backupAllOption(); },
                  [](KWDocument &document) {
@@ -344,4 +376,86 @@ INSTANTIATE_TEST_SUITE_P(
                      document.Auto = true;
                  }}),
     caseName<EditCase>);
+
+TEST_F(UndoneEdits, equalEntriesAreToldApart)
+{
+    for (const int changed : {0, 1}) {
+        for (const bool goes : {false, true}) {
+            KWDocument document;
+            ResourceInfoData &sheet = *document.resourceInfoData();
+            for (int i = 0; i < 2; ++i) {
+                sheet.appendResourceInfo(new ResourceInfo);
+                sheet.infos[i]->name = QStringLiteral("Ann");
+                sheet.infos[i]->unit = i + 1;
+            }
+            const std::string before = savedText(document);
+            ActionManager::preUndoAction(&document, editType, 0);
+            ActionManager::addDocResource(sheet.infos[changed]);
+            if (goes)
+                delete sheet.infos.takeAt(changed);
+            else
+                sheet.infos[changed]->name = QStringLiteral("Bob");
+            ActionManager::addUndoAction();
+            const std::string after = savedText(document);
+            document.actionManager().undo(1);
+            EXPECT_EQ(savedText(document), before) << changed << goes;
+            document.actionManager().redo();
+            EXPECT_EQ(savedText(document), after) << changed << goes;
+        }
+    }
+}
+
+// Typed texts stay, and so does the text of Paint, which has an assignment, until the list comes back.
+TEST_F(UndoneEdits, namesFollowAWholeList)
+{
+    KWDocument &document = m_project.document();
+    m_project.task("Clean").Resources = QStringLiteral("somebody");
+    ActionManager::preUndoAction(&document, editType, 0);
+    ActionManager::backAllTaskData();
+    document.removeTaskByRow(2);
+    ActionManager::addUndoAction();
+    document.actionManager().undo(1);
+    QStringList texts;
+    for (const KWTaskInfo *task : document.taskList())
+        texts.append(task->Resources);
+    EXPECT_EQ(texts.join(QLatin1String(" | ")).toStdString(), "Bob; Ann | Bob; Ann | Ann | Bob | somebody");
+}
+
+// A file and a workbook replace what the stacks are about.
+TEST_F(UndoneEdits, replacedContentForgetsThemOrIsOneOfThem)
+{
+    KWDocument &document = m_project.document();
+    const QTemporaryDir folder;
+    const QString path = folder.path() + '/';
+    Project other("Mon-Sat 8-12", "Paint 3d\n");
+    other.document().printConfig.Zoom = 33;
+    ASSERT_TRUE(other.document().saveDocument(path));
+    const auto edit = [&document] {
+        ActionManager::preUndoAction(&document, editType, 0);
+        ActionManager::addChangeTaskInfo(document.getTaskInfoAt(0));
+        document.getTaskInfoAt(0)->Priority += 1;
+        ActionManager::addUndoAction();
+    };
+    edit();
+    edit();
+    document.actionManager().undo(1);
+    EXPECT_FALSE(document.loadDocument(path + "no folder/", 0));
+    EXPECT_EQ(document.actionManager().undoActions().size(), 1);
+
+    m_project.task("Paint").Resources = QStringLiteral("Bob");
+    const std::string before = savedText(document);
+    ActionManager::preUndoAction(&document, editType, 0);
+    ASSERT_TRUE(document.loadDocument(path, 0));
+    ActionManager::addUndoAction();
+    EXPECT_EQ(savedText(document), savedText(other.document()));
+    document.actionManager().undo(1);
+    EXPECT_EQ(savedText(document), before);
+    document.actionManager().redo();
+    EXPECT_EQ(savedText(document), savedText(other.document()));
+
+    document.actionManager().undo(1);
+    ASSERT_TRUE(document.loadDocument(path, 0));
+    EXPECT_TRUE(document.actionManager().undoActions().isEmpty());
+    EXPECT_TRUE(document.actionManager().redoActions().isEmpty());
+}
 }

@@ -11,6 +11,7 @@
 #include "schedule/kwtaskcollection.h"
 #include "support/filesizelimit.h"
 #include "support/folder.h"
+#include "support/project.h"
 #include "support/sortedxml.h"
 #include "table/rowcolumndata.h"
 #include <QDir>
@@ -318,4 +319,21 @@ TEST_F(Package, BackupChangesNothing)
     EXPECT_EQ(folder::get(backup), folder::get(path("plan.kwpx")));
 }
 
+TEST(LoadedPackages, showWhatIsHiddenBelowNobody)
+{
+    Project p("Mon-Fri 8-12 13-17", "Sum\n  Below 1d\nLost 1d\n");
+    p.document().collapseTaskInfo(&p.task("Sum"));
+    p.task("Lost").HideID = 99;
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("p.kwpx"));
+    ASSERT_TRUE(p.document().save(path));
+    KWDocument loaded;
+    for (int round = 0; round < 2; ++round) { // findings of one file
+        ASSERT_TRUE(loaded.loadFromKWGT(path));
+        EXPECT_EQ(loaded.visibleRowCount(), 2);
+        ASSERT_EQ(loaded.loadFindings().count(), 1);
+        EXPECT_EQ(loaded.loadFindings().list().first().place.toStdString(), "task 3");
+        EXPECT_FALSE(loaded.isModified());
+    }
+}
 }

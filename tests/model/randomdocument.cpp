@@ -156,6 +156,8 @@ void randomdocument::fill(KWDocument &document, std::mt19937 &random)
         document.appendTaskInfoList(task);
         document.rowColumnData()->appendRowHeight(randomNumber(random));
     }
+    for (KWTaskInfo *task : document.taskList()) // below a task that is there
+        task->HideID = random() % 2 ? document.taskList().first()->ID.value() : 0;
     for (int count = int(random() % 4); count > 0; --count) {
         document.resourceInfoData()->infos.append(new ResourceInfo);
         fillFields(fields::resourceInfoFields, *document.resourceInfoData()->infos.last(), random);
