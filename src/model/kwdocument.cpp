@@ -30,6 +30,7 @@ KWDocument::KWDocument()
     m_resourceInfoData = new ResourceInfoData(this);
     m_rowColumnData = new RowColumnData(this);
     initThemeColor();
+    m_modified = false; // the columns are there from the beginning
 }
 
 KWDocument::~KWDocument()
@@ -53,6 +54,8 @@ KWDocument::~KWDocument()
 
 void KWDocument::clearCalendar()
 {
+    if (!calendars.isEmpty())
+        setModified(true);
     qDeleteAll(calendars);
     calendars.clear();
 }
@@ -68,6 +71,7 @@ void KWDocument::listChanged()
 {
     ++m_idRevision;
     ++m_hideRevision;
+    setModified(true);
 }
 
 void KWDocument::join(KWTaskInfo *task)
@@ -94,6 +98,7 @@ void KWDocument::appendTaskInfoList(KWTaskInfo *task)
         return;
     join(task);
     m_tasks.append(task);
+    setModified(true);
 }
 
 void KWDocument::insertTaskInfoList(int row, KWTaskInfo *task)

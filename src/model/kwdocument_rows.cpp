@@ -156,6 +156,7 @@ bool KWDocument::expandTaskInfo(KWTaskInfo *task)
     if (!task || !task->IsToggler)
         return false;
     task->IsToggler = false;
+    setModified(true);
     constexpr bool hide = false;
     return task->recurveShowOrHide(this, task, task, hide);
 }
@@ -165,6 +166,7 @@ bool KWDocument::collapseTaskInfo(KWTaskInfo *task)
     if (!task || task->IsToggler)
         return false;
     task->IsToggler = true;
+    setModified(true);
     constexpr bool hide = true;
     return task->recurveShowOrHide(this, task, task, hide);
 }

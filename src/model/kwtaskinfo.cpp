@@ -5,6 +5,7 @@
 #include "engine/record/resource.h"
 #include "engine/record/taskfields.h"
 #include "engine/time/duration.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo_xml.h"
 #include "support/xmlsink.h"
@@ -114,6 +115,7 @@ void KWTaskInfo::insertTaskChildID(int index, quint32 id)
 
 void KWTaskInfo::addTaskInfoChildID(KWDocument *document, quint32 id)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     const int pos = document ? document->getPosByID(id) : -1;
     if (pos < 0)
         return;

@@ -1,6 +1,7 @@
 #include "resources/assignmentbatch.h"
 #include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
@@ -9,12 +10,14 @@
 
 struct AssignmentBatch::Private
 {
+    KWDocument &document;
     CostPass pass;
     QHash<QString, const ResourceInfo *> entries; // the first of each trimmed name
     QSet<KWTaskInfo *> named;                     // whose texts are to be made anew
 
-    explicit Private(KWDocument &document)
-        : pass(document)
+    explicit Private(KWDocument &of)
+        : document(of)
+        , pass(of)
     {
         for (const ResourceInfo *info : qAsConst(document.resourceInfoData()->infos)) {
             const QString name = info ? info->name.trimmed() : QString();
@@ -43,6 +46,7 @@ Resource *AssignmentBatch::assign(KWTaskInfo &task, const QString &name)
         assigned = task.getResourceByName(name);
         if (assigned)
             return assigned;
+        m_private->document.setModified(true);
         assigned = m_private->pass.assign(task, name, m_private->entries.value(name.trimmed()));
     }
     m_private->named.insert(&task);
@@ -51,11 +55,15 @@ Resource *AssignmentBatch::assign(KWTaskInfo &task, const QString &name)
 
 void AssignmentBatch::updateCostAndWork(KWTaskInfo &task)
 {
+    const ChangeWatch watch(&m_private->document, &task, ChangeWatch::WithSummaries);
     m_private->pass.updateCostAndWork(task);
 }
 
 void AssignmentBatch::finish()
 {
+    if (m_private->named.isEmpty())
+        return;
+    m_private->document.setModified(true);
     const CostPass &pass = m_private->pass;
     QSet<KWTaskInfo *> summaries;
     for (KWTaskInfo *task : qAsConst(m_private->named)) {

@@ -1,11 +1,13 @@
 // Names, costs and work of all tasks.
 #include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 
 void KWDocument::updateResourcesName()
 {
+    const ChangeWatch watch(this);
     if (!m_taskCollection)
         return;
     CostPass pass(*this);
@@ -23,6 +25,7 @@ void KWDocument::updateResourcesName()
 
 void KWDocument::updateCostCompletCostWork()
 {
+    const ChangeWatch watch(this);
     if (!m_taskCollection)
         return;
     CostPass pass(*this);
@@ -34,6 +37,7 @@ void KWDocument::updateCostCompletCostWork()
 
 void KWDocument::basisSubUpdateFromSomeColumn()
 {
+    const ChangeWatch watch(this);
     if (!m_taskCollection)
         return;
     CostPass pass(*this);
@@ -46,6 +50,7 @@ void KWDocument::basisSubUpdateFromSomeColumn()
 
 void KWDocument::replaceTaskResourceName(const QString &oldName, const QString &newName)
 {
+    const ChangeWatch watch(this);
     if (!m_taskCollection || oldName.isEmpty() || newName.isEmpty())
         return;
     const CostPass pass(*this);

@@ -3,6 +3,7 @@
 #include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
 #include "engine/record/resource.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
@@ -74,6 +75,7 @@ QList<Resource *> KWTaskInfo::cloneResources() const
 
 void KWTaskInfo::updateResourceWorkSecs(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (!document)
         return;
     for (Resource *resource : qAsConst(resourceList))
@@ -82,6 +84,7 @@ void KWTaskInfo::updateResourceWorkSecs(KWDocument *document)
 
 void KWTaskInfo::addOrDelResourceByName(KWDocument *document, const QString &name, bool add)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection() || !document->resourceInfoData() || name.isEmpty())
         return;
     const CostPass pass(*document);
@@ -103,12 +106,14 @@ void KWTaskInfo::addOrDelResourceByName(KWDocument *document, const QString &nam
 
 void KWTaskInfo::updateResourceName(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
         CostPass(*document).updateResourceName(*this);
 }
 
 void KWTaskInfo::basisSubUpdateResourceName(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
         CostPass::joinNames(*this, CostPass(*document).below(*this));
 }
@@ -143,6 +148,7 @@ std::vector<KWTaskInfo *> otherBranches(const CostPass &pass, const KWTaskInfo &
 
 void KWTaskInfo::updateParentResources(KWDocument *document, bool own)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection())
         return;
     const CostPass pass(*document);
@@ -158,6 +164,7 @@ void KWTaskInfo::updateParentResources(KWDocument *document, bool own)
 
 void KWTaskInfo::outdentUpateParentResources(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection())
         return;
     KWTaskInfo *parent = document->getTaskInfoByID(ParentID);
@@ -169,6 +176,7 @@ void KWTaskInfo::outdentUpateParentResources(KWDocument *document)
 
 void KWTaskInfo::replaceResourceName(KWDocument *document, const QString &oldName, const QString &newName)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection() || oldName.isEmpty() || newName.isEmpty())
         return;
     const CostPass pass(*document);

@@ -1,6 +1,7 @@
 // Cost, work and remaining cost of a task and of the summaries above it.
 #include "engine/cost/costpass.h"
 #include "engine/record/resource.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 
@@ -25,12 +26,14 @@ double KWTaskInfo::resourceCost(KWDocument *document, const Resource *resource) 
 
 void KWTaskInfo::updateCostAndWork(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
         CostPass(*document).updateCostAndWork(*this);
 }
 
 void KWTaskInfo::updateRemainCost(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
         CostPass(*document).updateRemainCost(*this);
 }
@@ -38,12 +41,14 @@ void KWTaskInfo::updateRemainCost(KWDocument *document)
 void KWTaskInfo::updateParentCostAndWork(KWDocument *document, double costChange, double workChange,
                                          bool force)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
         CostPass(*document).updateParentCostAndWork(*this, costChange, workChange, force);
 }
 
 void KWTaskInfo::updateParentCompletCost(KWDocument *document, double change)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection())
         return;
     for (KWTaskInfo *ancestor : outline::ancestors({document->taskList(), document->taskIndex()}, *this))
@@ -52,6 +57,7 @@ void KWTaskInfo::updateParentCompletCost(KWDocument *document, double change)
 
 void KWTaskInfo::updateParentStrBaseCost(KWDocument *document, double change)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection())
         return;
     for (KWTaskInfo *ancestor : outline::ancestors({document->taskList(), document->taskIndex()}, *this))
@@ -60,6 +66,7 @@ void KWTaskInfo::updateParentStrBaseCost(KWDocument *document, double change)
 
 void KWTaskInfo::updateParentInfoFromSomeColumn(KWDocument *document, bool added, bool namesByCaller)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection())
         return;
     const double sign = added ? 1 : -1;
@@ -76,6 +83,7 @@ void KWTaskInfo::updateParentInfoFromSomeColumn(KWDocument *document, bool added
 
 void KWTaskInfo::basisSubUpdateCostAndWork(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (!document || !document->taskCollection() || !isParent())
         return;
     const CostPass pass(*document);
@@ -84,18 +92,21 @@ void KWTaskInfo::basisSubUpdateCostAndWork(KWDocument *document)
 
 void KWTaskInfo::basisSubUpdateCompletCost(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
         RemainingCost = cost::remainingOfLeaves(CostPass(*document).below(*this));
 }
 
 void KWTaskInfo::basisSubUpdateStrBaseCost(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
         BaselineCost = cost::baselineText(cost::baselineOfLeaves(CostPass(*document).below(*this)));
 }
 
 void KWTaskInfo::basisSubUpdateFromSomeColumn(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
         CostPass(*document).sumAll(*this);
 }

@@ -2,6 +2,7 @@
 #include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
 #include "engine/record/resource.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata_xml.h"
@@ -65,6 +66,7 @@ void ResourceInfo::changeAllTaskSameNameResource(KWDocument *document, ChangeVal
 {
     if (!document)
         return;
+    const ChangeWatch watch(document);
     const CostPass pass(*document);
     for (KWTaskInfo *task : document->taskList()) {
         if (Resource *assigned = task->getResourceByName(name)) {
@@ -90,12 +92,17 @@ ResourceInfoData::~ResourceInfoData()
 
 void ResourceInfoData::appendResourceInfo(ResourceInfo *info)
 {
-    if (info)
-        infos.append(info);
+    if (!info)
+        return;
+    infos.append(info);
+    if (m_document)
+        m_document->setModified(true);
 }
 
 void ResourceInfoData::clearResourceInfoData()
 {
+    if (m_document && !infos.isEmpty())
+        m_document->setModified(true);
     qDeleteAll(infos);
     infos.clear();
 }
@@ -144,6 +151,8 @@ void ResourceInfoData::deleteResourceByName(const QString &name)
         return;
     infos.removeOne(info);
     delete info;
+    if (m_document)
+        m_document->setModified(true);
 }
 
 // ---- Texts ------------------------------------------------------------------------------------------------

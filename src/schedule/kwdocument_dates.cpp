@@ -3,6 +3,7 @@
 #include "engine/network/links.h"
 #include "engine/record/outline.h"
 #include "engine/time/duration.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include <algorithm>
@@ -15,6 +16,7 @@ double KWDocument::getDurationValue(quint32 start, quint32 finish, unsigned int 
 
 void KWDocument::updateDependTask(bool byTag)
 {
+    const ChangeWatch watch(this);
     if (byTag) {
         for (KWTaskInfo *task : qAsConst(m_tasks)) {
             QList<quint32> ids;
@@ -34,6 +36,7 @@ void KWDocument::updateDependTask(bool byTag)
 
 void KWDocument::updateAllTaskEarlyLate()
 {
+    const ChangeWatch watch(this);
     if (!m_taskCollection)
         return;
     const unsigned int unit = latedates::slackUnit(getMinorUnit());
@@ -50,6 +53,7 @@ void KWDocument::updateAllTaskEarlyLate()
 
 void KWDocument::updateSlackAndUnit(unsigned int unit)
 {
+    const ChangeWatch watch(this);
     const unsigned int current = getMinorUnit();
     if (unit == current || (unit < duration::Hour && current < duration::Hour))
         return;

@@ -2,6 +2,7 @@
 #include "engine/network/rollup.h"
 #include "engine/time/timescale.h"
 #include "format/dataformat.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
@@ -21,6 +22,22 @@ double elapsedFraction(const worktime::WorkCalendar &calendar, const KWTaskInfo 
     constexpr int decimals = 10;
     return DataFormat::formatNumber(done / length, 0, decimals, 1).toDouble();
 }
+
+struct Bar
+{
+    double begin, end, width; // pixels
+};
+
+// The bar as it is drawn. The bars of hidden tasks are not, nor are those of a plan that was only loaded:
+// theirs are where they would be.
+Bar barOf(const timescale::Scale &scale, const KWTaskInfo &task)
+{
+    if (task.HideID == 0 && (task.x1 != 0 || task.x2 != 0))
+        return {task.x1, task.x2, task.CountWidth};
+    const double begin = scale.point(task, true);
+    const double end = scale.point(task, false);
+    return {begin, end, end - begin};
+}
 }
 
 unsigned int KWDocument::getMinorUnit() const
@@ -30,20 +47,29 @@ unsigned int KWDocument::getMinorUnit() const
 
 void KWDocument::updateAutoPercent()
 {
+    const ChangeWatch watch(this);
     if (!m_taskCollection || !Auto)
         return;
+    // A plan that was only loaded has no range yet, and so no pixels to tell days apart by.
+    if (m_taskCollection->maxDateFinish() == 0) {
+        m_taskCollection->updateRange();
+        m_taskCollection->updateTotalWidth();
+    }
     const timescale::Scale scale = m_taskCollection->scale();
     const quint32 now = worktime::clampSecs(KWClock::now().toSecsSinceEpoch());
     const double x = scale.position(now);
     for (KWTaskInfo *task : taskList()) {
+        if (task->Start == 0 || task->Finish == 0)
+            continue;
         double percent = 0.0;
         double width = 0.0;
-        if (task->x1 < x && x < task->x2) {
+        const Bar bar = barOf(scale, *task);
+        if (bar.begin < x && x < bar.end) {
             percent = elapsedFraction(scale.calendar(), *task, now);
-            width = x - task->x1;
-        } else if (task->x1 < x) {
+            width = x - bar.begin;
+        } else if (bar.begin < x) {
             percent = 1.0;
-            width = task->CountWidth;
+            width = bar.width;
         }
         task->setPercent(percent);
         task->Progress = KWTaskInfo::indexFromPercent(task->Percent);
@@ -53,6 +79,7 @@ void KWDocument::updateAutoPercent()
 
 void KWDocument::updateAllParentPercent()
 {
+    const ChangeWatch watch(this);
     if (!m_taskCollection)
         return;
     const timescale::Scale scale = m_taskCollection->scale();
@@ -69,6 +96,7 @@ void KWDocument::updateAllParentPercent()
 
 void KWDocument::updateAllTaskFirstWidth()
 {
+    const ChangeWatch watch(this);
     if (!m_taskCollection)
         return;
     const timescale::Scale scale = m_taskCollection->scale();

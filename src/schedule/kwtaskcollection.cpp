@@ -4,6 +4,7 @@
 #include "engine/time/timerange.h"
 #include "engine/time/timescale.h"
 #include "format/unitutil.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "support/kwclock.h"
@@ -186,6 +187,10 @@ void KWTaskCollection::firstOpenFitWidth()
         zoom = timescale::chosen(calendar.clock(), zoom, span.start, span.finish);
     zoom = timescale::narrowed(calendar, zoom, span.start, span.finish, UnitUtil::dpiScale96());
 
+    const timescale::Zoom before = zoomOf(*m_document);
+    if (zoom.majorUnit != before.majorUnit || zoom.storedMinor != before.storedMinor ||
+        zoom.unitWidth != before.unitWidth)
+        m_document->setModified(true);
     m_document->MajorUnit = zoom.majorUnit;
     m_document->MinorUnit = zoom.storedMinor;
     m_document->UnitWidth = zoom.unitWidth;
@@ -196,6 +201,7 @@ void KWTaskCollection::firstOpenFitWidth()
 
 void KWTaskCollection::updateTaskPoint()
 {
+    const ChangeWatch watch(m_document);
     if (!m_document)
         return;
     const timescale::Scale scale = this->scale();

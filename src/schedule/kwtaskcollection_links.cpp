@@ -4,6 +4,7 @@
 #include "engine/network/push.h"
 #include "engine/record/outline.h"
 #include "engine/time/timescale.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
@@ -112,11 +113,14 @@ bool KWTaskCollection::pushAlong(const std::vector<push::Link> &links)
             scale.placeBar(*task);
         task->FirstWidth = scale.finishedWidth(*task);
     }
+    if (!passed.empty())
+        m_document->setModified(true);
     return !passed.empty();
 }
 
 int KWTaskCollection::pushAllSuccessors(QList<KWTaskMove> *moves)
 {
+    const ChangeWatch watch(m_document);
     if (moves)
         moves->clear();
     if (!m_document)
@@ -166,6 +170,7 @@ bool KWTaskCollection::taskDependTask(KWTaskInfo *a, KWTaskInfo *b)
         return false;
     const HighlightRefresh refresh(*m_document, m_activeTask);
     links::insert(tasksOf(*m_document), *a, *b);
+    m_document->setModified(true);
     return true;
 }
 
@@ -177,7 +182,10 @@ int KWTaskCollection::linkTasks(QList<KWTaskLink> &wanted)
         return 0;
     }
     const HighlightRefresh refresh(*m_document, m_activeTask);
-    return links::insertAll(tasksOf(*m_document), wanted);
+    const int made = links::insertAll(tasksOf(*m_document), wanted);
+    if (made > 0)
+        m_document->setModified(true);
+    return made;
 }
 
 bool KWTaskCollection::taskEqualDependTask(const KWTaskInfo *a, const KWTaskInfo *task) const
@@ -194,6 +202,7 @@ KWTaskInfo *KWTaskCollection::sameParentTask(const KWTaskInfo *a, const KWTaskIn
 
 void KWTaskCollection::deleteDependOrDependOnID(KWTaskInfo *task)
 {
+    const ChangeWatch watch(m_document, task, ChangeWatch::Alone);
     if (!m_document || !task)
         return;
     const HighlightRefresh refresh(*m_document, m_activeTask);
@@ -205,6 +214,7 @@ void KWTaskCollection::deleteDependOrDependOnID(KWTaskInfo *task)
 
 void KWTaskCollection::deleteDependIDFromParent(KWTaskInfo *task, KWTaskInfo *x)
 {
+    const ChangeWatch watch(m_document, x, ChangeWatch::Alone);
     if (!m_document || !task || !x)
         return;
     const HighlightRefresh refresh(*m_document, m_activeTask);
@@ -213,6 +223,7 @@ void KWTaskCollection::deleteDependIDFromParent(KWTaskInfo *task, KWTaskInfo *x)
 
 void KWTaskCollection::deleteDependOnIDFromParent(KWTaskInfo *task, KWTaskInfo *x)
 {
+    const ChangeWatch watch(m_document, x, ChangeWatch::Alone);
     if (!m_document || !task || !x)
         return;
     const HighlightRefresh refresh(*m_document, m_activeTask);

@@ -3,6 +3,7 @@
 #include "engine/record/outline.h"
 #include "engine/time/dayoff.h"
 #include "engine/time/timescale.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
@@ -23,6 +24,7 @@ void KWTaskCollection::redraw(const timescale::Scale &scale, KWTaskInfo &task)
 
 void KWTaskCollection::refreshTask(KWTaskInfo *task)
 {
+    const ChangeWatch watch(m_document, task, ChangeWatch::Alone);
     if (!m_document || !task)
         return;
     const timescale::Scale scale = this->scale();
@@ -36,12 +38,17 @@ void KWTaskCollection::moveAllSubTask(KWTaskInfo *summary, quint32 oldStart)
         return;
     const timescale::Scale scale = this->scale();
     const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
+    const ChangeWatch summaryWatch(m_document, summary, ChangeWatch::Alone);
+    const ChangeWatch contentWatch(m_document, m_document->isModified()
+                                                   ? std::vector<KWTaskInfo *>()
+                                                   : outline::descendants(tasks, *summary));
     for (KWTaskInfo *task : moves::content(scale.calendar(), tasks, *summary, oldStart))
         redraw(scale, *task);
 }
 
 void KWTaskCollection::recalculateTask(KWTaskInfo *task, quint32 oldStart)
 {
+    const ChangeWatch watch(m_document, task, ChangeWatch::WithSummaries);
     if (!m_document || !task)
         return;
     if (task->isParent())

@@ -3,6 +3,7 @@
 #include "engine/record/outline.h"
 #include "engine/record/taskahead.h"
 #include "engine/time/timescale.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
@@ -39,6 +40,7 @@ void KWTaskCollection::rollUp(const timescale::Scale &scale, const outline::Task
 
 void KWTaskCollection::updateTaskTimeToChildsTask(KWTaskInfo *summary, bool pushSuccessors)
 {
+    const ChangeWatch watch(m_document, summary, ChangeWatch::Alone);
     if (!m_document || !summary || !summary->isParent())
         return;
     rollUp(scale(), {m_document->taskList(), m_document->taskIndex()}, *summary, pushSuccessors);
@@ -46,6 +48,7 @@ void KWTaskCollection::updateTaskTimeToChildsTask(KWTaskInfo *summary, bool push
 
 void KWTaskCollection::updateTaskInfoParentTime(KWTaskInfo *task)
 {
+    const ChangeWatch watch(m_document, task, ChangeWatch::WithSummaries);
     if (!m_document || !task)
         return;
     constexpr bool pushSuccessors = true;
@@ -57,6 +60,7 @@ void KWTaskCollection::updateTaskInfoParentTime(KWTaskInfo *task)
 
 void KWTaskCollection::updateOptionTaskTime()
 {
+    const ChangeWatch watch(m_document);
     if (!m_document)
         return;
     constexpr bool pushSuccessors = true;

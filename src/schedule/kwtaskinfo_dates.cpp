@@ -5,6 +5,7 @@
 #include "engine/time/duration.h"
 #include "engine/time/timescale.h"
 #include "engine/time/walk.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
@@ -59,6 +60,7 @@ quint32 KWTaskInfo::removeLastDayOff(KWDocument *document, quint32 secs)
 
 void KWTaskInfo::updateEarlyLate(KWDocument *document, quint32 projectFinish)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (!document || !document->taskCollection())
         return;
     const unsigned int unit = latedates::slackUnit(document->getMinorUnit());
@@ -120,6 +122,7 @@ int KWTaskInfo::taskMinutePoint(KWDocument *document, bool start) const
 
 void KWTaskInfo::updateOneTaskFirstWidth(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (hasScale(document))
         FirstWidth = document->taskCollection()->scale().finishedWidth(*this);
 }

@@ -3,6 +3,7 @@
 #include "engine/record/outline.h"
 #include "engine/time/dayoff.h"
 #include "engine/time/timescale.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
@@ -99,8 +100,8 @@ quint32 KWTaskInfo::onHalfOrOneDaySecs(KWDocument *document, quint32 secs) const
 
 void KWTaskInfo::moveStartTo(KWDocument *document, quint32 secs)
 {
-    if (document)
-        moves::startTo(document->workCalendar(), *this, secs, isHourScale(*document));
+    if (document && moves::startTo(document->workCalendar(), *this, secs, isHourScale(*document)))
+        document->setModified(true);
 }
 
 void KWTaskInfo::moveToStop(KWDocument *document, double x, const KWTaskInfo *reference, bool snap)
@@ -133,6 +134,7 @@ void KWTaskInfo::updateMoveAfter(KWDocument *document, double x)
 
 void KWTaskInfo::stretch(KWDocument *document, double x, bool snap)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     quint32 finish = 0;
     if (!document || !document->taskCollection() || !dropSecs(document, *this, x, snap, finish))
         return;

@@ -2,12 +2,14 @@
 #include "engine/network/rollup.h"
 #include "engine/record/outline.h"
 #include "engine/time/timescale.h"
+#include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
 
 void KWTaskInfo::updateParentPercent(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection())
         return;
     const timescale::Scale scale = document->taskCollection()->scale();
@@ -25,12 +27,14 @@ void KWTaskInfo::updateParentPercent(KWDocument *document)
 
 void KWTaskInfo::basisSubUpdateBaselineStartAndFinish(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
         rollup::baseline(outline::descendants({document->taskList(), document->taskIndex()}, *this), *this);
 }
 
 void KWTaskInfo::updateParentBaselineStartAndFinish(KWDocument *document)
 {
+    const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
         rollup::ancestorBaselines({document->taskList(), document->taskIndex()}, *this);
 }
@@ -44,8 +48,10 @@ bool KWTaskInfo::recurveShowOrHide(KWDocument *document, KWTaskInfo *summary, KW
     const std::vector<KWTaskInfo *> below =
         outline::descendants({document->taskList(), document->taskIndex()}, *task);
     for (KWTaskInfo *child : below) {
-        if (child->HideID == from)
-            child->HideID = to;
+        if (child->HideID != from)
+            continue;
+        child->HideID = to;
+        document->setModified(true);
     }
     return !below.empty();
 }

@@ -8,6 +8,15 @@
 #include "table/rowcolumndata_xml.h"
 #include <cmath>
 
+namespace {
+
+void setModified(KWDocument *document)
+{
+    if (document)
+        document->setModified(true);
+}
+}
+
 QMap<int, QString> RowColumnData::s_columnNames;
 QMap<int, QString> RowColumnData::s_priorityNames;
 
@@ -45,6 +54,7 @@ void RowColumnData::replaceRowHeight(int pos, double height)
         return;
     m_rowHeights[pos] = height;
     ++m_revision;
+    setModified(m_document);
 }
 
 void RowColumnData::replaceRowHeightByRow(int row, double height)
@@ -58,6 +68,7 @@ void RowColumnData::insertRowHeightByPos(int pos, double height)
     if (place < m_rowHeights.size())
         ++m_revision;
     m_rowHeights.insert(place, height);
+    setModified(m_document);
 }
 
 void RowColumnData::insertRowHeights(int pos, const QList<double> &heights)
@@ -76,6 +87,7 @@ void RowColumnData::insertRowHeightByRow(int row, double height)
 void RowColumnData::appendRowHeight(double height)
 {
     m_rowHeights.append(height);
+    setModified(m_document);
 }
 
 void RowColumnData::removeRowHeightAt(int pos)
@@ -84,18 +96,21 @@ void RowColumnData::removeRowHeightAt(int pos)
         return;
     m_rowHeights.removeAt(pos);
     ++m_revision;
+    setModified(m_document);
 }
 
 void RowColumnData::moveRowHeights(int from, int to, int count)
 {
     outline::moveEntries(m_rowHeights, from, to, count);
     ++m_revision;
+    setModified(m_document);
 }
 
 void RowColumnData::setRowHeights(const QList<double> &heights)
 {
     m_rowHeights = heights;
     ++m_revision;
+    setModified(m_document);
 }
 
 void RowColumnData::setRowHeightCount(int count)
@@ -103,6 +118,7 @@ void RowColumnData::setRowHeightCount(int count)
     if (count < m_rowHeights.size()) {
         m_rowHeights.erase(m_rowHeights.begin() + qMax(count, 0), m_rowHeights.end());
         ++m_revision;
+        setModified(m_document);
     }
     m_rowHeights.reserve(count);
     while (m_rowHeights.size() < count)

@@ -117,6 +117,7 @@ private:
         QHash<QString, int> posOfTitle;
     };
     const ColumnIndex &columnIndex() const;
+    void columnsChanged();
     int posOfRow(int row) const; // -1 when there is no such row
 
     KWDocument *m_document; // not owned

@@ -1,5 +1,6 @@
 // The table's columns.
 #include "format/unitutil.h"
+#include "model/kwdocument.h"
 #include "table/rowcolumndata.h"
 
 namespace {
@@ -40,6 +41,13 @@ void RowColumnData::initColumnDataList()
     }
 }
 
+void RowColumnData::columnsChanged()
+{
+    ++m_columnRevision;
+    if (m_document)
+        m_document->setModified(true);
+}
+
 void RowColumnData::appendColumnData(ColumnData *column)
 {
     if (!column)
@@ -47,7 +55,7 @@ void RowColumnData::appendColumnData(ColumnData *column)
     column->isHide.attach(&m_columnRevision);
     column->title.attach(&m_columnRevision);
     m_columns.append(column);
-    ++m_columnRevision;
+    columnsChanged();
 }
 
 const RowColumnData::ColumnIndex &RowColumnData::columnIndex() const
@@ -111,20 +119,21 @@ void RowColumnData::moveColumnDataList(int from, int to)
     if (fromPos < 0 || toPos < 0)
         return;
     m_columns.move(fromPos, toPos);
-    ++m_columnRevision;
+    columnsChanged();
 }
 
 void RowColumnData::setAllColDataHide()
 {
     for (ColumnData *column : qAsConst(m_columns))
         column->isHide = true;
+    columnsChanged();
 }
 
 void RowColumnData::clearColDataList()
 {
     qDeleteAll(m_columns);
     m_columns.clear();
-    ++m_columnRevision;
+    columnsChanged();
 }
 
 void RowColumnData::oldToNewColValue(const ColumnData *from, ColumnData *to)

@@ -298,20 +298,6 @@ TEST(Links, ofEveryTaskThatLeavesAreCut)
     EXPECT_EQ(links(p, "Y"), "4 >");
 }
 
-TEST(Edits, saySoOnlyWhereTheOutlineLevelChanges)
-{
-    const Titles titles;
-    Project p(june, family);
-    p.document().setModified(false);
-    Editor(p).run("add; insert C; sub B; up F; down B; remove E");
-    EXPECT_FALSE(p.document().isModified());
-    Editor(p).run("indent C");
-    EXPECT_TRUE(p.document().isModified());
-    p.document().setModified(false);
-    Editor(p).run("outdent C");
-    EXPECT_TRUE(p.document().isModified());
-}
-
 TEST(Outdents, leaveTheGridSettingAsItWas)
 {
     Project p(june, family);

@@ -2,6 +2,7 @@
 #include "schedule/kwtaskcollection.h"
 #include "support/kwclock.h"
 #include "support/project.h"
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -52,6 +53,37 @@ TEST_F(AutomaticProgress, followsTheDate)
                            "Later 0 % level 1, 0 of 500\n"
                            "Passed 100 % level 9, 100 of 100\n"
                            "Due 100 % level 9, 50 of 100\n");
+}
+
+// Hidden tasks and loaded plans have no bars.
+TEST_F(AutomaticProgress, needsNoBars)
+{
+    Project p(june, "Sum\n"
+                    "  Over 2d\n"
+                    "  Running 4d\n"
+                    "  Later 3d start 2024-06-06 90%\n"
+                    "  Undated 2d 30%\n");
+    setNow(5, 12);
+    const auto percents = [](KWDocument &document) {
+        document.Auto = true;
+        document.updateAutoPercent();
+        std::string text;
+        for (const KWTaskInfo *task : document.taskList())
+            text += QString::number(task->Percent).toStdString() + ' ';
+        return text;
+    };
+    const char *const expected = "0.625 1 0.625 0 0.3 ";
+    p.task("Undated").Start = p.task("Undated").Finish = 0;
+    p.task("Sum").Finish = p.task("Running").Finish;
+    const QTemporaryDir folder;
+    KWDocument loaded;
+    ASSERT_TRUE(p.document().saveDocument(folder.path() + '/') &&
+                loaded.loadDocument(folder.path() + '/', 0));
+    EXPECT_EQ(percents(loaded), expected);
+    p.document().collapseTaskInfo(&p.task("Sum"));
+    for (KWTaskInfo *task : p.document().taskList())
+        task->x1 = task->x2 = 0;
+    EXPECT_EQ(percents(p.document()), expected);
 }
 
 TEST_F(AutomaticProgress, isOffWithoutTheOption)
