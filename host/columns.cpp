@@ -155,7 +155,7 @@ QString workText(const Sheet &sheet, int pos)
            QLatin1Char('h');
 }
 
-template <double KWTaskInfo::*member>
+template <double TaskRecord::*member>
 QString costText(const Sheet &sheet, int pos)
 {
     return sheettext::moneyText(sheet.plan.task(pos)->*member);
@@ -167,7 +167,7 @@ QString baseCostText(const Sheet &sheet, int pos)
     return text.isEmpty() ? text : sheettext::moneyText(text.toDouble());
 }
 
-template <quint32 KWTaskInfo::*member, shown::Clock (*clock)(const Plan &, quint32)>
+template <quint32 TaskRecord::*member, shown::Clock (*clock)(const Plan &, quint32)>
 QString baseText(const Sheet &sheet, int pos)
 {
     const quint32 secs = sheet.plan.task(pos)->*member;

@@ -151,7 +151,7 @@ bool setHyperlinks(Edit &, KWTaskInfo &task, const QString &text)
     return true;
 }
 
-template <quint32 KWTaskInfo::*member, quint32 (*secs)(KWDocument &, const datetext::Moment &)>
+template <quint32 TaskRecord::*member, quint32 (*secs)(KWDocument &, const datetext::Moment &)>
 bool setBaseDate(Edit &edit, KWTaskInfo &task, const QString &text)
 {
     datetext::Moment moment;

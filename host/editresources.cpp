@@ -36,7 +36,7 @@ struct SheetField
     const char *hint;
 };
 
-template <double ResourceInfo::*amount, qint32 ResourceInfo::*unit>
+template <double ResourceEntry::*amount, qint32 ResourceEntry::*unit>
 bool setRate(ResourceInfo &entry, const QString &text)
 {
     sheettext::Rate rate;
@@ -47,7 +47,7 @@ bool setRate(ResourceInfo &entry, const QString &text)
     return true;
 }
 
-template <QString ResourceInfo::*member>
+template <QString ResourceEntry::*member>
 bool setText(ResourceInfo &entry, const QString &text)
 {
     entry.*member = text;

@@ -103,7 +103,7 @@ private:
     }
 
     void checkLinks(const QList<quint32> &ids, const KWTaskInfo &task,
-                    const QList<quint32> KWTaskInfo::*other, const char *kind)
+                    const QList<quint32> TaskRecord::*other, const char *kind)
     {
         for (const quint32 id : ids) {
             const KWTaskInfo *linked = byId(id);

@@ -51,7 +51,7 @@ struct SheetColumn
     QString (*written)(const ResourceInfo &);
 };
 
-template <QString ResourceInfo::*member>
+template <QString ResourceEntry::*member>
 constexpr SheetColumn textColumn(const char *title)
 {
     return {title,
@@ -62,7 +62,7 @@ constexpr SheetColumn textColumn(const char *title)
             [](const ResourceInfo &entry) { return entry.*member; }};
 }
 
-template <double ResourceInfo::*amount, qint32 ResourceInfo::*unit>
+template <double ResourceEntry::*amount, qint32 ResourceEntry::*unit>
 constexpr SheetColumn rateColumn(const char *title)
 {
     return {title,

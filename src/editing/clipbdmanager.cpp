@@ -3,12 +3,12 @@
 #include "editing/pastedbranches.h"
 #include "editing/pastednames.h"
 #include "engine/cost/cost.h"
-#include "engine/cost/costpass.h"
 #include "engine/network/rollup.h"
 #include "engine/record/outline.h"
 #include "engine/time/timescale.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "resources/costsof.h"
 #include "runinglog.h"
 #include "schedule/kwtaskcollection.h"
 #include "table/rowcolumndata.h"
@@ -38,10 +38,6 @@ QByteArray digestOf(const QByteArray &bytes)
     return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
 }
 
-outline::Tasks tasksOf(const KWDocument &document)
-{
-    return {document.taskList(), document.taskIndex()};
-}
 }
 
 // ---- What is copied ---------------------------------------------------------------------------------------
@@ -50,7 +46,7 @@ class ClipbdManager::Selection
 {
 public:
     Selection(const KWDocument &document, const QList<int> &rows)
-        : m_tasks(tasksOf(document))
+        : m_tasks(document.outline())
     {
         for (const int row : rows) {
             if (const KWTaskInfo *task = document.getTaskInfoByRow(row))
@@ -64,7 +60,7 @@ public:
     {
         std::vector<quint32> way;
         bool isInside = false;
-        for (const KWTaskInfo *at = &task; at->ParentID != 0 && !isInside;) {
+        for (const TaskRecord *at = &task; at->ParentID != 0 && !isInside;) {
             at = m_tasks.byId(at->ParentID);
             if (!at || at->ID == task.ID)
                 break;
@@ -129,7 +125,7 @@ bool ClipbdManager::putOnClipboard(QList<quint32> &ids, QList<int> &rows)
     m_sourceDocument = m_document;
     topTaskListByMultiRow(rows);
 
-    const outline::Tasks all = tasksOf(*m_document);
+    const outline::Tasks all = m_document->outline();
     TaskIndex listed;
     for (const quint32 id : qAsConst(ids))
         listed.add(id);
@@ -139,12 +135,12 @@ bool ClipbdManager::putOnClipboard(QList<quint32> &ids, QList<int> &rows)
     };
     for (const quint32 id : qAsConst(m_topTasks)) {
         add(id);
-        for (const KWTaskInfo *below : outline::descendants(all, *all.byId(id)))
+        for (const TaskRecord *below : outline::descendants(all, *all.byId(id)))
             add(below->ID);
     }
     QList<KWTaskInfo *> tasks;
     for (const quint32 id : qAsConst(ids)) {
-        KWTaskInfo *task = all.byId(id);
+        KWTaskInfo *task = asTask(all.byId(id));
         if (task && !task->isEmpty()) // which would not be written, and its height go to the next
             tasks.append(task);
     }
@@ -172,24 +168,24 @@ bool ClipbdManager::cut(QList<int> &rows)
     QList<quint32> ids;
     if (!putOnClipboard(ids, rows))
         return false;
-    const outline::Tasks tasks = tasksOf(*m_document);
+    const outline::Tasks tasks = m_document->outline();
     TaskIndex leavingIds;
-    std::vector<KWTaskInfo *> leaving;
+    std::vector<TaskRecord *> leaving;
     for (const quint32 id : qAsConst(ids)) {
         leavingIds.add(id);
         leaving.push_back(tasks.byId(id));
     }
     TaskIndex parentIds;
-    std::vector<KWTaskInfo *> parents; // that stay and lose children
-    for (const KWTaskInfo *task : leaving) {
-        KWTaskInfo *parent = task->ParentID == 0 ? nullptr : tasks.byId(task->ParentID);
+    std::vector<TaskRecord *> parents; // that stay and lose children
+    for (const TaskRecord *task : leaving) {
+        TaskRecord *parent = task->ParentID == 0 ? nullptr : tasks.byId(task->ParentID);
         if (parent && !leavingIds.contains(parent->ID) && parentIds.add(parent->ID))
             parents.push_back(parent);
     }
     outline::cutLinks(tasks, leaving, leavingIds);
     m_document->removeTasks(leavingIds);
-    const outline::Tasks left = tasksOf(*m_document);
-    for (KWTaskInfo *parent : parents) {
+    const outline::Tasks left = m_document->outline();
+    for (TaskRecord *parent : parents) {
         outline::removeChilds(*parent, leavingIds);
         const auto isThere = [&](quint32 id) { return left.byId(id) != nullptr; };
         if (std::none_of(parent->Childs.cbegin(), parent->Childs.cend(), isThere))
@@ -200,16 +196,16 @@ bool ClipbdManager::cut(QList<int> &rows)
 }
 
 // After what is below these tasks has changed.
-void ClipbdManager::updateSummaries(const std::vector<KWTaskInfo *> &changed)
+void ClipbdManager::updateSummaries(const std::vector<TaskRecord *> &changed)
 {
     KWTaskCollection &collection = *m_document->taskCollection();
-    CostPass(*m_document).sumFrom(changed);
+    costsOf(*m_document).sumFrom(changed);
     collection.updateOptionTaskTime();
     const timescale::Scale scale = collection.scale();
-    const outline::Tasks tasks = tasksOf(*m_document);
-    for (KWTaskInfo *task : outline::withAncestors(tasks, changed)) {
+    const outline::Tasks tasks = m_document->outline();
+    for (TaskRecord *task : outline::withAncestors(tasks, changed)) {
         if (task->isParent())
-            task->setPercent(rollup::percent(scale.calendar(), tasks, *task));
+            asTask(task)->setPercent(rollup::percent(scale.calendar(), tasks, *task));
     }
     collection.updateRageAndTaskPoint();
     m_document->setModified(true);
@@ -249,9 +245,9 @@ ClipbdManager::Place ClipbdManager::placeAt(int row) const
 ClipbdManager::Place ClipbdManager::placeUnder(KWTaskInfo &parent) const
 {
     Place place;
-    const outline::Tasks tasks = tasksOf(*m_document);
+    const outline::Tasks tasks = m_document->outline();
     place.pos = tasks.index.posOf(parent.ID);
-    for (const KWTaskInfo *below : outline::descendants(tasks, parent))
+    for (const TaskRecord *below : outline::descendants(tasks, parent))
         place.pos = qMax(place.pos, tasks.index.posOf(below->ID));
     ++place.pos;
     place.level = int(qMin(qint64(parent.Level) + 1, qint64(std::numeric_limits<qint32>::max())));
@@ -336,9 +332,9 @@ bool ClipbdManager::pasteTo(const Place &place)
 
     content.giveColumns(*m_document->rowColumnData());
     m_document->insertTasks(place.pos, tasks, content.heights());
-    std::vector<KWTaskInfo *> changed;
+    std::vector<TaskRecord *> changed;
     if (isOwn) // others came without money
-        changed = branches.robbed();
+        changed.assign(branches.robbed().begin(), branches.robbed().end());
     if (place.parent) {
         joinParent(tops, place);
         changed.push_back(place.parent);
@@ -384,7 +380,7 @@ void ClipbdManager::updateSubTaskHideID(KWTaskInfo *task, quint32 oldID, quint32
 {
     if (!m_document || !task)
         return;
-    for (KWTaskInfo *below : outline::descendants(tasksOf(*m_document), *task)) {
+    for (TaskRecord *below : outline::descendants(m_document->outline(), *task)) {
         if (below->HideID == oldID)
             below->HideID = newID;
     }

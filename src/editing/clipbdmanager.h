@@ -6,6 +6,7 @@
 
 class KWDocument;
 class KWTaskInfo;
+struct TaskRecord;
 namespace clipboardxml {
 class Content;
 }
@@ -72,7 +73,7 @@ private:
     std::vector<KWTaskInfo *> numberBranches(const QList<KWTaskInfo *> &tasks, const Place &place,
                                              pasted::Branches &branches) const;
     void joinParent(const std::vector<KWTaskInfo *> &tops, const Place &place);
-    void updateSummaries(const std::vector<KWTaskInfo *> &changed);
+    void updateSummaries(const std::vector<TaskRecord *> &changed);
 
     KWDocument *m_document = nullptr;       // not owned; holds this manager by value
     KWDocument *m_sourceDocument = nullptr; // not owned

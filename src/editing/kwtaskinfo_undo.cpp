@@ -6,42 +6,39 @@
 
 namespace {
 
-// The packed members in their order: integers, doubles, strings. Behind the strings stands the font's text.
-constexpr auto packingOrder =
-    std::make_tuple(&KWTaskInfo::Priority, &KWTaskInfo::Progress, &KWTaskInfo::Start, &KWTaskInfo::Finish,
-                    &KWTaskInfo::LateStart, &KWTaskInfo::LateFinish, &KWTaskInfo::BaseStart,
-                    &KWTaskInfo::BaseFinish, &KWTaskInfo::DurationSecs, &KWTaskInfo::DurationUnits,
-                    &KWTaskInfo::Milestone, &KWTaskInfo::IsToggler, &KWTaskInfo::Level, &KWTaskInfo::ParentID,
-                    &KWTaskInfo::HideID, &KWTaskInfo::CriticalPath, &KWTaskInfo::CriticalVisible,
-
-                    &KWTaskInfo::Percent, &KWTaskInfo::Work, &KWTaskInfo::Cost, &KWTaskInfo::RemainingCost,
-                    &KWTaskInfo::CountWidth, &KWTaskInfo::FirstWidth, &KWTaskInfo::x1, &KWTaskInfo::y1,
-                    &KWTaskInfo::x2, &KWTaskInfo::y2,
-
-                    &KWTaskInfo::Name, &KWTaskInfo::Resources, &KWTaskInfo::EarlySlack,
-                    &KWTaskInfo::LateSlack, &KWTaskInfo::BaselineCost, &KWTaskInfo::Notes);
+// Stands by itself in a record, as the lists do.
+template <typename Value>
+constexpr bool isId(Value TaskRecord::*member)
+{
+    if constexpr (std::is_same_v<Value, TrackedField<quint32>>)
+        return member == &TaskRecord::ID;
+    else
+        return false;
+}
 
 // The sequence in which a member is packed.
-constexpr auto sequenceOf(QString KWTaskInfo::*)
-{
-    return &UndoItemData::strings;
-}
-
-constexpr auto sequenceOf(double KWTaskInfo::*)
-{
-    return &UndoItemData::doubles;
-}
-
 template <typename Value>
-constexpr auto sequenceOf(Value KWTaskInfo::*)
+constexpr auto sequenceOf()
 {
-    return &UndoItemData::integers;
+    if constexpr (std::is_same_v<Value, QString>)
+        return &UndoItemData::strings;
+    else if constexpr (std::is_same_v<Value, double>)
+        return &UndoItemData::doubles;
+    else
+        return &UndoItemData::integers;
 }
 
+// Calls visit(member, sequence) for the members that are packed, in the order of the table of fields.
 template <typename Visitor>
 constexpr void forEachPacked(Visitor &&visit)
 {
-    std::apply([&visit](auto... members) { (visit(members, sequenceOf(members)), ...); }, packingOrder);
+    fields::forEach(fields::taskFields, fields::Copy, [&visit](const auto &row) {
+        using Value = std::decay_t<decltype(std::declval<TaskRecord>().*row.member)>;
+        if constexpr (!std::is_same_v<Value, QList<quint32>>) {
+            if (!isId(row.member))
+                visit(row.member, sequenceOf<Value>());
+        }
+    });
 }
 
 // How many members are packed in a sequence.
@@ -55,44 +52,7 @@ constexpr int countIn(Sequence)
 
 constexpr int integerCount = countIn(&UndoItemData::integers);
 constexpr int doubleCount = countIn(&UndoItemData::doubles);
-constexpr int stringCount = countIn(&UndoItemData::strings) + 1;
-
-// ---- No saved member is forgotten -------------------------------------------------------------------------
-
-// ID and lists stand by themselves.
-template <typename Value>
-constexpr bool standsByItself(Value KWTaskInfo::*member)
-{
-    if constexpr (std::is_same_v<Value, TrackedField<quint32>>)
-        return member == &KWTaskInfo::ID;
-    else
-        return std::is_same_v<Value, QList<quint32>>;
-}
-
-template <typename Member>
-constexpr int placesOf(Member wanted)
-{
-    int places = 0;
-    forEachPacked([&](auto member, auto) {
-        if constexpr (std::is_same_v<decltype(member), Member>)
-            places += member == wanted;
-    });
-    return places;
-}
-
-constexpr bool packsEveryField()
-{
-    bool isComplete = true;
-    int fieldCount = 0;
-    fields::forEach(fields::taskFields, fields::Copy, [&](const auto &row) {
-        const int wanted = standsByItself(row.member) ? 0 : 1;
-        isComplete = isComplete && placesOf(row.member) == wanted;
-        fieldCount += wanted;
-    });
-    return isComplete && fieldCount == std::tuple_size_v<decltype(packingOrder)>;
-}
-
-static_assert(packsEveryField(), "a member of the table of task fields is missing, doubled or unknown there");
+constexpr int stringCount = countIn(&UndoItemData::strings) + 1; // behind them stands the font's text
 
 // ---- One value --------------------------------------------------------------------------------------------
 

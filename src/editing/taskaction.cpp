@@ -4,12 +4,12 @@
 #include "editing/renamebackup.h"
 #include "editing/sheetbackup.h"
 #include "editing/tasksnapshot.h"
-#include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
 #include "engine/network/linkgraph.h"
 #include "engine/record/taskindex.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "resources/costsof.h"
 #include "schedule/kwtaskcollection.h"
 #include "table/rowcolumndata.h"
 #include <optional>
@@ -122,21 +122,22 @@ void TaskAction::backupAffected(KWTaskInfo *task)
     if (!m_backups->chart)
         m_backups->chart = optionbackup::chartOf(*document());
     // What can push goes along the links and the outline, which the events of the tasks lead along.
-    const outline::Tasks tasks{document()->taskList(), document()->taskIndex()};
+    const outline::Tasks tasks = document()->outline();
     // A summary above may begin earlier than its own predecessors allow, and is pushed with all it holds.
     std::vector<int> starts = {pos};
-    for (const KWTaskInfo *ancestor : outline::ancestors(tasks, *task)) {
+    for (const TaskRecord *ancestor : outline::ancestors(tasks, *task)) {
         if (!ancestor->Predecessors.isEmpty())
             starts.push_back(tasks.index.posOf(ancestor->ID));
     }
     const linkgraph::EventNetwork network(tasks, starts);
     for (const linkgraph::EventNetwork::Node &node : network.nodes()) {
-        addChangeTaskInfo(tasks.list[node.pos]);
-        addTaskAllResources(tasks.list[node.pos]);
+        KWTaskInfo *reached = asTask(tasks.list[node.pos]);
+        addChangeTaskInfo(reached);
+        addTaskAllResources(reached);
     }
     // A link is written down at both of its ends.
     for (const quint32 id : qAsConst(task->Predecessors))
-        addChangeTaskInfo(tasks.byId(id));
+        addChangeTaskInfo(asTask(tasks.byId(id)));
 }
 
 void TaskAction::backupAllTaskData()
@@ -338,8 +339,8 @@ public:
     // else by now.
     void follow(const TaskIndex &recordedValues, bool withTexts) const
     {
-        std::vector<KWTaskInfo *> named;
-        std::vector<KWTaskInfo *> paid;
+        std::vector<TaskRecord *> named;
+        std::vector<TaskRecord *> paid;
         for (const Task &before : m_tasks) {
             KWTaskInfo &task = *before.task;
             if (recordedValues.contains(task.ID))
@@ -357,20 +358,20 @@ public:
             task.RemainingCost = cost::remaining(task);
             paid.push_back(&task);
         }
-        const outline::Tasks tasks{m_document.taskList(), m_document.taskIndex()};
-        CostPass pass(m_document);
-        const std::vector<KWTaskInfo *> namedAndAbove = outline::withAncestors(tasks, named);
+        const outline::Tasks tasks = m_document.outline();
+        CostPass pass = costsOf(m_document);
+        const std::vector<TaskRecord *> namedAndAbove = outline::withAncestors(tasks, named);
         pass.gather(namedAndAbove);
-        for (KWTaskInfo *summary : namedAndAbove) {
+        for (TaskRecord *summary : namedAndAbove) {
             if (summary->isParent())
                 CostPass::joinNames(*summary, pass.leavesBelow(*summary));
         }
-        const std::vector<KWTaskInfo *> paidAndAbove = outline::withAncestors(tasks, paid);
+        const std::vector<TaskRecord *> paidAndAbove = outline::withAncestors(tasks, paid);
         pass.gather(paidAndAbove);
-        for (KWTaskInfo *summary : paidAndAbove) {
+        for (TaskRecord *summary : paidAndAbove) {
             if (!summary->isParent())
                 continue;
-            const std::vector<KWTaskInfo *> leaves = pass.leavesBelow(*summary);
+            const std::vector<TaskRecord *> leaves = pass.leavesBelow(*summary);
             pass.sumCostAndWork(*summary, leaves);
             summary->RemainingCost = cost::remainingOfLeaves(leaves);
         }
@@ -393,7 +394,7 @@ private:
 // them. Others have texts that somebody typed.
 void namesFollow(KWDocument &document)
 {
-    std::vector<KWTaskInfo *> renamed;
+    std::vector<TaskRecord *> renamed;
     for (KWTaskInfo *task : document.taskList()) {
         if (task->isParent() || !task->isHaveResource())
             continue;
@@ -403,11 +404,11 @@ void namesFollow(KWDocument &document)
         task->Resources = text;
         renamed.push_back(task);
     }
-    CostPass pass(document);
-    const outline::Tasks tasks{document.taskList(), document.taskIndex()};
-    const std::vector<KWTaskInfo *> concerned = outline::withAncestors(tasks, renamed);
+    CostPass pass = costsOf(document);
+    const outline::Tasks tasks = document.outline();
+    const std::vector<TaskRecord *> concerned = outline::withAncestors(tasks, renamed);
     pass.gather(concerned);
-    for (KWTaskInfo *summary : concerned) {
+    for (TaskRecord *summary : concerned) {
         if (summary->isParent())
             CostPass::joinNames(*summary, pass.leavesBelow(*summary));
     }

@@ -82,7 +82,7 @@ bool isSame(const KWHyperlinkSheet &a, const KWHyperlinkSheet &b)
 template <typename Row>
 bool isDerived(const Row &row, bool isVisible)
 {
-    if constexpr (std::is_same_v<std::decay_t<decltype(row.member)>, double KWTaskInfo::*>) {
+    if constexpr (std::is_same_v<std::decay_t<decltype(row.member)>, double TaskRecord::*>) {
         if (row.member == &KWTaskInfo::FirstWidth)
             return true;
         for (const auto member :

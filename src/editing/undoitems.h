@@ -12,7 +12,7 @@
 
 // What an undoable edit keeps of the state it replaces. All of them are plain values: a copy is independent.
 
-// One task's values, packed by kind; kwtaskinfo_undo.cpp holds the order.
+// One task's values, packed by kind in the order of the table of task fields.
 class KWGANTT_EXPORT UndoItemData
 {
 public:

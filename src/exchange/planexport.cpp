@@ -9,6 +9,7 @@
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
 #include "support/xmlguard.h"
+#include "table/documenttexts.h"
 #include "table/resourcetext.h"
 #include <algorithm>
 
@@ -152,7 +153,7 @@ void Rows::collectTasks()
         int next;
         int row; // of the summary, -1 for the top
     };
-    const outline::Tasks all{m_document.taskList(), m_document.taskIndex()};
+    const outline::Tasks all = m_document.outline();
     QList<quint32> top;
     m_document.taskParentZeroIDList(top);
     std::vector<Branch> path{{&top, 0, -1}};
@@ -164,7 +165,7 @@ void Rows::collectTasks()
             path.pop_back();
             continue;
         }
-        const KWTaskInfo *task = all.byId(branch.ids->at(branch.next++));
+        const KWTaskInfo *task = asTask(all.byId(branch.ids->at(branch.next++)));
         if (!task)
             continue;
         const int row = int(m_tasks.size());
@@ -275,7 +276,8 @@ QString Rows::taskText(const KWTaskInfo &task, int type) const
         return predecessorText(task);
     // By address, since that is what an import takes each part of the text for.
     constexpr bool linkAddresses = true;
-    return celltext::ofType(m_document, task, type, {m_dateFormat, linkAddresses, &m_measures.calendar});
+    return celltext::ofType(DocumentTexts(m_document, &m_measures.calendar), task, type,
+                            {m_dateFormat, linkAddresses});
 }
 
 QString Rows::resourceText(const ResourceInfo &resource, int key) const
@@ -323,9 +325,8 @@ Cell Rows::taskCell(const KWTaskInfo &task, int type, bool withValue) const
         return cell;
     const columntypes::ColumnType &column = *columntypes::find(type);
     if (cell.value == Value::Moment)
-        cell.number = dayNumber(celltext::shownMoment(m_document, m_measures.calendar,
-                                                      columntypes::secs(task, column.field),
-                                                      column.kind == Kind::StartDate));
+        cell.number = dayNumber(celltext::shownMoment(
+            m_measures.calendar, columntypes::secs(task, column.field), column.kind == Kind::StartDate));
     else if (column.kind == Kind::NumberText)
         cell.number = columntypes::text(task, column.field).toDouble();
     else

@@ -1,5 +1,4 @@
 #include "exchange/planimport.h"
-#include "engine/cost/costpass.h"
 #include "engine/network/links.h"
 #include "engine/record/resource.h"
 #include "engine/time/duration.h"
@@ -7,7 +6,9 @@
 #include "exchange/taskdates.h"
 #include "exchange/tasksheet.h"
 #include "model/kwdocument.h"
+#include "resources/costsof.h"
 #include "resources/resourceinfodata.h"
+#include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/kwclock.h"
 #include "table/rowcolumndata.h"
@@ -134,7 +135,7 @@ public:
         if (m_plan.resources)
             replaceResources();
         assign();
-        CostPass(m_document).sumUp();
+        costsOf(m_document).sumUp();
         m_document.taskCollection()->updateRageAndTaskPoint();
         m_document.setModified(true);
     }
@@ -248,7 +249,7 @@ private:
 
     void setDates()
     {
-        using Place = std::pair<staged::MomentField, quint32 KWTaskInfo::*>;
+        using Place = std::pair<staged::MomentField, quint32 TaskRecord::*>;
         constexpr Place others[] = {{staged::LateStart, &KWTaskInfo::LateStart},
                                     {staged::LateFinish, &KWTaskInfo::LateFinish},
                                     {staged::BaseStart, &KWTaskInfo::BaseStart},
@@ -383,7 +384,7 @@ private:
             links.append(link);
         }
         m_imported.refusedLinks = m_plan.refusedLinks;
-        m_imported.links = links::insertAll({m_document.taskList(), m_document.taskIndex()}, links);
+        m_imported.links = links::insertAll(m_document.outline(), links);
         for (int i = 0; i < links.size(); ++i) {
             if (links[i].refusal != LinkRefusal::None)
                 tellRefusal(links[i], m_plan.links[std::size_t(i)]);

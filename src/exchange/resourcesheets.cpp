@@ -42,7 +42,7 @@ ResourceSheet::ResourceSheet(const ResourceInfoData &texts, const sheetrows::Rea
                              Findings *findings, const QString &name)
     : Reader(exceltitles::ResourceSheet, reading, findings, name)
     , m_texts(texts)
-    , m_names({})
+    , m_names(QVector<ResourceInfo *>())
 {
 }
 

@@ -4,6 +4,7 @@
 #include "engine/record/resource.h"
 #include "engine/record/resourcefields.h"
 #include "engine/record/taskfields.h"
+#include "engine/record/taskrecord.h"
 #include "model/kwdocument.h"
 #include <QHash>
 #include <cstring>
@@ -41,7 +42,7 @@ public:
         for (const quint32 id : ids)
             add(quint64(id));
     }
-    void add(const KWTaskInfo &task)
+    void add(const TaskRecord &task)
     {
         addFields(fields::taskFields, task);
         add(quint64(task.resourceList.size()));
@@ -60,14 +61,14 @@ private:
     quint64 m_value = 1;
 };
 
-std::vector<KWTaskInfo *> reached(KWDocument *document, KWTaskInfo *task, ChangeWatch::Reach reach)
+std::vector<TaskRecord *> reached(KWDocument *document, TaskRecord *task, ChangeWatch::Reach reach)
 {
     if (!document || document->isModified() || !task)
         return {};
-    std::vector<KWTaskInfo *> tasks = {task};
+    std::vector<TaskRecord *> tasks = {task};
     if (reach == ChangeWatch::WithSummaries) {
-        const outline::Tasks all{document->taskList(), document->taskIndex()};
-        for (KWTaskInfo *summary : outline::ancestors(all, *task))
+        const outline::Tasks all = document->outline();
+        for (TaskRecord *summary : outline::ancestors(all, *task))
             tasks.push_back(summary);
     }
     return tasks;
@@ -81,12 +82,12 @@ ChangeWatch::ChangeWatch(KWDocument *document)
 {
 }
 
-ChangeWatch::ChangeWatch(KWDocument *document, KWTaskInfo *task, Reach reach)
+ChangeWatch::ChangeWatch(KWDocument *document, TaskRecord *task, Reach reach)
     : ChangeWatch(document, reached(document, task, reach))
 {
 }
 
-ChangeWatch::ChangeWatch(KWDocument *document, std::vector<KWTaskInfo *> tasks)
+ChangeWatch::ChangeWatch(KWDocument *document, std::vector<TaskRecord *> tasks)
     : m_document(document && !document->isModified() ? document : nullptr)
     , m_tasks(std::move(tasks))
     , m_before(digest())
@@ -103,10 +104,10 @@ quint64 ChangeWatch::digest() const
 {
     Digest digest;
     if (m_document && m_isWhole) {
-        for (const KWTaskInfo *task : m_document->taskList())
+        for (const TaskRecord *task : m_document->outline().list)
             digest.add(*task);
     } else if (m_document) {
-        for (const KWTaskInfo *task : m_tasks)
+        for (const TaskRecord *task : m_tasks)
             digest.add(*task);
     }
     return digest.value();

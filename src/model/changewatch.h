@@ -3,7 +3,7 @@
 #include <vector>
 
 class KWDocument;
-class KWTaskInfo;
+struct TaskRecord;
 
 // Sets a document's modified flag when files would hold other values of its tasks by the end of the watch.
 // While the flag is set nothing is looked at: only the first edit of a saved plan pays for the look.
@@ -17,8 +17,8 @@ public:
 
     // Null: no watch. The tasks must outlive it.
     explicit ChangeWatch(KWDocument *document); // all tasks
-    ChangeWatch(KWDocument *document, KWTaskInfo *task, Reach reach);
-    ChangeWatch(KWDocument *document, std::vector<KWTaskInfo *> tasks);
+    ChangeWatch(KWDocument *document, TaskRecord *task, Reach reach);
+    ChangeWatch(KWDocument *document, std::vector<TaskRecord *> tasks);
     ~ChangeWatch();
     ChangeWatch(const ChangeWatch &) = delete;
     ChangeWatch &operator=(const ChangeWatch &) = delete;
@@ -28,6 +28,6 @@ private:
 
     KWDocument *m_document = nullptr; // null: not watching
     bool m_isWhole = false;
-    std::vector<KWTaskInfo *> m_tasks;
+    std::vector<TaskRecord *> m_tasks;
     quint64 m_before = 0;
 };

@@ -62,7 +62,7 @@ void KWDocument::clearCalendar()
 
 const worktime::WorkCalendar &KWDocument::workCalendar() const
 {
-    return m_caches->calendar.get({WorkDay, workTimes, calendars, s_isOldVersion});
+    return m_caches->calendar.get({WorkDay, workTimes, {calendars.begin(), calendars.end()}, s_isOldVersion});
 }
 
 // ---- The task list ----------------------------------------------------------------------------------------

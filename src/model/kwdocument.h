@@ -24,6 +24,9 @@ class KWTaskInfo;
 class ResourceInfoData;
 class RowColumnData;
 class TaskIndex;
+namespace outline {
+struct Tasks;
+}
 namespace worktime {
 class WorkCalendar;
 }
@@ -82,7 +85,7 @@ public:
     void initThemeColor();
     const QList<ThemeColor> &themeColors() const { return m_themeColors; }
     const ThemeColor &chosenTheme() const; // without colours when the document has no theme at all
-    QColor themeColor(int index) const; // colour of the chosen theme; invalid outside 0..11
+    QColor themeColor(int index) const;    // colour of the chosen theme; invalid outside 0..11
     static const QStringList &themeColorNames();
 
     // ---- The task list ------------------------------------------------------------------------------------
@@ -131,6 +134,8 @@ public:
     void taskParentZeroIDList(QList<quint32> &ids) const;
     // Index of the list as it stands. The reference stays good, the content until the list or an ID changes.
     const TaskIndex &taskIndex() const;
+    // The list with its index, for walks over the outline. Good for as long as the index.
+    outline::Tasks outline() const;
 
     // ---- Editing the outline (model/kwdocument_outline.cpp) -----------------------------------------------
     // Each works on the task shown at the row and does nothing when there is none. Row heights, links, dates,

@@ -1,5 +1,5 @@
 #pragma once
-#include "engine/record/taskindex.h"
+#include "engine/record/outline.h"
 #include "engine/time/calendarcache.h"
 #include "model/kwdocument.h"
 #include <vector>
@@ -12,7 +12,7 @@ struct KWDocument::Caches
 
     // By ID.
     TaskIndex index;
-    int indexed = 0;
+    QList<TaskRecord *> records; // the tasks that are indexed, in list order
     quint64 indexedAt = 0;
     quint32 maxId = 0;
     quint32 lowestFreeId = 1; // every smaller ID is taken

@@ -13,14 +13,15 @@ KWDocument::Caches &KWDocument::withIndex() const
     Caches &caches = *m_caches;
     if (caches.indexedAt != m_idRevision) {
         caches.index.clear();
-        caches.indexed = 0;
+        caches.records.clear();
         caches.maxId = 0;
         caches.lowestFreeId = 1;
         caches.indexedAt = m_idRevision;
     }
-    for (; caches.indexed < m_tasks.size(); ++caches.indexed) {
-        KWTaskInfo *task = m_tasks[caches.indexed];
-        caches.index.add(task->ID, caches.indexed);
+    for (int pos = caches.records.size(); pos < m_tasks.size(); ++pos) {
+        KWTaskInfo *task = m_tasks[pos];
+        caches.index.add(task->ID, pos);
+        caches.records.append(task);
         caches.maxId = qMax(caches.maxId, task->ID.value());
         // Only an ID that the table knows can make it wrong.
         task->ID.attach(&m_idRevision);
@@ -49,6 +50,12 @@ KWDocument::Caches &KWDocument::withRows() const
 const TaskIndex &KWDocument::taskIndex() const
 {
     return withIndex().index;
+}
+
+outline::Tasks KWDocument::outline() const
+{
+    const Caches &caches = withIndex();
+    return {caches.records, caches.index};
 }
 
 // ---- Tasks ------------------------------------------------------------------------------------------------

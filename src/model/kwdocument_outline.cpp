@@ -1,10 +1,10 @@
 // Editing the outline: new tasks, one level in or out, places among siblings, removal.
 #include "engine/cost/cost.h"
-#include "engine/cost/costpass.h"
 #include "engine/record/outline.h"
 #include "engine/time/localclock.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "resources/costsof.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/kwclock.h"
 #include "table/rowcolumndata.h"
@@ -28,15 +28,10 @@ bool lastsADayAtMost(const KWTaskInfo &task)
 }
 
 // Levels come from files as they like; they stop at the ends of their type.
-void addToLevel(KWTaskInfo &task, int levels)
+void addToLevel(TaskRecord &task, int levels)
 {
     task.Level = qint32(qBound(qint64(std::numeric_limits<qint32>::min()), qint64(task.Level) + levels,
                                qint64(std::numeric_limits<qint32>::max())));
-}
-
-outline::Tasks tasksOf(const KWDocument &document)
-{
-    return {document.taskList(), document.taskIndex()};
 }
 
 KWTaskInfo *parentOf(const KWDocument &document, const KWTaskInfo &task)
@@ -189,10 +184,10 @@ bool KWDocument::indentTaskByRow(int row)
     if (!parent || parent == task)
         return false;
 
-    const std::vector<KWTaskInfo *> below = outline::descendants(tasksOf(*this), *task);
+    const std::vector<TaskRecord *> below = outline::descendants(outline(), *task);
     task->ParentID = parent->ID;
     addToLevel(*task, 1);
-    for (KWTaskInfo *descendant : below)
+    for (TaskRecord *descendant : below)
         addToLevel(*descendant, 1);
     // Kept on purpose: a top-level task stays visible under a collapsed one.
     if (oldParent) {
@@ -203,7 +198,7 @@ bool KWDocument::indentTaskByRow(int row)
     parent->font.setWeight(QFont::Bold);
     // What a collapsed summary inside hides already stays its own.
     if (task->HideID != 0 && !task->IsToggler) {
-        for (KWTaskInfo *descendant : below) {
+        for (TaskRecord *descendant : below) {
             if (descendant->HideID == 0)
                 descendant->HideID = task->HideID;
         }
@@ -235,7 +230,7 @@ void KWDocument::relinkOutdented(const std::vector<KWTaskInfo *> &children, KWTa
                                  KWTaskInfo &parent)
 {
     TaskIndex ids;
-    std::vector<KWTaskInfo *> followers;
+    std::vector<TaskRecord *> followers;
     for (KWTaskInfo *child : children) {
         ids.add(child->ID);
         if (child != &task) {
@@ -243,7 +238,7 @@ void KWDocument::relinkOutdented(const std::vector<KWTaskInfo *> &children, KWTa
             followers.push_back(child);
         }
     }
-    outline::addChilds(tasksOf(*this), task, followers);
+    outline::addChilds(outline(), task, followers);
     outline::removeChilds(parent, ids);
     if (!ids.contains(task.ID))
         return;
@@ -272,7 +267,7 @@ bool KWDocument::upgradeChildTaskByRow(int row)
     // A damaged file may hold a child that its parent does not name.
     if (std::find(leaving.begin(), leaving.end(), task) == leaving.end())
         return false;
-    for (KWTaskInfo *descendant : outline::descendants(tasksOf(*this), *task))
+    for (TaskRecord *descendant : outline::descendants(outline(), *task))
         addToLevel(*descendant, -1);
     for (KWTaskInfo *child : leaving) {
         if (!child->BaselineCost.isEmpty())
@@ -287,7 +282,7 @@ bool KWDocument::upgradeChildTaskByRow(int row)
 
     // A task that was hidden below the old parent would stay so for ever: nothing above it shows it again.
     bool isShown = false;
-    for (KWTaskInfo *descendant : outline::descendants(tasksOf(*this), *task)) {
+    for (TaskRecord *descendant : outline::descendants(outline(), *task)) {
         if (descendant->HideID == parent->ID) {
             descendant->HideID = task->IsToggler ? task->ID.value() : 0;
             isShown = true;
@@ -306,7 +301,7 @@ bool KWDocument::upgradeChildTaskByRow(int row)
     updateCostsFrom(parent);
     if (isShown)
         m_taskCollection->updateTaskPoint();
-    if (!hasChild(tasksOf(*this), *parent))
+    if (!hasChild(outline(), *parent))
         parent->font.setWeight(QFont::Normal);
     if (task->isParent())
         task->font.setWeight(QFont::Bold);
@@ -377,7 +372,7 @@ int KWDocument::moveTaskInfo(KWTaskInfo *task, int from, int to)
         if (fromChild >= 0 && toChild >= 0)
             parent->Childs.move(fromChild, toChild);
     }
-    const int below = int(outline::descendants(tasksOf(*this), *task).size());
+    const int below = int(outline::descendants(outline(), *task).size());
     outline::moveEntries(m_tasks, from, to, below + 1);
     m_rowColumnData->moveRowHeights(from, to, below + 1);
     listChanged();
@@ -394,16 +389,16 @@ bool KWDocument::removeTaskByRow(int row)
     KWTaskInfo *parent = parentOf(*this, *task);
     if (parent == task)
         parent = nullptr;
-    std::vector<KWTaskInfo *> leaving{task};
-    const outline::Tasks tasks = tasksOf(*this);
+    std::vector<TaskRecord *> leaving{task};
+    const outline::Tasks tasks = outline();
     if (task->IsToggler) {
-        const std::vector<KWTaskInfo *> below = outline::descendants(tasks, *task);
+        const std::vector<TaskRecord *> below = outline::descendants(tasks, *task);
         leaving.insert(leaving.end(), below.begin(), below.end());
     } else {
         // Kept on purpose: deeper descendants keep their levels.
-        std::vector<KWTaskInfo *> children;
+        std::vector<TaskRecord *> children;
         for (const quint32 id : qAsConst(task->Childs)) {
-            KWTaskInfo *child = tasks.byId(id);
+            TaskRecord *child = tasks.byId(id);
             if (!child || child == task)
                 continue;
             child->Level = task->Level;
@@ -414,7 +409,7 @@ bool KWDocument::removeTaskByRow(int row)
             outline::addChilds(tasks, *parent, children);
     }
     TaskIndex leavingIds;
-    for (const KWTaskInfo *gone : leaving)
+    for (const TaskRecord *gone : leaving)
         leavingIds.add(gone->ID);
     outline::cutLinks(tasks, leaving, leavingIds);
 
@@ -471,7 +466,7 @@ void KWDocument::removeTasks(const TaskIndex &ids)
 void KWDocument::updateCostsFrom(KWTaskInfo *task)
 {
     if (task)
-        CostPass(*this).sumFrom({task});
+        costsOf(*this).sumFrom({task});
 }
 
 // ---- Copies -----------------------------------------------------------------------------------------------

@@ -1,3 +1,4 @@
+#include "engine/time/duration.h"
 #include "model/kwdocument.h"
 #include <QFontMetricsF>
 #include <QTextBlock>
@@ -92,12 +93,9 @@ QMap<unsigned int, QString> KWDocument::s_longUnitNames{
 
 QString KWDocument::getNameByMinorUnit(unsigned int unit, bool longName)
 {
-    static const QString shortNames[] = {QStringLiteral("y"),  QStringLiteral("q"), QStringLiteral("mon"),
-                                         QStringLiteral("w"),  QStringLiteral("d"), QStringLiteral("h"),
-                                         QStringLiteral("min")};
-    if (unit >= std::size(shortNames))
+    if (unit >= duration::unitCount)
         return QString();
-    return longName ? s_longUnitNames.value(unit) : shortNames[unit];
+    return longName ? s_longUnitNames.value(unit) : QString::fromLatin1(duration::shortUnitName(unit));
 }
 
 double KWDocument::getTextWidth(const QString &text, const QFont &font)

@@ -3,6 +3,7 @@
 #include "model/kwtaskinfo.h"
 #include "engine/record/idlist.h"
 #include "engine/record/resource.h"
+#include "engine/record/rowfont.h"
 #include "engine/record/taskfields.h"
 #include "engine/time/duration.h"
 #include "model/changewatch.h"
@@ -10,11 +11,9 @@
 #include "model/kwtaskinfo_xml.h"
 #include "support/xmlsink.h"
 #include "support/xmlsource.h"
-#include <QCoreApplication>
 #include <QStringList>
 #include <array>
 #include <cmath>
-#include <optional>
 
 bool KWTaskInfo::s_isSetTime = false;
 
@@ -23,6 +22,7 @@ bool KWTaskInfo::s_isSetTime = false;
 KWTaskInfo::KWTaskInfo() = default;
 
 KWTaskInfo::KWTaskInfo(const KWTaskInfo &other)
+    : TaskRecord()
 {
     *this = other;
 }
@@ -185,48 +185,9 @@ QString KWTaskInfo::getHyperlinksContent(bool addresses) const
     return hyperlinks.content(addresses);
 }
 
-namespace {
-
-// The row font in both weights. Tasks share these two, a font of its own for each of 100,000 tasks costs
-// memory and a font engine each. Made again when the application's font has changed.
-struct RowFonts
-{
-    QFont applicationFont;
-    QFont plain;
-    QFont bold;
-
-    explicit RowFonts(const QFont &base)
-        : applicationFont(base)
-        , plain(base)
-    {
-        plain.setPointSize(9);
-        plain.setItalic(false);
-        plain.setUnderline(false);
-        plain.setStrikeOut(false);
-        plain.setWeight(QFont::Normal);
-        bold = plain;
-        bold.setWeight(QFont::Bold);
-    }
-};
-
-std::optional<RowFonts> rowFonts;
-
-// Fonts must not outlive the application object.
-void dropRowFonts()
-{
-    rowFonts.reset();
-}
-}
-
 void KWTaskInfo::initFont()
 {
-    const QFont applicationFont;
-    if (!rowFonts || !(rowFonts->applicationFont == applicationFont)) {
-        if (!rowFonts)
-            qAddPostRoutine(dropRowFonts);
-        rowFonts.emplace(applicationFont);
-    }
-    font = isParent() ? rowFonts->bold : rowFonts->plain;
+    rowfont::set(*this);
 }
 
 void KWTaskInfo::move(int dx)

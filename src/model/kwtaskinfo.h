@@ -1,67 +1,24 @@
 #pragma once
 #include "editing/kwhyperlink.h"
-#include "engine/record/trackedfield.h"
+#include "engine/record/taskrecord.h"
 #include "kwgantt_export.h"
 #include <QDateTime>
 #include <QDomElement>
-#include <QFont>
-#include <QList>
 #include <QPair>
-#include <QString>
 #include <QStringList>
 #include <QTime>
 
 class KWDocument;
-class Resource;
 class UndoItemData;
 
 // One task: a row of the task table and a bar of the chart.
 //
 // Times are unsigned seconds since 1970-01-01 00:00 UTC on the day clock; 0 means not set and a finish is
 // exclusive. Tasks refer to each other by ID only. The owner is the document's task list.
-class KWGANTT_EXPORT KWTaskInfo
+class KWGANTT_EXPORT KWTaskInfo : public TaskRecord
 {
 public:
-    // ---- Fields -------------------------------------------------------------------------------------------
-    // What schedules and roll-ups read stands first, close together: at 100,000 tasks the records are many
-    // times the size of the processor's cache, and each line of it that a pass need not fetch counts.
-    TrackedField<quint32> ID;     // unique in the document; 0 = none
-    TrackedField<quint32> HideID; // the collapsed ancestor that hides this task; 0 = visible
-    quint32 ParentID = 0;         // 0 = top level
-    qint32 Level = 1;             // 1 = top level
-    quint32 Start = 0;
-    quint32 Finish = 0;
-    quint32 DurationSecs = 0;  // working seconds, see duration::secs
-    quint32 DurationUnits = 4; // 0 year, 1 quarter, 2 month, 3 week, 4 day, 5 hour, 6 minute
-    QList<quint32> Childs;     // direct children
-    QList<quint32> Depends;    // successors
-    QList<quint32> Predecessors;
-    double Percent = 0.0; // fraction 0..1
-    bool Milestone = false;
-    bool IsToggler = false; // this summary is collapsed
-    bool CriticalPath = false;
-    bool CriticalVisible = true; // carried by copies; nothing in the library depends on it
-    bool Linked = false;         // linked to the active task; neither saved nor copied
-    quint32 LateStart = 0;
-    quint32 LateFinish = 0;
-    double x1 = 0, y1 = 0, x2 = 0, y2 = 0; // bar, in chart pixels
-    double CountWidth = 0;                 // pixels: the bar's width
-    double FirstWidth = 0;                 // pixels: the finished part of it
-    QList<Resource *> resourceList;        // each entry is one use of the record, see Resource
-    double Cost = 0;
-    double Work = 0;
-    double RemainingCost = 0;
-    QString Resources; // the assigned resources' names as shown
-    QString Name;
-    QString EarlySlack;
-    QString LateSlack;
-    qint32 Priority = 0;
-    qint32 Progress = 0;
-    quint32 BaseStart = 0;
-    quint32 BaseFinish = 0;
-    QString BaselineCost;
-    QString Notes;
-    QFont font;
+    // The fields of the task itself are those of the record.
     KWHyperlinkSheet hyperlinks;
 
     // While set, moves and stretches on a day-based scale do not snap to the chart's grid.
@@ -75,7 +32,6 @@ public:
     void assign(const KWTaskInfo &other);           // as operator= without the bar and its widths
     void clear();
     bool isEmpty() const;
-    bool isParent() const { return !Childs.isEmpty(); }
     static QString unitString(unsigned int unit);
 
     // ---- XML (model/kwtaskinfo.cpp) -----------------------------------------------------------------------
@@ -202,7 +158,6 @@ public:
     // list leaves costs and names to the caller.
     Resource *getResourceAt(int index) const; // null outside the list
     Resource *getResourceByName(const QString &name) const;
-    bool isHaveResource() const { return !resourceList.isEmpty(); }
     static bool isResourceContains(const QList<Resource *> &resources, const Resource *resource);
     bool isActiveTaskResource(const QString &name) const { return getResourceByName(name) != nullptr; }
     bool isSubHaveResource(KWDocument *document) const; // this task or any below it
@@ -258,3 +213,13 @@ private:
     void copyOwned(const KWTaskInfo &other); // hyperlinks, and shared uses of the assignments
     int m_places = 0;                        // how often the owning document's list holds this record
 };
+
+// Every record in a document's list is a task.
+inline KWTaskInfo *asTask(TaskRecord *record)
+{
+    return static_cast<KWTaskInfo *>(record);
+}
+inline const KWTaskInfo *asTask(const TaskRecord *record)
+{
+    return static_cast<const KWTaskInfo *>(record);
+}

@@ -1,9 +1,9 @@
 #include "resources/assignmentbatch.h"
-#include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
 #include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "resources/costsof.h"
 #include "resources/resourceinfodata.h"
 #include <QHash>
 #include <QSet>
@@ -17,7 +17,7 @@ struct AssignmentBatch::Private
 
     explicit Private(KWDocument &of)
         : document(of)
-        , pass(of)
+        , pass(costsOf(of))
     {
         for (const ResourceInfo *info : qAsConst(document.resourceInfoData()->infos)) {
             const QString name = info ? info->name.trimmed() : QString();
@@ -65,18 +65,18 @@ void AssignmentBatch::finish()
         return;
     m_private->document.setModified(true);
     const CostPass &pass = m_private->pass;
-    QSet<KWTaskInfo *> summaries;
+    QSet<TaskRecord *> summaries;
     for (KWTaskInfo *task : qAsConst(m_private->named)) {
         if (task->isParent())
             summaries.insert(task);
         else
             task->Resources = names::ofAssignments(*task);
-        for (KWTaskInfo *ancestor : pass.above(*task)) {
+        for (TaskRecord *ancestor : pass.above(*task)) {
             if (ancestor->isParent())
                 summaries.insert(ancestor);
         }
     }
-    for (KWTaskInfo *summary : qAsConst(summaries))
+    for (TaskRecord *summary : qAsConst(summaries))
         CostPass::joinNames(*summary, pass.below(*summary));
     m_private->named.clear();
 }

@@ -1,16 +1,17 @@
 // Names, costs and work of all tasks.
-#include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
+#include "engine/record/assignments.h"
 #include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "resources/costsof.h"
 
 void KWDocument::updateResourcesName()
 {
     const ChangeWatch watch(this);
     if (!m_taskCollection)
         return;
-    CostPass pass(*this);
+    CostPass pass = costsOf(*this);
     pass.gather();
     // Leaves first, then each summary once: one after the other every leaf would rebuild all its ancestors.
     for (KWTaskInfo *task : taskList()) {
@@ -28,7 +29,7 @@ void KWDocument::updateCostCompletCostWork()
     const ChangeWatch watch(this);
     if (!m_taskCollection)
         return;
-    CostPass pass(*this);
+    CostPass pass = costsOf(*this);
     pass.gather();
     for (KWTaskInfo *task : taskList())
         pass.updateRemainCost(*task);
@@ -40,7 +41,7 @@ void KWDocument::basisSubUpdateFromSomeColumn()
     const ChangeWatch watch(this);
     if (!m_taskCollection)
         return;
-    CostPass pass(*this);
+    CostPass pass = costsOf(*this);
     pass.gather();
     for (KWTaskInfo *task : taskList()) {
         if (task->isParent())
@@ -53,8 +54,8 @@ void KWDocument::replaceTaskResourceName(const QString &oldName, const QString &
     const ChangeWatch watch(this);
     if (!m_taskCollection || oldName.isEmpty() || newName.isEmpty())
         return;
-    const CostPass pass(*this);
-    QSet<const KWTaskInfo *> changed;
+    const CostPass pass = costsOf(*this);
+    QSet<const TaskRecord *> changed;
     for (KWTaskInfo *task : taskList()) {
         if (!pass.rename(*task, oldName, newName))
             continue;
@@ -63,11 +64,11 @@ void KWDocument::replaceTaskResourceName(const QString &oldName, const QString &
             task->Resources = names::ofAssignments(*task);
         else
             task->clearResources();
-        for (KWTaskInfo *ancestor : pass.above(*task)) {
+        for (TaskRecord *ancestor : pass.above(*task)) {
             if (!ancestor->isParent())
                 continue;
             // Now, since the pass may come to it later: a summary's own assignments are not renamed.
-            ancestor->clearResources();
+            assignments::clear(ancestor->resourceList);
             changed.insert(ancestor);
         }
     }
@@ -79,7 +80,7 @@ void KWDocument::replaceTaskResourceName(const QString &oldName, const QString &
 
 namespace {
 
-template <double KWTaskInfo::*member>
+template <double TaskRecord::*member>
 double topLevelSum(const QList<KWTaskInfo *> &tasks)
 {
     double sum = 0;

@@ -1,11 +1,12 @@
 // A task's assignments and the text that names them.
 #include "engine/cost/cost.h"
-#include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
+#include "engine/record/assignments.h"
 #include "engine/record/resource.h"
 #include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "resources/costsof.h"
 #include "resources/resourceinfodata.h"
 #include <algorithm>
 
@@ -18,12 +19,7 @@ Resource *KWTaskInfo::getResourceAt(int index) const
 
 Resource *KWTaskInfo::getResourceByName(const QString &name) const
 {
-    const QString trimmed = name.trimmed();
-    for (Resource *resource : resourceList) {
-        if (resource->name.trimmed() == trimmed)
-            return resource;
-    }
-    return nullptr;
+    return assignments::byName(resourceList, name);
 }
 
 bool KWTaskInfo::isResourceContains(const QList<Resource *> &resources, const Resource *resource)
@@ -35,9 +31,9 @@ bool KWTaskInfo::isSubHaveResource(KWDocument *document) const
 {
     if (!document)
         return false;
-    return isHaveResource() ||
-           outline::anyDescendant({document->taskList(), document->taskIndex()}, *this,
-                                  [](const KWTaskInfo *task) { return task->isHaveResource(); });
+    return isHaveResource() || outline::anyDescendant(document->outline(), *this, [](const TaskRecord *task) {
+               return task->isHaveResource();
+           });
 }
 
 void KWTaskInfo::allSubTaskResourceList(KWDocument *document,
@@ -45,11 +41,11 @@ void KWTaskInfo::allSubTaskResourceList(KWDocument *document,
 {
     if (!document)
         return;
-    for (KWTaskInfo *task : outline::descendants({document->taskList(), document->taskIndex()}, *this)) {
+    for (TaskRecord *task : outline::descendants(document->outline(), *this)) {
         if (task->isParent())
             continue;
         for (Resource *resource : qAsConst(task->resourceList))
-            assignments.append({task, resource});
+            assignments.append({asTask(task), resource});
     }
 }
 
@@ -63,9 +59,7 @@ void KWTaskInfo::deleteResourceByID(int id)
 
 void KWTaskInfo::clearResources()
 {
-    for (Resource *resource : qAsConst(resourceList))
-        Resource::release(resource);
-    resourceList.clear();
+    assignments::clear(resourceList);
 }
 
 QList<Resource *> KWTaskInfo::cloneResources() const
@@ -76,10 +70,8 @@ QList<Resource *> KWTaskInfo::cloneResources() const
 void KWTaskInfo::updateResourceWorkSecs(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::Alone);
-    if (!document)
-        return;
-    for (Resource *resource : qAsConst(resourceList))
-        resource->workSecs = cost::workSecs(*this, *resource);
+    if (document)
+        cost::updateWorkSecs(*this);
 }
 
 void KWTaskInfo::addOrDelResourceByName(KWDocument *document, const QString &name, bool add)
@@ -87,7 +79,7 @@ void KWTaskInfo::addOrDelResourceByName(KWDocument *document, const QString &nam
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection() || !document->resourceInfoData() || name.isEmpty())
         return;
-    const CostPass pass(*document);
+    const CostPass pass = costsOf(*document);
     // A summary's names follow from the tasks below it; an assignment of its own would be a cost that nobody
     // sees.
     if (!(add && isParent())) {
@@ -108,14 +100,14 @@ void KWTaskInfo::updateResourceName(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
-        CostPass(*document).updateResourceName(*this);
+        costsOf(*document).updateResourceName(*this);
 }
 
 void KWTaskInfo::basisSubUpdateResourceName(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
-        CostPass::joinNames(*this, CostPass(*document).below(*this));
+        CostPass::joinNames(*this, costsOf(*document).below(*this));
 }
 
 void KWTaskInfo::subTaskResourceName(KWDocument *document, QStringList &names) const
@@ -126,21 +118,21 @@ void KWTaskInfo::subTaskResourceName(KWDocument *document, QStringList &names) c
     for (const QString &name : qAsConst(names))
         distinct.add(name);
     const int known = distinct.list().size();
-    distinct.addLeaves(CostPass(*document).below(*this));
+    distinct.addLeaves(costsOf(*document).below(*this));
     names += distinct.list().mid(known);
 }
 
 namespace {
 
 // The tasks below a summary without one branch.
-std::vector<KWTaskInfo *> otherBranches(const CostPass &pass, const KWTaskInfo &summary, KWTaskInfo &left)
+std::vector<TaskRecord *> otherBranches(const CostPass &pass, const TaskRecord &summary, TaskRecord &left)
 {
-    std::vector<KWTaskInfo *> below = pass.below(summary);
-    QSet<const KWTaskInfo *> leaving{&left};
-    for (const KWTaskInfo *task : pass.below(left))
+    std::vector<TaskRecord *> below = pass.below(summary);
+    QSet<const TaskRecord *> leaving{&left};
+    for (const TaskRecord *task : pass.below(left))
         leaving.insert(task);
     below.erase(std::remove_if(below.begin(), below.end(),
-                               [&leaving](const KWTaskInfo *task) { return leaving.contains(task); }),
+                               [&leaving](const TaskRecord *task) { return leaving.contains(task); }),
                 below.end());
     return below;
 }
@@ -151,12 +143,12 @@ void KWTaskInfo::updateParentResources(KWDocument *document, bool own)
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection())
         return;
-    const CostPass pass(*document);
+    const CostPass pass = costsOf(*document);
     if (own) {
         pass.joinAncestorNames(*this);
         return;
     }
-    for (KWTaskInfo *ancestor : pass.above(*this)) {
+    for (TaskRecord *ancestor : pass.above(*this)) {
         if (ancestor->isParent())
             CostPass::joinNames(*ancestor, otherBranches(pass, *ancestor, *this));
     }
@@ -170,7 +162,7 @@ void KWTaskInfo::outdentUpateParentResources(KWDocument *document)
     KWTaskInfo *parent = document->getTaskInfoByID(ParentID);
     if (!parent || parent == this || !parent->isParent())
         return;
-    const CostPass pass(*document);
+    const CostPass pass = costsOf(*document);
     CostPass::joinNames(*parent, otherBranches(pass, *parent, *this));
 }
 
@@ -179,7 +171,7 @@ void KWTaskInfo::replaceResourceName(KWDocument *document, const QString &oldNam
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection() || oldName.isEmpty() || newName.isEmpty())
         return;
-    const CostPass pass(*document);
+    const CostPass pass = costsOf(*document);
     if (pass.rename(*this, oldName, newName))
         pass.updateResourceName(*this);
 }

@@ -1,9 +1,9 @@
 // Cost, work and remaining cost of a task and of the summaries above it.
-#include "engine/cost/costpass.h"
 #include "engine/record/resource.h"
 #include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "resources/costsof.h"
 
 // ---- One assignment ---------------------------------------------------------------------------------------
 
@@ -14,12 +14,12 @@ double KWTaskInfo::resourceWork(KWDocument *document, const Resource *resource) 
 
 double KWTaskInfo::transforHourWork(KWDocument *document, double work) const
 {
-    return document && work != 0 ? cost::toHours(CostPass(*document).measures(), work, DurationUnits) : work;
+    return document && work != 0 ? cost::toHours(costsOf(*document).measures(), work, DurationUnits) : work;
 }
 
 double KWTaskInfo::resourceCost(KWDocument *document, const Resource *resource) const
 {
-    return document && resource ? cost::ofAssignment(CostPass(*document).measures(), *this, *resource) : 0.0;
+    return document && resource ? cost::ofAssignment(costsOf(*document).measures(), *this, *resource) : 0.0;
 }
 
 // ---- The task and its ancestors ---------------------------------------------------------------------------
@@ -28,14 +28,14 @@ void KWTaskInfo::updateCostAndWork(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
-        CostPass(*document).updateCostAndWork(*this);
+        costsOf(*document).updateCostAndWork(*this);
 }
 
 void KWTaskInfo::updateRemainCost(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
-        CostPass(*document).updateRemainCost(*this);
+        costsOf(*document).updateRemainCost(*this);
 }
 
 void KWTaskInfo::updateParentCostAndWork(KWDocument *document, double costChange, double workChange,
@@ -43,7 +43,7 @@ void KWTaskInfo::updateParentCostAndWork(KWDocument *document, double costChange
 {
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
-        CostPass(*document).updateParentCostAndWork(*this, costChange, workChange, force);
+        costsOf(*document).updateParentCostAndWork(*this, costChange, workChange, force);
 }
 
 void KWTaskInfo::updateParentCompletCost(KWDocument *document, double change)
@@ -51,7 +51,7 @@ void KWTaskInfo::updateParentCompletCost(KWDocument *document, double change)
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection())
         return;
-    for (KWTaskInfo *ancestor : outline::ancestors({document->taskList(), document->taskIndex()}, *this))
+    for (TaskRecord *ancestor : outline::ancestors(document->outline(), *this))
         ancestor->RemainingCost += change;
 }
 
@@ -60,7 +60,7 @@ void KWTaskInfo::updateParentStrBaseCost(KWDocument *document, double change)
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (!document || !document->taskCollection())
         return;
-    for (KWTaskInfo *ancestor : outline::ancestors({document->taskList(), document->taskIndex()}, *this))
+    for (TaskRecord *ancestor : outline::ancestors(document->outline(), *this))
         ancestor->BaselineCost = cost::baselineText(cost::baselineValue(ancestor->BaselineCost) + change);
 }
 
@@ -86,7 +86,7 @@ void KWTaskInfo::basisSubUpdateCostAndWork(KWDocument *document)
     const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (!document || !document->taskCollection() || !isParent())
         return;
-    const CostPass pass(*document);
+    const CostPass pass = costsOf(*document);
     pass.sumCostAndWork(*this, pass.below(*this));
 }
 
@@ -94,19 +94,19 @@ void KWTaskInfo::basisSubUpdateCompletCost(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
-        RemainingCost = cost::remainingOfLeaves(CostPass(*document).below(*this));
+        RemainingCost = cost::remainingOfLeaves(costsOf(*document).below(*this));
 }
 
 void KWTaskInfo::basisSubUpdateStrBaseCost(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
-        BaselineCost = cost::baselineText(cost::baselineOfLeaves(CostPass(*document).below(*this)));
+        BaselineCost = cost::baselineText(cost::baselineOfLeaves(costsOf(*document).below(*this)));
 }
 
 void KWTaskInfo::basisSubUpdateFromSomeColumn(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
-        CostPass(*document).sumAll(*this);
+        costsOf(*document).sumAll(*this);
 }

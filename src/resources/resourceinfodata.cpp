@@ -1,10 +1,10 @@
 #include "resources/resourceinfodata.h"
-#include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
 #include "engine/record/resource.h"
 #include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "resources/costsof.h"
 #include "resources/resourceinfodata_xml.h"
 #include <QHash>
 #include <algorithm>
@@ -67,7 +67,7 @@ void ResourceInfo::changeAllTaskSameNameResource(KWDocument *document, ChangeVal
     if (!document)
         return;
     const ChangeWatch watch(document);
-    const CostPass pass(*document);
+    const CostPass pass = costsOf(*document);
     for (KWTaskInfo *task : document->taskList()) {
         if (Resource *assigned = task->getResourceByName(name)) {
             copyChange(*this, what, *task, *assigned);
@@ -263,7 +263,7 @@ void ResourceInfoData::updateWorkStarAndFinishWork(KWDocument *document)
 {
     if (!document)
         return;
-    const CostPass pass(*document);
+    const CostPass pass = costsOf(*document);
     SheetSums sheet(infos);
     sheet.collect(document->taskList(),
                   [&pass](NameSums &sums, const KWTaskInfo &task, const Resource &resource) {
@@ -295,7 +295,7 @@ void ResourceInfoData::udpateWorkAndCost(KWDocument *document)
 {
     if (!document)
         return;
-    const CostPass pass(*document);
+    const CostPass pass = costsOf(*document);
     SheetSums sheet(infos);
     sheet.collect(document->taskList(), [&pass](NameSums &sums, const KWTaskInfo &task,
                                                 const Resource &resource) {

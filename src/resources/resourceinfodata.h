@@ -1,5 +1,6 @@
 #pragma once
 #include "engine/record/resource.h"
+#include "engine/record/resourceentry.h"
 #include "kwgantt_export.h"
 #include <QList>
 #include <QMap>
@@ -12,7 +13,7 @@ class KWTaskInfo;
 class QDomElement;
 
 // One entry of the resource sheet. Assignments refer to it by its name, trimmed.
-class KWGANTT_EXPORT ResourceInfo
+class KWGANTT_EXPORT ResourceInfo : public ResourceEntry
 {
 public:
     // Which field of an entry has changed.
@@ -24,28 +25,6 @@ public:
         ChangeOvertimeCost,
         ChangeCostPer
     };
-
-    QString name;
-    qint32 ID = 0;
-    qint32 type = 0;     // 0 work, other material
-    double unit = 1.0;   // maximum units, 1.0 = 100 %
-    double cost = 0;     // standard rate: money for a cost unit of work, or for one of a material
-    qint32 costUnit = 1; // 0 minute, 1 hour, 2 day, 3 week, 4 month
-    double overtimeCost = 0;
-    qint32 overtimeUnit = 1;
-    double costPer = 0; // cost per use
-    QString group;
-    QString email;
-    QString notes;
-
-    // Rolled up from the assignments by ResourceInfoData, not saved.
-    double totalCost = 0;
-    double totalWork = 0; // hours of a work resource, units of a material
-    double actualCost = 0;
-    double actualWork = 0;
-    double unitsSum = 0; // units of work assignments; for a material, how many assignments there are
-    quint32 workStart = 0;
-    quint32 workFinish = 0;
 
     // Appends a "Column" element to the parent.
     void resourceInfoSave(QDomElement &parent) const;

@@ -1,6 +1,7 @@
 #pragma once
 #include "engine/record/fieldxml.h"
 #include "engine/record/resourcefields.h"
+#include "resources/resourceinfodata.h"
 
 // The resource sheet as an XML element, over any of the XML sinks and sources.
 namespace sheetxml {

@@ -12,9 +12,8 @@ constexpr quint32 placeholderFinishSecs = 43200;
 }
 
 KWCalendar::KWCalendar()
-    : startDate(KWClock::now().date())
-    , finishDate(startDate)
 {
+    startDate = finishDate = KWClock::now().date();
 }
 
 KWCalendar::KWCalendar(const KWCalendar &other)

@@ -31,7 +31,7 @@ void KWDocument::updateDependTask(bool byTag)
             task->Predecessors = ids;
         }
     }
-    links::completeSuccessors({m_tasks, taskIndex()});
+    links::completeSuccessors(outline());
 }
 
 void KWDocument::updateAllTaskEarlyLate()
@@ -41,10 +41,10 @@ void KWDocument::updateAllTaskEarlyLate()
         return;
     const unsigned int unit = latedates::slackUnit(getMinorUnit());
     latedates::LateDates late(workCalendar(), getMaxFinishSecs(), unit, getNameByMinorUnit(unit, false));
-    const latedates::Network network = latedates::wholeNetwork({m_tasks, taskIndex()});
+    const latedates::Network network = latedates::wholeNetwork(outline());
     std::vector<quint32> lengths;
     lengths.reserve(network.tasks.size());
-    for (const KWTaskInfo *task : network.tasks)
+    for (const TaskRecord *task : network.tasks)
         lengths.push_back(late.length(*task));
     const std::vector<latedates::Tail> tails = latedates::tails(network, lengths);
     for (int pos = 0; pos < m_tasks.size(); ++pos)

@@ -83,7 +83,7 @@ void KWDocument::updateAllParentPercent()
     if (!m_taskCollection)
         return;
     const timescale::Scale scale = m_taskCollection->scale();
-    const outline::Tasks tasks{taskList(), taskIndex()};
+    const outline::Tasks tasks = outline();
     // The list is in outline order.
     for (int pos = taskCount() - 1; pos >= 0; --pos) {
         KWTaskInfo *task = taskList().at(pos);

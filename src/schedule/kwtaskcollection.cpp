@@ -1,5 +1,6 @@
 // The chart's time axis: range, unit boundaries, width, bar points.
 #include "schedule/kwtaskcollection.h"
+#include "engine/record/outline.h"
 #include "engine/record/taskahead.h"
 #include "engine/time/timerange.h"
 #include "engine/time/timescale.h"
@@ -206,10 +207,10 @@ void KWTaskCollection::updateTaskPoint()
         return;
     const timescale::Scale scale = this->scale();
     const std::vector<double> rowYs = m_document->rowYs(true);
-    const QList<KWTaskInfo *> &tasks = m_document->taskList();
+    const QList<TaskRecord *> &tasks = m_document->outline().list;
     for (int pos = 0; pos < tasks.size(); ++pos) {
         fetchTaskAhead(tasks, pos + tasksAhead);
-        KWTaskInfo &task = *tasks[pos];
+        TaskRecord &task = *tasks[pos];
         if (task.HideID == 0) {
             scale.placeBar(task);
             task.y1 = task.y2 = timescale::wholePixels(rowYs[std::size_t(pos)]);

@@ -7,6 +7,7 @@
 
 class KWDocument;
 class KWTaskInfo;
+struct TaskRecord;
 namespace outline {
 struct Tasks;
 }
@@ -149,10 +150,11 @@ private:
     };
     Span taskSpan() const;
     timerange::UnitDates unitDates() const;
+    void pushAfter(const std::vector<TaskRecord *> &predecessors);
     bool pushAlong(const std::vector<push::Link> &links);
     void redraw(const timescale::Scale &scale,
-                KWTaskInfo &task); // the assignments' work, the bar, its widths
-    void rollUp(const timescale::Scale &scale, const outline::Tasks &tasks, KWTaskInfo &summary,
+                TaskRecord &task); // the assignments' work, the bar, its widths
+    void rollUp(const timescale::Scale &scale, const outline::Tasks &tasks, TaskRecord &summary,
                 bool pushSuccessors);
 
     KWDocument *m_document;             // not owned

@@ -1,4 +1,5 @@
 // Links between tasks: making and removing them, pushing along them, and showing those of the active task.
+#include "engine/cost/cost.h"
 #include "engine/network/linkgraph.h"
 #include "engine/network/links.h"
 #include "engine/network/push.h"
@@ -11,17 +12,12 @@
 
 namespace {
 
-outline::Tasks tasksOf(const KWDocument &document)
-{
-    return {document.taskList(), document.taskIndex()};
-}
-
 void markLinked(const KWDocument &document, const KWTaskInfo &active, bool linked)
 {
-    const outline::Tasks tasks = tasksOf(document);
+    const outline::Tasks tasks = document.outline();
     for (const QList<quint32> *ids : {&active.Depends, &active.Predecessors}) {
         for (const quint32 id : *ids) {
-            if (KWTaskInfo *task = tasks.byId(id))
+            if (TaskRecord *task = tasks.byId(id))
                 task->Linked = linked;
         }
     }
@@ -85,13 +81,17 @@ bool KWTaskCollection::compareTaskAndDepenTask(KWTaskInfo *predecessor, KWTaskIn
 
 void KWTaskCollection::pushSuccessorsOf(const std::vector<KWTaskInfo *> &predecessors)
 {
-    if (!m_document)
-        return;
-    const outline::Tasks tasks = tasksOf(*m_document);
+    if (m_document)
+        pushAfter({predecessors.begin(), predecessors.end()});
+}
+
+void KWTaskCollection::pushAfter(const std::vector<TaskRecord *> &predecessors)
+{
+    const outline::Tasks tasks = m_document->outline();
     std::vector<push::Link> early;
-    for (KWTaskInfo *predecessor : predecessors) {
+    for (TaskRecord *predecessor : predecessors) {
         for (const quint32 id : predecessor->Depends) {
-            KWTaskInfo *successor = tasks.byId(id);
+            TaskRecord *successor = tasks.byId(id);
             if (successor && !push::holds(predecessor->Finish, successor->Start))
                 early.push_back({predecessor, successor});
         }
@@ -103,10 +103,10 @@ void KWTaskCollection::pushSuccessorsOf(const std::vector<KWTaskInfo *> &predece
 bool KWTaskCollection::pushAlong(const std::vector<push::Link> &links)
 {
     const timescale::Scale scale = this->scale();
-    const std::vector<KWTaskInfo *> passed =
-        push::along(scale.calendar(), tasksOf(*m_document), scale.isHourBased(), links);
-    for (KWTaskInfo *task : passed) {
-        task->updateResourceWorkSecs(m_document);
+    const std::vector<TaskRecord *> passed =
+        push::along(scale.calendar(), m_document->outline(), scale.isHourBased(), links);
+    for (TaskRecord *task : passed) {
+        cost::updateWorkSecs(*task);
         if (task->isParent())
             scale.placeSummaryBar(*task);
         else
@@ -127,9 +127,9 @@ int KWTaskCollection::pushAllSuccessors(QList<KWTaskMove> *moves)
         return 0;
     const bool hourScale = m_document->getMinorUnit() >= duration::Hour;
     const std::vector<push::Move> moved =
-        push::all(m_document->workCalendar(), tasksOf(*m_document), hourScale);
+        push::all(m_document->workCalendar(), m_document->outline(), hourScale);
     for (const push::Move &move : moved) {
-        move.task->updateResourceWorkSecs(m_document);
+        cost::updateWorkSecs(*move.task);
         if (moves) {
             const quint32 pushedBy = move.pushedBy ? move.pushedBy->ID.value() : 0;
             moves->append({move.task->ID, move.oldStart, move.oldFinish, pushedBy});
@@ -143,7 +143,7 @@ QList<QList<quint32>> KWTaskCollection::linkRings() const
     QList<QList<quint32>> rings;
     if (!m_document)
         return rings;
-    for (const std::vector<int> &places : linkgraph::rings(linkgraph::EventNetwork(tasksOf(*m_document)))) {
+    for (const std::vector<int> &places : linkgraph::rings(linkgraph::EventNetwork(m_document->outline()))) {
         QList<quint32> ids;
         for (const int pos : places)
             ids.append(m_document->getTaskInfoAt(pos)->ID);
@@ -161,7 +161,7 @@ LinkRefusal KWTaskCollection::linkRefusal(const KWTaskInfo *a, const KWTaskInfo 
         ring->clear();
     if (!m_document || !a || !b)
         return LinkRefusal::Missing;
-    return links::refusal(tasksOf(*m_document), *a, *b, ring);
+    return links::refusal(m_document->outline(), *a, *b, ring);
 }
 
 bool KWTaskCollection::taskDependTask(KWTaskInfo *a, KWTaskInfo *b)
@@ -169,7 +169,7 @@ bool KWTaskCollection::taskDependTask(KWTaskInfo *a, KWTaskInfo *b)
     if (linkRefusal(a, b) != LinkRefusal::None)
         return false;
     const HighlightRefresh refresh(*m_document, m_activeTask);
-    links::insert(tasksOf(*m_document), *a, *b);
+    links::insert(m_document->outline(), *a, *b);
     m_document->setModified(true);
     return true;
 }
@@ -182,7 +182,7 @@ int KWTaskCollection::linkTasks(QList<KWTaskLink> &wanted)
         return 0;
     }
     const HighlightRefresh refresh(*m_document, m_activeTask);
-    const int made = links::insertAll(tasksOf(*m_document), wanted);
+    const int made = links::insertAll(m_document->outline(), wanted);
     if (made > 0)
         m_document->setModified(true);
     return made;
@@ -190,12 +190,12 @@ int KWTaskCollection::linkTasks(QList<KWTaskLink> &wanted)
 
 bool KWTaskCollection::taskEqualDependTask(const KWTaskInfo *a, const KWTaskInfo *task) const
 {
-    return m_document && a && task && links::leadsTo(tasksOf(*m_document), *task, *a);
+    return m_document && a && task && links::leadsTo(m_document->outline(), *task, *a);
 }
 
 KWTaskInfo *KWTaskCollection::sameParentTask(const KWTaskInfo *a, const KWTaskInfo *b) const
 {
-    return m_document && a && b ? outline::commonSummary(tasksOf(*m_document), *a, *b) : nullptr;
+    return m_document && a && b ? asTask(outline::commonSummary(m_document->outline(), *a, *b)) : nullptr;
 }
 
 // ---- Removing links ---------------------------------------------------------------------------------------
@@ -206,8 +206,8 @@ void KWTaskCollection::deleteDependOrDependOnID(KWTaskInfo *task)
     if (!m_document || !task)
         return;
     const HighlightRefresh refresh(*m_document, m_activeTask);
-    const outline::Tasks tasks = tasksOf(*m_document);
-    const std::vector<KWTaskInfo *> below = outline::descendants(tasks, *task);
+    const outline::Tasks tasks = m_document->outline();
+    const std::vector<TaskRecord *> below = outline::descendants(tasks, *task);
     links::removeDownstream(tasks, below, *task);
     links::removeUpstream(tasks, below, *task);
 }
@@ -218,7 +218,7 @@ void KWTaskCollection::deleteDependIDFromParent(KWTaskInfo *task, KWTaskInfo *x)
     if (!m_document || !task || !x)
         return;
     const HighlightRefresh refresh(*m_document, m_activeTask);
-    links::removeDownstream(tasksOf(*m_document), {task}, *x);
+    links::removeDownstream(m_document->outline(), {task}, *x);
 }
 
 void KWTaskCollection::deleteDependOnIDFromParent(KWTaskInfo *task, KWTaskInfo *x)
@@ -227,5 +227,5 @@ void KWTaskCollection::deleteDependOnIDFromParent(KWTaskInfo *task, KWTaskInfo *
     if (!m_document || !task || !x)
         return;
     const HighlightRefresh refresh(*m_document, m_activeTask);
-    links::removeUpstream(tasksOf(*m_document), {task}, *x);
+    links::removeUpstream(m_document->outline(), {task}, *x);
 }

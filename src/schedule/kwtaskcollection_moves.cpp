@@ -1,4 +1,5 @@
 // What follows when a bar is moved: its content, its length, its ancestors; and the steps off days off.
+#include "engine/cost/cost.h"
 #include "engine/network/moves.h"
 #include "engine/record/outline.h"
 #include "engine/time/dayoff.h"
@@ -15,9 +16,9 @@ bool KWTaskCollection::isStrechOrMoveToChange(const KWTaskInfo *task, quint32 ol
     return task && (task->Start != oldStart || task->Finish != oldFinish);
 }
 
-void KWTaskCollection::redraw(const timescale::Scale &scale, KWTaskInfo &task)
+void KWTaskCollection::redraw(const timescale::Scale &scale, TaskRecord &task)
 {
-    task.updateResourceWorkSecs(m_document);
+    cost::updateWorkSecs(task);
     scale.placeBar(task);
     task.FirstWidth = scale.finishedWidth(task);
 }
@@ -37,12 +38,12 @@ void KWTaskCollection::moveAllSubTask(KWTaskInfo *summary, quint32 oldStart)
     if (!m_document || !summary || !summary->isParent())
         return;
     const timescale::Scale scale = this->scale();
-    const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
+    const outline::Tasks tasks = m_document->outline();
     const ChangeWatch summaryWatch(m_document, summary, ChangeWatch::Alone);
     const ChangeWatch contentWatch(m_document, m_document->isModified()
-                                                   ? std::vector<KWTaskInfo *>()
+                                                   ? std::vector<TaskRecord *>()
                                                    : outline::descendants(tasks, *summary));
-    for (KWTaskInfo *task : moves::content(scale.calendar(), tasks, *summary, oldStart))
+    for (TaskRecord *task : moves::content(scale.calendar(), tasks, *summary, oldStart))
         redraw(scale, *task);
 }
 

@@ -12,8 +12,8 @@ void KWTaskCollection::subIDListByTask(const KWTaskInfo *task, QList<quint32> &i
 {
     if (!m_document || !task)
         return;
-    const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
-    for (const KWTaskInfo *below : outline::descendants(tasks, *task))
+    const outline::Tasks tasks = m_document->outline();
+    for (const TaskRecord *below : outline::descendants(tasks, *task))
         ids.append(below->ID);
 }
 
@@ -22,12 +22,12 @@ void KWTaskCollection::parentIDListByTask(const KWTaskInfo *task, QList<KWTaskIn
     parents.clear();
     if (!m_document || !task)
         return;
-    const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
-    for (KWTaskInfo *ancestor : outline::ancestors(tasks, *task))
-        parents.append(ancestor);
+    const outline::Tasks tasks = m_document->outline();
+    for (TaskRecord *ancestor : outline::ancestors(tasks, *task))
+        parents.append(asTask(ancestor));
 }
 
-void KWTaskCollection::rollUp(const timescale::Scale &scale, const outline::Tasks &tasks, KWTaskInfo &summary,
+void KWTaskCollection::rollUp(const timescale::Scale &scale, const outline::Tasks &tasks, TaskRecord &summary,
                               bool pushSuccessors)
 {
     if (!summary.isParent())
@@ -35,7 +35,7 @@ void KWTaskCollection::rollUp(const timescale::Scale &scale, const outline::Task
     if (rollup::dates(scale.calendar(), tasks, summary))
         scale.placeSummaryBar(summary);
     if (pushSuccessors && !summary.Depends.isEmpty())
-        pushSuccessorsOf({&summary});
+        pushAfter({&summary});
 }
 
 void KWTaskCollection::updateTaskTimeToChildsTask(KWTaskInfo *summary, bool pushSuccessors)
@@ -43,7 +43,7 @@ void KWTaskCollection::updateTaskTimeToChildsTask(KWTaskInfo *summary, bool push
     const ChangeWatch watch(m_document, summary, ChangeWatch::Alone);
     if (!m_document || !summary || !summary->isParent())
         return;
-    rollUp(scale(), {m_document->taskList(), m_document->taskIndex()}, *summary, pushSuccessors);
+    rollUp(scale(), m_document->outline(), *summary, pushSuccessors);
 }
 
 void KWTaskCollection::updateTaskInfoParentTime(KWTaskInfo *task)
@@ -53,8 +53,8 @@ void KWTaskCollection::updateTaskInfoParentTime(KWTaskInfo *task)
         return;
     constexpr bool pushSuccessors = true;
     const timescale::Scale scale = this->scale();
-    const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
-    for (KWTaskInfo *ancestor : outline::ancestors(tasks, *task))
+    const outline::Tasks tasks = m_document->outline();
+    for (TaskRecord *ancestor : outline::ancestors(tasks, *task))
         rollUp(scale, tasks, *ancestor, pushSuccessors);
 }
 
@@ -65,7 +65,7 @@ void KWTaskCollection::updateOptionTaskTime()
         return;
     constexpr bool pushSuccessors = true;
     const timescale::Scale scale = this->scale();
-    const outline::Tasks tasks{m_document->taskList(), m_document->taskIndex()};
+    const outline::Tasks tasks = m_document->outline();
     // A summary stands before its descendants, so from the last to the first the inner ones are rolled up
     // first.
     for (int pos = tasks.list.size() - 1; pos >= 0; --pos) {

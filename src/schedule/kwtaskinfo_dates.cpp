@@ -66,10 +66,9 @@ void KWTaskInfo::updateEarlyLate(KWDocument *document, quint32 projectFinish)
     const unsigned int unit = latedates::slackUnit(document->getMinorUnit());
     latedates::LateDates late(document->workCalendar(), projectFinish, unit,
                               KWDocument::getNameByMinorUnit(unit, false));
-    const latedates::Network network =
-        latedates::networkAfter({document->taskList(), document->taskIndex()}, *this);
+    const latedates::Network network = latedates::networkAfter(document->outline(), *this);
     std::vector<quint32> lengths;
-    for (const KWTaskInfo *task : network.tasks)
+    for (const TaskRecord *task : network.tasks)
         lengths.push_back(late.length(*task));
     late.apply(*this, lengths.front(), latedates::tails(network, lengths).front());
 }
@@ -80,11 +79,10 @@ void KWTaskInfo::recurDependTaskMaxDurValue(KWDocument *document, const KWTaskIn
     if (!document || !document->taskCollection() || !task)
         return;
     const unsigned int unit = latedates::slackUnit(document->getMinorUnit());
-    const latedates::Network network =
-        latedates::networkAfter({document->taskList(), document->taskIndex()}, *task);
+    const latedates::Network network = latedates::networkAfter(document->outline(), *task);
     const worktime::WorkCalendar &calendar = document->workCalendar();
     std::vector<double> lengths;
-    for (const KWTaskInfo *other : network.tasks)
+    for (const TaskRecord *other : network.tasks)
         lengths.push_back(duration::valueBetween(calendar, other->Start, other->Finish, unit, false));
     for (const double pathSum : latedates::pathSums(network, lengths, sum))
         sums.append(pathSum);

@@ -51,8 +51,9 @@ bool dropSecs(KWDocument *document, const KWTaskInfo &task, double x, bool snap,
 // The content of a summary has successors of its own.
 void pushSuccessors(KWDocument *document, KWTaskInfo &task)
 {
-    std::vector<KWTaskInfo *> predecessors =
-        outline::descendants({document->taskList(), document->taskIndex()}, task);
+    std::vector<KWTaskInfo *> predecessors;
+    for (TaskRecord *below : outline::descendants(document->outline(), task))
+        predecessors.push_back(asTask(below));
     predecessors.push_back(&task);
     document->taskCollection()->pushSuccessorsOf(predecessors);
 }

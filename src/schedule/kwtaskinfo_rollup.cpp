@@ -13,14 +13,14 @@ void KWTaskInfo::updateParentPercent(KWDocument *document)
     if (!document || !document->taskCollection())
         return;
     const timescale::Scale scale = document->taskCollection()->scale();
-    const outline::Tasks tasks{document->taskList(), document->taskIndex()};
-    std::vector<KWTaskInfo *> summaries = outline::ancestors(tasks, *this);
+    const outline::Tasks tasks = document->outline();
+    std::vector<TaskRecord *> summaries = outline::ancestors(tasks, *this);
     if (isParent())
         summaries.insert(summaries.begin(), this);
-    for (KWTaskInfo *summary : summaries) {
+    for (TaskRecord *summary : summaries) {
         if (!summary->isParent())
             return;
-        summary->setPercent(rollup::percent(scale.calendar(), tasks, *summary));
+        asTask(summary)->setPercent(rollup::percent(scale.calendar(), tasks, *summary));
         summary->FirstWidth = scale.finishedWidth(*summary);
     }
 }
@@ -29,14 +29,14 @@ void KWTaskInfo::basisSubUpdateBaselineStartAndFinish(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::Alone);
     if (document && document->taskCollection() && isParent())
-        rollup::baseline(outline::descendants({document->taskList(), document->taskIndex()}, *this), *this);
+        rollup::baseline(outline::descendants(document->outline(), *this), *this);
 }
 
 void KWTaskInfo::updateParentBaselineStartAndFinish(KWDocument *document)
 {
     const ChangeWatch watch(document, this, ChangeWatch::WithSummaries);
     if (document && document->taskCollection())
-        rollup::ancestorBaselines({document->taskList(), document->taskIndex()}, *this);
+        rollup::ancestorBaselines(document->outline(), *this);
 }
 
 bool KWTaskInfo::recurveShowOrHide(KWDocument *document, KWTaskInfo *summary, KWTaskInfo *task, bool hide)
@@ -45,9 +45,8 @@ bool KWTaskInfo::recurveShowOrHide(KWDocument *document, KWTaskInfo *summary, KW
         return false;
     const quint32 from = hide ? 0 : summary->ID.value();
     const quint32 to = hide ? summary->ID.value() : 0;
-    const std::vector<KWTaskInfo *> below =
-        outline::descendants({document->taskList(), document->taskIndex()}, *task);
-    for (KWTaskInfo *child : below) {
+    const std::vector<TaskRecord *> below = outline::descendants(document->outline(), *task);
+    for (TaskRecord *child : below) {
         if (child->HideID != from)
             continue;
         child->HideID = to;

@@ -1,4 +1,5 @@
 // What dates and hours work, the two clocks and the counts of days, asked of a document.
+#include "engine/text/celltext.h"
 #include "engine/time/worktime.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
@@ -94,15 +95,7 @@ QDateTime KWTaskInfo::showDateTime(KWDocument *document, quint32 secs, bool star
 {
     if (!document || (!start && secs == 0))
         return QDateTime();
-    const WorkCalendar &calendar = document->workCalendar();
-    if (start)
-        return QDateTime::fromSecsSinceEpoch(worktime::secsDayTransHour(calendar, secs));
-    const HourPoint shown = toHourClock(calendar, qint64(secs) - 1);
-    // Kept on purpose: a day that ends at 24:00 shows that end as 00:00 of its own date.
-    const int minutes = int(shown.secs % LocalClock::secsPerDay) / 60;
-    const QDateTime moment(LocalClock::dateOf(shown.day), QTime(minutes / 60, minutes % 60));
-    return moment.isValid() ? moment
-                            : QDateTime::fromSecsSinceEpoch(calendar.clock().moment(shown.day, minutes * 60));
+    return celltext::shownDateTime(document->workCalendar(), secs, start);
 }
 
 QDateTime KWTaskInfo::editTimeTransDayTime(KWDocument *document, const QDateTime &typed, bool start)

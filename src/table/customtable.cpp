@@ -6,6 +6,7 @@
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
+#include "table/documenttexts.h"
 #include "table/resourcetext.h"
 #include "table/rowcolumndata.h"
 #include <algorithm>
@@ -98,8 +99,10 @@ CustomTable::CustomTable(KWDocument *document, Kind kind)
     , m_scale(UnitUtil::dpiScale96())
     , m_style(std::make_unique<celltext::Style>())
 {
-    if (document)
-        *m_style = {DataFormat::dateFormat(), false, &document->workCalendar()};
+    if (document) {
+        *m_style = {DataFormat::dateFormat(), false};
+        m_calendar = &document->workCalendar();
+    }
 }
 
 CustomTable::~CustomTable() = default;
@@ -226,7 +229,7 @@ Cell CustomTable::cell(const TableRow &row, int column) const
         return Cell();
     const KWTaskInfo &task = *row.task;
     Cell cell = emptyCell(row, column);
-    cell.text = celltext::ofType(*m_document, task, cell.type, *m_style);
+    cell.text = celltext::ofType(DocumentTexts(*m_document, m_calendar), task, cell.type, *m_style);
     const columntypes::ColumnType *type = columntypes::find(cell.type);
     cell.isMuted = cell.type == 0 || (type && type->kind == columntypes::Kind::Percent && task.Percent == 0);
     cell.isBold = task.isParent() && cell.type == nameType;

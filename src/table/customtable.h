@@ -12,6 +12,9 @@ class ResourceInfo;
 namespace celltext {
 struct Style;
 }
+namespace worktime {
+class WorkCalendar;
+}
 
 // The head of one column. Lengths of a table are pixels at the current screen scale, with the table's left
 // edge at 0 and the chart's top at 0, so that rows and bars have one y.
@@ -129,4 +132,5 @@ private:
     double m_scale;
     std::vector<HeadItem> m_heads;
     std::unique_ptr<celltext::Style> m_style;
+    const worktime::WorkCalendar *m_calendar = nullptr; // as it stood when the table was made
 };

@@ -1,10 +1,12 @@
 #include "table/rowcolumndata.h"
 #include "editing/undoitems.h"
 #include "engine/record/outline.h"
+#include "format/dataformat.h"
 #include "format/unitutil.h"
 #include "model/kwdocument.h"
 #include "support/xmlsink.h"
 #include "support/xmlsource.h"
+#include "table/documenttexts.h"
 #include "table/rowcolumndata_xml.h"
 #include <cmath>
 
@@ -128,6 +130,19 @@ void RowColumnData::setRowHeightCount(int count)
 int RowColumnData::posOfRow(int row) const
 {
     return m_document ? m_document->getPosByRow(row) : -1;
+}
+
+// ---- Cells
+// -------------------------------------------------------------------------------------------------
+
+QString RowColumnData::itemText(int row, int column) const
+{
+    const TaskRecord *task = m_document ? m_document->getTaskInfoByRow(row) : nullptr;
+    const ColumnData *data = getColumnDataByColumn(column);
+    if (!task || !data)
+        return QString();
+    return celltext::ofType(DocumentTexts(*m_document), *task, typeOfTitle(data->title),
+                            {DataFormat::dateFormat(), false});
 }
 
 // ---- Undo records -----------------------------------------------------------------------------------------

@@ -191,7 +191,8 @@ TEST_F(RoundTrip, BringsBackRandomPlans)
             XLSXDataEngine reader(&back);
             ASSERT_TRUE(reader.initExcelTitles(file) && reader.importData(file));
             EXPECT_EQ(reader.findings().count(), 0)
-                << (reader.findings().list().value(0).place + reader.findings().list().value(0).what).toStdString();
+                << (reader.findings().list().value(0).place + reader.findings().list().value(0).what)
+                       .toStdString();
             const std::string imported = exactly(back);
             const std::vector<double> importedNumbers = roughly(back);
             back.workTimes.swap(plan->workTimes);

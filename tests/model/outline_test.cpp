@@ -1,6 +1,6 @@
 // Outlines from levels, and walks over outlines that a file may have broken.
 #include "engine/record/outline.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 #include <gtest/gtest.h>
 #include <memory>
 #include <vector>
@@ -10,19 +10,19 @@ namespace {
 // Tasks with the IDs 1, 2, 3..., owned here.
 struct Outline
 {
-    std::vector<std::unique_ptr<KWTaskInfo>> owned;
-    QList<KWTaskInfo *> list;
+    std::vector<std::unique_ptr<TaskRecord>> owned;
+    QList<TaskRecord *> list;
     TaskIndex index;
 
-    KWTaskInfo &add()
+    TaskRecord &add()
     {
-        owned.push_back(std::make_unique<KWTaskInfo>());
+        owned.push_back(std::make_unique<TaskRecord>());
         list.append(owned.back().get());
         list.last()->ID = quint32(list.size());
         index.add(list.last()->ID, list.size() - 1);
         return *list.last();
     }
-    KWTaskInfo &task(int id) { return *list[id - 1]; }
+    TaskRecord &task(int id) { return *list[id - 1]; }
     outline::Tasks tasks() { return {list, index}; }
     // Links parent and child on both sides, as often as asked.
     void put(int parent, int child)
@@ -32,10 +32,10 @@ struct Outline
     }
 };
 
-QList<quint32> ids(const std::vector<KWTaskInfo *> &tasks)
+QList<quint32> ids(const std::vector<TaskRecord *> &tasks)
 {
     QList<quint32> result;
-    for (const KWTaskInfo *task : tasks)
+    for (const TaskRecord *task : tasks)
         result.append(task->ID);
     return result;
 }
@@ -59,15 +59,15 @@ TEST(Levels, makeTheOutline)
         Outline outline;
         outline::LevelBuilder builder;
         for (int level : row.levels) {
-            KWTaskInfo &task = outline.add();
+            TaskRecord &task = outline.add();
             task.Level = level;
             builder.add(task);
         }
         QList<quint32> parents;
-        for (const KWTaskInfo *task : outline.list) {
+        for (const TaskRecord *task : outline.list) {
             parents.append(task->ParentID);
             QList<quint32> childs;
-            for (const KWTaskInfo *other : outline.list) {
+            for (const TaskRecord *other : outline.list) {
                 if (other->ParentID == task->ID)
                     childs.append(other->ID);
             }
@@ -85,7 +85,7 @@ TEST(Levels, anIdThatComesAgainIsOneChild)
     outline::LevelBuilder builder;
     builder.add(outline.add());
     for (int i = 0; i < 3; ++i) {
-        KWTaskInfo &task = outline.add();
+        TaskRecord &task = outline.add();
         task.Level = 2;
         task.ID = i == 1 ? 9 : 8;
         builder.add(task);

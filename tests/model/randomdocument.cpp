@@ -2,6 +2,7 @@
 #include "engine/record/fieldxml.h"
 #include "engine/record/resourcefields.h"
 #include "engine/record/taskfields.h"
+#include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
 #include "table/rowcolumndata.h"
 #include <cmath>

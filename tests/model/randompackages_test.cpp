@@ -5,6 +5,7 @@
 #include "engine/record/taskfields.h"
 #include "model/kwdocument_options.h"
 #include "model/randomdocument.h"
+#include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
 #include "support/folder.h"
 #include "table/rowcolumndata.h"

@@ -154,19 +154,19 @@ class SlowPush
 public:
     SlowPush(KWDocument &document, bool hourScale)
         : m_calendar(document.workCalendar())
-        , m_tasks{document.taskList(), document.taskIndex()}
+        , m_tasks(document.outline())
         , m_hourScale(hourScale)
     {
     }
 
-    void push(const KWTaskInfo &predecessor, KWTaskInfo &successor)
+    void push(const TaskRecord &predecessor, TaskRecord &successor)
     {
         if (push::holds(predecessor.Finish, successor.Start))
             return;
         const quint32 oldStart = successor.Start;
         moves::startTo(m_calendar, successor, push::target(predecessor.Finish), m_hourScale);
         if (successor.isParent()) {
-            for (KWTaskInfo *below : moves::content(m_calendar, m_tasks, successor, oldStart))
+            for (TaskRecord *below : moves::content(m_calendar, m_tasks, successor, oldStart))
                 pushSuccessors(*below);
         } else {
             moves::keepDuration(m_calendar, successor, oldStart);
@@ -174,14 +174,14 @@ public:
         pushAncestors(successor);
         pushSuccessors(successor);
     }
-    void pushSuccessors(const KWTaskInfo &task)
+    void pushSuccessors(const TaskRecord &task)
     {
         for (const quint32 id : task.Depends)
             push(task, *m_tasks.byId(id));
     }
-    void pushAncestors(const KWTaskInfo &task)
+    void pushAncestors(const TaskRecord &task)
     {
-        for (KWTaskInfo *above : outline::ancestors(m_tasks, task)) {
+        for (TaskRecord *above : outline::ancestors(m_tasks, task)) {
             rollup::dates(m_calendar, m_tasks, *above);
             pushSuccessors(*above);
         }

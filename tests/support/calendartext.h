@@ -1,5 +1,6 @@
 #pragma once
 #include "engine/time/worktime.h"
+#include "schedule/kwcalendar.h"
 #include <QDate>
 #include <QString>
 #include <memory>
@@ -18,7 +19,10 @@ public:
     CalendarText(const CalendarText &) = delete;
     CalendarText &operator=(const CalendarText &) = delete;
 
-    worktime::Source source() const { return {workingDays, hours, exceptions, oldVersion}; }
+    worktime::Source source() const
+    {
+        return {workingDays, hours, {exceptions.begin(), exceptions.end()}, oldVersion};
+    }
     worktime::WorkCalendar compile() const { return worktime::WorkCalendar(source(), LocalClock::current()); }
 
     bool workingDays[7] = {};

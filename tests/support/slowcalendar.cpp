@@ -65,7 +65,7 @@ SlowCalendar::SlowCalendar(const worktime::Source &source)
     , m_oldVersion(source.oldVersion)
 {
     std::copy(source.workingDays, source.workingDays + 7, m_workingDays);
-    for (const KWCalendar *c : source.exceptions)
+    for (const CalendarRecord *c : source.exceptions)
         m_exceptions.push_back(
             {c->startDate, c->finishDate, c->isException, c->isWork, intervals(c->dayTimes)});
     if (!m_hours.empty()) {

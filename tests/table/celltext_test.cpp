@@ -4,6 +4,7 @@
 #include "engine/text/columntypes.h"
 #include "format/dataformat.h"
 #include "support/project.h"
+#include "table/documenttexts.h"
 #include "table/rowcolumndata.h"
 #include <QLocale>
 #include <QScopeGuard>
@@ -52,7 +53,8 @@ protected:
     }
     static std::string cell(Project &p, const char *name, int type)
     {
-        return celltext::ofType(p.document(), p.task(name), type, {DataFormat::dateFormat(), false})
+        return celltext::ofType(DocumentTexts(p.document()), p.task(name), type,
+                                {DataFormat::dateFormat(), false})
             .toStdString();
     }
 };
@@ -220,7 +222,7 @@ TEST_F(Cells, ShowMomentsLikeShowDateTime)
                 secs = secs / 3600 * 3600;
             for (const bool start : {true, false}) {
                 const QDateTime slow = KWTaskInfo::showDateTime(&document, secs, start);
-                const QDateTime quick = celltext::shownMoment(document, document.workCalendar(), secs, start);
+                const QDateTime quick = celltext::shownMoment(document.workCalendar(), secs, start);
                 ASSERT_TRUE(quick.date() == slow.date() && quick.time() == slow.time())
                     << hours << ' ' << secs << ' ' << start << ' ' << qPrintable(slow.toString(Qt::ISODate))
                     << ' ' << qPrintable(quick.toString(Qt::ISODate));

@@ -1,7 +1,7 @@
 #include "engine/cost/cost.h"
 #include "engine/record/resource.h"
+#include "engine/record/taskrecord.h"
 #include "engine/time/duration.h"
-#include "model/kwtaskinfo.h"
 #include <cmath>
 
 namespace cost {
@@ -90,7 +90,7 @@ double applied(const Measures &measures, Step step, double amount)
     return 0;
 }
 
-double amountOf(const Measures &measures, const KWTaskInfo &task, quint32 workSecs, unsigned int unit)
+double amountOf(const Measures &measures, const TaskRecord &task, quint32 workSecs, unsigned int unit)
 {
     if (unit != SpannedDays)
         return duration::value(measures.calendar, workSecs, unit);
@@ -102,7 +102,7 @@ double amountOf(const Measures &measures, const KWTaskInfo &task, quint32 workSe
                            Day);
 }
 
-double timePart(const Measures &measures, const KWTaskInfo &task, const Resource &resource)
+double timePart(const Measures &measures, const TaskRecord &task, const Resource &resource)
 {
     if (resource.costUnit < 0 || resource.costUnit >= int(std::size(rates)) ||
         task.DurationUnits >= duration::unitCount)
@@ -164,17 +164,23 @@ quint32 secsOfHours(const Measures &measures, double hours, unsigned int unit)
     return truncatedSecs(std::floor(hours / hoursOfUnit * (double(secsPerYear) / unitsPerYear) + 0.5));
 }
 
-quint32 workSecs(const KWTaskInfo &task, const Resource &resource)
+quint32 workSecs(const TaskRecord &task, const Resource &resource)
 {
     return resource.type == 0 ? truncatedSecs(task.DurationSecs * resource.percent) : 0;
 }
 
-double work(const Measures &measures, const KWTaskInfo &task, const Resource &resource)
+void updateWorkSecs(TaskRecord &task)
+{
+    for (Resource *resource : qAsConst(task.resourceList))
+        resource->workSecs = workSecs(task, *resource);
+}
+
+double work(const Measures &measures, const TaskRecord &task, const Resource &resource)
 {
     return duration::value(measures.calendar, resource.workSecs, task.DurationUnits);
 }
 
-double ofAssignment(const Measures &measures, const KWTaskInfo &task, const Resource &resource)
+double ofAssignment(const Measures &measures, const TaskRecord &task, const Resource &resource)
 {
     if (resource.type != 0)
         return resource.cost * resource.percent + resource.costPer;
@@ -186,7 +192,7 @@ double fixedPart(const Resource &resource)
     return resource.type != 0 ? resource.costPer : resource.percent * resource.costPer;
 }
 
-Total ofAssignments(const Measures &measures, const KWTaskInfo &task)
+Total ofAssignments(const Measures &measures, const TaskRecord &task)
 {
     Total total;
     for (const Resource *resource : task.resourceList) {
@@ -196,7 +202,7 @@ Total ofAssignments(const Measures &measures, const KWTaskInfo &task)
     return total;
 }
 
-double remaining(const KWTaskInfo &task)
+double remaining(const TaskRecord &task)
 {
     const double open = 1 - task.Percent;
     double left = task.Cost * open;
@@ -207,10 +213,10 @@ double remaining(const KWTaskInfo &task)
     return left;
 }
 
-Total ofLeaves(const Measures &measures, const std::vector<KWTaskInfo *> &tasks)
+Total ofLeaves(const Measures &measures, const std::vector<TaskRecord *> &tasks)
 {
     Total total;
-    for (const KWTaskInfo *task : tasks) {
+    for (const TaskRecord *task : tasks) {
         if (task->isParent())
             continue;
         total.cost += task->Cost;
@@ -219,20 +225,20 @@ Total ofLeaves(const Measures &measures, const std::vector<KWTaskInfo *> &tasks)
     return total;
 }
 
-double remainingOfLeaves(const std::vector<KWTaskInfo *> &tasks)
+double remainingOfLeaves(const std::vector<TaskRecord *> &tasks)
 {
     double sum = 0;
-    for (const KWTaskInfo *task : tasks) {
+    for (const TaskRecord *task : tasks) {
         if (!task->isParent() && !task->resourceList.isEmpty())
             sum += task->RemainingCost;
     }
     return sum;
 }
 
-double baselineOfLeaves(const std::vector<KWTaskInfo *> &tasks)
+double baselineOfLeaves(const std::vector<TaskRecord *> &tasks)
 {
     double sum = 0;
-    for (const KWTaskInfo *task : tasks) {
+    for (const TaskRecord *task : tasks) {
         if (!task->isParent())
             sum += baselineValue(task->BaselineCost);
     }

@@ -1,7 +1,7 @@
 #pragma once
 #include "engine/time/worktime.h"
 
-class KWTaskInfo;
+struct TaskRecord;
 class Resource;
 
 // What assignments cost, and how much work they are.
@@ -32,23 +32,25 @@ double toHours(const Measures &measures, double work, unsigned int unit);
 // working hours.
 quint32 secsOfHours(const Measures &measures, double hours, unsigned int unit);
 // The seconds of work that an assignment has by the length of its task; none for a material.
-quint32 workSecs(const KWTaskInfo &task, const Resource &resource);
+quint32 workSecs(const TaskRecord &task, const Resource &resource);
+// The same for each of the task's assignments, stored.
+void updateWorkSecs(TaskRecord &task);
 // The work in units of the task's duration.
-double work(const Measures &measures, const KWTaskInfo &task, const Resource &resource);
+double work(const Measures &measures, const TaskRecord &task, const Resource &resource);
 // Rate and cost per use of one assignment. Working time that would have to be divided by no hours costs
 // nothing.
-double ofAssignment(const Measures &measures, const KWTaskInfo &task, const Resource &resource);
+double ofAssignment(const Measures &measures, const TaskRecord &task, const Resource &resource);
 // The part that is spent as soon as work begins.
 double fixedPart(const Resource &resource);
 // Cost and work (in its own unit) of a task's own assignments.
-Total ofAssignments(const Measures &measures, const KWTaskInfo &task);
+Total ofAssignments(const Measures &measures, const TaskRecord &task);
 // What is left to pay of a task without children: its cost, less what its progress has used up.
-double remaining(const KWTaskInfo &task);
+double remaining(const TaskRecord &task);
 
 // Sums over the leaves among the tasks, one by one in their order: any other order gives other last bits.
-Total ofLeaves(const Measures &measures, const std::vector<KWTaskInfo *> &tasks); // work in hours
-double remainingOfLeaves(const std::vector<KWTaskInfo *> &tasks);                 // those with assignments
-double baselineOfLeaves(const std::vector<KWTaskInfo *> &tasks);
+Total ofLeaves(const Measures &measures, const std::vector<TaskRecord *> &tasks); // work in hours
+double remainingOfLeaves(const std::vector<TaskRecord *> &tasks);                 // those with assignments
+double baselineOfLeaves(const std::vector<TaskRecord *> &tasks);
 
 // A baseline cost is kept as a text; what is no number counts as 0.
 double baselineValue(const QString &text);

@@ -1,16 +1,16 @@
 #include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
 #include "engine/network/rollup.h"
+#include "engine/record/assignments.h"
 #include "engine/record/resource.h"
-#include "model/kwdocument.h"
-#include "model/kwtaskinfo.h"
-#include "resources/resourceinfodata.h"
+#include "engine/record/resourceentry.h"
+#include "engine/record/taskrecord.h"
 
 // ---- The pass ---------------------------------------------------------------------------------------------
 
-CostPass::CostPass(KWDocument &document)
-    : m_tasks{document.taskList(), document.taskIndex()}
-    , m_measures(cost::measuresOf(document.workCalendar()))
+CostPass::CostPass(const outline::Tasks &tasks, const worktime::WorkCalendar &calendar)
+    : m_tasks(tasks)
+    , m_measures(cost::measuresOf(calendar))
 {
 }
 
@@ -19,27 +19,27 @@ void CostPass::gather()
     gather({m_tasks.list.begin(), m_tasks.list.end()});
 }
 
-void CostPass::gather(const std::vector<KWTaskInfo *> &tasks)
+void CostPass::gather(const std::vector<TaskRecord *> &tasks)
 {
-    std::vector<KWTaskInfo *> tops;
-    for (KWTaskInfo *task : tasks) {
+    std::vector<TaskRecord *> tops;
+    for (TaskRecord *task : tasks) {
         if (task->ParentID == 0 || !m_tasks.byId(task->ParentID))
             tops.push_back(task);
     }
     m_branches = outline::Branches(m_tasks, tops);
 }
 
-std::vector<KWTaskInfo *> CostPass::below(const KWTaskInfo &task) const
+std::vector<TaskRecord *> CostPass::below(const TaskRecord &task) const
 {
     return m_branches.knows(task) ? m_branches.below(task) : outline::descendants(m_tasks, task);
 }
 
-std::vector<KWTaskInfo *> CostPass::leavesBelow(const KWTaskInfo &task) const
+std::vector<TaskRecord *> CostPass::leavesBelow(const TaskRecord &task) const
 {
     return m_branches.knows(task) ? m_branches.leavesBelow(task) : outline::descendants(m_tasks, task);
 }
 
-void CostPass::updateCostAndWork(KWTaskInfo &task) const
+void CostPass::updateCostAndWork(TaskRecord &task) const
 {
     if (task.isParent()) {
         sumCostAndWork(task, below(task));
@@ -54,11 +54,11 @@ void CostPass::updateCostAndWork(KWTaskInfo &task) const
     updateRemainCost(task);
 }
 
-void CostPass::updateRemainCost(KWTaskInfo &task) const
+void CostPass::updateRemainCost(TaskRecord &task) const
 {
     double remaining = 0;
     if (task.isParent()) {
-        for (const KWTaskInfo *part : below(task)) {
+        for (const TaskRecord *part : below(task)) {
             if (part->isHaveResource())
                 remaining += part->RemainingCost;
         }
@@ -69,24 +69,24 @@ void CostPass::updateRemainCost(KWTaskInfo &task) const
     task.RemainingCost = remaining;
     if (change == 0)
         return;
-    for (KWTaskInfo *ancestor : above(task))
+    for (TaskRecord *ancestor : above(task))
         ancestor->RemainingCost += change;
 }
 
-void CostPass::updateParentCostAndWork(KWTaskInfo &task, double costChange, double workChange,
+void CostPass::updateParentCostAndWork(TaskRecord &task, double costChange, double workChange,
                                        bool force) const
 {
     const double hours =
         force || !task.isParent() ? cost::toHours(m_measures, workChange, task.DurationUnits) : workChange;
-    for (KWTaskInfo *ancestor : above(task)) {
+    for (TaskRecord *ancestor : above(task)) {
         // A summary has no assignments of its own. Kept on purpose: what they have cost stays in its sum.
-        ancestor->clearResources();
+        assignments::clear(ancestor->resourceList);
         ancestor->Cost += costChange;
         ancestor->Work += hours;
     }
 }
 
-void CostPass::updateResourceName(KWTaskInfo &task) const
+void CostPass::updateResourceName(TaskRecord &task) const
 {
     if (task.isParent())
         joinNames(task, below(task));
@@ -95,7 +95,7 @@ void CostPass::updateResourceName(KWTaskInfo &task) const
     joinAncestorNames(task);
 }
 
-Resource *CostPass::append(KWTaskInfo &task, const QString &name, const ResourceInfo *entry)
+Resource *CostPass::append(TaskRecord &task, const QString &name, const ResourceEntry *entry)
 {
     auto *resource = new Resource;
     if (entry) {
@@ -113,7 +113,7 @@ Resource *CostPass::append(KWTaskInfo &task, const QString &name, const Resource
     return resource;
 }
 
-Resource *CostPass::assign(KWTaskInfo &task, const QString &name, const ResourceInfo *entry) const
+Resource *CostPass::assign(TaskRecord &task, const QString &name, const ResourceEntry *entry) const
 {
     Resource *resource = append(task, name, entry);
     const double added = cost::ofAssignment(m_measures, task, *resource);
@@ -125,7 +125,7 @@ Resource *CostPass::assign(KWTaskInfo &task, const QString &name, const Resource
     return resource;
 }
 
-void CostPass::remove(KWTaskInfo &task, Resource *resource) const
+void CostPass::remove(TaskRecord &task, Resource *resource) const
 {
     const double saved = cost::ofAssignment(m_measures, task, *resource);
     const double work = cost::work(m_measures, task, *resource);
@@ -137,12 +137,12 @@ void CostPass::remove(KWTaskInfo &task, Resource *resource) const
     updateRemainCost(task);
 }
 
-bool CostPass::rename(KWTaskInfo &task, const QString &oldName, const QString &newName) const
+bool CostPass::rename(TaskRecord &task, const QString &oldName, const QString &newName) const
 {
-    Resource *resource = task.getResourceByName(oldName);
+    Resource *resource = assignments::byName(task.resourceList, oldName);
     if (!resource)
         return false;
-    const Resource *other = task.getResourceByName(newName);
+    const Resource *other = assignments::byName(task.resourceList, newName);
     if (!other || other == resource) {
         resource->name = newName;
         return true;
@@ -154,44 +154,44 @@ bool CostPass::rename(KWTaskInfo &task, const QString &oldName, const QString &n
     return true;
 }
 
-void CostPass::sumCostAndWork(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const
+void CostPass::sumCostAndWork(TaskRecord &summary, const std::vector<TaskRecord *> &below) const
 {
     const cost::Total total = cost::ofLeaves(m_measures, below);
     summary.Cost = total.cost;
     summary.Work = total.work;
 }
 
-void CostPass::joinNames(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below)
+void CostPass::joinNames(TaskRecord &summary, const std::vector<TaskRecord *> &below)
 {
-    summary.clearResources();
+    assignments::clear(summary.resourceList);
     names::Distinct distinct;
     distinct.addLeaves(below);
     summary.Resources = distinct.text();
 }
 
-void CostPass::sumWithoutBaseline(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below) const
+void CostPass::sumWithoutBaseline(TaskRecord &summary, const std::vector<TaskRecord *> &below) const
 {
     sumCostAndWork(summary, below);
     joinNames(summary, below);
     summary.RemainingCost = cost::remainingOfLeaves(below);
 }
 
-void CostPass::sumWithoutBaseline(KWTaskInfo &summary) const
+void CostPass::sumWithoutBaseline(TaskRecord &summary) const
 {
     sumWithoutBaseline(summary, leavesBelow(summary));
 }
 
-void CostPass::sumAll(KWTaskInfo &summary) const
+void CostPass::sumAll(TaskRecord &summary) const
 {
-    const std::vector<KWTaskInfo *> leaves = leavesBelow(summary);
+    const std::vector<TaskRecord *> leaves = leavesBelow(summary);
     sumWithoutBaseline(summary, leaves);
     summary.BaselineCost = cost::baselineText(cost::baselineOfLeaves(leaves));
     rollup::baseline(leaves, summary);
 }
 
-void CostPass::joinAncestorNames(const KWTaskInfo &task) const
+void CostPass::joinAncestorNames(const TaskRecord &task) const
 {
-    for (KWTaskInfo *ancestor : above(task)) {
+    for (TaskRecord *ancestor : above(task)) {
         if (ancestor->isParent())
             joinNames(*ancestor, below(*ancestor));
     }
@@ -199,18 +199,18 @@ void CostPass::joinAncestorNames(const KWTaskInfo &task) const
 
 // ---- Several branches -------------------------------------------------------------------------------------
 
-void CostPass::sumFrom(const std::vector<KWTaskInfo *> &changed)
+void CostPass::sumFrom(const std::vector<TaskRecord *> &changed)
 {
-    for (KWTaskInfo *task : changed) {
+    for (TaskRecord *task : changed) {
         if (task->isParent())
             continue;
         // It has lost its last child: a leaf again, with the assignments it has.
         updateCostAndWork(*task);
         task->Resources = names::ofAssignments(*task);
     }
-    const std::vector<KWTaskInfo *> concerned = outline::withAncestors(m_tasks, changed);
+    const std::vector<TaskRecord *> concerned = outline::withAncestors(m_tasks, changed);
     gather(concerned);
-    for (KWTaskInfo *task : concerned) {
+    for (TaskRecord *task : concerned) {
         if (task->isParent())
             sumWithoutBaseline(*task);
     }

@@ -1,28 +1,13 @@
 #include "engine/cost/names.h"
 #include "engine/record/resource.h"
-#include "model/kwtaskinfo.h"
-#include "resources/resourceinfodata.h"
+#include "engine/record/taskrecord.h"
 #include <limits>
 
 namespace names {
 
-namespace {
-
-// The greatest ID, at least 0.
-int greatestId(const QVector<ResourceInfo *> &infos)
-{
-    int greatest = 0;
-    for (const ResourceInfo *info : infos) {
-        if (info)
-            greatest = std::max(greatest, info->ID);
-    }
-    return greatest;
-}
-
-int after(int id)
+int idAfter(int id)
 {
     return id == std::numeric_limits<int>::max() ? id : id + 1;
-}
 }
 
 bool Distinct::add(const QString &name)
@@ -35,21 +20,21 @@ bool Distinct::add(const QString &name)
     return true;
 }
 
-void Distinct::addAssignmentsOf(const KWTaskInfo &task)
+void Distinct::addAssignmentsOf(const TaskRecord &task)
 {
     for (const Resource *resource : task.resourceList)
         add(resource->name);
 }
 
-void Distinct::addLeaves(const std::vector<KWTaskInfo *> &tasks)
+void Distinct::addLeaves(const std::vector<TaskRecord *> &tasks)
 {
-    for (const KWTaskInfo *task : tasks) {
+    for (const TaskRecord *task : tasks) {
         if (!task->isParent())
             addAssignmentsOf(*task);
     }
 }
 
-QString ofAssignments(const KWTaskInfo &task)
+QString ofAssignments(const TaskRecord &task)
 {
     QString text;
     for (const Resource *resource : task.resourceList) {
@@ -64,16 +49,6 @@ QString ofAssignments(const KWTaskInfo &task)
     return text;
 }
 
-Unique::Unique(const QVector<ResourceInfo *> &infos)
-    : m_nextId(names::nextId(infos))
-{
-    m_names.reserve(infos.size());
-    for (const ResourceInfo *info : infos) {
-        if (info)
-            m_names.insert(info->name);
-    }
-}
-
 QString Unique::different(const QString &name) const
 {
     QString candidate = name;
@@ -86,11 +61,6 @@ QString Unique::different(const QString &name) const
 void Unique::add(const QString &name, int id)
 {
     m_names.insert(name);
-    m_nextId = std::max(m_nextId, after(id));
-}
-
-int nextId(const QVector<ResourceInfo *> &infos)
-{
-    return after(greatestId(infos));
+    m_nextId = std::max(m_nextId, idAfter(id));
 }
 }

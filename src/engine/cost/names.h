@@ -1,11 +1,11 @@
 #pragma once
 #include <QSet>
 #include <QString>
-#include <QVector>
+#include <QStringList>
+#include <algorithm>
 #include <vector>
 
-class KWTaskInfo;
-class ResourceInfo;
+struct TaskRecord;
 
 // Names of resources: as a task shows them, and unique ones for the sheet.
 namespace names {
@@ -15,9 +15,9 @@ class Distinct
 {
 public:
     bool add(const QString &name); // whether it is new
-    void addAssignmentsOf(const KWTaskInfo &task);
+    void addAssignmentsOf(const TaskRecord &task);
     // The names of the leaves among the tasks.
-    void addLeaves(const std::vector<KWTaskInfo *> &tasks);
+    void addLeaves(const std::vector<TaskRecord *> &tasks);
     const QStringList &list() const { return m_list; }
     QString text() const { return m_list.join(QLatin1String("; ")); }
 
@@ -27,13 +27,36 @@ private:
 };
 
 // What a task without children shows: the trimmed names of its assignments, repeated ones as well.
-QString ofAssignments(const KWTaskInfo &task);
+QString ofAssignments(const TaskRecord &task);
+
+int idAfter(int id); // no ID comes after the greatest number: that one itself
+// One more than the greatest ID of the entries and than 0.
+template <typename Entries>
+int nextId(const Entries &entries)
+{
+    int greatest = 0;
+    for (const auto *entry : entries) {
+        if (entry)
+            greatest = std::max(greatest, int(entry->ID));
+    }
+    return idAfter(greatest);
+}
 
 // Makes names unique among those of a sheet and those handed out before.
 class Unique
 {
 public:
-    explicit Unique(const QVector<ResourceInfo *> &infos);
+    // `entries` are pointers to entries of a sheet, null ones among them.
+    template <typename Entries>
+    explicit Unique(const Entries &entries)
+        : m_nextId(names::nextId(entries))
+    {
+        m_names.reserve(entries.size());
+        for (const auto *entry : entries) {
+            if (entry)
+                m_names.insert(entry->name);
+        }
+    }
 
     int nextId() const { return m_nextId; }
     bool has(const QString &name) const { return m_names.contains(name.trimmed()); }
@@ -45,7 +68,4 @@ private:
     QSet<QString> m_names;
     int m_nextId = 1;
 };
-
-// One more than the greatest ID and than 0.
-int nextId(const QVector<ResourceInfo *> &infos);
 }

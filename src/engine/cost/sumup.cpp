@@ -1,15 +1,16 @@
 // Costs, work and names of all tasks from their assignments, in one walk over the outline.
 #include "engine/cost/costpass.h"
 #include "engine/cost/names.h"
+#include "engine/record/assignments.h"
 #include "engine/record/resource.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 
 namespace {
 
 // What the leaves below one summary add up to.
 struct LeafSums
 {
-    KWTaskInfo *summary = nullptr;
+    TaskRecord *summary = nullptr;
     cost::Total total;
     double remaining = 0;
     names::Distinct names;
@@ -18,7 +19,7 @@ struct LeafSums
 };
 
 // Adds a leaf to the summaries above it, the outermost first.
-void addLeaf(std::vector<LeafSums> &path, const cost::Measures &measures, const KWTaskInfo &leaf)
+void addLeaf(std::vector<LeafSums> &path, const cost::Measures &measures, const TaskRecord &leaf)
 {
     const double hours = cost::toHours(measures, leaf.Work, leaf.DurationUnits);
     const bool isAssigned = leaf.isHaveResource();
@@ -39,12 +40,12 @@ void addLeaf(std::vector<LeafSums> &path, const cost::Measures &measures, const 
 
 void finishSummary(const LeafSums &sums)
 {
-    KWTaskInfo &summary = *sums.summary;
+    TaskRecord &summary = *sums.summary;
     summary.Cost = sums.total.cost;
     summary.Work = sums.total.work;
     summary.RemainingCost = sums.remaining;
     if (sums.hasAssignments) {
-        summary.clearResources();
+        assignments::clear(summary.resourceList);
         summary.Resources = sums.names.text();
     }
 }
@@ -52,7 +53,7 @@ void finishSummary(const LeafSums &sums)
 
 void CostPass::sumUp() const
 {
-    for (KWTaskInfo *task : m_tasks.list) {
+    for (TaskRecord *task : m_tasks.list) {
         if (task->isParent() || !task->isHaveResource())
             continue;
         const cost::Total total = cost::ofAssignments(m_measures, *task);
@@ -64,7 +65,7 @@ void CostPass::sumUp() const
     // The leaves of each summary in the order of the outline, like everywhere.
     TaskIndex seen;
     std::vector<LeafSums> path;
-    const auto enter = [&](KWTaskInfo *task) {
+    const auto enter = [&](TaskRecord *task) {
         if (!task || !seen.add(task->ID))
             return;
         if (!task->isParent()) {
@@ -74,7 +75,7 @@ void CostPass::sumUp() const
         path.emplace_back();
         path.back().summary = task;
     };
-    for (KWTaskInfo *top : m_tasks.list) {
+    for (TaskRecord *top : m_tasks.list) {
         if (top->ParentID == 0)
             enter(top);
         while (!path.empty()) {

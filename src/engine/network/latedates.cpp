@@ -1,8 +1,8 @@
 #include "engine/network/latedates.h"
+#include "engine/record/taskrecord.h"
 #include "engine/time/duration.h"
 #include "engine/time/walk.h"
 #include "format/dataformat.h"
-#include "model/kwtaskinfo.h"
 #include <algorithm>
 
 namespace latedates {
@@ -14,7 +14,7 @@ namespace {
 
 // Adds the task's links; nodeOf(pos) names the node of a successor's place.
 template <typename NodeOf>
-void addLinks(Network &network, const outline::Tasks &tasks, const KWTaskInfo &task, NodeOf nodeOf)
+void addLinks(Network &network, const outline::Tasks &tasks, const TaskRecord &task, NodeOf nodeOf)
 {
     bool listsUnknown = false;
     for (const quint32 id : task.Depends) {
@@ -57,12 +57,12 @@ Network wholeNetwork(const outline::Tasks &tasks)
     network.tasks.assign(tasks.list.begin(), tasks.list.end());
     network.graph.first.reserve(network.tasks.size() + 1);
     network.listsUnknown.reserve(network.tasks.size());
-    for (const KWTaskInfo *task : network.tasks)
+    for (const TaskRecord *task : network.tasks)
         addLinks(network, tasks, *task, [](int pos) { return pos; });
     return network;
 }
 
-Network networkAfter(const outline::Tasks &tasks, const KWTaskInfo &task)
+Network networkAfter(const outline::Tasks &tasks, const TaskRecord &task)
 {
     Network network;
     TaskIndex nodeOfPos;
@@ -175,7 +175,7 @@ QString SlackTexts::text(double units)
     });
 }
 
-double writeSlack(KWTaskInfo &task, SlackTexts &texts)
+double writeSlack(TaskRecord &task, SlackTexts &texts)
 {
     const bool begun = task.Percent != 0;
     task.EarlySlack = texts.text(begun ? 0.0 : texts.between(task.Start, task.LateStart));
@@ -195,7 +195,7 @@ LateDates::LateDates(const WorkCalendar &calendar, quint32 projectFinish, unsign
 {
 }
 
-quint32 LateDates::length(const KWTaskInfo &task) const
+quint32 LateDates::length(const TaskRecord &task) const
 {
     return duration::secs(m_calendar, task.Start, task.Finish, m_unit);
 }
@@ -208,7 +208,7 @@ quint32 LateDates::beforeFinish(qint64 workSecs)
     });
 }
 
-void LateDates::apply(KWTaskInfo &task, quint32 lengthSecs, const Tail &tail)
+void LateDates::apply(TaskRecord &task, quint32 lengthSecs, const Tail &tail)
 {
     if (tail.kind == Tail::Path) {
         task.LateStart = beforeFinish(tail.secs + lengthSecs);

@@ -5,7 +5,7 @@
 #include <QString>
 #include <vector>
 
-class KWTaskInfo;
+struct TaskRecord;
 
 // How late a task may be without moving the project's finish. Only links count, not the outline; the links
 // between the tasks of a ring do not count at all.
@@ -17,12 +17,12 @@ unsigned int slackUnit(unsigned int minorUnit);
 // Tasks and the links from each to its successors.
 struct Network
 {
-    std::vector<const KWTaskInfo *> tasks;
+    std::vector<const TaskRecord *> tasks;
     linkgraph::Graph graph;
     std::vector<char> listsUnknown; // the task lists a successor that does not exist
 };
 Network wholeNetwork(const outline::Tasks &tasks);                         // in list order
-Network networkAfter(const outline::Tasks &tasks, const KWTaskInfo &task); // the task first
+Network networkAfter(const outline::Tasks &tasks, const TaskRecord &task); // the task first
 
 // What comes after a task.
 struct Tail
@@ -93,8 +93,8 @@ public:
     LateDates(const worktime::WorkCalendar &calendar, quint32 projectFinish, unsigned int unit,
               const QString &unitName);
 
-    quint32 length(const KWTaskInfo &task) const; // seconds of work in the unit
-    void apply(KWTaskInfo &task, quint32 lengthSecs, const Tail &tail);
+    quint32 length(const TaskRecord &task) const; // seconds of work in the unit
+    void apply(TaskRecord &task, quint32 lengthSecs, const Tail &tail);
 
 private:
     quint32 beforeFinish(qint64 workSecs);
@@ -108,5 +108,5 @@ private:
 
 // The slack texts from the dates as they stand. A task that has begun has no start slack. Returns the finish
 // slack's value.
-double writeSlack(KWTaskInfo &task, SlackTexts &texts);
+double writeSlack(TaskRecord &task, SlackTexts &texts);
 }

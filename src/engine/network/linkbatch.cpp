@@ -2,7 +2,7 @@
 #include "engine/network/growingorder.h"
 #include "engine/network/linkgraph.h"
 #include "engine/network/links.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 #include <QSet>
 #include <QVector>
 #include <limits>
@@ -156,8 +156,8 @@ private:
             return LinkRefusal::Self;
         if (m_linked.contains(pairOf(ends.predecessor, ends.successor)))
             return LinkRefusal::Twice;
-        const KWTaskInfo &a = *m_tasks.list[ends.predecessor];
-        const KWTaskInfo &b = *m_tasks.list[ends.successor];
+        const TaskRecord &a = *m_tasks.list[ends.predecessor];
+        const TaskRecord &b = *m_tasks.list[ends.successor];
         const LinkRefusal byOutline =
             a.isParent() || b.isParent() ? outlineRefusal(m_tasks, a, b) : LinkRefusal::None;
         if (byOutline != LinkRefusal::None)
@@ -173,8 +173,8 @@ private:
 
     void insert(int predecessor, int successor)
     {
-        KWTaskInfo &a = *m_tasks.list[predecessor];
-        KWTaskInfo &b = *m_tasks.list[successor];
+        TaskRecord &a = *m_tasks.list[predecessor];
+        TaskRecord &b = *m_tasks.list[successor];
         const quint64 pair = pairOf(predecessor, successor);
         m_linked.insert(pair);
         insertByBar(a.Depends, b, m_successorsRight[predecessor]);
@@ -185,12 +185,12 @@ private:
     }
 
     // `right` is the greatest left edge of the listed bars: without a greater one the list need not be read.
-    void insertByBar(QList<quint32> &ids, const KWTaskInfo &task, double &right) const
+    void insertByBar(QList<quint32> &ids, const TaskRecord &task, double &right) const
     {
         if (right == unknown) {
             right = -unknown;
             for (const quint32 id : qAsConst(ids)) {
-                const KWTaskInfo *listed = m_tasks.byId(id);
+                const TaskRecord *listed = m_tasks.byId(id);
                 if (listed && listed->x1 > right)
                     right = listed->x1;
             }
@@ -214,8 +214,8 @@ int insertOneByOne(const Tasks &tasks, QList<KWTaskLink> &wanted)
 {
     int made = 0;
     for (KWTaskLink &link : wanted) {
-        KWTaskInfo *a = tasks.byId(link.predecessor);
-        KWTaskInfo *b = tasks.byId(link.successor);
+        TaskRecord *a = tasks.byId(link.predecessor);
+        TaskRecord *b = tasks.byId(link.successor);
         link.ring.clear();
         link.refusal = a && b ? refusal(tasks, *a, *b, &link.ring) : LinkRefusal::Missing;
         if (link.refusal != LinkRefusal::None)

@@ -1,6 +1,6 @@
 #pragma once
 #include "engine/record/outline.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 #include <memory>
 #include <vector>
 
@@ -69,7 +69,7 @@ private:
 template <typename Visit>
 void forEachFollower(const outline::Tasks &tasks, int pos, bool isEnd, Visit visit)
 {
-    const KWTaskInfo &task = *tasks.list[pos];
+    const TaskRecord &task = *tasks.list[pos];
     if (!isEnd && task.isParent()) {
         for (const quint32 id : task.Childs) {
             const int child = tasks.index.posOf(id);

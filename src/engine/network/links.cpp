@@ -1,6 +1,7 @@
 #include "engine/network/links.h"
 #include "engine/network/linkgraph.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/idlist.h"
+#include "engine/record/taskrecord.h"
 #include <algorithm>
 
 namespace links {
@@ -9,7 +10,7 @@ using outline::Tasks;
 
 namespace {
 
-using IdList = QList<quint32> KWTaskInfo::*;
+using IdList = QList<quint32> TaskRecord::*;
 
 constexpr int none = -1;
 
@@ -17,24 +18,24 @@ constexpr int none = -1;
 
 // The IDs of a task, of the summaries above it but below the one it shares with another task, and of all
 // below it.
-TaskIndex family(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &other)
+TaskIndex family(const Tasks &tasks, const TaskRecord &a, const TaskRecord &other)
 {
     TaskIndex ids;
     ids.add(a.ID);
-    const KWTaskInfo *common = outline::commonSummary(tasks, a, other);
-    for (const KWTaskInfo *above : outline::ancestors(tasks, a)) {
+    const TaskRecord *common = outline::commonSummary(tasks, a, other);
+    for (const TaskRecord *above : outline::ancestors(tasks, a)) {
         if (above == common)
             break;
         ids.add(above->ID);
     }
-    for (const KWTaskInfo *below : outline::descendants(tasks, a))
+    for (const TaskRecord *below : outline::descendants(tasks, a))
         ids.add(below->ID);
     return ids;
 }
 
-bool contains(const std::vector<KWTaskInfo *> &tasks, quint32 id)
+bool contains(const std::vector<TaskRecord *> &tasks, quint32 id)
 {
-    return std::any_of(tasks.begin(), tasks.end(), [id](const KWTaskInfo *task) { return task->ID == id; });
+    return std::any_of(tasks.begin(), tasks.end(), [id](const TaskRecord *task) { return task->ID == id; });
 }
 
 // One event reached on the way from b to a.
@@ -49,13 +50,13 @@ struct Reached
 bool isReached(const Tasks &tasks, int a, int b, QList<quint32> *ring)
 {
     TaskIndex aboveA;
-    for (const KWTaskInfo *above : outline::ancestors(tasks, *tasks.list[a]))
+    for (const TaskRecord *above : outline::ancestors(tasks, *tasks.list[a]))
         aboveA.add(above->ID);
     std::vector<Reached> reached;
     TaskIndex seen;
     int from = none;
     const auto reach = [&](int pos, bool isEnd, bool isLink) {
-        const KWTaskInfo &task = *tasks.list[pos];
+        const TaskRecord &task = *tasks.list[pos];
         // The end of a summary that holds a says nothing of a itself.
         const bool goesUp = isEnd && !isLink && aboveA.contains(task.ID);
         const bool ends = isEnd || !task.isParent();
@@ -83,19 +84,19 @@ bool isReached(const Tasks &tasks, int a, int b, QList<quint32> *ring)
 
 // ---- The lists --------------------------------------------------------------------------------------------
 
-void removeAlong(const Tasks &tasks, const std::vector<KWTaskInfo *> &from, KWTaskInfo &x, IdList onward,
+void removeAlong(const Tasks &tasks, const std::vector<TaskRecord *> &from, TaskRecord &x, IdList onward,
                  IdList back)
 {
     TaskIndex seen;
     TaskIndex parted;
-    std::vector<KWTaskInfo *> open = from;
+    std::vector<TaskRecord *> open = from;
     while (!open.empty()) {
-        KWTaskInfo *task = open.back();
+        TaskRecord *task = open.back();
         open.pop_back();
         if (!seen.add(task->ID))
             continue;
         for (const quint32 id : qAsConst(task->*onward)) {
-            KWTaskInfo *next = tasks.byId(id);
+            TaskRecord *next = tasks.byId(id);
             if (next && !seen.contains(id))
                 open.push_back(next);
         }
@@ -110,7 +111,7 @@ void removeAlong(const Tasks &tasks, const std::vector<KWTaskInfo *> &from, KWTa
 
 }
 
-LinkRefusal outlineRefusal(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b)
+LinkRefusal outlineRefusal(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b)
 {
     if (contains(outline::ancestors(tasks, a), b.ID))
         return LinkRefusal::OwnSummary;
@@ -122,7 +123,7 @@ LinkRefusal outlineRefusal(const Tasks &tasks, const KWTaskInfo &a, const KWTask
 int placeByBar(const Tasks &tasks, const QList<quint32> &ids, double x)
 {
     for (int i = 0; i < ids.size(); ++i) {
-        const KWTaskInfo *task = tasks.byId(ids[i]);
+        const TaskRecord *task = tasks.byId(ids[i]);
         if (task && task->x1 > x)
             return i;
     }
@@ -140,7 +141,7 @@ QList<quint32> ringAlong(const Tasks &tasks, const std::vector<int> &path)
     return ids;
 }
 
-bool leadsTo(const Tasks &tasks, const KWTaskInfo &t, const KWTaskInfo &a)
+bool leadsTo(const Tasks &tasks, const TaskRecord &t, const TaskRecord &a)
 {
     if (t.Depends.isEmpty())
         return false;
@@ -148,7 +149,7 @@ bool leadsTo(const Tasks &tasks, const KWTaskInfo &t, const KWTaskInfo &a)
     return std::any_of(t.Depends.begin(), t.Depends.end(), [&](quint32 id) { return ids.contains(id); });
 }
 
-LinkRefusal refusal(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b, QList<quint32> *ring)
+LinkRefusal refusal(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b, QList<quint32> *ring)
 {
     const int posOfA = tasks.index.posOf(a.ID);
     const int posOfB = tasks.index.posOf(b.ID);
@@ -167,26 +168,26 @@ LinkRefusal refusal(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b
     return isReached(tasks, posOfA, posOfB, ring) ? LinkRefusal::Loop : LinkRefusal::None;
 }
 
-void insert(const Tasks &tasks, KWTaskInfo &a, KWTaskInfo &b)
+void insert(const Tasks &tasks, TaskRecord &a, TaskRecord &b)
 {
-    a.insertDependID(placeByBar(tasks, a.Depends, b.x1), b.ID);
-    b.insertDependOnID(placeByBar(tasks, b.Predecessors, a.x1), a.ID);
+    idlist::insert(a.Depends, placeByBar(tasks, a.Depends, b.x1), b.ID);
+    idlist::insert(b.Predecessors, placeByBar(tasks, b.Predecessors, a.x1), a.ID);
 }
 
-void removeDownstream(const Tasks &tasks, const std::vector<KWTaskInfo *> &from, KWTaskInfo &x)
+void removeDownstream(const Tasks &tasks, const std::vector<TaskRecord *> &from, TaskRecord &x)
 {
-    removeAlong(tasks, from, x, &KWTaskInfo::Depends, &KWTaskInfo::Predecessors);
+    removeAlong(tasks, from, x, &TaskRecord::Depends, &TaskRecord::Predecessors);
 }
 
-void removeUpstream(const Tasks &tasks, const std::vector<KWTaskInfo *> &from, KWTaskInfo &x)
+void removeUpstream(const Tasks &tasks, const std::vector<TaskRecord *> &from, TaskRecord &x)
 {
-    removeAlong(tasks, from, x, &KWTaskInfo::Predecessors, &KWTaskInfo::Depends);
+    removeAlong(tasks, from, x, &TaskRecord::Predecessors, &TaskRecord::Depends);
 }
 
 void completeSuccessors(const Tasks &tasks)
 {
     std::vector<std::vector<quint32>> named(size_t(tasks.list.size()));
-    for (KWTaskInfo *task : tasks.list) {
+    for (TaskRecord *task : tasks.list) {
         std::sort(task->Predecessors.begin(), task->Predecessors.end());
         for (const quint32 id : qAsConst(task->Predecessors)) {
             const int predecessor = tasks.index.posOf(id);

@@ -1,9 +1,9 @@
 #include "engine/network/moves.h"
 #include "engine/network/rollup.h"
+#include "engine/record/taskrecord.h"
 #include "engine/time/dayoff.h"
 #include "engine/time/duration.h"
 #include "engine/time/walk.h"
-#include "model/kwtaskinfo.h"
 #include <algorithm>
 
 namespace moves {
@@ -13,7 +13,7 @@ using worktime::clampSecs;
 using worktime::WorkCalendar;
 
 // Start and finish go to another moment together. A finish that is not set, while the start is, stays so.
-void shift(KWTaskInfo &task, quint32 start)
+void shift(TaskRecord &task, quint32 start)
 {
     const qint64 by = qint64(start) - task.Start;
     if (task.Finish || !task.Start)
@@ -103,7 +103,7 @@ private:
 
 }
 
-bool startTo(const WorkCalendar &calendar, KWTaskInfo &task, quint32 secs, bool hourScale)
+bool startTo(const WorkCalendar &calendar, TaskRecord &task, quint32 secs, bool hourScale)
 {
     const quint32 start = dayoff::startForward(calendar, secs, hourScale);
     if (start == task.Start)
@@ -112,7 +112,7 @@ bool startTo(const WorkCalendar &calendar, KWTaskInfo &task, quint32 secs, bool 
     return true;
 }
 
-void keepDuration(const WorkCalendar &calendar, KWTaskInfo &task, quint32 oldStart)
+void keepDuration(const WorkCalendar &calendar, TaskRecord &task, quint32 oldStart)
 {
     const quint32 oldFinish = clampSecs(qint64(task.Finish) - (qint64(task.Start) - oldStart));
     const bool elapsed = task.Milestone || task.DurationUnits <= duration::Month ||
@@ -129,14 +129,14 @@ void keepDuration(const WorkCalendar &calendar, KWTaskInfo &task, quint32 oldSta
     task.DurationSecs = duration::secs(calendar, task.Start, task.Finish, task.DurationUnits);
 }
 
-std::vector<KWTaskInfo *> content(const WorkCalendar &calendar, const outline::Tasks &tasks,
-                                  KWTaskInfo &summary, quint32 oldStart)
+std::vector<TaskRecord *> content(const WorkCalendar &calendar, const outline::Tasks &tasks,
+                                  TaskRecord &summary, quint32 oldStart)
 {
-    std::vector<KWTaskInfo *> below = outline::descendants(tasks, summary);
+    std::vector<TaskRecord *> below = outline::descendants(tasks, summary);
     const Carrier carrier(calendar, oldStart, summary.Start);
     // From the last to the first, so that what lies below a summary is in place before it is rolled up.
     for (auto it = below.rbegin(); it != below.rend(); ++it) {
-        KWTaskInfo &task = **it;
+        TaskRecord &task = **it;
         if (rollup::dates(calendar, tasks, task) || task.Start == 0)
             continue;
         const quint32 taskStart = task.Start;

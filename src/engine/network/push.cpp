@@ -2,7 +2,7 @@
 #include "engine/network/linkgraph.h"
 #include "engine/network/moves.h"
 #include "engine/network/rollup.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 #include <algorithm>
 
 namespace push {
@@ -75,7 +75,7 @@ public:
         std::sort(m_old.begin(), m_old.end(), [](const Old &a, const Old &b) { return a.pos < b.pos; });
         std::vector<Move> moved;
         for (const Old &old : m_old) {
-            KWTaskInfo *task = m_tasks.list[old.pos];
+            TaskRecord *task = m_tasks.list[old.pos];
             const int begin = m_network.beginOf(old.pos);
             const bool pushed = m_state[begin].pushed;
             if ((pushed || m_state[m_network.endOf(old.pos)].carried) &&
@@ -85,7 +85,7 @@ public:
         }
         return moved;
     }
-    KWTaskInfo &task(int node) const { return *m_tasks.list[m_network.nodes()[node].pos]; }
+    TaskRecord &task(int node) const { return *m_tasks.list[m_network.nodes()[node].pos]; }
 
 private:
     struct State
@@ -125,7 +125,7 @@ private:
     }
 
     // Whether the start moved. The finish goes along by the same seconds.
-    bool moveStart(KWTaskInfo &task, quint32 finish) const
+    bool moveStart(TaskRecord &task, quint32 finish) const
     {
         bool moved = moves::startTo(m_calendar, task, target(finish), m_hourScale);
         // On an hour-based scale the nearest minute of the hour clock can lie well before the finish.
@@ -136,7 +136,7 @@ private:
         return moved;
     }
 
-    bool moveTask(KWTaskInfo &task, quint32 finish) const
+    bool moveTask(TaskRecord &task, quint32 finish) const
     {
         const quint32 oldStart = task.Start;
         if (!moveStart(task, finish))
@@ -148,7 +148,7 @@ private:
     void place(int node)
     {
         State &state = m_state[node];
-        KWTaskInfo &moving = task(node);
+        TaskRecord &moving = task(node);
         if (holds(state.finish, moving.Start))
             return;
         remember(m_network.nodes()[node].pos);
@@ -161,30 +161,30 @@ private:
     void placeSummary(int node)
     {
         State &state = m_state[node];
-        KWTaskInfo &summary = task(node);
+        TaskRecord &summary = task(node);
         const quint32 oldStart = summary.Start;
         if (m_fromAll) {
-            for (const KWTaskInfo *below : outline::descendants(m_tasks, summary))
+            for (const TaskRecord *below : outline::descendants(m_tasks, summary))
                 remember(m_tasks.index.posOf(below->ID));
         }
         if (!moveStart(summary, state.finish))
             return;
-        const std::vector<KWTaskInfo *> below = moves::content(m_calendar, m_tasks, summary, oldStart);
+        const std::vector<TaskRecord *> below = moves::content(m_calendar, m_tasks, summary, oldStart);
         if (!holds(state.finish, summary.Start))
             placeContent(summary, below, state.finish);
         state.pushed = true;
         m_state[m_network.endOfBegin(node)].passed = true;
-        for (const KWTaskInfo *moved : below) {
+        for (const TaskRecord *moved : below) {
             const int end = m_network.endOf(m_tasks.index.posOf(moved->ID));
             m_state[end].passed = m_state[end].carried = true;
         }
     }
 
     // Tasks that stood on days off can keep their distance from the summary's start and still come too early.
-    void placeContent(KWTaskInfo &summary, const std::vector<KWTaskInfo *> &below, quint32 finish) const
+    void placeContent(TaskRecord &summary, const std::vector<TaskRecord *> &below, quint32 finish) const
     {
         for (auto it = below.rbegin(); it != below.rend(); ++it) {
-            KWTaskInfo &task = **it;
+            TaskRecord &task = **it;
             if (!rollup::dates(m_calendar, m_tasks, task) && task.Start != 0 && !holds(finish, task.Start))
                 moveTask(task, finish);
         }
@@ -194,7 +194,7 @@ private:
     void end(int node)
     {
         const bool passed = isPassed(node);
-        KWTaskInfo &ending = task(node);
+        TaskRecord &ending = task(node);
         if (passed && ending.isParent())
             rollup::dates(m_calendar, m_tasks, ending);
         if (!passed && !m_fromAll)
@@ -236,12 +236,12 @@ bool canPush(const EventNetwork &network, const Schedule &schedule, int predeces
     return false;
 }
 
-int posOf(const outline::Tasks &tasks, const KWTaskInfo &task)
+int posOf(const outline::Tasks &tasks, const TaskRecord &task)
 {
     const int pos = tasks.index.posOf(task.ID);
     if (pos >= 0 && tasks.list[pos] == &task)
         return pos;
-    return tasks.list.indexOf(const_cast<KWTaskInfo *>(&task)); // another task has the same ID
+    return tasks.list.indexOf(const_cast<TaskRecord *>(&task)); // another task has the same ID
 }
 }
 
@@ -257,7 +257,7 @@ quint32 target(quint32 finish)
     return worktime::clampSecs(second < secsPerMinute / 2 ? whole : whole + secsPerMinute);
 }
 
-std::vector<KWTaskInfo *> along(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
+std::vector<TaskRecord *> along(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
                                 const std::vector<Link> &links)
 {
     struct Ends
@@ -277,7 +277,7 @@ std::vector<KWTaskInfo *> along(const WorkCalendar &calendar, const outline::Tas
             starts.push_back(successor);
         }
     }
-    std::vector<KWTaskInfo *> passed;
+    std::vector<TaskRecord *> passed;
     if (early.empty())
         return passed;
 

@@ -3,7 +3,7 @@
 #include "engine/time/worktime.h"
 #include <vector>
 
-class KWTaskInfo;
+struct TaskRecord;
 
 // Moves tasks that start before their predecessors finish. A push goes on to the successors of what it moved,
 // to what lies below a moved summary and to the summaries above, whose successors it reaches. Nothing is ever
@@ -18,21 +18,21 @@ quint32 target(quint32 finish);
 
 struct Link
 {
-    const KWTaskInfo *predecessor;
-    KWTaskInfo *successor; // must be in the list
+    const TaskRecord *predecessor;
+    TaskRecord *successor; // must be in the list
 };
 // Pushes each successor to the finish of its predecessor, and all that follows from that, in one pass.
 // Returns the tasks that this passed, summaries above them included; none when nothing had to move. A link
 // that cannot hold pushes nothing; one that is not in the lists pushes nevertheless.
-std::vector<KWTaskInfo *> along(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,
+std::vector<TaskRecord *> along(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,
                                 bool hourScale, const std::vector<Link> &links);
 
 struct Move
 {
-    KWTaskInfo *task = nullptr;
+    TaskRecord *task = nullptr;
     quint32 oldStart = 0;
     quint32 oldFinish = 0;
-    KWTaskInfo *pushedBy = nullptr; // null: it was carried along by its summary
+    TaskRecord *pushedBy = nullptr; // null: it was carried along by its summary
 };
 // Rolls every summary up and pushes every successor. Returns the tasks that were pushed or carried along to
 // other dates, in list order.

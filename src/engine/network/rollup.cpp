@@ -1,6 +1,6 @@
 #include "engine/network/rollup.h"
+#include "engine/record/taskrecord.h"
 #include "engine/time/duration.h"
-#include "model/kwtaskinfo.h"
 #include <algorithm>
 #include <unordered_set>
 
@@ -26,22 +26,22 @@ private:
     quint32 m_finish = 0;
 };
 
-void store(const Span &span, KWTaskInfo &summary)
+void store(const Span &span, TaskRecord &summary)
 {
     summary.BaseStart = span.start();
     summary.BaseFinish = span.finish();
 }
 
 // Adds the leaves below the summary, the tasks already in `seen` and what lies below them left out.
-void addSubtrees(const outline::Tasks &tasks, const KWTaskInfo &summary,
-                 std::unordered_set<const KWTaskInfo *> &seen, Span &span)
+void addSubtrees(const outline::Tasks &tasks, const TaskRecord &summary,
+                 std::unordered_set<const TaskRecord *> &seen, Span &span)
 {
-    std::vector<const KWTaskInfo *> from{&summary};
+    std::vector<const TaskRecord *> from{&summary};
     while (!from.empty()) {
-        const KWTaskInfo *task = from.back();
+        const TaskRecord *task = from.back();
         from.pop_back();
         for (const quint32 id : task->Childs) {
-            const KWTaskInfo *child = tasks.byId(id);
+            const TaskRecord *child = tasks.byId(id);
             if (child && seen.insert(child).second) {
                 if (child->isParent())
                     from.push_back(child);
@@ -53,11 +53,11 @@ void addSubtrees(const outline::Tasks &tasks, const KWTaskInfo &summary,
 }
 }
 
-bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, KWTaskInfo &summary)
+bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, TaskRecord &summary)
 {
     Span span;
     for (const quint32 id : summary.Childs) {
-        if (const KWTaskInfo *child = tasks.byId(id))
+        if (const TaskRecord *child = tasks.byId(id))
             span.add(child->Start, child->Finish);
     }
     if (span.start() == 0 || span.finish() == 0)
@@ -68,12 +68,12 @@ bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, 
     return true;
 }
 
-double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, const KWTaskInfo &summary)
+double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, const TaskRecord &summary)
 {
     double weighted = 0.0;
     double total = 0.0;
     for (const quint32 id : summary.Childs) {
-        const KWTaskInfo *child = tasks.byId(id);
+        const TaskRecord *child = tasks.byId(id);
         if (!child || child->Milestone)
             continue;
         const double length = duration::ofTask(calendar, child->Start, child->Finish, child->DurationUnits);
@@ -83,23 +83,23 @@ double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tas
     return weighted != 0.0 && total != 0.0 ? weighted / total : 0.0;
 }
 
-void baseline(const std::vector<KWTaskInfo *> &below, KWTaskInfo &summary)
+void baseline(const std::vector<TaskRecord *> &below, TaskRecord &summary)
 {
     Span span;
-    for (const KWTaskInfo *task : below) {
+    for (const TaskRecord *task : below) {
         if (!task->isParent())
             span.add(task->BaseStart, task->BaseFinish);
     }
     store(span, summary);
 }
 
-void ancestorBaselines(const outline::Tasks &tasks, const KWTaskInfo &task)
+void ancestorBaselines(const outline::Tasks &tasks, const TaskRecord &task)
 {
     // A summary holds the one below it, so only the other branches of each are walked.
     Span span;
-    std::unordered_set<const KWTaskInfo *> seen;
-    const KWTaskInfo *below = nullptr;
-    for (KWTaskInfo *ancestor : outline::ancestors(tasks, task)) {
+    std::unordered_set<const TaskRecord *> seen;
+    const TaskRecord *below = nullptr;
+    for (TaskRecord *ancestor : outline::ancestors(tasks, task)) {
         if (below && !ancestor->Childs.contains(below->ID)) {
             span = Span();
             seen.clear();

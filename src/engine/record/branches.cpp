@@ -1,11 +1,11 @@
 #include "engine/record/branches.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 
 namespace outline {
 
-Branches::Branches(const Tasks &tasks, const std::vector<KWTaskInfo *> &roots)
+Branches::Branches(const Tasks &tasks, const std::vector<TaskRecord *> &roots)
 {
-    for (KWTaskInfo *root : roots) {
+    for (TaskRecord *root : roots) {
         if (!add(tasks, root)) {
             *this = Branches();
             return;
@@ -13,7 +13,7 @@ Branches::Branches(const Tasks &tasks, const std::vector<KWTaskInfo *> &roots)
     }
 }
 
-bool Branches::add(const Tasks &tasks, KWTaskInfo *root)
+bool Branches::add(const Tasks &tasks, TaskRecord *root)
 {
     struct Branch
     {
@@ -21,7 +21,7 @@ bool Branches::add(const Tasks &tasks, KWTaskInfo *root)
         int nextChild;
     };
     std::vector<Branch> path;
-    const auto enter = [&](KWTaskInfo *task) {
+    const auto enter = [&](TaskRecord *task) {
         const bool isLeaf = !task->isParent();
         if (!m_placeOf.add(task->ID, isLeaf ? 0 : int(m_places.size())))
             return false;
@@ -40,7 +40,7 @@ bool Branches::add(const Tasks &tasks, KWTaskInfo *root)
         Branch &branch = path.back();
         Place &place = m_places[branch.place];
         if (branch.nextChild < place.summary->Childs.size()) {
-            KWTaskInfo *child = tasks.byId(place.summary->Childs[branch.nextChild++]);
+            TaskRecord *child = tasks.byId(place.summary->Childs[branch.nextChild++]);
             if (child && !enter(child))
                 return false;
         } else {
@@ -52,23 +52,23 @@ bool Branches::add(const Tasks &tasks, KWTaskInfo *root)
     return true;
 }
 
-const Branches::Place &Branches::placeOf(const KWTaskInfo &summary) const
+const Branches::Place &Branches::placeOf(const TaskRecord &summary) const
 {
     return m_places[std::size_t(m_placeOf.posOf(summary.ID))];
 }
 
-bool Branches::knows(const KWTaskInfo &summary) const
+bool Branches::knows(const TaskRecord &summary) const
 {
     return !m_places.empty() && m_placeOf.contains(summary.ID) && placeOf(summary).summary == &summary;
 }
 
-std::vector<KWTaskInfo *> Branches::below(const KWTaskInfo &summary) const
+std::vector<TaskRecord *> Branches::below(const TaskRecord &summary) const
 {
     const Place &place = placeOf(summary);
     return {m_order.begin() + std::ptrdiff_t(place.first), m_order.begin() + std::ptrdiff_t(place.last)};
 }
 
-std::vector<KWTaskInfo *> Branches::leavesBelow(const KWTaskInfo &summary) const
+std::vector<TaskRecord *> Branches::leavesBelow(const TaskRecord &summary) const
 {
     const Place &place = placeOf(summary);
     return {m_leaves.begin() + std::ptrdiff_t(place.firstLeaf),

@@ -13,27 +13,27 @@ public:
     // Nothing is known.
     Branches() = default;
     // The branches of these tasks, the tasks included.
-    Branches(const Tasks &tasks, const std::vector<KWTaskInfo *> &roots);
+    Branches(const Tasks &tasks, const std::vector<TaskRecord *> &roots);
 
     // Both need `knows`, and are in the order of `descendants`.
-    std::vector<KWTaskInfo *> below(const KWTaskInfo &summary) const;
-    std::vector<KWTaskInfo *> leavesBelow(const KWTaskInfo &summary) const;
+    std::vector<TaskRecord *> below(const TaskRecord &summary) const;
+    std::vector<TaskRecord *> leavesBelow(const TaskRecord &summary) const;
     // Whether the task is a summary in one of the branches. Where branches meet or run in a ring, nothing is
     // known.
-    bool knows(const KWTaskInfo &summary) const;
+    bool knows(const TaskRecord &summary) const;
 
 private:
     struct Place
     {
-        const KWTaskInfo *summary;
+        const TaskRecord *summary;
         std::size_t first, last;         // in m_order, the summary itself not included
         std::size_t firstLeaf, lastLeaf; // in m_leaves
     };
-    bool add(const Tasks &tasks, KWTaskInfo *root);
-    const Place &placeOf(const KWTaskInfo &summary) const;
+    bool add(const Tasks &tasks, TaskRecord *root);
+    const Place &placeOf(const TaskRecord &summary) const;
 
-    std::vector<KWTaskInfo *> m_order;
-    std::vector<KWTaskInfo *> m_leaves;
+    std::vector<TaskRecord *> m_order;
+    std::vector<TaskRecord *> m_leaves;
     std::vector<Place> m_places;
     TaskIndex m_placeOf; // 0 for the leaves, which have no place
 };

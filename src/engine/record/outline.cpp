@@ -1,32 +1,34 @@
 #include "engine/record/outline.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/idlist.h"
+#include "engine/record/rowfont.h"
+#include "engine/record/taskrecord.h"
 
 namespace outline {
 
-KWTaskInfo *Tasks::byId(quint32 id) const
+TaskRecord *Tasks::byId(quint32 id) const
 {
     const int pos = index.posOf(id);
     return pos < 0 ? nullptr : list[pos];
 }
 
-std::vector<KWTaskInfo *> descendants(const Tasks &tasks, const KWTaskInfo &task)
+std::vector<TaskRecord *> descendants(const Tasks &tasks, const TaskRecord &task)
 {
-    std::vector<KWTaskInfo *> found;
-    anyDescendant(tasks, task, [&found](KWTaskInfo *descendant) {
+    std::vector<TaskRecord *> found;
+    anyDescendant(tasks, task, [&found](TaskRecord *descendant) {
         found.push_back(descendant);
         return false;
     });
     return found;
 }
 
-bool anyDescendant(const Tasks &tasks, const KWTaskInfo &task, const std::function<bool(KWTaskInfo *)> &visit)
+bool anyDescendant(const Tasks &tasks, const TaskRecord &task, const std::function<bool(TaskRecord *)> &visit)
 {
     if (task.Childs.isEmpty())
         return false;
 
     struct Branch
     {
-        const KWTaskInfo *task;
+        const TaskRecord *task;
         int nextChild;
     };
     std::vector<Branch> path{{&task, 0}};
@@ -38,7 +40,7 @@ bool anyDescendant(const Tasks &tasks, const KWTaskInfo &task, const std::functi
             path.pop_back();
             continue;
         }
-        KWTaskInfo *child = tasks.byId(branch.task->Childs[branch.nextChild++]);
+        TaskRecord *child = tasks.byId(branch.task->Childs[branch.nextChild++]);
         if (!child || !seen.add(child->ID))
             continue;
         if (visit(child))
@@ -49,24 +51,24 @@ bool anyDescendant(const Tasks &tasks, const KWTaskInfo &task, const std::functi
     return false;
 }
 
-std::vector<KWTaskInfo *> ancestors(const Tasks &tasks, const KWTaskInfo &task)
+std::vector<TaskRecord *> ancestors(const Tasks &tasks, const TaskRecord &task)
 {
     // Outlines are a few levels deep: looking through the ancestors found so far costs less than a set.
     constexpr std::size_t shortChain = 16;
-    std::vector<KWTaskInfo *> found;
+    std::vector<TaskRecord *> found;
     TaskIndex seen;
-    const auto isMet = [&](const KWTaskInfo *ancestor) {
+    const auto isMet = [&](const TaskRecord *ancestor) {
         if (found.size() < shortChain)
             return ancestor->ID == task.ID || std::find(found.begin(), found.end(), ancestor) != found.end();
         if (seen.size() == 0) {
             seen.add(task.ID);
-            for (const KWTaskInfo *earlier : found)
+            for (const TaskRecord *earlier : found)
                 seen.add(earlier->ID);
         }
         return !seen.add(ancestor->ID);
     };
     for (quint32 id = task.ParentID; id != 0; id = found.back()->ParentID) {
-        KWTaskInfo *ancestor = tasks.byId(id);
+        TaskRecord *ancestor = tasks.byId(id);
         if (!ancestor || isMet(ancestor))
             break;
         found.push_back(ancestor);
@@ -74,11 +76,11 @@ std::vector<KWTaskInfo *> ancestors(const Tasks &tasks, const KWTaskInfo &task)
     return found;
 }
 
-std::vector<KWTaskInfo *> withAncestors(const Tasks &tasks, const std::vector<KWTaskInfo *> &changed)
+std::vector<TaskRecord *> withAncestors(const Tasks &tasks, const std::vector<TaskRecord *> &changed)
 {
     TaskIndex seen;
     std::vector<int> found;
-    for (const KWTaskInfo *task : changed) {
+    for (const TaskRecord *task : changed) {
         int pos = tasks.index.posOf(task->ID);
         while (pos >= 0 && seen.add(tasks.list[pos]->ID)) {
             found.push_back(pos);
@@ -87,31 +89,31 @@ std::vector<KWTaskInfo *> withAncestors(const Tasks &tasks, const std::vector<KW
         }
     }
     std::sort(found.rbegin(), found.rend());
-    std::vector<KWTaskInfo *> ordered;
+    std::vector<TaskRecord *> ordered;
     for (const int pos : found)
         ordered.push_back(tasks.list[pos]);
     return ordered;
 }
 
-KWTaskInfo *commonSummary(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b)
+TaskRecord *commonSummary(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b)
 {
     TaskIndex aboveB;
-    for (const KWTaskInfo *ancestor : ancestors(tasks, b))
+    for (const TaskRecord *ancestor : ancestors(tasks, b))
         aboveB.add(ancestor->ID);
-    for (KWTaskInfo *ancestor : ancestors(tasks, a)) {
+    for (TaskRecord *ancestor : ancestors(tasks, a)) {
         if (aboveB.contains(ancestor->ID))
             return ancestor;
     }
     return nullptr;
 }
 
-void addChilds(const Tasks &tasks, KWTaskInfo &summary, const std::vector<KWTaskInfo *> &children)
+void addChilds(const Tasks &tasks, TaskRecord &summary, const std::vector<TaskRecord *> &children)
 {
     // Looking for each among all the others would be quadratic.
     TaskIndex held;
     for (const quint32 id : qAsConst(summary.Childs))
         held.add(id);
-    for (const KWTaskInfo *child : children) {
+    for (const TaskRecord *child : children) {
         const int pos = tasks.index.posOf(child->ID);
         if (pos < 0 || !held.add(child->ID))
             continue;
@@ -130,18 +132,18 @@ void removeIds(QList<quint32> &list, const TaskIndex &ids)
 }
 }
 
-void removeChilds(KWTaskInfo &summary, const TaskIndex &ids)
+void removeChilds(TaskRecord &summary, const TaskIndex &ids)
 {
     removeIds(summary.Childs, ids);
 }
 
-void cutLinks(const Tasks &tasks, const std::vector<KWTaskInfo *> &leaving, const TaskIndex &leavingIds)
+void cutLinks(const Tasks &tasks, const std::vector<TaskRecord *> &leaving, const TaskIndex &leavingIds)
 {
     TaskIndex done;
-    for (const KWTaskInfo *task : leaving) {
+    for (const TaskRecord *task : leaving) {
         for (const QList<quint32> *linked : {&task->Depends, &task->Predecessors}) {
             for (const quint32 id : *linked) {
-                KWTaskInfo *other = tasks.byId(id);
+                TaskRecord *other = tasks.byId(id);
                 if (!other || leavingIds.contains(id) || !done.add(id))
                     continue;
                 removeIds(other->Depends, leavingIds);
@@ -151,24 +153,24 @@ void cutLinks(const Tasks &tasks, const std::vector<KWTaskInfo *> &leaving, cons
     }
 }
 
-void LevelBuilder::add(KWTaskInfo &task)
+void LevelBuilder::add(TaskRecord &task)
 {
     const bool isNewId = m_addedIds.add(task.ID);
     const auto parent = m_lastOfLevel.find(qint64(task.Level) - 1);
     if (task.Level == 1 || parent == m_lastOfLevel.end()) {
         task.ParentID = 0;
     } else {
-        KWTaskInfo *summary = parent->second.task;
+        TaskRecord *summary = parent->second.task;
         task.ParentID = summary->ID;
         // Looking through all children would make a flat outline quadratic; a new ID cannot be among those
         // given here.
         if (isNewId && !parent->second.hasForeignChilds)
             summary->Childs.append(task.ID);
         else
-            summary->insertTaskChildID(summary->Childs.size(), task.ID);
+            idlist::insert(summary->Childs, summary->Childs.size(), task.ID);
         summary->font.setWeight(QFont::Bold);
     }
     m_lastOfLevel[task.Level] = {&task, !task.Childs.isEmpty()};
-    task.initFont();
+    rowfont::set(task);
 }
 }

@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-class KWTaskInfo;
+struct TaskRecord;
 
 // The outline: parents, children and levels, walked without recursion and safe against rings.
 namespace outline {
@@ -15,30 +15,30 @@ namespace outline {
 // The tasks with their index. Refers to the list; valid while neither the list nor an ID changes.
 struct Tasks
 {
-    const QList<KWTaskInfo *> &list;
+    const QList<TaskRecord *> &list;
     const TaskIndex &index;
-    KWTaskInfo *byId(quint32 id) const; // null when there is none
+    TaskRecord *byId(quint32 id) const; // null when there is none
 };
 
 // Descendants in pre-order, each once; a ring or a doubled child is entered only the first time.
 // The task itself is not part of the result.
-std::vector<KWTaskInfo *> descendants(const Tasks &tasks, const KWTaskInfo &task);
+std::vector<TaskRecord *> descendants(const Tasks &tasks, const TaskRecord &task);
 // Visits them in that order up to the first for which `visit` is true; whether there is one.
-bool anyDescendant(const Tasks &tasks, const KWTaskInfo &task,
-                   const std::function<bool(KWTaskInfo *)> &visit);
+bool anyDescendant(const Tasks &tasks, const TaskRecord &task,
+                   const std::function<bool(TaskRecord *)> &visit);
 // Ancestors, nearest first; stops at an unknown ID and at a task met before, the task itself included.
-std::vector<KWTaskInfo *> ancestors(const Tasks &tasks, const KWTaskInfo &task);
+std::vector<TaskRecord *> ancestors(const Tasks &tasks, const TaskRecord &task);
 // These tasks and all above them, each once; the last in the list comes first, so that in a sound outline
 // what is below comes before what is above.
-std::vector<KWTaskInfo *> withAncestors(const Tasks &tasks, const std::vector<KWTaskInfo *> &changed);
+std::vector<TaskRecord *> withAncestors(const Tasks &tasks, const std::vector<TaskRecord *> &changed);
 // The nearest ancestor of a that is also one of b; null when there is none.
-KWTaskInfo *commonSummary(const Tasks &tasks, const KWTaskInfo &a, const KWTaskInfo &b);
+TaskRecord *commonSummary(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b);
 
 // Gives a summary more children, one after the other as KWTaskInfo::addTaskInfoChildID would.
-void addChilds(const Tasks &tasks, KWTaskInfo &summary, const std::vector<KWTaskInfo *> &children);
-void removeChilds(KWTaskInfo &summary, const TaskIndex &ids);
+void addChilds(const Tasks &tasks, TaskRecord &summary, const std::vector<TaskRecord *> &children);
+void removeChilds(TaskRecord &summary, const TaskIndex &ids);
 // Cuts the links of tasks that leave, on the side of the tasks that stay.
-void cutLinks(const Tasks &tasks, const std::vector<KWTaskInfo *> &leaving, const TaskIndex &leavingIds);
+void cutLinks(const Tasks &tasks, const std::vector<TaskRecord *> &leaving, const TaskIndex &leavingIds);
 
 // Moves `count` entries one after the other from place `from` + i to place `to` + i; what lies outside the
 // list stays.
@@ -66,12 +66,12 @@ void moveEntries(QList<T> &list, int from, int to, int count)
 class KWGANTT_EXPORT LevelBuilder
 {
 public:
-    void add(KWTaskInfo &task);
+    void add(TaskRecord &task);
 
 private:
     struct Parent
     {
-        KWTaskInfo *task = nullptr;
+        TaskRecord *task = nullptr;
         bool hasForeignChilds = false; // children that this builder did not give it
     };
     std::unordered_map<qint64, Parent> m_lastOfLevel;

@@ -1,7 +1,7 @@
 #pragma once
 #include "engine/record/fieldtable.h"
 #include "engine/record/resource.h"
-#include "resources/resourceinfodata.h"
+#include "engine/record/resourceentry.h"
 
 // The stored members of an assignment and of an entry of the resource sheet, in the order of their
 // attributes.
@@ -17,11 +17,11 @@ inline constexpr auto resourceFields = std::make_tuple(
     field("OvertimeCost", &Resource::overtimeCost, stored), field("CostPer", &Resource::costPer, stored));
 
 inline constexpr auto resourceInfoFields = std::make_tuple(
-    field("ID", &ResourceInfo::ID, stored), field("Name", &ResourceInfo::name, stored),
-    field("Unit", &ResourceInfo::unit, stored), field("Type", &ResourceInfo::type, stored),
-    field("CostUnit", &ResourceInfo::costUnit, stored), field("Cost", &ResourceInfo::cost, stored),
-    field("OvertimeUnit", &ResourceInfo::overtimeUnit, stored),
-    field("OvertimeCost", &ResourceInfo::overtimeCost, stored),
-    field("CostPer", &ResourceInfo::costPer, stored), field("Group", &ResourceInfo::group, stored),
-    field("Email", &ResourceInfo::email, stored), field("Notes", &ResourceInfo::notes, stored));
+    field("ID", &ResourceEntry::ID, stored), field("Name", &ResourceEntry::name, stored),
+    field("Unit", &ResourceEntry::unit, stored), field("Type", &ResourceEntry::type, stored),
+    field("CostUnit", &ResourceEntry::costUnit, stored), field("Cost", &ResourceEntry::cost, stored),
+    field("OvertimeUnit", &ResourceEntry::overtimeUnit, stored),
+    field("OvertimeCost", &ResourceEntry::overtimeCost, stored),
+    field("CostPer", &ResourceEntry::costPer, stored), field("Group", &ResourceEntry::group, stored),
+    field("Email", &ResourceEntry::email, stored), field("Notes", &ResourceEntry::notes, stored));
 }

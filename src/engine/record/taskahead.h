@@ -1,16 +1,16 @@
 #pragma once
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 
 // Asks the memory for a task that a walk over the list will reach soon, for what the scheduling rules read of
 // it.
 //
 // A record is larger than a cache line and the walks do little with each, so on a large project they would
 // wait for most of them. Changes nothing but the time.
-inline void fetchTaskAhead(const QList<KWTaskInfo *> &tasks, int pos)
+inline void fetchTaskAhead(const QList<TaskRecord *> &tasks, int pos)
 {
     if (pos < 0 || pos >= tasks.size())
         return;
-    const KWTaskInfo *task = tasks[pos];
+    const TaskRecord *task = tasks[pos];
     __builtin_prefetch(&task->Start);
     __builtin_prefetch(&task->HideID);
     __builtin_prefetch(&task->CountWidth);

@@ -1,5 +1,4 @@
 #include "engine/record/taskindex.h"
-#include "model/kwtaskinfo.h"
 #include <random>
 
 namespace {
@@ -22,12 +21,6 @@ quint32 mixed(quint32 id)
     id ^= id >> 16;
     return id;
 }
-}
-
-TaskIndex::TaskIndex(const QList<KWTaskInfo *> &tasks)
-{
-    for (int pos = 0; pos < tasks.size(); ++pos)
-        add(tasks[pos]->ID, pos);
 }
 
 int TaskIndex::posOf(quint32 id) const

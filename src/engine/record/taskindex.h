@@ -2,14 +2,17 @@
 #include <QList>
 #include <vector>
 
-class KWTaskInfo;
-
 // Finds a task's place by its ID: the first one in list order. Also serves as a plain set of IDs.
 class TaskIndex
 {
 public:
     TaskIndex() = default;
-    explicit TaskIndex(const QList<KWTaskInfo *> &tasks);
+    template <typename Task>
+    explicit TaskIndex(const QList<Task *> &tasks)
+    {
+        for (int pos = 0; pos < tasks.size(); ++pos)
+            add(tasks[pos]->ID, pos);
+    }
 
     int posOf(quint32 id) const; // -1 when there is none
     bool contains(quint32 id) const { return posOf(id) >= 0; }

@@ -1,11 +1,9 @@
 #include "engine/text/celltext.h"
+#include "engine/record/taskrecord.h"
 #include "engine/text/columntypes.h"
 #include "engine/time/duration.h"
 #include "engine/time/worktime.h"
 #include "format/dataformat.h"
-#include "model/kwdocument.h"
-#include "model/kwtaskinfo.h"
-#include "table/rowcolumndata.h"
 #include <QLocale>
 
 using columntypes::ColumnType;
@@ -24,24 +22,17 @@ QString amount(double value)
 
 QString unitName(unsigned int unit)
 {
-    constexpr bool longName = false;
-    return KWDocument::getNameByMinorUnit(unit, longName);
+    return QString::fromLatin1(duration::shortUnitName(unit));
 }
 
-const WorkCalendar &calendarOf(KWDocument &document, const celltext::Style &style)
-{
-    return style.calendar ? *style.calendar : document.workCalendar();
-}
-
-QString dateText(KWDocument &document, quint32 secs, bool start, const celltext::Style &style)
+QString dateText(const celltext::Plan &plan, quint32 secs, bool start, const celltext::Style &style)
 {
     if (secs == 0) // not set
         return QString();
-    return QLocale::c().toString(celltext::shownMoment(document, calendarOf(document, style), secs, start),
-                                 style.dateFormat);
+    return QLocale::c().toString(celltext::shownMoment(plan.calendar(), secs, start), style.dateFormat);
 }
 
-QString durationText(const WorkCalendar &calendar, const KWTaskInfo &task)
+QString durationText(const WorkCalendar &calendar, const TaskRecord &task)
 {
     constexpr int decimals = 1;
     const double value = duration::ofTask(calendar, task.Start, task.Finish, task.DurationUnits);
@@ -55,13 +46,28 @@ QString percentText(double fraction)
 }
 
 // Without assignments there is nothing to pay and nothing to work.
-bool hasCosts(KWDocument &document, const KWTaskInfo &task)
+bool hasCosts(const celltext::Plan &plan, const TaskRecord &task)
 {
-    return task.isParent() ? task.isSubHaveResource(&document) : task.isHaveResource();
+    return task.isHaveResource() ||
+           (task.isParent() && outline::anyDescendant(plan.outline(), task, [](const TaskRecord *below) {
+                return below->isHaveResource();
+            }));
 }
 }
 
-QDateTime celltext::shownMoment(KWDocument &document, const WorkCalendar &calendar, quint32 secs, bool start)
+QDateTime celltext::shownDateTime(const WorkCalendar &calendar, quint32 secs, bool start)
+{
+    if (start)
+        return QDateTime::fromSecsSinceEpoch(worktime::secsDayTransHour(calendar, secs));
+    const worktime::HourPoint shown = toHourClock(calendar, qint64(secs) - 1);
+    // Kept on purpose: a day that ends at 24:00 shows that end as 00:00 of its own date.
+    const int minutes = int(shown.secs % LocalClock::secsPerDay) / 60;
+    const QDateTime moment(LocalClock::dateOf(shown.day), QTime(minutes / 60, minutes % 60));
+    return moment.isValid() ? moment
+                            : QDateTime::fromSecsSinceEpoch(calendar.clock().moment(shown.day, minutes * 60));
+}
+
+QDateTime celltext::shownMoment(const WorkCalendar &calendar, quint32 secs, bool start)
 {
     LocalClock::Wall shown;
     if (start) {
@@ -75,13 +81,13 @@ QDateTime celltext::shownMoment(KWDocument &document, const WorkCalendar &calend
     QDateTime moment(LocalClock::dateOf(shown.day), QTime::fromMSecsSinceStartOfDay(shown.secs * 1000),
                      Qt::UTC);
     if (shown.secs == 0) { // also the clock's word for a later first moment of a date
-        const QDateTime exact = KWTaskInfo::showDateTime(&document, secs, start);
+        const QDateTime exact = shownDateTime(calendar, secs, start);
         moment = QDateTime(exact.date(), exact.time(), Qt::UTC);
     }
     return moment;
 }
 
-QString celltext::ofType(KWDocument &document, const KWTaskInfo &task, int type, const Style &style)
+QString celltext::ofType(const Plan &plan, const TaskRecord &task, int type, const Style &style)
 {
     const ColumnType *column = columntypes::find(type);
     if (!column)
@@ -93,21 +99,21 @@ QString celltext::ofType(KWDocument &document, const KWTaskInfo &task, int type,
     case Kind::Text:
         return columntypes::text(task, column->field);
     case Kind::StartDate:
-        return dateText(document, columntypes::secs(task, column->field), true, style);
+        return dateText(plan, columntypes::secs(task, column->field), true, style);
     case Kind::FinishDate:
-        return dateText(document, columntypes::secs(task, column->field), false, style);
+        return dateText(plan, columntypes::secs(task, column->field), false, style);
     case Kind::Duration:
-        return durationText(calendarOf(document, style), task);
+        return durationText(plan.calendar(), task);
     case Kind::Percent:
         return percentText(number());
     case Kind::Priority:
-        return QString::number(task.Priority) + RowColumnData::s_priorityNames.value(task.Priority);
+        return QString::number(task.Priority) + plan.priorityName(task.Priority);
     case Kind::Hyperlinks:
-        return task.getHyperlinksContent(style.linkAddresses);
+        return plan.hyperlinks(task, style.linkAddresses);
     case Kind::Money:
-        return hasCosts(document, task) ? DataFormat::currencyText(amount(number())) : QString();
+        return hasCosts(plan, task) ? DataFormat::currencyText(amount(number())) : QString();
     case Kind::Work:
-        if (!hasCosts(document, task))
+        if (!hasCosts(plan, task))
             return QString();
         return amount(number()) + unitName(task.isParent() ? duration::Hour : task.DurationUnits);
     case Kind::Flag:
@@ -116,19 +122,8 @@ QString celltext::ofType(KWDocument &document, const KWTaskInfo &task, int type,
         const QString stored = columntypes::text(task, column->field);
         return stored.isEmpty() ? QString() : amount(stored.toDouble());
     }
-    case Kind::Predecessors: {
-        constexpr bool predecessors = true;
-        return task.getDependOnListTagContent(&document, predecessors);
-    }
+    case Kind::Predecessors:
+        return plan.predecessors(task);
     }
     return QString();
-}
-
-QString RowColumnData::itemText(int row, int column) const
-{
-    const KWTaskInfo *task = m_document ? m_document->getTaskInfoByRow(row) : nullptr;
-    const ColumnData *data = getColumnDataByColumn(column);
-    if (!task || !data)
-        return QString();
-    return celltext::ofType(*m_document, *task, typeOfTitle(data->title), {DataFormat::dateFormat(), false});
 }

@@ -7,37 +7,37 @@ namespace columntypes {
 namespace {
 
 const ColumnType types[count] = {
-    {"ID", Kind::Whole, &KWTaskInfo::ID, Import::OwnId},
-    {"name", Kind::Text, &KWTaskInfo::Name, Import::OwnName},
-    {"start", Kind::StartDate, &KWTaskInfo::Start, Import::StartOnWorkday},
-    {"finish", Kind::FinishDate, &KWTaskInfo::Finish, Import::Finish},
+    {"ID", Kind::Whole, &TaskRecord::ID, Import::OwnId},
+    {"name", Kind::Text, &TaskRecord::Name, Import::OwnName},
+    {"start", Kind::StartDate, &TaskRecord::Start, Import::StartOnWorkday},
+    {"finish", Kind::FinishDate, &TaskRecord::Finish, Import::Finish},
     {"duration", Kind::Duration, {}, Import::Duration},
-    {"percent", Kind::Percent, &KWTaskInfo::Percent, Import::Percent},
-    {"priority", Kind::Priority, &KWTaskInfo::Priority, Import::Whole},
-    {"resources", Kind::Text, &KWTaskInfo::Resources, Import::Text},
+    {"percent", Kind::Percent, &TaskRecord::Percent, Import::Percent},
+    {"priority", Kind::Priority, &TaskRecord::Priority, Import::Whole},
+    {"resources", Kind::Text, &TaskRecord::Resources, Import::Text},
     {"hyperlinks", Kind::Hyperlinks, {}, Import::Hyperlinks},
-    {"cost", Kind::Money, &KWTaskInfo::Cost, Import::None},
-    {"remaining cost", Kind::Money, &KWTaskInfo::RemainingCost, Import::None},
-    {"work", Kind::Work, &KWTaskInfo::Work, Import::Number},
-    {"early start", Kind::StartDate, &KWTaskInfo::Start, Import::None},
+    {"cost", Kind::Money, &TaskRecord::Cost, Import::None},
+    {"remaining cost", Kind::Money, &TaskRecord::RemainingCost, Import::None},
+    {"work", Kind::Work, &TaskRecord::Work, Import::Number},
+    {"early start", Kind::StartDate, &TaskRecord::Start, Import::None},
     // Kept on purpose: two finishes are shown like a start, so one at midnight reads as the next morning.
-    {"early finish", Kind::StartDate, &KWTaskInfo::Finish, Import::None},
-    {"late start", Kind::StartDate, &KWTaskInfo::LateStart, Import::StartOnWorkday},
-    {"late finish", Kind::FinishDate, &KWTaskInfo::LateFinish, Import::Finish},
-    {"start slack", Kind::Text, &KWTaskInfo::EarlySlack, Import::Text},
-    {"finish slack", Kind::Text, &KWTaskInfo::LateSlack, Import::Text},
-    {"critical", Kind::Flag, &KWTaskInfo::CriticalPath, Import::Whole},
-    {"notes", Kind::Text, &KWTaskInfo::Notes, Import::Text},
-    {"baseline start", Kind::StartDate, &KWTaskInfo::BaseStart, Import::StartAsShown},
-    {"baseline finish", Kind::StartDate, &KWTaskInfo::BaseFinish, Import::StartOnWorkday},
-    {"baseline cost", Kind::NumberText, &KWTaskInfo::BaselineCost, Import::NumberText},
-    {"level", Kind::Whole, &KWTaskInfo::Level, Import::Whole},
+    {"early finish", Kind::StartDate, &TaskRecord::Finish, Import::None},
+    {"late start", Kind::StartDate, &TaskRecord::LateStart, Import::StartOnWorkday},
+    {"late finish", Kind::FinishDate, &TaskRecord::LateFinish, Import::Finish},
+    {"start slack", Kind::Text, &TaskRecord::EarlySlack, Import::Text},
+    {"finish slack", Kind::Text, &TaskRecord::LateSlack, Import::Text},
+    {"critical", Kind::Flag, &TaskRecord::CriticalPath, Import::Whole},
+    {"notes", Kind::Text, &TaskRecord::Notes, Import::Text},
+    {"baseline start", Kind::StartDate, &TaskRecord::BaseStart, Import::StartAsShown},
+    {"baseline finish", Kind::StartDate, &TaskRecord::BaseFinish, Import::StartOnWorkday},
+    {"baseline cost", Kind::NumberText, &TaskRecord::BaselineCost, Import::NumberText},
+    {"level", Kind::Whole, &TaskRecord::Level, Import::Whole},
     {"predecessors", Kind::Predecessors, {}, Import::RowTags},
 };
 
 // Reads the member, whatever its type.
 template <typename Read>
-auto visit(const KWTaskInfo &task, const Field &field, Read &&read)
+auto visit(const TaskRecord &task, const Field &field, Read &&read)
 {
     return std::visit(
         [&](const auto &member) {
@@ -55,7 +55,7 @@ const ColumnType *find(int type)
     return type >= 0 && type < count ? &types[type] : nullptr;
 }
 
-double number(const KWTaskInfo &task, const Field &field)
+double number(const TaskRecord &task, const Field &field)
 {
     return visit(task, field, [](const auto &value) {
         if constexpr (std::is_same_v<std::decay_t<decltype(value)>, QString>)
@@ -65,38 +65,38 @@ double number(const KWTaskInfo &task, const Field &field)
     });
 }
 
-quint32 secs(const KWTaskInfo &task, const Field &field)
+quint32 secs(const TaskRecord &task, const Field &field)
 {
-    const auto *member = std::get_if<quint32 KWTaskInfo::*>(&field);
+    const auto *member = std::get_if<quint32 TaskRecord::*>(&field);
     return member ? task.**member : 0;
 }
 
-QString text(const KWTaskInfo &task, const Field &field)
+QString text(const TaskRecord &task, const Field &field)
 {
-    const auto *member = std::get_if<QString KWTaskInfo::*>(&field);
+    const auto *member = std::get_if<QString TaskRecord::*>(&field);
     return member ? task.**member : QString();
 }
 
-void setNumber(KWTaskInfo &task, const Field &field, double value)
+void setNumber(TaskRecord &task, const Field &field, double value)
 {
     using Limits = std::numeric_limits<qint32>;
-    if (const auto *real = std::get_if<double KWTaskInfo::*>(&field))
+    if (const auto *real = std::get_if<double TaskRecord::*>(&field))
         task.**real = value;
-    else if (const auto *whole = std::get_if<qint32 KWTaskInfo::*>(&field))
+    else if (const auto *whole = std::get_if<qint32 TaskRecord::*>(&field))
         task.**whole = qint32(std::clamp(value, double(Limits::min()), double(Limits::max())));
-    else if (const auto *flag = std::get_if<bool KWTaskInfo::*>(&field))
+    else if (const auto *flag = std::get_if<bool TaskRecord::*>(&field))
         task.**flag = std::fabs(value) >= 1; // whole, as it is shown
 }
 
-void setSecs(KWTaskInfo &task, const Field &field, quint32 secs)
+void setSecs(TaskRecord &task, const Field &field, quint32 secs)
 {
-    if (const auto *member = std::get_if<quint32 KWTaskInfo::*>(&field))
+    if (const auto *member = std::get_if<quint32 TaskRecord::*>(&field))
         task.**member = secs;
 }
 
-void setText(KWTaskInfo &task, const Field &field, const QString &text)
+void setText(TaskRecord &task, const Field &field, const QString &text)
 {
-    if (const auto *member = std::get_if<QString KWTaskInfo::*>(&field))
+    if (const auto *member = std::get_if<QString TaskRecord::*>(&field))
         task.**member = text;
 }
 }

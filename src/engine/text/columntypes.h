@@ -1,5 +1,5 @@
 #pragma once
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 #include <variant>
 
 // What each column type of the task table holds: the one place that ties a type to a field of the task.
@@ -42,8 +42,8 @@ enum class Import {
 };
 
 // None where the text takes more than one field.
-using Field = std::variant<std::monostate, quint32 KWTaskInfo::*, qint32 KWTaskInfo::*, bool KWTaskInfo::*,
-                           double KWTaskInfo::*, QString KWTaskInfo::*, TrackedField<quint32> KWTaskInfo::*>;
+using Field = std::variant<std::monostate, quint32 TaskRecord::*, qint32 TaskRecord::*, bool TaskRecord::*,
+                           double TaskRecord::*, QString TaskRecord::*, TrackedField<quint32> TaskRecord::*>;
 
 struct ColumnType
 {
@@ -58,11 +58,11 @@ constexpr int count = 25;
 const ColumnType *find(int type);
 
 // The field as a number; 0 where it is none.
-double number(const KWTaskInfo &task, const Field &field);
-quint32 secs(const KWTaskInfo &task, const Field &field);
-QString text(const KWTaskInfo &task, const Field &field); // empty where it is no text
+double number(const TaskRecord &task, const Field &field);
+quint32 secs(const TaskRecord &task, const Field &field);
+QString text(const TaskRecord &task, const Field &field); // empty where it is no text
 // What does not fit becomes the nearest value that does; nothing happens where the field is of another kind.
-void setNumber(KWTaskInfo &task, const Field &field, double value);
-void setSecs(KWTaskInfo &task, const Field &field, quint32 secs);
-void setText(KWTaskInfo &task, const Field &field, const QString &text);
+void setNumber(TaskRecord &task, const Field &field, double value);
+void setSecs(TaskRecord &task, const Field &field, quint32 secs);
+void setText(TaskRecord &task, const Field &field, const QString &text);
 }

@@ -1,5 +1,6 @@
 #include "engine/time/duration.h"
 #include "format/dataformat.h"
+#include <array>
 #include <cmath>
 
 namespace duration {
@@ -40,6 +41,12 @@ qint64 offSecs(const WorkCalendar &calendar, Wall start, Wall finish)
 const char *unitName(unsigned int unit)
 {
     return units[unit < unitCount ? unit : unsigned(Day)].name;
+}
+
+const char *shortUnitName(unsigned int unit)
+{
+    static constexpr std::array<const char *, unitCount> names{"y", "q", "mon", "w", "d", "h", "min"};
+    return unit < unitCount ? names[unit] : "";
 }
 
 int calendarDays(unsigned int unit)

@@ -9,6 +9,8 @@ constexpr unsigned int unitCount = 7;
 
 // "year" .. "minute"; any other code is "day".
 const char *unitName(unsigned int unit);
+// "y" .. "min"; empty for any other code.
+const char *shortUnitName(unsigned int unit);
 // Days of one year, quarter or month, whatever the calendar; 0 for other units.
 int calendarDays(unsigned int unit);
 // Working days of a week; 7 when no weekday works.

@@ -1,7 +1,7 @@
 #include "engine/time/timescale.h"
+#include "engine/record/taskrecord.h"
 #include "engine/time/timerange.h"
 #include "engine/time/walk.h"
-#include "model/kwtaskinfo.h"
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -227,7 +227,7 @@ quint32 Scale::milestoneAnchor(quint32 finish) const
     return timerange::unitStart(m_calendar.clock(), inside, m_minor);
 }
 
-int Scale::dayPoint(const KWTaskInfo &task, bool start) const
+int Scale::dayPoint(const TaskRecord &task, bool start) const
 {
     if (!task.Milestone)
         return wholePixels(dayPosition(start ? task.Start : task.Finish));
@@ -239,17 +239,17 @@ int Scale::dayPoint(const KWTaskInfo &task, bool start) const
         dayPosition(clampSecs(m_calendar.clock().moment(at.day + milestoneDays[m_minor], at.secs))));
 }
 
-int Scale::hourPoint(const KWTaskInfo &task, bool start) const
+int Scale::hourPoint(const TaskRecord &task, bool start) const
 {
     return wholePixels(hourPosition(worktime::toHourClock(m_calendar, start ? task.Start : task.Finish)));
 }
 
-int Scale::minutePoint(const KWTaskInfo &task, bool start) const
+int Scale::minutePoint(const TaskRecord &task, bool start) const
 {
     return wholePixels(minutePosition(worktime::toHourClock(m_calendar, start ? task.Start : task.Finish)));
 }
 
-int Scale::point(const KWTaskInfo &task, bool start) const
+int Scale::point(const TaskRecord &task, bool start) const
 {
     switch (m_minor) {
     case Hour:
@@ -261,21 +261,21 @@ int Scale::point(const KWTaskInfo &task, bool start) const
     }
 }
 
-void Scale::placeBar(KWTaskInfo &task) const
+void Scale::placeBar(TaskRecord &task) const
 {
     task.x1 = point(task, true);
     task.x2 = point(task, false);
     task.CountWidth = task.x2 - task.x1;
 }
 
-void Scale::placeSummaryBar(KWTaskInfo &summary) const
+void Scale::placeSummaryBar(TaskRecord &summary) const
 {
     summary.x1 = wholePixels(position(summary.Start));
     summary.x2 = wholePixels(position(summary.Finish));
     summary.CountWidth = summary.x2 - summary.x1;
 }
 
-double Scale::finishedWidth(const KWTaskInfo &task) const
+double Scale::finishedWidth(const TaskRecord &task) const
 {
     if (task.Milestone || !(task.Percent > 0.0))
         return 0.0;

@@ -2,7 +2,7 @@
 #include "engine/time/duration.h"
 #include "engine/time/worktime.h"
 
-class KWTaskInfo;
+struct TaskRecord;
 
 // The chart's time axis as arithmetic: its width, the choice of its units, and the mapping between moments
 // and positions.
@@ -61,16 +61,16 @@ public:
 
     // Where a milestone with that finish is anchored: the beginning of its unit.
     quint32 milestoneAnchor(quint32 finish) const;
-    int dayPoint(const KWTaskInfo &task, bool start) const; // whole pixels
-    int hourPoint(const KWTaskInfo &task, bool start) const;
-    int minutePoint(const KWTaskInfo &task, bool start) const;
-    int point(const KWTaskInfo &task, bool start) const; // as the minor unit asks
+    int dayPoint(const TaskRecord &task, bool start) const; // whole pixels
+    int hourPoint(const TaskRecord &task, bool start) const;
+    int minutePoint(const TaskRecord &task, bool start) const;
+    int point(const TaskRecord &task, bool start) const; // as the minor unit asks
     // Sets the bar's x values and CountWidth to the task's points.
-    void placeBar(KWTaskInfo &task) const;
+    void placeBar(TaskRecord &task) const;
     // Sets the bar of a summary to its dates, whatever its milestone flag.
-    void placeSummaryBar(KWTaskInfo &summary) const;
+    void placeSummaryBar(TaskRecord &summary) const;
     // FirstWidth: what of CountWidth is finished.
-    double finishedWidth(const KWTaskInfo &task) const;
+    double finishedWidth(const TaskRecord &task) const;
 
 private:
     qint64 workHoursBefore(worktime::HourPoint point) const;

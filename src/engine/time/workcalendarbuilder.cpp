@@ -16,7 +16,7 @@ struct Range
     int last = -1;
 };
 
-Range coveredDates(const KWCalendar &calendar)
+Range coveredDates(const CalendarRecord &calendar)
 {
     // An invalid date lies before every other.
     if (!calendar.finishDate.isValid() ||
@@ -106,7 +106,7 @@ public:
     {
         hours();
         weekdays();
-        if (m_source.exceptions.isEmpty())
+        if (m_source.exceptions.empty())
             return;
         breaksOfExceptions();
         hoursOfExceptions();
@@ -154,9 +154,9 @@ private:
         std::vector<char> works(dayCount);
         for (int place = 0; place < dayCount; ++place)
             works[size_t(place)] = m_source.workingDays[LocalClock::weekday(place + LocalClock::firstDay)];
-        if (!m_source.exceptions.isEmpty()) {
+        if (!m_source.exceptions.empty()) {
             FirstCome dates;
-            for (const KWCalendar *exception : m_source.exceptions)
+            for (const CalendarRecord *exception : m_source.exceptions)
                 if (exception && exception->isException)
                     dates.take(coveredDates(*exception),
                                [&](int place) { works[size_t(place)] = exception->isWork; });
@@ -179,15 +179,15 @@ private:
     // exception.
     void breaksOfExceptions()
     {
-        const auto hasBreaks = [](const KWCalendar *calendar) {
+        const auto hasBreaks = [](const CalendarRecord *calendar) {
             return calendar && intervalCount(calendar->dayTimes) >= 2;
         };
-        const QList<KWCalendar *> &exceptions = m_source.exceptions;
+        const std::vector<const CalendarRecord *> &exceptions = m_source.exceptions;
         if (std::none_of(exceptions.begin(), exceptions.end(), hasBreaks))
             return;
         m_calendar.m_breaksOfDay.assign(size_t(dayCount), 0);
         FirstCome dates;
-        for (const KWCalendar *exception : exceptions) {
+        for (const CalendarRecord *exception : exceptions) {
             if (!exception)
                 continue;
             const bool own = hasBreaks(exception);
@@ -207,7 +207,7 @@ private:
         // Begins minus ends of the ranges that add an hour, by hour and date.
         std::array<std::vector<int>, 24> added;
         quint32 addedHours = 0;
-        for (const KWCalendar *exception : m_source.exceptions) {
+        for (const CalendarRecord *exception : m_source.exceptions) {
             if (!exception || !exception->isException)
                 continue;
             const quint32 mask = hoursMaskOf(exception->dayTimes);
@@ -308,7 +308,7 @@ quint64 WorkCalendar::digest(const Source &source)
     mix(flags);
     mixHours(source.hours);
     mix(quint64(source.exceptions.size()));
-    for (const KWCalendar *exception : source.exceptions) {
+    for (const CalendarRecord *exception : source.exceptions) {
         if (!exception) {
             mix(4);
             continue;

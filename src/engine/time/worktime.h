@@ -1,6 +1,6 @@
 #pragma once
+#include "engine/record/calendarrecord.h"
 #include "engine/time/localclock.h"
-#include "schedule/kwcalendar.h"
 #include <QList>
 #include <array>
 #include <memory>
@@ -24,12 +24,12 @@ struct HourPoint
     qint64 secs = 0;
 };
 
-// What the model is made from; refers to the document's lists and copies nothing.
+// What the model is made from; refers to the document's working days, hours and exceptions.
 struct Source
 {
     const bool *workingDays = nullptr; // seven flags, Monday first
     const QList<KWDayTime *> &hours;
-    const QList<KWCalendar *> &exceptions; // the first one that covers a date decides
+    std::vector<const CalendarRecord *> exceptions; // the first one that covers a date decides
     bool oldVersion = false;
 };
 
