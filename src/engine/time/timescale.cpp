@@ -277,12 +277,17 @@ void Scale::placeSummaryBar(TaskRecord &summary) const
 
 double Scale::finishedWidth(const TaskRecord &task) const
 {
+    return finishedWidth(task, task.x1, task.CountWidth);
+}
+
+double Scale::finishedWidth(const TaskRecord &task, double x1, double width) const
+{
     if (task.Milestone || !(task.Percent > 0.0))
         return 0.0;
     if (task.Percent >= 1.0)
-        return task.CountWidth;
+        return width;
     const quint32 reached =
         walk::partOf(m_calendar, task.Start, task.Finish, task.DurationUnits, task.Percent);
-    return std::max(0.0, std::min(position(reached) - task.x1, task.CountWidth));
+    return std::max(0.0, std::min(position(reached) - x1, width));
 }
 }

@@ -71,6 +71,8 @@ public:
     void placeSummaryBar(TaskRecord &summary) const;
     // FirstWidth: what of CountWidth is finished.
     double finishedWidth(const TaskRecord &task) const;
+    // The same for a bar that begins at x1 and is `width` wide.
+    double finishedWidth(const TaskRecord &task, double x1, double width) const;
 
 private:
     qint64 workHoursBefore(worktime::HourPoint point) const;
