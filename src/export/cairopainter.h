@@ -1,0 +1,44 @@
+#pragma once
+#include "chart/mark.h"
+#include "chart/plan.h"
+#include "export/textshaper.h"
+#include "styles/chartstyle.h"
+#include <cairo.h>
+
+// Paints marks with cairo, on paper and on screens.
+class CairoPainter
+{
+public:
+    enum Device {
+        Paper, // places stay as they are
+        Pixels // fills and fine lines stand on whole device pixels
+    };
+    // The context must outlive it. `scale` is device units for a pixel of the chart.
+    CairoPainter(cairo_t *context, const chartstyle::Sheet &sheet, TextShaper &shaper,
+                 const std::vector<chart::Font> &fonts, Device device, double scale);
+
+    // The marks moved by `offset` (device units), inside `clip` (device units) alone.
+    void paint(const chart::Marks &marks, const QPointF &offset, const QRectF &clip);
+    void fillGround(const QRectF &area); // device units, with the paper's colour
+
+private:
+    struct Brush;
+    void paintMark(const chart::Mark &mark);
+    void trace(const chart::Mark &mark, const QRectF &rect);
+    void fill(const KWPaint &paint, const QRectF &bounds);
+    void stroke(const KWLineFormat &line);
+    void strokeLine(const chart::Mark &mark, const KWLineFormat &line);
+    void drawText(const chart::Mark &mark, const chartstyle::Style &style);
+    void setColor(const QColor &color);
+    double snapped(double position, double offset) const;
+    QRectF snapped(const QRectF &rect) const;
+
+    cairo_t *m_context;
+    const chartstyle::Sheet &m_sheet;
+    TextShaper &m_shaper;
+    const std::vector<chart::Font> &m_fonts;
+    Device m_device;
+    double m_scale;
+    QPointF m_offset;
+    QRectF m_view; // chart pixels that can be seen, with a margin
+};

@@ -1,0 +1,64 @@
+#pragma once
+#include "chart/plan.h"
+#include <QHash>
+#include <QString>
+#include <pango/pangocairo.h>
+#include <vector>
+
+// Measures and draws single lines of text; the one place that knows how wide a text is.
+//
+// Sizes are pixels at 96 dpi and do not depend on what is drawn on: nothing is hinted. Short texts are kept
+// as they were laid out, since the numbers and dates of a table repeat.
+class TextShaper
+{
+public:
+    // An empty family of a font means `family`, and where that is empty too the machine's sans serif.
+    TextShaper(const std::vector<chart::Font> &fonts, const QString &family);
+    ~TextShaper();
+    TextShaper(const TextShaper &) = delete;
+    TextShaper &operator=(const TextShaper &) = delete;
+
+    static bool hasFonts(); // of the machine
+    // The number of the font, of an equal one that is there. From some number on the first one.
+    int addFont(const chart::Font &font);
+    const std::vector<chart::Font> &fonts() const { return m_fonts; }
+
+    double width(const QString &text, int font);
+    // The baseline begins at (x, y); the colour is the context's.
+    void draw(cairo_t *context, double x, double y, const QString &text, int font);
+
+    // Characters without a picture in any font: how many texts had some, and the first of them.
+    int textsWithGaps() const { return m_textsWithGaps; }
+    const QString &firstTextWithGaps() const { return m_firstTextWithGaps; }
+
+private:
+    struct Key
+    {
+        QString text;
+        int font;
+        bool operator==(const Key &other) const { return font == other.font && text == other.text; }
+    };
+    friend uint qHash(const Key &key, uint seed)
+    {
+        return ::qHash(key.text, seed) ^ uint(key.font) * 2654435761u;
+    }
+    struct Shaped
+    {
+        PangoLayout *layout = nullptr;
+        double width = 0;
+    };
+    using Generation = QHash<Key, Shaped>;
+    void append(const chart::Font &font);
+    const Shaped &shaped(const QString &text, int font);
+    static void forget(Generation &generation);
+
+    PangoFontMap *m_map;
+    PangoContext *m_context;
+    QString m_family;
+    std::vector<chart::Font> m_fonts;
+    std::vector<PangoFontDescription *> m_descriptions;
+    // Texts used lately and those used before: a full generation takes the place of the older one.
+    Generation m_young, m_old;
+    int m_textsWithGaps = 0;
+    QString m_firstTextWithGaps;
+};
