@@ -250,6 +250,9 @@ int runCommand(Console &console)
         {"schedule", schedule},
         {"explain", explainTask},
         {"convert", convert},
+#ifdef KW_WITH_EXPORT
+        {"render", render},
+#endif
         {"edit", edit},
         {"new", newPlan},
         {"diff", compare},

@@ -35,4 +35,5 @@ int keepBaseline(Console &console);
 int recover(Console &console);
 int copyBranch(Console &console);
 int completion(Console &console);
+int render(Console &console); // with KW_WITH_EXPORT
 }

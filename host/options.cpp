@@ -21,6 +21,7 @@ enum Group : unsigned {
     Making = 256,
     Copying = 512,
     Converting = 1024,
+    Drawing = 2048,
 };
 
 struct Command
@@ -41,6 +42,9 @@ constexpr Command commandTable[] = {
     {"schedule", "", Everywhere | Planning | Showing | Scheduling | Checking, 1, 1, "FILE"},
     {"explain", "", Everywhere | Planning | Explaining, 2, 2, "FILE TASK"},
     {"convert", "", Everywhere | Planning | Converting, 2, 2, "IN OUT"},
+#ifdef KW_WITH_EXPORT
+    {"render", "", Everywhere | Planning | Drawing, 1, 1, "FILE"},
+#endif
     {"edit", "", Everywhere | Planning | Showing | Changing | Editing, 1, mostWords, "FILE EDIT"},
     {"new", "", Everywhere | Making, 1, 1, "OUT"},
     {"diff", "", Everywhere | Planning, 2, 2, "A B"},
@@ -87,6 +91,14 @@ bool setFormat(Options &o, const QString &value)
         o.format = Options::Json;
     else if (value == QLatin1String("table") || value == QLatin1String("text"))
         o.format = Options::Table;
+#ifdef KW_WITH_EXPORT
+    else if (value == QLatin1String("pdf"))
+        o.format = Options::Pdf;
+    else if (value == QLatin1String("png"))
+        o.format = Options::Png;
+    else if (value == QLatin1String("svg"))
+        o.format = Options::Svg;
+#endif
     else
         return false;
     return true;
@@ -119,6 +131,16 @@ bool setScale(Options &o, const QString &value)
     o.scale = value;
     return scales.contains(value);
 }
+
+bool isOneOf(const QString &value, const char *list)
+{
+    return QString::fromLatin1(list).split(QLatin1Char('|')).contains(value);
+}
+
+constexpr const char *themes = "light|dark|print|contrast";
+constexpr const char *labels = "none|name|resources|dates";
+constexpr const char *pictureParts = "today|baseline|slack|critical|links|legend|repeat|background";
+constexpr double mostRatio = 4;
 
 constexpr int narrowest = 20;
 constexpr int widest = 10000;
@@ -201,29 +223,106 @@ const Option optionTable[] = {
          return !v.isEmpty();
      }},
     {"unit", "", "d|h|min", Planning, setUnit},
-    {"columns", "", "LIST", Showing,
+    {"columns", "", "LIST", Showing | Drawing,
      [](Options &o, const QString &v) {
          o.columns = v.split(QLatin1Char(','));
          return !v.isEmpty();
      }},
     {"width", "", "N", Showing,
      [](Options &o, const QString &v) { return setNumber(o.width, v, narrowest, widest); }},
-    {"scale", "", "auto|hour|day|week|month|quarter|year", Showing, setScale},
-    {"range", "", "DATE..DATE", Showing,
+    {"scale", "", "auto|hour|day|week|month|quarter|year", Showing | Drawing, setScale},
+    {"range", "", "DATE..DATE", Showing | Drawing,
      [](Options &o, const QString &v) {
          o.range = v;
          return !v.isEmpty();
      }},
-    {"level", "", "N", Showing,
+    {"level", "", "N", Showing | Drawing,
      [](Options &o, const QString &v) { return setNumber(o.level, v, 1, deepest); }},
     {"all", "", nullptr, Showing, [](Options &o, const QString &) { return o.all = true; }},
-    {"critical", "", nullptr, Showing, [](Options &o, const QString &) { return o.critical = true; }},
+    {"critical", "", nullptr, Showing | Drawing, [](Options &o, const QString &) { return o.critical = true; }},
     {"no-bars", "", nullptr, Showing,
      [](Options &o, const QString &) {
          o.bars = false;
          return true;
      }},
     {"plain", "", nullptr, Showing, [](Options &o, const QString &) { return o.plain = true; }},
+    {"theme", "", themes, Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.theme = v;
+         return isOneOf(v, themes);
+     }},
+    {"labels", "", labels, Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.labels = v;
+         return isOneOf(v, labels);
+     }},
+    {"without", "", pictureParts, Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.without += v.split(QLatin1Char(','));
+         for (const QString &part : qAsConst(o.drawing.without))
+             if (!isOneOf(part, pictureParts))
+                 return false;
+         return true;
+     }},
+    {"title", "", "TEXT", Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.title = v;
+         return o.drawing.hasTitle = true;
+     }},
+    {"head", "", "TEXT", Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.head = v;
+         return true;
+     }},
+    {"foot", "", "TEXT", Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.foot = v;
+         return true;
+     }},
+    {"font", "", "FAMILY", Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.font = v;
+         return !v.isEmpty();
+     }},
+    {"date-format", "", "dd MMM yyyy", Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.dateFormat = v;
+         return !v.isEmpty();
+     }},
+    {"branch", "", "TASK", Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.branch = v;
+         return !v.isEmpty();
+     }},
+    {"trim", "", nullptr, Drawing, [](Options &o, const QString &) { return o.drawing.trim = true; }},
+    {"unit-width", "", "N", Drawing,
+     [](Options &o, const QString &v) { return setNumber(o.drawing.unitWidth, v, 1, widest); }},
+    {"paper", "", "A4|A3|297x210mm", Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.paper = v;
+         return !v.isEmpty();
+     }},
+    {"margins", "", "20mm", Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.margins = v;
+         return !v.isEmpty();
+     }},
+    {"portrait", "", nullptr, Drawing, [](Options &o, const QString &) { return o.drawing.portrait = true; }},
+    {"landscape", "", nullptr, Drawing, [](Options &o, const QString &) { return o.drawing.landscape = true; }},
+    {"fold-marks", "", nullptr, Drawing, [](Options &o, const QString &) { return o.drawing.foldMarks = true; }},
+    {"fit", "", "ACROSSxDOWN", Drawing,
+     [](Options &o, const QString &v) {
+         o.drawing.fit = v;
+         return !v.isEmpty();
+     }},
+    {"zoom", "", "N", Drawing, [](Options &o, const QString &v) { return setNumber(o.drawing.zoom, v, 10, 400); }},
+    {"ratio", "", "1..4", Drawing,
+     [](Options &o, const QString &v) {
+         bool ok = false;
+         o.drawing.ratio = v.toDouble(&ok);
+         return ok && o.drawing.ratio >= 1 && o.drawing.ratio <= mostRatio;
+     }},
+    {"preview", "", nullptr, Drawing, [](Options &o, const QString &) { return o.drawing.preview = true; }},
     {"in-place", "i", nullptr, Scheduling | Changing,
      [](Options &o, const QString &) { return o.inPlace = true; }},
     {"dry-run", "", nullptr, Scheduling | Changing,
@@ -377,6 +476,10 @@ bool checkTogether(const Options &options, Fault &fault)
         return fail(fault, t("-i writes the plan itself; it goes with neither -o nor --csv, --json or --to"));
     if (options.inPlace && options.dryRun)
         return fail(fault, t("-i and --dry-run exclude each other"));
+    if (options.drawing.portrait && options.drawing.landscape)
+        return fail(fault, t("--portrait and --landscape exclude each other"));
+    if (!options.drawing.fit.isEmpty() && options.drawing.zoom > 0)
+        return fail(fault, t("--fit and --zoom exclude each other"));
     if (!options.before.isEmpty() && !options.under.isEmpty())
         return fail(fault, t("--before and --under exclude each other"));
     return true;
@@ -387,11 +490,15 @@ void setFormatByName(Options &options)
 {
     if (options.formatGiven)
         return;
-    static const QHash<QString, Options::Format> formats{{QStringLiteral("csv"), Options::Csv},
-                                                         {QStringLiteral("json"), Options::Json},
-                                                         {QStringLiteral("kwpx"), Options::Package},
-                                                         {QStringLiteral("xlsx"), Options::Xlsx},
-                                                         {QStringLiteral("xls"), Options::Xls}};
+    static const QHash<QString, Options::Format> formats{
+        {QStringLiteral("csv"), Options::Csv},      {QStringLiteral("json"), Options::Json},
+        {QStringLiteral("kwpx"), Options::Package}, {QStringLiteral("xlsx"), Options::Xlsx},
+        {QStringLiteral("xls"), Options::Xls},
+#ifdef KW_WITH_EXPORT
+        {QStringLiteral("pdf"), Options::Pdf},      {QStringLiteral("png"), Options::Png},
+        {QStringLiteral("svg"), Options::Svg}
+#endif
+    };
     options.format = formats.value(options.output.section(QLatin1Char('.'), -1).toLower(), options.format);
 }
 }

@@ -7,7 +7,7 @@
 struct Options
 {
     enum When { Auto, Always, Never };
-    enum Format { Table, Csv, Json, Package, Xlsx, Xls };
+    enum Format { Table, Csv, Json, Package, Xlsx, Xls, Pdf, Png, Svg };
     static constexpr int everyLevel = 0;
 
     QString command;       // "help" when none is given
@@ -56,6 +56,29 @@ struct Options
     bool richSheets = false; // workbooks with typed cells, widths and groups
     QString before;          // the task that a branch is copied above
     QString under;           // the task that it is copied below, as its last children
+
+    // What is drawn, and on what; empty and 0: as the plan says.
+    struct Drawing
+    {
+        QString theme;
+        QString labels;
+        QStringList without; // parts of the picture
+        QString title, head, foot;
+        QString font;
+        QString dateFormat;
+        QString branch;
+        QString paper;
+        QString margins;
+        QString fit; // "3x2"
+        bool hasTitle = false;
+        bool trim = false;
+        bool preview = false;
+        bool portrait = false, landscape = false;
+        bool foldMarks = false;
+        int unitWidth = 0;
+        int zoom = 0;
+        double ratio = 0;
+    } drawing;
 
     // Scheduling.
     bool dryRun = false;

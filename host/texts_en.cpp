@@ -13,6 +13,7 @@ QMap<QString, QString> helpTopics()
   kwgantt schedule FILE        moves every task behind its predecessors; late dates, slack, critical path
   kwgantt explain FILE TASK    why a task is when it is, and why it is critical or not
   kwgantt convert IN OUT       writes a plan as .kwpx, .csv, .xlsx, .xls or .json
+  kwgantt render FILE -o OUT   draws the chart as .pdf, .png or .svg
   kwgantt edit FILE EDIT       changes a plan: tasks, links, resources, calendar; --script FILE with many edits
   kwgantt new OUT              an empty plan; --sample: a small one
   kwgantt diff A B             what is different between two versions of a plan
@@ -113,6 +114,26 @@ is written beside it, too. What a workbook's cells could not give is listed on s
   --force          replaces OUT
 
 Example: kwgantt convert plan.csv plan.kwpx
+)")},
+        {QStringLiteral("render"), text(R"(kwgantt render FILE -o OUT.pdf|png|svg - draws the chart
+
+A PDF is cut into sheets as the print setup of a package says; a plan that brings none is fitted to sheets of A4
+that can be read. An image and an SVG hold the whole plan in one. '-o -' with --to pdf|png|svg writes to standard
+output. Collapsed tasks stay hidden, dates are those of the file.
+
+Sheets   --paper A4|A3|LETTER|297x210mm  --portrait  --landscape  --margins 20mm[,15mm]  --fit 3x2  --zoom N
+         --preview (how many sheets and how small the text, nothing is written)
+Texts    --title TEXT  --head TEXT  --foot TEXT  (with &[Page] &[Pages] &[Date] &[File] &[Title])
+         --font FAMILY  --date-format "dd MMM yyyy"  --labels none|name|resources|dates
+Picture  --theme light|dark|print|contrast  --ratio 1..4 (pixels of an image)  --fold-marks
+         --without today,baseline,slack,critical,links,legend,repeat,background
+What     --columns LIST (keys as of 'kwgantt columns')  --branch TASK  --critical  --level N
+         --range DATE..DATE  --trim (the tasks' dates and one unit around)
+         --scale auto|hour|day|week|month|quarter|year  --unit-width N (pixels)
+
+SOURCE_DATE_EPOCH sets the date that is written into the file and the line of today, --now that line alone.
+
+Example: kwgantt render plan.csv -o plan.pdf --paper A3 --theme print
 )")},
         {QStringLiteral("edit"), text(R"(kwgantt edit FILE EDIT - changes a plan
 kwgantt edit FILE --script FILE
