@@ -3,6 +3,7 @@
 #include "commands.h"
 #include "edit.h"
 #include "explain.h"
+#include "helptext.h"
 #include "invariants.h"
 #include "kwpxfile.h"
 #include "machine.h"
@@ -16,6 +17,7 @@
 #include "taskref.h"
 #include "texts.h"
 #include "textwidth.h"
+#include <QDir>
 
 using namespace commands;
 
@@ -187,20 +189,38 @@ int convert(Console &console)
     return writeWithSides(console, plan);
 }
 
+// One file for each command and one for all of them, as man(1) finds them.
+int writeManual(Console &console, const QString &folder)
+{
+    if (!QDir().mkpath(folder)) {
+        console.error(t("%1: the folder cannot be made").arg(folder));
+        return Console::CannotWrite;
+    }
+    for (const QString &command : QStringList{QString()} + options::commands()) {
+        const QString path = QStringLiteral("%1/kwgantt%2%3.1")
+                                 .arg(folder, command.isEmpty() ? QString() : QStringLiteral("-"), command);
+        if (!console.replaceFile(path, helptext::manualPage(command), true))
+            return Console::CannotWrite;
+    }
+    return Console::Done;
+}
+
 int help(Console &console)
 {
-    const QMap<QString, QString> &topics = texts::current().help;
+    if (!console.options().manualFolder.isEmpty())
+        return writeManual(console, console.options().manualFolder);
+    constexpr int widestText = 100; // longer lines are hard to read
     const QString topic = console.options().arguments.value(0);
     const QString wanted = topic == QLatin1String("check") ? QStringLiteral("load") : topic;
-    if (!topics.contains(wanted)) {
+    const helptext::Page page = helptext::page(wanted);
+    if (page.usage.isEmpty()) {
         const QString guess = options::nearest(topic, options::commands());
         console.error(t("no help on '%1'").arg(topic), guess.isEmpty()
                                                            ? t("'kwgantt help' lists all commands")
                                                            : t("did you mean '%1'?").arg(guess));
         return Console::WrongUse;
     }
-    const QString more = wanted == QLatin1String("edit") ? editverbs::helpText() : QString();
-    return written(console, (topics.value(wanted) + more).toUtf8());
+    return written(console, helptext::shown(page, qMin(console.width(), widestText)).toUtf8());
 }
 
 int listColumns(Console &console)

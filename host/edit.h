@@ -27,6 +27,13 @@ namespace editverbs {
 
 // How the verbs are written and what they do, for people.
 QString helpText();
+// The verbs with their arguments, as the help lists them.
+struct VerbInfo
+{
+    QString name; // "resource add"
+    QString arguments;
+};
+QVector<VerbInfo> all();
 // Does one edit and records it, so that it can be undone. False with a fault; the plan may be half changed
 // then.
 bool run(Plan &plan, const QStringList &words, options::Fault &fault);

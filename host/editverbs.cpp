@@ -507,6 +507,14 @@ void fillUndoNames()
         ActionManager::s_undoString.insert(codeOf(verb), QLatin1String(verb.name));
 }
 
+QVector<VerbInfo> all()
+{
+    QVector<VerbInfo> infos;
+    for (const Verb &verb : verbs)
+        infos.append({QLatin1String(verb.name), QLatin1String(verb.arguments)});
+    return infos;
+}
+
 QString helpText()
 {
     constexpr int indentColumns = 4;
@@ -516,7 +524,7 @@ QString helpText()
         if (*verb.meaning)
             text += QString(indentColumns + 2, QLatin1Char(' ')) + t(verb.meaning) + QLatin1Char('\n');
     }
-    text += QLatin1Char('\n') + t("Fields: %1").arg(taskFieldsHelp()) + QLatin1Char('\n');
+    text += QLatin1Char('\n') + t("Fields: %1").arg(taskFieldsHelp()) + QLatin1String("\n\n");
     text += t("Options: %1").arg(optionsHelp()) + QLatin1Char('\n');
     return text;
 }

@@ -22,6 +22,7 @@ enum Group : unsigned {
     Copying = 512,
     Converting = 1024,
     Drawing = 2048,
+    Helping = 4096,
 };
 
 struct Command
@@ -51,10 +52,10 @@ constexpr Command commandTable[] = {
     {"baseline", "", Everywhere | Planning | Changing, 1, mostWords, "FILE [list|set|clear] [TASK...]"},
     {"copy-branch", "", Everywhere | Planning | Changing | Copying, 3, mostWords, "FROM TASK... INTO"},
     {"recover", "", Everywhere, 0, 1, "[COPY]"},
-    {"completion", "", Everywhere, 0, 0, ""},
+    {"completion", "", Everywhere, 0, 1, "[bash|zsh|fish]"},
     {"formats", "", Everywhere, 0, 0, ""},
     {"columns", "", Everywhere, 0, 0, ""},
-    {"help", "", Everywhere, 0, 1, "[COMMAND]"},
+    {"help", "", Everywhere | Helping, 0, 1, "[COMMAND]"},
     {"version", "", Everywhere, 0, 0, ""},
 };
 
@@ -332,6 +333,11 @@ const Option optionTable[] = {
          o.richSheets = v == QLatin1String("rich");
          return o.richSheets || v == QLatin1String("plain");
      }},
+    {"man-pages", "", "FOLDER", Helping,
+     [](Options &o, const QString &v) {
+         o.manualFolder = v;
+         return !v.isEmpty();
+     }},
     {"sample", "", nullptr, Making, [](Options &o, const QString &) { return o.sample = true; }},
     {"before", "", "TASK", Copying,
      [](Options &o, const QString &v) {
@@ -367,6 +373,16 @@ const Option *optionNamed(const QString &name)
         if (name == QLatin1String(option.name) || (*option.letter && name == QLatin1String(option.letter)))
             return &option;
     return nullptr;
+}
+
+QVector<OptionInfo> optionsIn(unsigned groups)
+{
+    QVector<OptionInfo> infos;
+    for (const Option &option : optionTable)
+        if (option.group & groups)
+            infos.append({QLatin1String(option.name), QLatin1String(option.letter),
+                          option.value ? QLatin1String(option.value) : QLatin1String()});
+    return infos;
 }
 
 QStringList optionNames(unsigned groups)
@@ -442,8 +458,12 @@ bool split(const QStringList &words, Words &result, Fault &fault)
         const int equals = isLong ? word.indexOf(QLatin1Char('=')) : -1;
         const QString name = isLong ? word.mid(2, equals < 0 ? -1 : equals - 2) : word.mid(1);
         const QString written = (isLong ? QStringLiteral("--") : QStringLiteral("-")) + name;
-        if (name == QLatin1String("help") || name == QLatin1String("h") || name == QLatin1String("version")) {
-            result.instead = name == QLatin1String("version") ? name : QStringLiteral("help");
+        if (name == QLatin1String("help") || name == QLatin1String("h")) {
+            result.instead = QStringLiteral("help");
+            continue;
+        }
+        if (name == QLatin1String("version") || written == QLatin1String("-V")) {
+            result.instead = QStringLiteral("version");
             continue;
         }
         const Option *option = isLong == (name.size() > 1) ? optionNamed(name) : nullptr;
@@ -560,9 +580,24 @@ QStringList commands()
     return names;
 }
 
-QStringList optionNames()
+QVector<CommandInfo> commandInfos()
 {
-    return optionNames(~0u);
+    QVector<CommandInfo> infos;
+    for (const Command &command : commandTable)
+        infos.append({QLatin1String(command.name), QLatin1String(command.alias),
+                      QLatin1String(command.arguments), QLatin1String(command.name)});
+    return infos;
+}
+
+QVector<OptionInfo> allOptions()
+{
+    return optionsIn(~0u);
+}
+
+QVector<OptionInfo> optionsOf(const QString &name)
+{
+    const Command *command = commandNamed(name);
+    return command ? optionsIn(command->groups) : QVector<OptionInfo>();
 }
 
 QString nearest(const QString &word, const QStringList &candidates)

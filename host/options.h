@@ -51,7 +51,8 @@ struct Options
     bool plain = false;
     bool resources = false; // the sheet instead of the tasks
 
-    QString script; // edits, one a line
+    QString script;       // edits, one a line
+    QString manualFolder; // where the manual pages go
     bool sample = false;
     bool richSheets = false; // workbooks with typed cells, widths and groups
     QString before;          // the task that a branch is copied above
@@ -99,7 +100,25 @@ struct Fault
 bool parse(const QStringList &arguments, Options &result, Fault &fault);
 // The commands, the aliases left out.
 QStringList commands();
-QStringList optionNames(); // "--force"
+
+// The tables, for texts that are made from them.
+struct CommandInfo
+{
+    QString name;
+    QString alias;
+    QString arguments; // "FILE TASK"
+    QString topic;     // whose help is this command's
+};
+struct OptionInfo
+{
+    QString name;   // "width"
+    QString letter; // empty when there is none
+    QString value;  // "N", "auto|always|never"; empty: it takes none
+};
+QVector<CommandInfo> commandInfos();
+QVector<OptionInfo> allOptions();
+// Of a command or an alias.
+QVector<OptionInfo> optionsOf(const QString &command);
 // The candidate that `word` was probably meant to be; empty when none is close.
 QString nearest(const QString &word, const QStringList &candidates);
 }

@@ -1,6 +1,7 @@
 // Commands that make, compare, keep and bring back plans.
 #include "baseline.h"
 #include "commands.h"
+#include "completions.h"
 #include "diff.h"
 #include "edit.h"
 #include "editing/clipbdmanager.h"
@@ -201,23 +202,13 @@ int copyBranch(Console &console)
 
 int completion(Console &console)
 {
-    const QString script =
-        QStringLiteral(R"(# bash completion: source this, or save it as bash-completion/completions/kwgantt
-_kwgantt() {
-    local word="${COMP_WORDS[COMP_CWORD]}"
-    if [ "$COMP_CWORD" -eq 1 ]; then
-        COMPREPLY=($(compgen -W "%1" -- "$word"))
-    elif [[ "$word" == -* ]]; then
-        COMPREPLY=($(compgen -W "%2" -- "$word"))
-    else
-        COMPREPLY=($(compgen -f -- "$word"))
-    fi
-}
-complete -o filenames -F _kwgantt kwgantt
-)");
-    return written(
-        console,
-        script.arg(options::commands().join(QLatin1Char(' ')), options::optionNames().join(QLatin1Char(' ')))
-            .toUtf8());
+    const QString shell = console.options().arguments.value(0, completions::shells().first());
+    const QString script = completions::script(shell);
+    if (script.isEmpty()) {
+        console.error(t("no completion for '%1'").arg(shell),
+                      t("possible: %1").arg(completions::shells().join(QLatin1String(", "))));
+        return Console::WrongUse;
+    }
+    return written(console, script.toUtf8());
 }
 }

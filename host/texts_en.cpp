@@ -8,38 +8,50 @@ QMap<QString, QString> helpTopics()
     return {
         {QString(), text(R"(kwgantt - schedules project plans and shows them in the terminal
 
-  kwgantt show FILE            the plan as a table with bars
-  kwgantt load FILE            reads and checks the plan and sums it up (check: exit code 1 on findings)
-  kwgantt schedule FILE        moves every task behind its predecessors; late dates, slack, critical path
-  kwgantt explain FILE TASK    why a task is when it is, and why it is critical or not
-  kwgantt convert IN OUT       writes a plan as .kwpx, .csv, .xlsx, .xls or .json
-  kwgantt render FILE -o OUT   draws the chart as .pdf, .png or .svg
-  kwgantt edit FILE EDIT       changes a plan: tasks, links, resources, calendar; --script FILE with many edits
-  kwgantt new OUT              an empty plan; --sample: a small one
-  kwgantt diff A B             what is different between two versions of a plan
-  kwgantt baseline FILE        how far the plan is from its baseline; set and clear it
-  kwgantt copy-branch FROM TASK... INTO   copies tasks from one plan into another
-  kwgantt recover [COPY]       the autosave copies; copies one back
-  kwgantt formats | columns    what can be read and written; what a table can show
-  kwgantt help [COMMAND]       this text, or one command with its options
-  kwgantt version
+Arguments:
+  FILE   a package (.kwpx), a workbook (.xlsx, .xls) or a CSV plan ('-' reads standard input): titles in the
+         first row, in any order and case, such as ID, WBS, Level, Name, Start, Finish,
+         Duration (3d 12h 30min 1.5w 2mon), Percent, Predecessors (joined by ;), Resources, Milestone, Notes.
+         A calendar stands beside it as NAME.calendar.json or calendar.json, the resource sheet and the
+         assignments as NAME.resources.csv and NAME.assignments.csv.
+  TASK   the row number shown, #ID, or a name
 
-FILE is a package (.kwpx), a workbook (.xlsx, .xls) or a CSV plan ('-' reads standard input): titles in the
-first row, in any order and case, such as ID, WBS, Level, Name, Start, Finish, Duration (3d 12h 30min 1.5w 2mon),
-Percent, Predecessors (joined by ;), Resources, Milestone, Notes. A calendar stands beside it as
-NAME.calendar.json or calendar.json, the resource sheet and the assignments as NAME.resources.csv and
-NAME.assignments.csv.
-TASK is the row number shown, #ID, or a name.
+Options of all commands:
+  -o, --output FILE   writes the result into FILE; the format follows the name (.kwpx, .csv, .xlsx, .xls, .json)
+  --force             replaces a file that is there
+  -q, --quiet         says nothing but errors
+  -v, --verbose       lists all findings, not only the first
+  --progress auto|always|never   shows on standard error how far work that lasts is
+  --color auto|always|never      colours repeat what the text says
+  --ascii             plain characters only
+  --lang LANGUAGE     the language of texts and titles
+  --tz ZONE           the time zone of dates, such as Europe/Berlin; the machine's otherwise
+  --now TIME          takes this moment for the present one, such as 2026-02-28T08:00
+  --log FILE          adds a record of the run to FILE
+  -h, --help          the help on the command
+  -V, --version       the program's version
 
-Calendar   --calendar FILE  --days Mon-Fri  --hours 08:00-12:00,13:00-17:00  --holiday DATE[..DATE]
-           --start DATE (where tasks without a start begin)
-Resources  --resources FILE  --assignments FILE (of a CSV plan)
-Output     -o FILE  --force (replaces it)  --csv  --json  --to csv|json|table  -q  -v
-           --color auto|always|never  --ascii  --progress auto|always|never  --log FILE
-Place      --tz ZONE  --now TIME  --lang LANGUAGE
+Options of commands that read a plan:
+  --json              data for other programs
+  --to csv|json|table   the format of what is printed
+  --calendar FILE     the calendar of a plan that holds none
+  --days DAYS         the days that work, such as Mon-Fri
+  --hours HOURS       the hours of a day, such as 08:00-12:00,13:00-17:00
+  --holiday DATES     a date or dates off: 2026-12-24..2027-01-01
+  --start DATE        where tasks without a start begin
+  --resources FILE    the resource sheet of a CSV plan
+  --assignments FILE  the assignments of a CSV plan
+  --unit d|h|min      the unit of slack (d: below half a tenth of a day counts as none)
 
-Exit codes 0 done  1 done, and the answer is no  2 wrong use  3 input cannot be read
-           4 output cannot be written  5 cannot be scheduled  6 the machine lacks something  70 a bug
+Exit codes:
+  0    done
+  1    done, and the answer is no: there were findings, something would move, two plans differ
+  2    wrong use
+  3    the input cannot be read
+  4    the output cannot be written
+  5    the plan cannot be scheduled
+  6    the machine lacks something
+  70   a bug
 )")},
         {QStringLiteral("show"), text(R"(kwgantt show FILE - the plan as a table with bars
 
@@ -59,13 +71,15 @@ The dates are those of the file; a plan with tasks that have no start is shown s
   --unit d|h|min   the unit of slack (d: below half a tenth of a day counts as none)
   --csv, --json    every field of every task, for other programs
 
-Example: kwgantt show plan.csv --critical --scale week
+Examples:
+    kwgantt show plan.csv --critical --scale week
 )")},
         {QStringLiteral("load"), text(R"(kwgantt load FILE - reads and checks the plan and sums it up
 
 What is wrong but can be lived with is told on standard error; a file that cannot be read as a plan gives
-exit code 3. Of a package it checks what must hold: IDs, outline, links, row heights, assignments. 'kwgantt check FILE' does the same and gives exit code 1 when anything was found, or when a
-task starts before a predecessor finishes.
+exit code 3. Of a package it checks what must hold: IDs, outline, links, row heights, assignments.
+'kwgantt check FILE' does the same and gives exit code 1 when anything was found, or when a task starts before a
+predecessor finishes.
 
   --check          exit code 1 when anything was found
   --json           the summary and the findings for other programs
@@ -83,9 +97,11 @@ summed up on standard error. Tasks that wait for each other in a ring of links g
   -i, --in-place   writes the new dates into FILE, a package or a CSV plan, and leaves everything else as it is
   -o FILE          writes the scheduled plan; the format follows the name (.kwpx, .csv, .xlsx, .xls, .json)
   --unit d|h|min   the unit of slack
-  and all options of 'kwgantt help show'
 
-Example: kwgantt schedule plan.csv --dry-run --holiday 2026-12-24..2027-01-01
+All options of 'kwgantt help show' go with it, too.
+
+Examples:
+    kwgantt schedule plan.csv --dry-run --holiday 2026-12-24..2027-01-01
 )")},
         {QStringLiteral("explain"), text(R"(kwgantt explain FILE TASK - why a task is when it is
 
@@ -96,7 +112,8 @@ which days do not count, whether it is critical, and what it holds up. Nothing i
   --asap           the earliest dates that the links allow
   --json           for other programs
 
-Example: kwgantt explain plan.csv "Order parts"
+Examples:
+    kwgantt explain plan.csv "Order parts"
 )")},
         {QStringLiteral("convert"), text(R"(kwgantt convert IN OUT - writes a plan in another format
 
@@ -113,7 +130,8 @@ is written beside it, too. What a workbook's cells could not give is listed on s
                    (plain: every cell is a text)
   --force          replaces OUT
 
-Example: kwgantt convert plan.csv plan.kwpx
+Examples:
+    kwgantt convert plan.csv plan.kwpx
 )")},
         {QStringLiteral("render"), text(R"(kwgantt render FILE -o OUT.pdf|png|svg - draws the chart
 
@@ -147,9 +165,11 @@ All edits are made or none: when one fails, nothing is written and the message n
 TASK is the row number shown, #ID, or a name. Words are separated by blanks; quotes hold one together, and
 between double quotes \n, \t, \" and \\ stand for a line break, a tab, a quote and a backslash.
 
-Examples: kwgantt edit plan.kwpx set 5 duration=3d start=2026-03-02 -i
-          kwgantt edit plan.csv add "Order parts" duration=2d -o plan.kwpx
+Examples:
+    kwgantt edit plan.kwpx set 5 duration=3d start=2026-03-02 -i
+    kwgantt edit plan.csv add "Order parts" duration=2d -o plan.kwpx
 
+Edits:
 )")},
         {QStringLiteral("new"), text(R"(kwgantt new OUT - an empty plan as .kwpx or .csv
 
@@ -193,11 +213,22 @@ kwgantt recover COPY -o FILE.kwpx
 COPY is a number of the list or a file name. The copy is read before it is written.
 )")},
         {QStringLiteral("completion"),
-         text("kwgantt completion - a script that completes commands and options in bash\n")},
+         text(R"(kwgantt completion [bash|zsh|fish] - a script that completes commands, options, values and edits
+
+Packages install the scripts. By hand:
+
+Examples:
+    source <(kwgantt completion bash)
+    kwgantt completion zsh > ~/.zfunc/_kwgantt
+    kwgantt completion fish > ~/.config/fish/completions/kwgantt.fish
+)")},
         {QStringLiteral("formats"), text("kwgantt formats - what can be read and written\n")},
         {QStringLiteral("columns"), text("kwgantt columns - what 'show --columns' can show\n")},
         {QStringLiteral("help"),
-         text("kwgantt help [COMMAND] - the commands, or one of them with its options\n")},
+         text(R"(kwgantt help [COMMAND] - the commands, or one of them with its options
+
+  --man-pages FOLDER   writes the manual pages into FOLDER instead
+)")},
         {QStringLiteral("version"), text("kwgantt version - the program's version\n")},
     };
 }
