@@ -1,0 +1,61 @@
+# What a host may include, as <kwgantt/NAME>; headers that these include come along as <kwgantt/inner/NAME>.
+set(kw_base_headers
+    kwbase_export.h
+    kwfilepathmanager.h
+    kwtemporarydir.h
+    kwversion.h
+    kwzip.h
+    quarkmanager.h
+    runinglog.h
+    xmlparser.h)
+set(kw_graphics_headers
+    kwgraphics_export.h
+    kwpath.h)
+set(kw_module_headers
+    kwgantt_export.h
+    editing/actionmanager.h
+    editing/clipbdmanager.h
+    editing/kwhyperlink.h
+    editing/kwopeaction.h
+    editing/taskaction.h
+    editing/undoitems.h
+    engine/network/linkrefusal.h
+    engine/record/outline.h
+    engine/record/resource.h
+    engine/record/taskindex.h
+    engine/record/taskrecord.h
+    engine/time/localclock.h
+    engine/time/timescale.h
+    engine/time/worktime.h
+    exchange/BasicExcel.h
+    exchange/XLSDataEngine.h
+    exchange/XLSXDataBase.h
+    exchange/XLSXDataEngine.h
+    exchange/exceltitles.h
+    format/dataformat.h
+    format/localizeutil.h
+    format/unitutil.h
+    model/kwdocument.h
+    model/kwtaskinfo.h
+    resources/assignmentbatch.h
+    resources/resourceinfodata.h
+    schedule/kwcalendar.h
+    schedule/kwtaskcollection.h
+    settings/kwconfig.h
+    settings/kwprintconfig.h
+    settings/kwrecentfilemanager.h
+    styles/colorutil.h
+    styles/kwcolor.h
+    styles/kwlineformat.h
+    styles/kwmath.h
+    styles/kwpaint.h
+    styles/kwtextformat.h
+    styles/themepalette.h
+    support/findings.h
+    support/kwclock.h
+    support/kwlimits.h
+    table/customtable.h
+    table/rowcolumndata.h)
+if(KW_WITH_EXPORT)
+    list(APPEND kw_module_headers export/exportoptions.h export/ganttpdfexport.h)
+endif()
