@@ -248,7 +248,7 @@ QString shown(const Page &page, int columns)
 
 QString meaningOf(const QString &command, const QString &option)
 {
-    for (const QString &topic : {command, QString()}) {
+    for (const QString &topic : {command, QStringLiteral("show"), QString()}) {
         for (const Block &block : page(topic).blocks) {
             // "-o, --output FILE" and "--csv, --json" explain each of the words in them.
             const QStringList words = QString(block.term).remove(QLatin1Char(',')).split(QLatin1Char(' '));

@@ -160,6 +160,9 @@ kwgantt edit FILE --script FILE
   -o OUT           writes another file; the format follows the name (.kwpx, .csv, .xlsx, .xls, .json)
   --dry-run        shows the changed plan and writes nothing
   --script FILE    one edit a line ('-' reads standard input); a line that begins with # says nothing
+  --sheets rich    a workbook with values, widths, filters and outline groups
+
+All options of 'kwgantt help show' go with it, too: they say how the plan is shown.
 
 All edits are made or none: when one fails, nothing is written and the message names its line.
 TASK is the row number shown, #ID, or a name. Words are separated by blanks; quotes hold one together, and
@@ -194,6 +197,9 @@ The baseline remembers dates and costs, of all tasks or of TASK with what is bel
 
   -i, --in-place   writes the package FILE itself (set, clear)
   -o OUT           writes another file
+  --dry-run        shows the changed plan and writes nothing
+  --sheets rich    a workbook with values, widths, filters and outline groups
+  --csv            every field of every task, for other programs
   --json           for other programs
 )")},
         {QStringLiteral("copy-branch"),
@@ -206,6 +212,8 @@ among them stay. Assignments stay behind: they belong to the other plan's resour
   --under TASK     as the last tasks below this one, expanded or collapsed; without either, at the end
   -i, --in-place   writes the package INTO itself
   -o OUT           writes another file
+  --dry-run        shows the changed plan and writes nothing
+  --sheets rich    a workbook with values, widths, filters and outline groups
 )")},
         {QStringLiteral("recover"), text(R"(kwgantt recover - lists the autosave copies
 kwgantt recover COPY -o FILE.kwpx
@@ -213,7 +221,8 @@ kwgantt recover COPY -o FILE.kwpx
 COPY is a number of the list or a file name. The copy is read before it is written.
 )")},
         {QStringLiteral("completion"),
-         text(R"(kwgantt completion [bash|zsh|fish] - a script that completes commands, options, values and edits
+         text(
+             R"(kwgantt completion [bash|zsh|fish] - a script that completes commands, options, values and edits
 
 Packages install the scripts. By hand:
 

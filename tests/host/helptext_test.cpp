@@ -43,9 +43,9 @@ TEST(HelpText, fitsEveryWidthAndLosesNothing)
 TEST(HelpText, breaksLinesOfWideCharactersAnywhere)
 {
     helptext::Page page = helptext::parsed(QStringLiteral("kwgantt show FILE - x\n\n  --all  ") +
-                                           QString(20, QChar(0x4EFB)) + QStringLiteral(" end\n"));
+                                           QString(16, QChar(0x4EFB)) + QStringLiteral(" end\n"));
     EXPECT_EQ(helptext::shown(page, 30).section(QLatin1Char('\n'), 2),
               QStringLiteral("  --all  %1\n         %2 end\n")
-                  .arg(QString(10, QChar(0x4EFB)), QString(10, QChar(0x4EFB))));
+                  .arg(QString(10, QChar(0x4EFB)), QString(6, QChar(0x4EFB))));
 }
 }
