@@ -23,6 +23,18 @@ constexpr int maxNodes = 20000000;         // elements, attributes, comments and
 constexpr qint64 maxDomBytes = 64LL << 20; // where a DOM is made of it, twenty times as large
 }
 
+namespace mspdi {
+
+// A project of 100,000 tasks that another planner wrote, with all that it keeps for itself, has 260 MB.
+constexpr qint64 maxFileBytes = 768LL << 20;
+constexpr std::size_t maxTasks = 1000000;
+constexpr std::size_t maxResources = 200000;
+constexpr std::size_t maxAssignments = 2000000;
+constexpr std::size_t maxCalendars = 200000; // a resource may have one of its own
+constexpr int maxLinks = 2000000;
+constexpr int maxExceptions = 1000000; // days and exceptions of all calendars together
+}
+
 namespace clipboardxml {
 
 constexpr qint64 maxBytes = kwzip::maxEntryBytes;

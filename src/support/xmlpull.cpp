@@ -302,6 +302,21 @@ QString XmlPull::textOfElement()
     return joined;
 }
 
+std::string_view XmlPull::utf8OfElement(QByteArray &buffer)
+{
+    const char *at = m_at;
+    while (!m_closesAtOnce && at != m_end && *at != '<' && *at != '&' && uchar(*at) >= 0x20)
+        ++at;
+    if (m_closesAtOnce || m_end - at < 2 || at[0] != '<' || at[1] != '/') {
+        buffer = textOfElement().toUtf8();
+        return view(buffer.constData(), buffer.constData() + buffer.size());
+    }
+    const std::string_view text = view(m_at, at);
+    m_at = at;
+    next();
+    return text;
+}
+
 int XmlPull::numberOfElement()
 {
     constexpr int maxDigits = 9;

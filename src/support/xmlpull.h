@@ -22,6 +22,7 @@ public:
     QString error() const { return m_error; } // why it failed; empty when it did not
     // ---- At Begin and End ---------------------------------------------------------------------------------
     bool is(std::string_view name) const { return m_name == name; }
+    std::string_view name() const { return m_name; }
     // Open elements, this one included.
     int depth() const { return int(m_open.size()); }
     // ---- At Begin -----------------------------------------------------------------------------------------
@@ -41,6 +42,9 @@ public:
     bool skip();
     // The texts up to the end of the element that has begun, those of its children left out.
     QString textOfElement();
+    // The same in UTF-8: a view of the text itself where nothing in it is encoded, else of `buffer`. Good until
+    // the next call.
+    std::string_view utf8OfElement(QByteArray &buffer);
     // The same as a number, where the element holds nothing but digits; -1 and nothing read otherwise.
     int numberOfElement();
 
