@@ -28,6 +28,7 @@ set(kw_module_headers
     engine/time/timescale.h
     engine/time/worktime.h
     exchange/BasicExcel.h
+    exchange/MSPDIDataEngine.h
     exchange/XLSDataEngine.h
     exchange/XLSXDataBase.h
     exchange/XLSXDataEngine.h
