@@ -28,14 +28,15 @@ public:
     void run()
     {
         checkIds();
+        collectNamed();
         for (int pos = 0; pos < m_document.taskCount(); ++pos) {
             m_place = planrows::place(pos + 1);
             const KWTaskInfo &task = *m_document.getTaskInfoAt(pos);
             checkParent(task, pos);
             checkChildren(task);
             checkHidden(task);
-            checkLinks(task.Predecessors, task, &KWTaskInfo::Depends, "predecessor");
-            checkLinks(task.Depends, task, &KWTaskInfo::Predecessors, "successor");
+            checkLinks(task.Predecessors, task, Successor, "predecessor");
+            checkLinks(task.Depends, task, Predecessor, "successor");
             checkAssignments(task);
         }
         checkRings();
@@ -46,6 +47,37 @@ public:
     }
 
 private:
+    // What a task names another as.
+    enum Role : quint32 { Child, Successor, Predecessor };
+    struct Named
+    {
+        const KWTaskInfo *by;
+        quint32 id;
+        Role role;
+        bool operator==(const Named &other) const
+        {
+            return by == other.by && id == other.id && role == other.role;
+        }
+        friend uint qHash(const Named &named)
+        {
+            constexpr quint64 spread = 0x9e3779b97f4a7c15ULL; // IDs and addresses lie side by side
+            const quint64 number = (quint64(quintptr(named.by)) ^ (quint64(named.id) << 32)) + named.role;
+            return uint((number * spread) >> 32);
+        }
+    };
+
+    void collectNamed()
+    {
+        for (const KWTaskInfo *task : m_document.taskList()) {
+            for (const quint32 id : task->Childs)
+                m_named.insert({task, id, Child});
+            for (const quint32 id : task->Depends)
+                m_named.insert({task, id, Successor});
+            for (const quint32 id : task->Predecessors)
+                m_named.insert({task, id, Predecessor});
+        }
+    }
+
     void report(const QString &what) { m_findings.add(m_place, what); }
     const KWTaskInfo *byId(quint32 id) const { return m_posOfId.contains(id) ? taskAt(id) : nullptr; }
     const KWTaskInfo *taskAt(quint32 id) const { return m_document.getTaskInfoAt(m_posOfId.value(id)); }
@@ -71,7 +103,7 @@ private:
             report(t("its summary %1 does not exist").arg(task.ParentID));
         else if (parent && m_posOfId.value(task.ParentID) >= pos)
             report(t("it stands above its summary %1").arg(task.ParentID));
-        else if (parent && !parent->Childs.contains(task.ID))
+        else if (parent && !m_named.contains({parent, task.ID, Child}))
             report(t("its summary %1 does not name it").arg(task.ParentID));
         const int level = parent ? parent->Level + 1 : 1;
         if (task.Level != level)
@@ -102,8 +134,7 @@ private:
             report(t("it is hidden by %1, which is no collapsed summary").arg(task.HideID.value()));
     }
 
-    void checkLinks(const QList<quint32> &ids, const KWTaskInfo &task,
-                    const QList<quint32> TaskRecord::*other, const char *kind)
+    void checkLinks(const QList<quint32> &ids, const KWTaskInfo &task, Role role, const char *kind)
     {
         for (const quint32 id : ids) {
             const KWTaskInfo *linked = byId(id);
@@ -111,7 +142,7 @@ private:
                 report(t("its %1 %2 does not exist").arg(t(kind)).arg(id));
             else if (linked == &task)
                 report(t("it is its own %1").arg(t(kind)));
-            else if (!(linked->*other).contains(task.ID))
+            else if (!m_named.contains({linked, task.ID, role}))
                 report(t("its %1 %2 does not know of the link").arg(t(kind)).arg(id));
         }
     }
@@ -146,6 +177,7 @@ private:
     Findings &m_findings;
     QString m_place;
     QHash<quint32, int> m_posOfId;
+    QSet<Named> m_named; // long lists are not looked through for each of their tasks
     QSet<QString> m_sheetNames;
 };
 }

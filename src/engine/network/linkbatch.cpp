@@ -19,9 +19,11 @@ constexpr int none = -1;
 
 // ---- Many links at once -----------------------------------------------------------------------------------
 
+// Each pair its own number. The odd factor keeps them apart and spreads them: Qt's hash of the halves side by
+// side is the same for all pairs along a diagonal, and links lie there.
 quint64 pairOf(int predecessor, int successor)
 {
-    return (quint64(quint32(predecessor)) << 32) | quint32(successor);
+    return ((quint64(quint32(predecessor)) << 32) | quint32(successor)) * 0x9e3779b97f4a7c15ULL;
 }
 
 // Every child names its summary and every summary its children.
