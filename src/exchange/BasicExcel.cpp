@@ -332,6 +332,8 @@ bool BasicExcel::load(CompoundFile &file)
         return fail(error);
     // Every sheet ends where another begins at the latest, so no byte is read for two.
     std::vector<quint32> offsets;
+    if (workbook.sheets.size() == 1 && !Worksheet::Begins(stream, workbook.sheets[0].offset))
+        workbook.sheets[0].offset = Worksheet::OnlyBegin(stream).value_or(workbook.sheets[0].offset);
     for (const Workbook::BoundSheet &sheet : workbook.sheets) {
         if (sheet.type == Workbook::BoundSheet::Sheet)
             offsets.push_back(sheet.offset);
@@ -434,6 +436,7 @@ bool BasicExcel::writeStream(QByteArray *stream)
     if (m_sheets.empty())
         return fail(QStringLiteral("a workbook needs a sheet"));
     Workbook workbook;
+    workbook.is1904 = m_is1904;
     if (!collectTexts(&workbook.strings))
         return false;
     for (const auto &sheet : m_sheets) {

@@ -203,7 +203,7 @@ public:
         return RenameWorksheet(toInt(index), to);
     }
 
-    // Days count from 1904-01-01 in the file that was loaded.
+    // Days count from 1904-01-01 in the file that was loaded, and in what is saved from it.
     bool IsDate1904() const { return m_is1904; }
     // What went wrong last, for people.
     QString ErrorText() const { return m_error; }

@@ -290,6 +290,22 @@ TEST(Streams, thatAreDamagedFailCleanly)
         for (const char *name : {"Workbook", "BOOK"})
             EXPECT_EQ(textOf(Book::wrap(stream, name)), outcome);
     }
+    // Some writers of a single sheet give its place wrongly.
+    book.sheets.removeLast();
+    for (const char *at : {"u0", "u99999"})
+        EXPECT_EQ(textOf(Book::wrap(book.stream().replace(24, 4, bytes(at)))), "Sheet1: A1=5");
+}
+
+TEST(Streams, keepTheirDateSystem)
+{
+    for (const char *is1904 : {"w0", "w1"}) {
+        Book book;
+        book.shared = record(0x0022, is1904);
+        book.sheets = {record(0x027E, "w0 w0 w15 u22")};
+        YExcel::BasicExcel loaded, again;
+        ASSERT_TRUE(loaded.LoadBytes(book.file()) && again.LoadBytes(loaded.ToBytes()));
+        EXPECT_EQ(again.IsDate1904(), bytes(is1904) == bytes("w1"));
+    }
 }
 
 // ---- What is written --------------------------------------------------------------------------------------

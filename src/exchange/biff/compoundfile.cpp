@@ -413,17 +413,24 @@ bool CompoundFile::openMiniStream() const
     const Property &root = m_tree.At(0).property;
     std::vector<quint32> chain;
     constexpr bool mayEndEarly = true;
-    if (!gather(root.start, root.size, &m_miniStream) ||
-        !follow(m_table, m_header.firstMiniTableSector,
-                qMin(m_table.size(),
-                     size_t(divideUp(divideUp(root.size, miniSectorBytes), m_block.SectorSize() / 4))),
-                mayEndEarly, &chain))
+    // All sectors of its chain, whatever its size says: some writers count only what the last stream fills of
+    // them, others end the file there.
+    if (!follow(m_table, root.start, m_table.size(), mayEndEarly, &chain))
+        return false;
+    m_miniStream.clear();
+    for (const quint32 sector : chain) {
+        const biff::Bytes bytes = m_block.Read(sector);
+        m_miniStream.append(reinterpret_cast<const char *>(bytes.data()), int(bytes.left()));
+    }
+    const quint64 miniSectors = divideUp(quint64(m_miniStream.size()), miniSectorBytes);
+    if (!follow(m_table, m_header.firstMiniTableSector,
+                qMin(m_table.size(), size_t(divideUp(miniSectors, m_block.SectorSize() / 4))), mayEndEarly,
+                &chain))
         return false;
     m_miniTable.clear();
     for (const quint32 sector : chain)
         appendNumbers(m_block.Read(sector), &m_miniTable);
-    m_miniTable.resize(
-        qMin(m_miniTable.size(), size_t(divideUp(quint64(m_miniStream.size()), miniSectorBytes))));
+    m_miniTable.resize(qMin(m_miniTable.size(), size_t(miniSectors)));
     m_isMiniOpen = true;
     return true;
 }

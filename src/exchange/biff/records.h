@@ -18,8 +18,9 @@ constexpr quint16 bof = 0x0809, eof = 0x000A, window1 = 0x003D, font = 0x0031, x
                   boundSheet = 0x0085, sharedStrings = 0x00FC, extSst = 0x00FF, index = 0x020B,
                   dimensions = 0x0200, window2 = 0x023E, row = 0x0208, blank = 0x0201, boolErr = 0x0205,
                   labelSst = 0x00FD, mulBlank = 0x00BE, mulRk = 0x00BD, number = 0x0203, rk = 0x027E,
-                  formula = 0x0006, array = 0x0221, sharedFormula = 0x00BC, table = 0x0036, string = 0x0207,
-                  dbCell = 0x00D7, continued = 0x003C, filePass = 0x002F, date1904 = 0x0022, label = 0x0204,
+                  formula = 0x0006, formulaOfBiff3 = 0x0206, formulaOfBiff4 = 0x0406, array = 0x0221,
+                  sharedFormula = 0x00BC, table = 0x0036, string = 0x0207, dbCell = 0x00D7,
+                  continued = 0x003C, filePass = 0x002F, date1904 = 0x0022, label = 0x0204,
                   richLabel = 0x00D6;
 }
 
@@ -61,7 +62,7 @@ constexpr RecordKind recordKinds[] = {
     {code::continued, 0, "Continue", 0},
     {code::filePass, 0, "FilePass", 2},
     {code::date1904, 0, "Date1904", 2},
-    {code::label, 0, "Label", 9},
+    {code::label, 0, "Label", 8},
     {code::richLabel, 0, "RString", 9},
 };
 

@@ -124,8 +124,9 @@ bool YExcel::LargeString::Read(ContinuedBytes &from)
             read += here;
             if (read == length)
                 break;
-            // A character is never cut itself.
-            if (from.left() > 0 || !from.hasMore()) {
+            // A character is never cut itself: one byte that is left fills the record up.
+            from.skip(from.left());
+            if (!from.hasMore()) {
                 from.setFailed();
                 return false;
             }

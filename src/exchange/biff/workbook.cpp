@@ -154,6 +154,11 @@ void Workbook::Write(biff::Sink &to)
     BOF().Write(to);
     window.selectedSheets = quint16(qMin(sheets.size(), size_t(0xFFFF)));
     window.Write(to);
+    if (is1904) {
+        to.u16(biff::code::date1904);
+        to.u16(sizeof(quint16));
+        to.u16(1);
+    }
     for (const Font &font : fonts)
         font.Write(to);
     for (const XF &format : formats)

@@ -80,6 +80,9 @@ public:
                 m_formulaPlace = cell.place;
                 return m_isTextAwaited || give(cell.place, cell.Result());
             });
+        case biff::code::formulaOfBiff3:
+        case biff::code::formulaOfBiff4:
+            return readOlderFormula(records);
         case CellBlock::Formula::Array::code:
         case CellBlock::Formula::ShrFmla::code:
         case biff::kindOf(CellBlock::Formula::ShrFmla::code).otherCode:
@@ -109,6 +112,19 @@ private:
         Record record;
         return record.Read(records) && giveAll(record);
     }
+    // Some writers use the codes of the versions before, which have less behind the result.
+    bool readOlderFormula(const biff::RecordStream &records)
+    {
+        CellBlock::Formula cell;
+        biff::Bytes data = records.data();
+        FieldReader reader(data);
+        reader(cell.place, cell.result);
+        if (!data.ok())
+            return false;
+        m_isTextAwaited = cell.HasString();
+        m_formulaPlace = cell.place;
+        return m_isTextAwaited || give(cell.place, cell.Result());
+    }
     // A text beside the shared ones, which some writers still use.
     bool readLabel(const biff::RecordStream &records)
     {
@@ -117,6 +133,9 @@ private:
         place.row = data.u16();
         place.column = data.u16();
         place.format = data.u16();
+        constexpr size_t bytesOfEmpty = 8; // without the flags of characters
+        if (records.data().left() == bytesOfEmpty)
+            return data.u16() == 0 && give(place, textValue(biff::Text::fromLatin1("", 0), false));
         LargeString string;
         return string.Read(data) && give(place, textValue(string.Value(), string.IsWide()));
     }
@@ -229,6 +248,34 @@ std::vector<quint32> CellTable::Finish(biff::Sink &to, int rows)
     return std::move(m_dbCells);
 }
 
+std::optional<quint32> Worksheet::OnlyBegin(const QByteArray &stream)
+{
+    std::optional<quint32> begin;
+    biff::RecordStream records(stream, 0, quint32(stream.size()));
+    int depth = 0; // charts lie in sheets
+    while (records.next()) {
+        if (records.code() == YEOF::code) {
+            depth -= depth > 0 ? 1 : 0;
+        } else if (records.code() == BOF::code) {
+            BOF bof;
+            if (depth++ > 0 || !bof.Read(records) || bof.type != BOF::Sheet)
+                continue;
+            if (begin)
+                return std::nullopt;
+            begin = records.offset();
+        }
+    }
+    return begin;
+}
+
+bool Worksheet::Begins(const QByteArray &stream, quint32 at)
+{
+    biff::RecordStream records(stream, at, quint32(stream.size()));
+    BOF bof;
+    return records.next() && records.code() == BOF::code && bof.Read(records) && bof.version == BOF::Biff8 &&
+           bof.type == BOF::Sheet;
+}
+
 bool Worksheet::Read(const QByteArray &stream, quint32 begin, quint32 end,
                      const Workbook::SharedStringTable &strings, const Taker &take, QString *error)
 {
@@ -237,9 +284,7 @@ bool Worksheet::Read(const QByteArray &stream, quint32 begin, quint32 end,
         return false;
     };
     biff::RecordStream records(stream, begin, end);
-    BOF bof;
-    if (!records.next() || records.code() != BOF::code || !bof.Read(records) || bof.version != BOF::Biff8 ||
-        bof.type != BOF::Sheet)
+    if (!Begins(stream, begin) || !records.next())
         return fail(QStringLiteral("does not begin where the workbook says"));
     SheetReader reader(strings, take);
     int embedded = 0; // charts in the sheet, one in another

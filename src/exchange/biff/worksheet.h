@@ -4,6 +4,7 @@
 #include "exchange/biff/workbook.h"
 #include "kwgantt_export.h"
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace YExcel {
@@ -336,6 +337,11 @@ public:
         RowBlock m_block;
         std::vector<quint32> m_dbCells;
     };
+
+    // Whether a sheet begins there.
+    static bool Begins(const QByteArray &stream, quint32 at);
+    // Where the only sheet of a workbook begins, whatever the workbook says; nothing when there are others.
+    static std::optional<quint32> OnlyBegin(const QByteArray &stream);
 
     using Taker = std::function<void(int row, int column, biff::Value &&value)>;
     // Hands every value between the two offsets of the stream to `take`, blank cells excepted. False with an
