@@ -179,6 +179,7 @@ void XLSXDataEngine::setCellCont(const QString &text, int &counter, int row, int
     cell.appendChild(value);
     line.appendChild(cell);
     ++counter;
+    ++m_stringCells;
 }
 
 // ---- The package ------------------------------------------------------------------------------------------

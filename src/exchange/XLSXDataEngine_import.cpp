@@ -5,6 +5,7 @@
 #include "kwtemporarydir.h"
 #include "kwzip.h"
 #include "model/kwdocument.h"
+#include <QDir>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <memory>
@@ -22,7 +23,15 @@ public:
     {
     }
     QString path() const { return (m_fallback ? m_fallback->path() : m_folder.path()) + QLatin1Char('/'); }
-    bool unpack(const QString &archive) { return KWZip::unZip(archive, path()); }
+    // Without a folder of its own nothing is unpacked: an empty path would be the root of all files.
+    bool unpack(const QString &archive, QString *error)
+    {
+        const bool hasFolder = !m_fallback || m_fallback->isValid();
+        if (hasFolder && KWZip::unZip(archive, path()))
+            return true;
+        *error = hasFolder ? KWZip::lastError() : QStringLiteral("no temporary folder");
+        return false;
+    }
 
 private:
     QTemporaryDir m_folder;
@@ -38,27 +47,50 @@ public:
     // The strings must outlive the object.
     OpenSheets(const QString &folder, const QStringList &strings, Findings &findings)
     {
-        const auto count = std::size_t(exceltitles::SheetCount);
-        for (const QString &file : xlsx::sheetFiles(folder)) {
-            if (m_sources.size() == count)
-                break;
-            QString error;
-            auto source = std::make_unique<xlsx::SheetSource>(xlsx::readPart(folder + file, &error), strings);
-            if (!error.isEmpty())
-                findings.add(file, error, QStringLiteral("not read"));
-            // Other XML among the sheets is none, a sheet that is spoilt is one all the same.
-            if (source->isWorksheet() || !source->error().isEmpty())
-                m_sources.push_back(std::move(source));
+        // One folder up, which is there also where the folder of the sheets is not.
+        const QString parts = QDir::cleanPath(folder + QLatin1String("..")) + QLatin1Char('/');
+        const QByteArray workbook = xlsx::readPart(parts + QLatin1String("workbook.xml"), nullptr);
+        for (const QString &file : xlsx::sheetFiles(folder))
+            open(folder, file, strings, findings);
+        if (m_sources.empty()) {
+            const QByteArray relations =
+                xlsx::readPart(parts + QLatin1String("_rels/workbook.xml.rels"), nullptr);
+            for (const QString &file : xlsx::relatedSheets(workbook, relations))
+                open(parts, file, strings, findings);
         }
+        if (m_sources.empty())
+            findings.add(QStringLiteral("xl/worksheets"), QStringLiteral("the workbook has no worksheet"),
+                         QStringLiteral("nothing imported"));
         for (std::size_t sheet = 0; sheet < m_sources.size(); ++sheet)
             m_book.sheets[sheet] = m_sources[sheet].get();
-        // The part that says it stands one folder up.
-        m_book.is1904 = xlsx::is1904(xlsx::readPart(folder + QLatin1String("../workbook.xml"), nullptr));
+        m_book.is1904 = xlsx::is1904(workbook);
     }
     const planimport::Book &book() const { return m_book; }
+    // After they have been read.
+    void tellDoubts(Findings &findings) const
+    {
+        for (std::size_t sheet = 0; sheet < m_sources.size(); ++sheet)
+            m_sources[sheet]->doubts().addTo(findings, m_files[int(sheet)]);
+    }
 
 private:
+    void open(const QString &folder, const QString &file, const QStringList &strings, Findings &findings)
+    {
+        if (m_sources.size() == std::size_t(exceltitles::SheetCount))
+            return;
+        QString error;
+        auto source = std::make_unique<xlsx::SheetSource>(xlsx::readPart(folder + file, &error), strings);
+        if (!error.isEmpty())
+            findings.add(file, error, QStringLiteral("not read"));
+        // Other XML among the sheets is none, a sheet that is spoilt is one all the same.
+        if (!source->isWorksheet() && source->error().isEmpty())
+            return;
+        m_sources.push_back(std::move(source));
+        m_files.append(file);
+    }
+
     std::vector<std::unique_ptr<xlsx::SheetSource>> m_sources;
+    QStringList m_files;
     planimport::Book m_book;
 };
 
@@ -77,8 +109,9 @@ bool XLSXDataEngine::initExcelTitles(const QString &path)
 {
     UnpackedBook unpacked;
     m_findings.clear();
-    if (!unpacked.unpack(path)) {
-        m_findings.add(path, KWZip::lastError());
+    QString error;
+    if (!unpacked.unpack(path, &error)) {
+        m_findings.add(path, error);
         return false;
     }
     praserShareStrXml(unpacked.path());
@@ -92,8 +125,9 @@ bool XLSXDataEngine::importData(const QString &path)
 {
     UnpackedBook unpacked;
     m_findings.clear();
-    if (!unpacked.unpack(path)) {
-        m_findings.add(path, KWZip::lastError(), QStringLiteral("nothing imported"));
+    QString error;
+    if (!unpacked.unpack(path, &error)) {
+        m_findings.add(path, error, QStringLiteral("nothing imported"));
         return false;
     }
     // Without its texts a sheet would take the names of all tasks away.
@@ -108,7 +142,9 @@ bool XLSXDataEngine::praserSheetXml(const QString &folder, const QStringList &sh
     if (!m_document)
         return false;
     const OpenSheets sheets(withSlash(folder), sharedStrings, m_findings);
-    return planimport::importBook(*m_document, sheets.book(), &m_findings);
+    const bool isImported = planimport::importBook(*m_document, sheets.book(), &m_findings);
+    sheets.tellDoubts(m_findings);
+    return isImported;
 }
 
 void XLSXDataEngine::createDocTaskInfo(int, int columns, const QDomNodeList &rowNodes,

@@ -5,6 +5,7 @@
 #include <QDomElement>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <algorithm>
 #include <charconv>
 
@@ -225,6 +226,31 @@ QStringList sheetFiles(const QString &folder)
     return files;
 }
 
+QStringList relatedSheets(const QByteArray &workbook, const QByteArray &relations)
+{
+    QHash<QString, QString> targets;
+    XmlPull related(relations);
+    XmlPull::Token token = related.next();
+    for (; token != XmlPull::Finished && token != XmlPull::Failed; token = related.next()) {
+        if (token != XmlPull::Begin || !related.is("Relationship") ||
+            !related.attribute("Type").endsWith(QLatin1String("/worksheet")))
+            continue;
+        const QString target = QDir::cleanPath(related.attribute("Target"));
+        const QLatin1String root("/xl/"); // a target may be named from the package's root
+        const QString path = target.startsWith(root) ? target.mid(root.size()) : target;
+        if (!path.startsWith(QLatin1Char('/')) && !path.startsWith(QLatin1String("..")))
+            targets.insert(related.attribute("Id"), path);
+    }
+    QStringList files;
+    XmlPull sheets(workbook);
+    for (token = sheets.next(); token != XmlPull::Finished && token != XmlPull::Failed;
+         token = sheets.next()) {
+        if (token == XmlPull::Begin && sheets.is("sheet") && targets.contains(sheets.attribute("r:id")))
+            files.append(targets.take(sheets.attribute("r:id")));
+    }
+    return files;
+}
+
 // ---- Cells ------------------------------------------------------------------------------------------------
 
 CellKind CellKind::of(std::string_view typeAttribute)
@@ -254,6 +280,58 @@ Cell cellOf(int column, CellKind kind, const QString &value, const QStringList &
         break;
     }
     return {column, withoutEscapes(value), false};
+}
+
+// ---- Doubts -----------------------------------------------------------------------------------------------
+
+namespace {
+
+// Whether a reference is letters and then the number of a row.
+bool hasRow(std::string_view reference)
+{
+    std::size_t at = 0;
+    while (at < reference.size() && !isDigit(reference[at]))
+        ++at;
+    return at > 0 && at < reference.size() && reference[at] != '0' &&
+           std::all_of(reference.begin() + std::ptrdiff_t(at), reference.end(), isDigit);
+}
+
+// The column that a reference gives, from 1; 0 when it gives none.
+int columnWithDoubts(std::string_view reference, int row, Doubts &doubts)
+{
+    const int column = columnOf(reference);
+    if (column > 0 && hasRow(reference))
+        return column;
+    if (doubts.firstReference.isEmpty()) {
+        constexpr int shownUnits = 20;
+        const auto text = QString::fromUtf8(reference.data(), int(reference.size())).left(shownUnits);
+        doubts.firstReference = QStringLiteral("\"%1\" in row %2").arg(text).arg(row);
+    }
+    ++(column > 0 ? doubts.rowReferences : doubts.references);
+    return column;
+}
+}
+
+void Doubts::addTo(Findings &findings, const QString &sheet) const
+{
+    if (references > 0)
+        findings.add(sheet,
+                     QStringLiteral("the places of %1 cells are not understood, the first is %2")
+                         .arg(references)
+                         .arg(firstReference),
+                     QStringLiteral("left out"));
+    if (rowReferences > 0)
+        findings.add(sheet,
+                     QStringLiteral("the places of %1 cells name no row, the first is %2")
+                         .arg(rowReferences)
+                         .arg(firstReference),
+                     QStringLiteral("taken as cells of the rows that hold them"));
+    if (emptyFormulas > 0)
+        findings.add(sheet,
+                     QStringLiteral("%1 formulas have no value, the first in row %2")
+                         .arg(emptyFormulas)
+                         .arg(firstFormula),
+                     QStringLiteral("left out: save the workbook with a program that calculates them"));
 }
 
 // ---- A worksheet as text ----------------------------------------------------------------------------------
@@ -292,7 +370,7 @@ void SheetSource::readCell(Row &row)
     const int cellDepth = m_xml.depth();
     const std::string_view reference = m_xml.rawAttribute("r");
     const CellKind kind = CellKind::of(m_xml.rawAttribute("t"));
-    const int column = reference.data() ? columnOf(reference) : m_column + 1;
+    const int column = reference.data() ? columnWithDoubts(reference, row.number, m_doubts) : m_column + 1;
     if (column > 0)
         m_column = column;
 
@@ -301,6 +379,7 @@ void SheetSource::readCell(Row &row)
     int index = -1; // of a shared string
     bool hasValue = false;
     bool hasInlineText = false;
+    bool hasFormula = false;
     for (XmlPull::Token token = m_xml.next(); token != XmlPull::Finished && token != XmlPull::Failed;
          token = m_xml.next()) {
         if (token == XmlPull::End && m_xml.depth() == cellDepth)
@@ -316,9 +395,12 @@ void SheetSource::readCell(Row &row)
             inlineText = readInlineText();
             hasInlineText = true;
         } else {
+            hasFormula = hasFormula || m_xml.is("f");
             m_xml.skip();
         }
     }
+    if (hasFormula && !hasValue && !hasInlineText && m_doubts.emptyFormulas++ == 0)
+        m_doubts.firstFormula = QString::number(row.number);
     if (column > 0 && hasInlineText)
         row.cells.push_back({column, withoutEscapes(inlineText), false});
     else if (column > 0 && index >= 0)

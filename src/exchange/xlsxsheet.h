@@ -1,5 +1,6 @@
 #pragma once
 #include "exchange/sheetrows.h"
+#include "support/findings.h"
 #include "support/xmlpull.h"
 #include <QDomNodeList>
 #include <QString>
@@ -23,6 +24,9 @@ bool is1904(const QByteArray &part);
 bool readNumberFormats(const QByteArray &part, QList<QPair<int, QString>> &formats);
 // The worksheet files of a folder in the order of the numbers in their names.
 QStringList sheetFiles(const QString &folder);
+// The worksheets that the workbook part of an unpacked package names, in its order: paths relative to the
+// folder of that part. Those that lead elsewhere are left out.
+QStringList relatedSheets(const QByteArray &workbook, const QByteArray &relations);
 // A control character that a program has written as "_x000D_" becomes itself.
 QString withoutEscapes(const QString &text);
 // Makes of what only looks like one a text that reads back as it is.
@@ -37,6 +41,17 @@ struct CellKind
 // The text of a cell by its kind and the content of its "v" element.
 sheetrows::Cell cellOf(int column, CellKind kind, const QString &value, const QStringList &strings);
 
+// What a sheet holds that its reader could not take as it stands.
+struct Doubts
+{
+    int references = 0;     // cells left out, since their place is not understood
+    int rowReferences = 0;  // taken by their column, though the row in them is none
+    int emptyFormulas = 0;  // without the value that a program has calculated
+    QString firstReference; // of either kind, with its row's number
+    QString firstFormula;
+    void addTo(Findings &findings, const QString &sheet) const;
+};
+
 // Rows straight from the text of a worksheet part.
 class SheetSource : public sheetrows::Source
 {
@@ -48,12 +63,14 @@ public:
     bool isWorksheet() const { return m_isWorksheet; }
     bool next(sheetrows::Row &row) override;
     QString error() const override { return m_xml.error(); }
+    const Doubts &doubts() const { return m_doubts; }
 
 private:
     void readCell(sheetrows::Row &row);
     QString readInlineText();
 
     const QStringList &m_strings;
+    Doubts m_doubts;
     XmlPull m_xml;
     bool m_isWorksheet = false;
     bool m_hasEnded = false;

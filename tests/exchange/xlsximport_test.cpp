@@ -2,6 +2,7 @@
 #include "exchange/XLSXDataEngine.h"
 #include "exchange/exceltitles.h"
 #include "exchange/xlsxsheet.h"
+#include "kwfilepathmanager.h"
 #include "kwzip.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
@@ -9,6 +10,7 @@
 #include "table/rowcolumndata.h"
 #include <QDir>
 #include <QDomDocument>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -89,6 +91,29 @@ TEST(Worksheet, GivesItsCells)
         const QDomElement sheetData = document.documentElement().firstChildElement("sheetData");
         xlsx::DomSheetSource dom(sheetData.childNodes(), strings);
         EXPECT_EQ(shown(dom), row.rows);
+    }
+}
+
+TEST(Worksheet, TellsWhatItLeavesOut)
+{
+    const SheetCase cases[] = {
+        {"sound",
+         "<row><c r='A1'><v>1</v></c><c><v>2</v></c><c r='C1'><f>A1</f><v>3</v></c><c r='D1'/></row>", ""},
+        {"references", "<row r='3'><c r='a3'><v>1</v></c><c r='$A$3'><v>1</v></c><c r=''><v>1</v></c></row>",
+         "the places of 3 cells are not understood, the first is \"a3\" in row 3\n"},
+        {"rows", "<row r='3'><c r='A0'><v>1</v></c><c r='B'><v>1</v></c></row>",
+         "the places of 2 cells name no row, the first is \"A0\" in row 3\n"},
+        {"formulas", "<row r='2'><c r='A2'><f>B2</f></c></row><row><c><f>1</f></c></row>",
+         "2 formulas have no value, the first in row 2\n"}};
+    for (const SheetCase &row : cases) {
+        xlsx::SheetSource source(worksheet(row.data), {});
+        shown(source);
+        Findings findings;
+        source.doubts().addTo(findings, QString());
+        std::string told;
+        for (const Finding &finding : findings.list())
+            told += finding.what.toStdString() + '\n';
+        EXPECT_EQ(told, row.rows) << row.name;
     }
 }
 
@@ -195,6 +220,46 @@ TEST_F(Package, LeavesThePlanAloneWhenTheMainPartsCannotBeRead)
     EXPECT_EQ(document.taskCount(), 1);
     EXPECT_FALSE(document.isModified());
     EXPECT_FALSE(engine.findings().isEmpty());
+}
+
+TEST_F(Package, FindsItsSheetsByTheWorkbookWhereTheirFolderHasNone)
+{
+    QDir(folder.filePath("package/xl/worksheets")).removeRecursively();
+    KWDocument document;
+    XLSXDataEngine engine(&document);
+    EXPECT_FALSE(engine.importData(packed()));
+    ASSERT_EQ(engine.findings().count(), 1);
+    EXPECT_EQ(engine.findings().list().first().what.toStdString(), "the workbook has no worksheet");
+    put("xl/tasks.xml", worksheet("<row><c t='str'><v>Name</v></c></row><row><c t='str'><v>A</v></c></row>"));
+    put("xl/workbook.xml",
+        "<workbook><sheets><sheet r:id='none'/><sheet r:id='out'/><sheet r:id='t'/></sheets>"
+        "</workbook>");
+    put("xl/_rels/workbook.xml.rels",
+        "<Relationships><Relationship Id='out' Type='x/worksheet' Target='../../../secret.xml'/>"
+        "<Relationship Id='t' Type='x/worksheet' Target='/xl/tasks.xml'/></Relationships>");
+    ASSERT_TRUE(engine.importData(packed()));
+    EXPECT_EQ(document.taskCount(), 1);
+}
+
+// An empty path would be the root of all files.
+TEST_F(Package, IsNotUnpackedWithoutATemporaryFolder)
+{
+    const auto back = qScopeGuard([old = KWFilePathManager::configDir(), temporary = qgetenv("TMPDIR")] {
+        KWFilePathManager::setConfigRoot(old);
+        temporary.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", temporary);
+    });
+    const QString book = packed();
+    put("file", "no folder");
+    const QString noFolder = folder.filePath("package/file");
+    KWFilePathManager::setConfigRoot(noFolder);
+    qputenv("TMPDIR", QFile::encodeName(noFolder));
+    KWDocument document;
+    XLSXDataEngine engine(&document);
+    EXPECT_FALSE(engine.initExcelTitles(book));
+    EXPECT_FALSE(engine.importData(book));
+    ASSERT_EQ(engine.findings().count(), 1);
+    EXPECT_EQ(engine.findings().list().first().what.toStdString(), "no temporary folder");
+    EXPECT_FALSE(QFileInfo::exists("/xl/worksheets/sheet2.xml"));
 }
 
 // One sheet held in a DOM gives the plan that the file gives.
