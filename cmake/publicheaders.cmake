@@ -19,6 +19,12 @@ set(kw_module_headers
     editing/kwopeaction.h
     editing/taskaction.h
     editing/undoitems.h
+    edits/editanswer.h
+    edits/plancheck.h
+    edits/planedits.h
+    edits/planreasons.h
+    edits/settle.h
+    edits/starttogether.h
     engine/network/linkrefusal.h
     engine/record/outline.h
     engine/record/resource.h

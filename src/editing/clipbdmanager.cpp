@@ -124,7 +124,12 @@ bool ClipbdManager::putOnClipboard(QList<quint32> &ids, QList<int> &rows)
         return false;
     m_sourceDocument = m_document;
     topTaskListByMultiRow(rows);
+    return putOnClipboard(branches(m_topTasks, ids));
+}
 
+// Adds the IDs of the tasks and of all below them to those that are there, and writes all of these tasks.
+QByteArray ClipbdManager::branches(const QList<quint32> &tops, QList<quint32> &ids) const
+{
     const outline::Tasks all = m_document->outline();
     TaskIndex listed;
     for (const quint32 id : qAsConst(ids))
@@ -133,7 +138,9 @@ bool ClipbdManager::putOnClipboard(QList<quint32> &ids, QList<int> &rows)
         if (listed.add(id))
             ids.append(id);
     };
-    for (const quint32 id : qAsConst(m_topTasks)) {
+    for (const quint32 id : tops) {
+        if (!all.byId(id))
+            continue;
         add(id);
         for (const TaskRecord *below : outline::descendants(all, *all.byId(id)))
             add(below->ID);
@@ -144,10 +151,29 @@ bool ClipbdManager::putOnClipboard(QList<quint32> &ids, QList<int> &rows)
         if (task && !task->isEmpty()) // which would not be written, and its height go to the next
             tasks.append(task);
     }
-    QClipboard *target = clipboard();
-    if (tasks.isEmpty() || !target)
+    return tasks.isEmpty() ? QByteArray() : clipboardxml::write(*m_document, tasks);
+}
+
+QByteArray ClipbdManager::branches(const QList<quint32> &ids) const
+{
+    QList<quint32> all;
+    return isReady() ? branches(ids, all) : QByteArray();
+}
+
+bool ClipbdManager::copyBranches(const QList<quint32> &ids)
+{
+    if (!isReady() || !putOnClipboard(branches(ids)))
         return false;
-    const QByteArray bytes = clipboardxml::write(*m_document, tasks);
+    m_sourceDocument = m_document;
+    m_topTasks = ids;
+    return true;
+}
+
+bool ClipbdManager::putOnClipboard(const QByteArray &bytes)
+{
+    QClipboard *target = clipboard();
+    if (bytes.isEmpty() || !target)
+        return false;
     auto *data = new QMimeData;
     data->setData(mimeType(), bytes);
     target->setMimeData(data, QClipboard::Clipboard);
@@ -268,22 +294,32 @@ bool ClipbdManager::pasteUnder(int row)
     return parent && pasteTo(placeUnder(*parent));
 }
 
-bool ClipbdManager::readClipboard(clipboardxml::Content &content, bool &isOwn) const
+QByteArray ClipbdManager::clipboardBytes(bool &isOwn) const
 {
     const QClipboard *source = clipboard();
     const QMimeData *data = source ? source->mimeData(QClipboard::Clipboard) : nullptr;
     if (!data || !data->hasFormat(mimeType()))
-        return false;
+        return {};
     const QByteArray bytes = data->data(mimeType());
+    isOwn = digestOf(bytes) == m_written;
+    return bytes;
+}
+
+namespace {
+
+bool readContent(const QByteArray &bytes, bool withAssignments, clipboardxml::Content &content)
+{
     QString error;
+    if (bytes.isEmpty())
+        return false;
     if (!content.read(bytes, &error)) {
         RuningLog::log(QLatin1String("Clipboard not read: ") + error);
         return false;
     }
-    isOwn = digestOf(bytes) == m_written;
-    if (!isOwn)
+    if (!withAssignments)
         content.dropAssignments();
     return true;
+}
 }
 
 // New IDs and levels for the tasks as they go to the place. The top tasks of the branches.
@@ -311,12 +347,15 @@ std::vector<KWTaskInfo *> ClipbdManager::numberBranches(const QList<KWTaskInfo *
     return tops;
 }
 
-bool ClipbdManager::pasteTo(const Place &place)
+struct ClipbdManager::Inserted
 {
-    clipboardxml::Content content;
-    bool isOwn = false;
-    if (!readClipboard(content, isOwn))
-        return false;
+    std::vector<KWTaskInfo *> tops;
+    std::vector<KWTaskInfo *> robbed; // of children
+};
+
+ClipbdManager::Inserted ClipbdManager::insert(clipboardxml::Content &content, const Place &place,
+                                              bool withColumns)
+{
     const QList<KWTaskInfo *> tasks = content.takeTasks();
     pasted::Branches branches(tasks);
     const std::vector<KWTaskInfo *> tops = numberBranches(tasks, place, branches);
@@ -330,18 +369,59 @@ bool ClipbdManager::pasteTo(const Place &place)
             task->HideID = place.hideID;
     }
 
-    content.giveColumns(*m_document->rowColumnData());
+    if (withColumns)
+        content.giveColumns(*m_document->rowColumnData());
     m_document->insertTasks(place.pos, tasks, content.heights());
+    if (place.parent)
+        joinParent(tops, place);
+    pasted::makeNamesDifferent(m_document->taskList(), tasks);
+    return {tops, branches.robbed()};
+}
+
+bool ClipbdManager::pasteTo(const Place &place)
+{
+    bool isOwn = false;
+    const QByteArray bytes = clipboardBytes(isOwn);
+    clipboardxml::Content content;
+    if (!readContent(bytes, isOwn, content))
+        return false;
+    constexpr bool withColumns = true;
+    const Inserted inserted = insert(content, place, withColumns);
     std::vector<TaskRecord *> changed;
     if (isOwn) // others came without money
-        changed.assign(branches.robbed().begin(), branches.robbed().end());
+        changed = inserted.robbed;
     if (place.parent) {
-        joinParent(tops, place);
+        for (KWTaskInfo *top : inserted.tops) {
+            if (!top->BaselineCost.isEmpty())
+                top->updateParentStrBaseCost(m_document, cost::baselineValue(top->BaselineCost));
+        }
+        // They have the same ancestors.
+        inserted.tops.front()->updateParentBaselineStartAndFinish(m_document);
         changed.push_back(place.parent);
     }
-    pasted::makeNamesDifferent(m_document->taskList(), tasks);
     updateSummaries(changed);
     return true;
+}
+
+QList<quint32> ClipbdManager::insertBranches(const QByteArray &bytes, bool withAssignments, int pos,
+                                             KWTaskInfo *parent, int child)
+{
+    QList<quint32> tops;
+    clipboardxml::Content content;
+    if (!isReady() || !readContent(bytes, withAssignments, content))
+        return tops;
+    Place place;
+    place.pos = pos;
+    place.parent = parent;
+    place.child = child;
+    if (parent) {
+        place.level = int(qMin(qint64(parent->Level) + 1, qint64(std::numeric_limits<qint32>::max())));
+        place.hideID = parent->IsToggler ? parent->ID.value() : parent->HideID.value();
+    }
+    constexpr bool withColumns = false;
+    for (const KWTaskInfo *top : insert(content, place, withColumns).tops)
+        tops.append(top->ID);
+    return tops;
 }
 
 // The tasks are in the list.
@@ -355,12 +435,6 @@ void ClipbdManager::joinParent(const std::vector<KWTaskInfo *> &tops, const Plac
     for (const KWTaskInfo *top : tops)
         children.append(top->ID);
     children += after;
-    for (KWTaskInfo *top : tops) {
-        if (!top->BaselineCost.isEmpty())
-            top->updateParentStrBaseCost(m_document, cost::baselineValue(top->BaselineCost));
-    }
-    // They have the same ancestors.
-    tops.front()->updateParentBaselineStartAndFinish(m_document);
 }
 
 // ---- Steps of pasting -------------------------------------------------------------------------------------

@@ -41,6 +41,18 @@ public:
     // The same as the last children of the task at the row; below a collapsed one they are hidden.
     bool pasteUnder(int row);
 
+    // ---- Branches by their tasks --------------------------------------------------------------------------
+    // For whoever lets the rest follow itself: nothing but the tasks, their links and their names.
+    // What copy would put on the clipboard for these tasks; empty where there is none of them.
+    QByteArray branches(const QList<quint32> &ids) const;
+    bool copyBranches(const QList<quint32> &ids);
+    // What is on the clipboard, and whether this manager has written it.
+    QByteArray clipboardBytes(bool &isOwn) const;
+    // Inserts branches before the list position, as children of the parent (null: the top level) before the
+    // child at that place. The IDs of their tops; none when the bytes hold no sound tasks. The columns stay.
+    QList<quint32> insertBranches(const QByteArray &bytes, bool withAssignments, int pos, KWTaskInfo *parent,
+                                  int child);
+
     // ---- What is copied -----------------------------------------------------------------------------------
     // Adds the IDs of the tasks at the rows and of all below them, and puts the tasks on the clipboard.
     void getCopyIDList(QList<quint32> &ids, QList<int> &rows);
@@ -64,15 +76,18 @@ public:
 private:
     class Selection;
     struct Place;
+    struct Inserted;
     bool isReady() const;
     bool putOnClipboard(QList<quint32> &ids, QList<int> &rows);
+    bool putOnClipboard(const QByteArray &bytes);
+    QByteArray branches(const QList<quint32> &tops, QList<quint32> &ids) const;
     Place placeAt(int row) const;
     Place placeUnder(KWTaskInfo &parent) const;
     bool pasteTo(const Place &place);
-    bool readClipboard(clipboardxml::Content &content, bool &isOwn) const;
+    Inserted insert(clipboardxml::Content &content, const Place &place, bool withColumns);
     std::vector<KWTaskInfo *> numberBranches(const QList<KWTaskInfo *> &tasks, const Place &place,
                                              pasted::Branches &branches) const;
-    void joinParent(const std::vector<KWTaskInfo *> &tops, const Place &place);
+    static void joinParent(const std::vector<KWTaskInfo *> &tops, const Place &place);
     void updateSummaries(const std::vector<TaskRecord *> &changed);
 
     KWDocument *m_document = nullptr;       // not owned; holds this manager by value

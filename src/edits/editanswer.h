@@ -1,6 +1,6 @@
 #pragma once
+#include "engine/network/linkrefusal.h"
 #include "kwgantt_export.h"
-#include "schedule/linkrefusal.h"
 #include <QMap>
 #include <QString>
 #include <QStringList>

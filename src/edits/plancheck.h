@@ -30,7 +30,7 @@ enum Fault {
     AssignedSummary,
     UnknownResource, // `name`
     LinkRing,        // `ring`: the tasks that wait for each other
-    WrongHeightCount // `other`: row heights for `count` tasks
+    WrongHeightCount // `other`: how many row heights there are
 };
 
 struct Finding

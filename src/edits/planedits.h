@@ -1,7 +1,7 @@
 #pragma once
 #include "edits/editanswer.h"
+#include "engine/network/linkrefusal.h"
 #include "kwgantt_export.h"
-#include "schedule/linkrefusal.h"
 #include <QDate>
 #include <QString>
 #include <QStringList>
@@ -12,6 +12,7 @@
 
 class KWDocument;
 class KWHyperlink;
+struct EditStep;
 
 // What a user does to a plan, one call for each thing.
 //
@@ -200,6 +201,6 @@ public:
     EditAnswer copyBranches(const KWDocument &source, const QVector<quint32> &ids, quint32 id, Place place);
 
 private:
-    class Private;
-    std::unique_ptr<Private> m_private;
+    EditStep &step() const { return *m_step; }
+    std::unique_ptr<EditStep> m_step;
 };

@@ -19,7 +19,7 @@ enum What : unsigned {
     Length = 2,      // the duration or its unit, at the same start
     Progress = 4,    // the percent of tasks
     Assignments = 8, // who works on tasks, how much, and at which rates
-    Outline = 16,    // tasks came, went or changed places: the tasks, their old and their new summaries
+    Outline = 16,    // tasks came or changed places; their old and their new summaries are named beside them
     Links = 32,      // links between tasks: the successors
     Calendar = 64,   // the working time: the tasks have their new dates already
     Baseline = 128,  // baselines of tasks
@@ -28,8 +28,9 @@ enum What : unsigned {
 
 struct Changes
 {
-    unsigned what = 0;      // of What
-    QVector<quint32> tasks; // IDs of the tasks concerned; those that are gone are passed over
+    unsigned what = 0;          // of What
+    QVector<quint32> tasks;     // IDs of the tasks concerned; those that are gone are passed over
+    QVector<quint32> summaries; // tasks that got or lost children
 };
 
 // A predecessor that pushed a task.

@@ -64,9 +64,16 @@ void KWTaskCollection::updateRange()
     if (!m_document)
         return;
     const Span span = taskSpan();
+    updateRangeOf(span.start, span.finish);
+}
+
+void KWTaskCollection::updateRangeOf(quint32 firstStart, quint32 lastFinish)
+{
+    if (!m_document)
+        return;
     const unsigned int minor = m_document->getMinorUnit();
-    m_minDateStart = updateMinDateStartSecs(span.start, minor);
-    m_maxDateFinish = updateMaxDateFinishSecs(span.finish, minor);
+    m_minDateStart = updateMinDateStartSecs(firstStart, minor);
+    m_maxDateFinish = updateMaxDateFinishSecs(lastFinish, minor);
 }
 
 quint32 KWTaskCollection::updateMinDateStartSecs(quint32 secs, unsigned int minor) const

@@ -101,6 +101,8 @@ public:
     quint32 getMinTaskStartSecs() const; // today's midnight without tasks
     quint32 getMaxTaskFinishSecs() const;
     void updateRange();
+    void updateRangeOf(quint32 firstStart,
+                       quint32 lastFinish); // the same for other moments than those of all tasks
     quint32 updateMinDateStartSecs(quint32 secs, unsigned int minor) const;
     quint32 updateMaxDateFinishSecs(quint32 secs, unsigned int minor) const;
     quint32 getQuarterMinDateStartSecs(quint32 secs) const;

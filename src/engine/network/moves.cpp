@@ -137,13 +137,13 @@ std::vector<TaskRecord *> content(const WorkCalendar &calendar, const outline::T
     // From the last to the first, so that what lies below a summary is in place before it is rolled up.
     for (auto it = below.rbegin(); it != below.rend(); ++it) {
         TaskRecord &task = **it;
-        if (rollup::dates(calendar, tasks, task) || task.Start == 0)
+        if (rollup::datesOfDated(calendar, tasks, task) || task.Start == 0)
             continue;
         const quint32 taskStart = task.Start;
         shift(task, carrier.start(taskStart));
         keepDuration(calendar, task, taskStart);
     }
-    if (!rollup::dates(calendar, tasks, summary))
+    if (!rollup::datesOfDated(calendar, tasks, summary))
         keepDuration(calendar, summary, oldStart);
     return below;
 }

@@ -28,11 +28,12 @@ qint64 shownMinuteSecs(const WorkCalendar &calendar)
 class Pass
 {
 public:
-    Pass(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
+    Pass(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale, Undated undated,
          const EventNetwork &network, const Schedule &schedule)
         : m_calendar(calendar)
         , m_tasks(tasks)
         , m_hourScale(hourScale)
+        , m_undated(undated)
         , m_network(network)
         , m_schedule(schedule)
         , m_state(network.nodes().size())
@@ -52,7 +53,7 @@ public:
     // Every task pushes its successors.
     void runAll()
     {
-        m_fromAll = true;
+        m_fromAll = m_remembers = true;
         rollUpAll();
         run();
     }
@@ -68,8 +69,11 @@ public:
         }
     }
 
+    // Keeps what `moves` needs.
+    void rememberMoves() { m_remembers = true; }
+
     bool isPassed(int node) const { return m_state[node].passed; }
-    // What runAll pushed or carried along to other dates, in list order.
+    // What was pushed or carried along to other dates, in list order.
     std::vector<Move> moves()
     {
         std::sort(m_old.begin(), m_old.end(), [](const Old &a, const Old &b) { return a.pos < b.pos; });
@@ -77,7 +81,7 @@ public:
         for (const Old &old : m_old) {
             TaskRecord *task = m_tasks.list[old.pos];
             const int begin = m_network.beginOf(old.pos);
-            const bool pushed = m_state[begin].pushed;
+            const bool pushed = begin != none && m_state[begin].pushed;
             if ((pushed || m_state[m_network.endOf(old.pos)].carried) &&
                 (task->Start != old.start || task->Finish != old.finish))
                 moved.push_back({task, old.start, old.finish,
@@ -106,11 +110,23 @@ private:
     // The dates of a task before its first change.
     void remember(int pos)
     {
-        State &state = m_state[m_network.beginOf(pos)];
-        if (!m_fromAll || state.remembered)
+        const int begin = m_network.beginOf(pos);
+        if (!m_remembers || begin == none || m_state[begin].remembered)
             return;
+        State &state = m_state[begin];
         state.remembered = true;
         m_old.push_back({pos, m_tasks.list[pos]->Start, m_tasks.list[pos]->Finish});
+    }
+
+    bool rollUp(TaskRecord &summary) const
+    {
+        return m_undated == Undated::Stay ? rollup::datesOfDated(m_calendar, m_tasks, summary)
+                                          : rollup::dates(m_calendar, m_tasks, summary);
+    }
+
+    bool takesPart(const TaskRecord &task) const
+    {
+        return m_undated == Undated::Move || rollup::isDated(task);
     }
 
     void rollUpAll()
@@ -119,7 +135,7 @@ private:
             const EventNetwork::Node &event = m_network.nodes()[node];
             if (event.ends && !event.begins) {
                 remember(event.pos);
-                rollup::dates(m_calendar, m_tasks, task(node));
+                rollUp(task(node));
             }
         }
     }
@@ -149,7 +165,7 @@ private:
     {
         State &state = m_state[node];
         TaskRecord &moving = task(node);
-        if (holds(state.finish, moving.Start))
+        if (holds(state.finish, moving.Start) || !takesPart(moving))
             return;
         remember(m_network.nodes()[node].pos);
         if (moving.isParent())
@@ -163,7 +179,7 @@ private:
         State &state = m_state[node];
         TaskRecord &summary = task(node);
         const quint32 oldStart = summary.Start;
-        if (m_fromAll) {
+        if (m_remembers) {
             for (const TaskRecord *below : outline::descendants(m_tasks, summary))
                 remember(m_tasks.index.posOf(below->ID));
         }
@@ -185,10 +201,10 @@ private:
     {
         for (auto it = below.rbegin(); it != below.rend(); ++it) {
             TaskRecord &task = **it;
-            if (!rollup::dates(m_calendar, m_tasks, task) && task.Start != 0 && !holds(finish, task.Start))
+            if (!rollUp(task) && task.Start != 0 && !holds(finish, task.Start))
                 moveTask(task, finish);
         }
-        rollup::dates(m_calendar, m_tasks, summary);
+        rollUp(summary);
     }
 
     void end(int node)
@@ -196,8 +212,8 @@ private:
         const bool passed = isPassed(node);
         TaskRecord &ending = task(node);
         if (passed && ending.isParent())
-            rollup::dates(m_calendar, m_tasks, ending);
-        if (!passed && !m_fromAll)
+            rollUp(ending);
+        if ((!passed && !m_fromAll) || !takesPart(ending))
             return;
         const linkgraph::Graph &graph = m_network.graph();
         const EventNetwork::Node &event = m_network.nodes()[node];
@@ -214,9 +230,11 @@ private:
     const WorkCalendar &m_calendar;
     const outline::Tasks &m_tasks;
     bool m_hourScale;
+    Undated m_undated;
     const EventNetwork &m_network;
     const Schedule &m_schedule;
     bool m_fromAll = false;
+    bool m_remembers = false;
     std::vector<State> m_state;
     std::vector<Old> m_old;
 };
@@ -258,7 +276,7 @@ quint32 target(quint32 finish)
 }
 
 std::vector<TaskRecord *> along(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
-                                const std::vector<Link> &links)
+                                const std::vector<Link> &links, Undated undated, std::vector<Move> *moves)
 {
     struct Ends
     {
@@ -283,13 +301,17 @@ std::vector<TaskRecord *> along(const WorkCalendar &calendar, const outline::Tas
 
     const EventNetwork network(tasks, starts);
     const Schedule order = linkgraph::schedule(network, tasks);
-    Pass pass(calendar, tasks, hourScale, network, order);
+    Pass pass(calendar, tasks, hourScale, undated, network, order);
+    if (moves)
+        pass.rememberMoves();
     for (const Ends &link : early) {
         const int node = network.beginOf(link.successor);
         if (canPush(network, order, link.predecessor, node))
             pass.offer(node, link.predecessor, link.finish);
     }
     pass.run();
+    if (moves)
+        *moves = pass.moves();
     for (int node = 0; node < int(network.nodes().size()); ++node) {
         if (pass.isPassed(node))
             passed.push_back(&pass.task(node));
@@ -297,11 +319,12 @@ std::vector<TaskRecord *> along(const WorkCalendar &calendar, const outline::Tas
     return passed;
 }
 
-std::vector<Move> all(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale)
+std::vector<Move> all(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
+                      Undated undated)
 {
     const EventNetwork network(tasks);
     const Schedule order = linkgraph::schedule(network, tasks);
-    Pass pass(calendar, tasks, hourScale, network, order);
+    Pass pass(calendar, tasks, hourScale, undated, network, order);
     pass.runAll();
     return pass.moves();
 }

@@ -16,17 +16,17 @@ bool holds(quint32 finish, quint32 start);
 // Where a successor starts: the finish, to the whole minute. A milestone's finish gives its start.
 quint32 target(quint32 finish);
 
+// What becomes of tasks without dates that come behind others.
+enum class Undated {
+    Move, // they start at a predecessor's finish
+    Stay  // they take no part, in the dates of summaries either
+};
+
 struct Link
 {
     const TaskRecord *predecessor;
     TaskRecord *successor; // must be in the list
 };
-// Pushes each successor to the finish of its predecessor, and all that follows from that, in one pass.
-// Returns the tasks that this passed, summaries above them included; none when nothing had to move. A link
-// that cannot hold pushes nothing; one that is not in the lists pushes nevertheless.
-std::vector<TaskRecord *> along(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,
-                                bool hourScale, const std::vector<Link> &links);
-
 struct Move
 {
     TaskRecord *task = nullptr;
@@ -34,7 +34,15 @@ struct Move
     quint32 oldFinish = 0;
     TaskRecord *pushedBy = nullptr; // null: it was carried along by its summary
 };
+// Pushes each successor to the finish of its predecessor, and all that follows from that, in one pass.
+// Returns the tasks that this passed, summaries above them included; none when nothing had to move. A link
+// that cannot hold pushes nothing; one that is not in the lists pushes nevertheless. `moves` gets the tasks
+// that were pushed or carried along to other dates, in list order.
+std::vector<TaskRecord *> along(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,
+                                bool hourScale, const std::vector<Link> &links,
+                                Undated undated = Undated::Move, std::vector<Move> *moves = nullptr);
 // Rolls every summary up and pushes every successor. Returns the tasks that were pushed or carried along to
 // other dates, in list order.
-std::vector<Move> all(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale);
+std::vector<Move> all(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
+                      Undated undated = Undated::Move);
 }

@@ -53,11 +53,20 @@ void addSubtrees(const outline::Tasks &tasks, const TaskRecord &summary,
 }
 }
 
-bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, TaskRecord &summary)
+bool isDated(const TaskRecord &task)
+{
+    return task.Start != 0 && task.Finish != 0;
+}
+
+namespace {
+
+bool datesOf(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, TaskRecord &summary,
+             bool datedOnly)
 {
     Span span;
     for (const quint32 id : summary.Childs) {
-        if (const TaskRecord *child = tasks.byId(id))
+        const TaskRecord *child = tasks.byId(id);
+        if (child && (!datedOnly || isDated(*child)))
             span.add(child->Start, child->Finish);
     }
     if (span.start() == 0 || span.finish() == 0)
@@ -66,6 +75,17 @@ bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, 
     summary.Finish = span.finish();
     summary.DurationSecs = duration::secs(calendar, summary.Start, summary.Finish, summary.DurationUnits);
     return true;
+}
+}
+
+bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, TaskRecord &summary)
+{
+    return datesOf(calendar, tasks, summary, false);
+}
+
+bool datesOfDated(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, TaskRecord &summary)
+{
+    return datesOf(calendar, tasks, summary, true);
 }
 
 double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, const TaskRecord &summary)

@@ -10,6 +10,10 @@ namespace rollup {
 // Start, Finish and DurationSecs from the direct children. False, and nothing changed, when there is no child
 // or the children have no start or no finish.
 bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, TaskRecord &summary);
+// The same from those children that have both.
+bool datesOfDated(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, TaskRecord &summary);
+// Whether the task has a start and a finish.
+bool isDated(const TaskRecord &task);
 // The completed fraction of the direct children, each weighted by its length in its own unit; milestones do
 // not count. 0.0 when nothing is done or the children have no length.
 double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,

@@ -1,0 +1,253 @@
+#include "edits/oneedit.h"
+#include "edits/outlineplaces.h"
+#include "edits/settlepass.h"
+#include "engine/cost/baselines.h"
+#include "engine/network/links.h"
+#include "engine/record/resource.h"
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "schedule/kwtaskcollection.h"
+
+OneEdit::OneEdit(EditStep &step)
+    : m_step(step)
+{
+}
+
+outline::Tasks OneEdit::tasks() const
+{
+    return {document().taskList(), document().taskIndex()};
+}
+
+KWTaskInfo *OneEdit::task(quint32 id) const
+{
+    return id == 0 ? nullptr : document().getTaskInfoByID(id);
+}
+
+KWTaskInfo *OneEdit::parentOf(const KWTaskInfo &task) const
+{
+    KWTaskInfo *parent = this->task(task.ParentID);
+    return parent == &task ? nullptr : parent;
+}
+
+// ---- Judging
+// --------------------------------------------------------------------------------------------------------
+
+EditAnswer &OneEdit::refuse(EditRefusal refusal, const QStringList &arguments)
+{
+    answer = EditAnswer();
+    answer.refusal = refusal;
+    answer.arguments = arguments;
+    return answer;
+}
+
+std::vector<KWTaskInfo *> OneEdit::named(const QVector<quint32> &ids)
+{
+    std::vector<KWTaskInfo *> found;
+    TaskIndex seen;
+    for (const quint32 id : ids) {
+        KWTaskInfo *task = this->task(id);
+        if (!task) {
+            refuse(EditRefusal::NoSuchTask, {QString::number(id)});
+            return {};
+        }
+        if (seen.add(id))
+            found.push_back(task);
+    }
+    if (found.empty())
+        refuse(EditRefusal::NoTasks);
+    outlineplaces::sort(tasks(), found);
+    return found;
+}
+
+QString OneEdit::nameOf(const KWTaskInfo &task) const
+{
+    return QStringLiteral("%1 \"%2\"").arg(document().getTagByTaskID(task.ID)).arg(task.Name.trimmed());
+}
+
+// ---- Recording
+// ------------------------------------------------------------------------------------------------------
+
+void OneEdit::begin(unsigned backups, Reach reach)
+{
+    m_record = std::make_unique<EditRecord>(document(), m_step.name);
+    m_hasAllTasks = backups & AllTasks;
+    TaskAction &action = m_record->action();
+    if (backups & AllTasks)
+        action.backupAllTaskData();
+    if (backups & Sheet)
+        action.backupAllDocResources();
+    if (backups & Options)
+        action.backupAllOption();
+    if (backups & Columns)
+        action.backupAllColData();
+    if (reach == MovesTasks)
+        keepDates();
+}
+
+void OneEdit::keepDates()
+{
+    const QList<KWTaskInfo *> &list = document().taskList();
+    m_datesBefore.reserve(std::size_t(list.size()));
+    for (const KWTaskInfo *task : list)
+        m_datesBefore.push_back({task->ID, task->Start, task->Finish});
+}
+
+void OneEdit::keepValues(KWTaskInfo &task)
+{
+    if (m_hasAllTasks)
+        return;
+    m_record->action().addChangeTaskInfo(&task);
+    for (KWTaskInfo *summary : outline::ancestors(tasks(), task))
+        m_record->action().addChangeTaskInfo(summary);
+}
+
+void OneEdit::keepAssignments(KWTaskInfo &task)
+{
+    if (m_hasAllTasks)
+        return;
+    m_record->action().addTaskAllResources(&task);
+    for (KWTaskInfo *summary : outline::ancestors(tasks(), task))
+        m_record->action().addTaskAllResources(summary);
+}
+
+void OneEdit::keepReach(KWTaskInfo &task)
+{
+    if (!m_hasAllTasks)
+        m_record->action().backupAffected(&task);
+}
+
+// ---- Changing
+// -------------------------------------------------------------------------------------------------------
+
+void OneEdit::changed(const KWTaskInfo &task)
+{
+    changes.tasks.append(task.ID);
+}
+
+void OneEdit::childrenChanged(const KWTaskInfo *summary)
+{
+    if (summary)
+        changes.summaries.append(summary->ID);
+}
+
+void OneEdit::mayBecomeSummary(KWTaskInfo &task)
+{
+    if (!task.isParent())
+        m_newSummaries.push_back(task.ID);
+}
+
+void OneEdit::mayNotSuitLinks(KWTaskInfo &summary)
+{
+    m_linkedSummaries.push_back(summary.ID);
+}
+
+void OneEdit::lose(EditLoss::Kind kind, const KWTaskInfo &task, const QString &name, quint32 other)
+{
+    answer.losses.append({kind, task.ID, name, other});
+}
+
+void OneEdit::takeFromSummaries()
+{
+    for (const quint32 id : m_newSummaries) {
+        KWTaskInfo *task = this->task(id);
+        if (!task || !task->isParent())
+            continue;
+        task->Milestone = false;
+        if (baselines::has(*task)) {
+            lose(EditLoss::Baseline, *task, task->BaselineCost);
+            changes.what |= settling::Baseline;
+        }
+        for (const Resource *resource : qAsConst(task->resourceList)) {
+            lose(EditLoss::Assignment, *task, resource->name.trimmed());
+            changes.what |= settling::Assignments;
+        }
+        task->clearResources();
+        childrenChanged(task);
+    }
+}
+
+// The links are made again one by one, as far as they may be made.
+void OneEdit::dropUnsuitedLinks()
+{
+    const outline::Tasks all = tasks();
+    for (const quint32 id : m_linkedSummaries) {
+        KWTaskInfo *summary = this->task(id);
+        if (!summary)
+            continue;
+        const auto isSound = [&](KWTaskInfo &predecessor, KWTaskInfo &successor) {
+            const int successorPlace = predecessor.Depends.indexOf(successor.ID);
+            const int predecessorPlace = successor.Predecessors.indexOf(predecessor.ID);
+            predecessor.removeDependIDByID(successor.ID);
+            successor.removeDependOnIDByID(predecessor.ID);
+            if (links::refusal(all, predecessor, successor) != LinkRefusal::None) {
+                lose(EditLoss::Link, successor, {}, predecessor.ID);
+                changes.what |= settling::Links;
+                return false;
+            }
+            predecessor.insertDependID(successorPlace, successor.ID);
+            successor.insertDependOnID(predecessorPlace, predecessor.ID);
+            return true;
+        };
+        const QList<quint32> before = summary->Predecessors;
+        const QList<quint32> after = summary->Depends;
+        for (const quint32 other : before) {
+            if (KWTaskInfo *predecessor = this->task(other))
+                isSound(*predecessor, *summary);
+        }
+        for (const quint32 other : after) {
+            if (KWTaskInfo *successor = this->task(other))
+                isSound(*summary, *successor);
+        }
+    }
+}
+
+EditAnswer OneEdit::finish()
+{
+    takeFromSummaries();
+    dropUnsuitedLinks();
+    const QVector<quint32> edited = changes.tasks;
+    const QVector<settling::Push> pushes =
+        settling::settle(document(), changes, m_hasAllTasks ? nullptr : &m_record->lateValues());
+    document().setModified(true);
+    listMoves(pushes, edited);
+    m_step.records.push_back(std::move(m_record));
+    return answer;
+}
+
+EditAnswer OneEdit::finishRows()
+{
+    settling::settleChart(document());
+    return finish();
+}
+
+void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited)
+{
+    const outline::Tasks all = tasks();
+    std::unordered_map<quint32, quint32> pushedBy;
+    for (const settling::Push &push : pushes)
+        pushedBy[push.task] = push.pushedBy;
+    TaskIndex editedIds;
+    for (const quint32 id : edited)
+        editedIds.add(id);
+    for (const Dates &old : m_datesBefore) {
+        const KWTaskInfo *task = all.byId(old.id);
+        if (!task || (task->Start == old.start && task->Finish == old.finish))
+            continue;
+        EditMove move;
+        move.task = old.id;
+        move.oldStart = old.start;
+        move.oldFinish = old.finish;
+        move.start = task->Start;
+        move.finish = task->Finish;
+        const auto push = pushedBy.find(old.id);
+        if (push != pushedBy.end()) {
+            move.cause = EditMove::Pushed;
+            move.pushedBy = push->second;
+        } else if (editedIds.contains(old.id)) {
+            move.cause = EditMove::Edited;
+        } else {
+            move.cause = task->isParent() ? EditMove::Content : EditMove::WithSummary;
+        }
+        answer.moves.append(move);
+    }
+}

@@ -1,0 +1,88 @@
+#pragma once
+#include "edits/planedits.h"
+#include "edits/settle.h"
+#include "edits/stepaction.h"
+#include "engine/record/outline.h"
+#include <unordered_map>
+#include <vector>
+
+class KWTaskInfo;
+
+// The step that is being made.
+struct EditStep
+{
+    KWDocument &document;
+    QString name;
+    std::vector<std::unique_ptr<EditRecord>> records;
+};
+
+// One call at work: it judges, then begins, changes and finishes.
+//
+// An edit that was refused is dropped with its record; one that has begun must not be refused any more,
+// unless what it changed has been changed back.
+class OneEdit
+{
+public:
+    explicit OneEdit(EditStep &step);
+
+    KWDocument &document() const { return m_step.document; }
+    outline::Tasks tasks() const;
+    KWTaskInfo *task(quint32 id) const; // null when there is none
+    KWTaskInfo *parentOf(const KWTaskInfo &task) const;
+
+    // ---- Judging
+    // --------------------------------------------------------------------------------------------------
+    EditAnswer &refuse(EditRefusal refusal, const QStringList &arguments = {});
+    bool isRefused() const { return !answer.isDone(); }
+    // The tasks of these IDs in list order, each once; refuses when one is missing or there is none.
+    std::vector<KWTaskInfo *> named(const QVector<quint32> &ids);
+    // As a user knows the task: its row number and name.
+    QString nameOf(const KWTaskInfo &task) const;
+
+    // ---- Recording
+    // ------------------------------------------------------------------------------------------------
+    enum Backup : unsigned { SingleTasks = 0, AllTasks = 1, Sheet = 2, Options = 4, Columns = 8 };
+    enum Reach { MovesTasks, MovesNothing };
+    // Begins the edit: what is kept of all that it changes. Without AllTasks single tasks follow.
+    void begin(unsigned backups, Reach reach = MovesTasks);
+    void keepValues(KWTaskInfo &task); // and those of the summaries above it
+    void keepAssignments(KWTaskInfo &task);
+    void keepReach(KWTaskInfo &task); // all that a change of its dates or links can reach
+
+    // ---- Changing
+    // -------------------------------------------------------------------------------------------------
+    settling::Changes changes;
+    EditAnswer answer;
+    void changed(const KWTaskInfo &task);
+    void childrenChanged(const KWTaskInfo *summary); // null: the top level
+    // The task is going to get children. What it cannot keep as a summary is taken away, and told, at the
+    // end.
+    void mayBecomeSummary(KWTaskInfo &task);
+    // Takes away the links of summaries that got children which these links do not suit any more.
+    void mayNotSuitLinks(KWTaskInfo &summary);
+    void lose(EditLoss::Kind kind, const KWTaskInfo &task, const QString &name = {}, quint32 other = 0);
+
+    // Settles and hands the record to the step.
+    EditAnswer finish();
+    // The same where nothing follows but rows that stand elsewhere.
+    EditAnswer finishRows();
+
+private:
+    struct Dates
+    {
+        quint32 id;
+        quint32 start;
+        quint32 finish;
+    };
+    void keepDates();
+    void takeFromSummaries();
+    void dropUnsuitedLinks();
+    void listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited);
+
+    EditStep &m_step;
+    std::unique_ptr<EditRecord> m_record;
+    bool m_hasAllTasks = false;
+    std::vector<Dates> m_datesBefore;
+    std::vector<quint32> m_newSummaries;
+    std::vector<quint32> m_linkedSummaries;
+};

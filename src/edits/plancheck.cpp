@@ -1,0 +1,149 @@
+#include "edits/plancheck.h"
+#include "engine/record/resource.h"
+#include "engine/record/taskindex.h"
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "resources/resourceinfodata.h"
+#include "schedule/kwtaskcollection.h"
+#include "table/rowcolumndata.h"
+#include <QSet>
+#include <limits>
+
+namespace plancheck {
+
+namespace {
+
+class Checker
+{
+public:
+    explicit Checker(const KWDocument &document)
+        : m_document(document)
+    {
+        for (const ResourceInfo *entry : qAsConst(document.resourceInfoData()->infos))
+            m_resources.insert(entry->name.trimmed());
+    }
+
+    QVector<Finding> run()
+    {
+        checkIds();
+        for (m_pos = 0; m_pos < m_document.taskCount(); ++m_pos) {
+            const KWTaskInfo &task = *m_document.getTaskInfoAt(m_pos);
+            checkParent(task);
+            checkChildren(task);
+            checkHidden(task);
+            checkLinks(task.Predecessors, task, &KWTaskInfo::Depends,
+                       {UnknownPredecessor, OwnPredecessor, OneSidedPredecessor});
+            checkLinks(task.Depends, task, &KWTaskInfo::Predecessors,
+                       {UnknownSuccessor, OwnSuccessor, OneSidedSuccessor});
+            checkAssignments(task);
+        }
+        for (const QList<quint32> &ring : m_document.taskCollection()->linkRings())
+            m_findings.append({LinkRing, m_posOfId.posOf(ring.value(0)), 0, {}, ring});
+        const int heights = m_document.rowColumnData()->rowHeights().size();
+        if (heights != m_document.taskCount())
+            m_findings.append({WrongHeightCount, -1, quint32(heights), {}, {}});
+        return m_findings;
+    }
+
+private:
+    struct LinkFaults
+    {
+        Fault unknown, own, oneSided;
+    };
+
+    void report(Fault fault, quint32 other = 0, const QString &name = {})
+    {
+        m_findings.append({fault, m_pos, other, name, {}});
+    }
+    const KWTaskInfo *byId(quint32 id) const
+    {
+        const int pos = id == 0 ? -1 : m_posOfId.posOf(id);
+        return pos < 0 ? nullptr : m_document.getTaskInfoAt(pos);
+    }
+
+    void checkIds()
+    {
+        for (m_pos = 0; m_pos < m_document.taskCount(); ++m_pos) {
+            const quint32 id = m_document.getTaskInfoAt(m_pos)->ID;
+            if (id == 0)
+                report(NoId);
+            else if (!m_posOfId.add(id, m_pos))
+                report(DoubledId, quint32(m_posOfId.posOf(id)));
+        }
+    }
+
+    void checkParent(const KWTaskInfo &task)
+    {
+        const KWTaskInfo *parent = byId(task.ParentID);
+        if (task.ParentID && !parent)
+            report(UnknownSummary, task.ParentID);
+        else if (parent && m_posOfId.posOf(task.ParentID) >= m_pos)
+            report(AboveItsSummary, task.ParentID);
+        else if (parent && !parent->Childs.contains(task.ID))
+            report(UnnamedBySummary, task.ParentID);
+        const qint64 level = parent ? qint64(parent->Level) + 1 : 1;
+        if (task.Level != level && level <= std::numeric_limits<qint32>::max())
+            report(WrongLevel, quint32(level));
+    }
+
+    void checkChildren(const KWTaskInfo &task)
+    {
+        QSet<quint32> seen;
+        for (const quint32 id : task.Childs) {
+            const KWTaskInfo *child = byId(id);
+            if (seen.contains(id))
+                report(DoubledChild, id);
+            else if (!child)
+                report(UnknownChild, id);
+            else if (child->ParentID != task.ID)
+                report(ChildOfAnother, id);
+            seen.insert(id);
+        }
+    }
+
+    void checkHidden(const KWTaskInfo &task)
+    {
+        if (task.HideID == 0)
+            return;
+        const KWTaskInfo *summary = byId(task.HideID);
+        if (!summary || !summary->IsToggler)
+            report(WrongHider, task.HideID);
+    }
+
+    void checkLinks(const QList<quint32> &ids, const KWTaskInfo &task,
+                    const QList<quint32> KWTaskInfo::*other, const LinkFaults &faults)
+    {
+        for (const quint32 id : ids) {
+            const KWTaskInfo *linked = byId(id);
+            if (!linked)
+                report(faults.unknown, id);
+            else if (linked == &task)
+                report(faults.own);
+            else if (!(linked->*other).contains(task.ID))
+                report(faults.oneSided, id);
+        }
+    }
+
+    void checkAssignments(const KWTaskInfo &task)
+    {
+        if (task.isParent() && task.isHaveResource())
+            report(AssignedSummary);
+        for (const Resource *assigned : task.resourceList) {
+            if (!m_resources.contains(assigned->name.trimmed()))
+                report(UnknownResource, 0, assigned->name.trimmed());
+        }
+    }
+
+    const KWDocument &m_document;
+    QVector<Finding> m_findings;
+    int m_pos = -1;
+    TaskIndex m_posOfId;
+    QSet<QString> m_resources;
+};
+}
+
+QVector<Finding> check(const KWDocument &document)
+{
+    return Checker(document).run();
+}
+}

@@ -1,0 +1,203 @@
+#include "edits/planreasons.h"
+#include "engine/network/rollup.h"
+#include "engine/record/outline.h"
+#include "engine/time/duration.h"
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include <QDateTime>
+#include <algorithm>
+
+namespace planreasons {
+
+namespace {
+
+class Finder
+{
+public:
+    Finder(const KWDocument &document, const KWTaskInfo &task)
+        : m_document(document)
+        , m_tasks{document.taskList(), document.taskIndex()}
+        , m_task(task)
+    {
+    }
+
+    Reasons run(int longestChain)
+    {
+        Reasons reasons;
+        reasons.isDated = rollup::isDated(m_task);
+        findPredecessors(reasons);
+        reasons.isAtProjectStart = reasons.isDated && m_task.Start == projectStart();
+        findDaysOff(reasons);
+        findSpan(reasons);
+        findTightest(reasons);
+        reasons.isCritical = m_task.CriticalPath;
+        reasons.successorCount = int(successorsOf(m_task).size());
+        TaskIndex seen;
+        seen.add(m_task.ID);
+        for (const KWTaskInfo *next = nextInChain(m_task); next && reasons.chain.size() < longestChain;
+             next = nextInChain(*next)) {
+            if (!seen.add(next->ID))
+                break;
+            reasons.chain.append(next->ID);
+        }
+        return reasons;
+    }
+
+private:
+    quint32 projectStart() const
+    {
+        quint32 start = 0;
+        for (const KWTaskInfo *task : m_tasks.list) {
+            if (rollup::isDated(*task))
+                start = start == 0 ? task->Start : std::min(start, task->Start);
+        }
+        return start;
+    }
+
+    // The task and the summaries above it.
+    std::vector<const KWTaskInfo *> withAbove(const KWTaskInfo &task) const
+    {
+        std::vector<const KWTaskInfo *> all{&task};
+        for (const KWTaskInfo *summary : outline::ancestors(m_tasks, task))
+            all.push_back(summary);
+        return all;
+    }
+
+    void findPredecessors(Reasons &reasons) const
+    {
+        TaskIndex seen;
+        for (const KWTaskInfo *holder : withAbove(m_task)) {
+            for (const quint32 id : holder->Predecessors) {
+                const KWTaskInfo *predecessor = m_tasks.byId(id);
+                if (!predecessor || !seen.add(id))
+                    continue;
+                const bool isDriving = reasons.isDated && rollup::isDated(*predecessor) &&
+                                       workingMinutes(m_document, predecessor->Finish, m_task.Start) <= 0;
+                reasons.waitsFor.append({id, holder == &m_task ? 0 : holder->ID.value(), isDriving});
+            }
+        }
+        std::stable_sort(reasons.waitsFor.begin(), reasons.waitsFor.end(),
+                         [this](const Waiting &a, const Waiting &b) {
+                             return m_tasks.byId(a.predecessor)->Finish > m_tasks.byId(b.predecessor)->Finish;
+                         });
+    }
+
+    void findDaysOff(Reasons &reasons) const
+    {
+        const unsigned int unit = m_task.DurationUnits;
+        if (!reasons.isDated || m_task.isParent() || m_task.Milestone || unit <= duration::Month)
+            return;
+        const worktime::WorkCalendar &calendar = m_document.workCalendar();
+        const int last = calendar.clock().wall(m_task.Finish - 1).day;
+        int day = calendar.clock().wall(m_task.Start).day;
+        while (day <= last) {
+            // From one date off to the next, however far that is.
+            if (calendar.isWorkday(day)) {
+                if (calendar.daysOff(day, last) == 0)
+                    return;
+                ++day;
+                continue;
+            }
+            const bool isUsual = isUsuallyOff(day);
+            int end = day;
+            while (end < last && !calendar.isWorkday(end + 1) && isUsuallyOff(end + 1) == isUsual)
+                ++end;
+            reasons.daysOff.append({LocalClock::dateOf(day), LocalClock::dateOf(end), isUsual});
+            day = end + 1;
+        }
+    }
+
+    bool isUsuallyOff(int day) const { return !m_document.WorkDay[LocalClock::weekday(day)]; }
+
+    void findSpan(Reasons &reasons) const
+    {
+        const KWTaskInfo *first = nullptr;
+        const KWTaskInfo *last = nullptr;
+        for (const quint32 id : m_task.Childs) {
+            const KWTaskInfo *child = m_tasks.byId(id);
+            if (!child || !rollup::isDated(*child))
+                continue;
+            if (!first || child->Start < first->Start)
+                first = child;
+            if (!last || child->Finish > last->Finish)
+                last = child;
+        }
+        reasons.firstChild = first ? first->ID.value() : 0;
+        reasons.lastChild = last ? last->ID.value() : 0;
+    }
+
+    qint64 slackOf(const KWTaskInfo &task) const
+    {
+        return workingMinutes(m_document, task.Finish, task.LateFinish);
+    }
+
+    // Of several the last in the list, and the task itself only where nothing below it is as tight.
+    void findTightest(Reasons &reasons) const
+    {
+        const KWTaskInfo *tightest = nullptr;
+        qint64 least = 0;
+        const auto offer = [&](const KWTaskInfo &task) {
+            const qint64 slack = slackOf(task);
+            if (!tightest || slack < least) {
+                tightest = &task;
+                least = slack;
+            }
+        };
+        std::vector<KWTaskInfo *> below = outline::descendants(m_tasks, m_task);
+        for (auto task = below.rbegin(); task != below.rend(); ++task) {
+            if (!(*task)->isParent() && rollup::isDated(**task))
+                offer(**task);
+        }
+        if (reasons.isDated && !tightest)
+            offer(m_task);
+        reasons.tightest = tightest ? tightest->ID.value() : 0;
+    }
+
+    std::vector<const KWTaskInfo *> successorsOf(const KWTaskInfo &task) const
+    {
+        TaskIndex seen;
+        std::vector<const KWTaskInfo *> successors;
+        for (const KWTaskInfo *holder : withAbove(task)) {
+            for (const quint32 id : holder->Depends) {
+                const KWTaskInfo *successor = m_tasks.byId(id);
+                if (successor && seen.add(id))
+                    successors.push_back(successor);
+            }
+        }
+        return successors;
+    }
+
+    const KWTaskInfo *nextInChain(const KWTaskInfo &task) const
+    {
+        const KWTaskInfo *next = nullptr;
+        for (const KWTaskInfo *successor : successorsOf(task)) {
+            if (!rollup::isDated(*successor))
+                continue;
+            if (!next || slackOf(*successor) < slackOf(*next))
+                next = successor;
+        }
+        return next;
+    }
+
+    const KWDocument &m_document;
+    const outline::Tasks m_tasks;
+    const KWTaskInfo &m_task;
+};
+}
+
+Reasons of(const KWDocument &document, quint32 id, int longestChain)
+{
+    const KWTaskInfo *task = id == 0 ? nullptr : document.getTaskInfoByID(id);
+    return task ? Finder(document, *task).run(longestChain) : Reasons();
+}
+
+qint64 workingMinutes(const KWDocument &document, quint32 from, quint32 to)
+{
+    constexpr int secsPerMinute = 60;
+    const bool forward = from <= to;
+    const quint32 secs =
+        duration::secs(document.workCalendar(), forward ? from : to, forward ? to : from, duration::Minute);
+    const qint64 minutes = (qint64(secs) + secsPerMinute / 2) / secsPerMinute;
+    return forward ? minutes : -minutes;
+}
+}

@@ -1,0 +1,577 @@
+#include "edits/settle.h"
+#include "edits/settlepass.h"
+#include "engine/cost/baselines.h"
+#include "engine/cost/cost.h"
+#include "engine/cost/names.h"
+#include "engine/network/inheritedtails.h"
+#include "engine/network/latedates.h"
+#include "engine/network/push.h"
+#include "engine/network/rollup.h"
+#include "engine/record/branches.h"
+#include "engine/record/outline.h"
+#include "engine/record/resource.h"
+#include "engine/time/duration.h"
+#include "engine/time/timescale.h"
+#include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
+#include "schedule/kwtaskcollection.h"
+#include "support/kwclock.h"
+#include <algorithm>
+#include <cstring>
+#include <unordered_map>
+
+namespace settling {
+
+namespace {
+
+using outline::Tasks;
+
+constexpr unsigned wholePlan = Calendar | Everything;
+constexpr unsigned movesTasks = Dates | Length | Outline | Links | wholePlan;
+// Pushes and summaries move in turns. Every turn moves something later, so few are needed; a plan of links
+// that cannot all hold must end as well.
+constexpr int mostTurns = 50;
+
+Tasks tasksOf(const KWDocument &document)
+{
+    return {document.taskList(), document.taskIndex()};
+}
+
+bool isSame(double a, double b)
+{
+    return std::memcmp(&a, &b, sizeof a) == 0;
+}
+
+// Tasks, each once, in the order in which they came.
+class TaskSet
+{
+public:
+    bool add(KWTaskInfo *task)
+    {
+        if (!m_ids.add(task->ID))
+            return false;
+        m_tasks.push_back(task);
+        return true;
+    }
+    bool contains(const KWTaskInfo &task) const { return m_ids.contains(task.ID); }
+    const std::vector<KWTaskInfo *> &tasks() const { return m_tasks; }
+
+private:
+    TaskIndex m_ids;
+    std::vector<KWTaskInfo *> m_tasks;
+};
+
+class Settling
+{
+public:
+    Settling(KWDocument &document, const Changes &changes, std::vector<LateValues> *replaced)
+        : m_document(document)
+        , m_collection(*document.taskCollection())
+        , m_tasks(tasksOf(document))
+        , m_calendar(document.workCalendar())
+        , m_hourScale(document.getMinorUnit() >= duration::Hour)
+        , m_what(changes.what)
+        , m_replaced(replaced)
+    {
+        for (const quint32 id : changes.tasks) {
+            if (KWTaskInfo *task = m_tasks.byId(id))
+                m_named.add(task);
+        }
+        for (const quint32 id : changes.summaries) {
+            if (KWTaskInfo *task = m_tasks.byId(id))
+                m_summaries.add(task);
+        }
+    }
+
+    QVector<Push> run()
+    {
+        if (isWhole())
+            moveAll();
+        else if (m_what & movesTasks)
+            moveReached();
+        measure();
+        sumPercents();
+        sumMoney();
+        sumBaselines();
+        if (m_what & movesTasks)
+            findLateDates();
+        else
+            refreshSlack();
+        if (m_what & (Outline | Everything))
+            emboldenSummaries();
+        drawChart();
+        m_document.setModified(true);
+        QVector<Push> pushes;
+        for (const auto &[task, pushedBy] : m_pushedBy)
+            pushes.append({task, pushedBy});
+        return pushes;
+    }
+
+private:
+    bool isWhole() const { return m_what & wholePlan; }
+
+    void touch(KWTaskInfo *task) { m_touched.add(task); }
+
+    // ---- Dates
+    // --------------------------------------------------------------------------------------------------
+
+    // Summaries above these tasks, and these where they are summaries; those whose dates became others.
+    std::vector<KWTaskInfo *> rollUpFrom(const std::vector<KWTaskInfo *> &tasks)
+    {
+        std::vector<KWTaskInfo *> changed;
+        for (KWTaskInfo *task : outline::withAncestors(m_tasks, tasks)) {
+            if (!task->isParent())
+                continue;
+            touch(task);
+            const quint32 start = task->Start;
+            const quint32 finish = task->Finish;
+            rollup::datesOfDated(m_calendar, m_tasks, *task);
+            if (task->Start != start || task->Finish != finish)
+                changed.push_back(task);
+        }
+        return changed;
+    }
+
+    void remember(const std::vector<push::Move> &moves)
+    {
+        for (const push::Move &move : moves) {
+            if (move.pushedBy)
+                m_pushedBy[move.task->ID] = move.pushedBy->ID;
+        }
+    }
+
+    void moveAll()
+    {
+        std::vector<quint32> lengths;
+        for (KWTaskInfo *task : m_tasks.list) {
+            lengths.push_back(task->DurationSecs);
+            touch(task);
+        }
+        for (int turn = 0; turn < mostTurns; ++turn) {
+            const std::vector<push::Move> moves =
+                push::all(m_calendar, m_tasks, m_hourScale, push::Undated::Stay);
+            remember(moves);
+            if (moves.empty())
+                break;
+        }
+        for (int pos = m_tasks.list.size() - 1; pos >= 0; --pos) {
+            if (m_tasks.list[pos]->isParent())
+                rollup::datesOfDated(m_calendar, m_tasks, *m_tasks.list[pos]);
+        }
+        m_lengthsBefore = std::move(lengths);
+    }
+
+    void moveReached()
+    {
+        std::vector<KWTaskInfo *> starts = m_named.tasks();
+        for (KWTaskInfo *task : m_named.tasks()) {
+            touch(task);
+            // What lies below a summary went along with it.
+            for (KWTaskInfo *below : outline::descendants(m_tasks, *task)) {
+                touch(below);
+                if (!m_named.contains(*below))
+                    starts.push_back(below);
+            }
+        }
+        const auto byPlace = [this](const KWTaskInfo *a, const KWTaskInfo *b) {
+            return m_tasks.index.posOf(a->ID) < m_tasks.index.posOf(b->ID);
+        };
+        std::sort(starts.begin(), starts.end(), byPlace); // summaries before what they hold
+        std::vector<KWTaskInfo *> grown = starts;
+        std::vector<KWTaskInfo *> moved = starts;
+        moved.insert(moved.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
+        for (int turn = 0; turn < mostTurns; ++turn) {
+            const std::vector<KWTaskInfo *> changed = rollUpFrom(moved);
+            grown.insert(grown.end(), changed.begin(), changed.end());
+            std::vector<push::Link> links = linksBefore(starts);
+            addLinksAfter(grown, links);
+            if (links.empty())
+                break;
+            std::vector<push::Move> moves;
+            moved = push::along(m_calendar, m_tasks, m_hourScale, links, push::Undated::Stay, &moves);
+            remember(moves);
+            if (moved.empty())
+                break;
+            for (KWTaskInfo *task : moved)
+                touch(task);
+            grown = moved;
+        }
+    }
+
+    // The links that a task comes too early for: its own, and those of the summaries above it. A summary is
+    // pushed as a whole, and before what it holds.
+    std::vector<push::Link> linksBefore(const std::vector<KWTaskInfo *> &tasks) const
+    {
+        std::vector<push::Link> links;
+        TaskIndex pushed;
+        for (KWTaskInfo *task : tasks) {
+            if (!rollup::isDated(*task))
+                continue;
+            const std::vector<KWTaskInfo *> above = outline::ancestors(m_tasks, *task);
+            const auto isPushed = [&](const KWTaskInfo *summary) { return pushed.contains(summary->ID); };
+            if (std::any_of(above.begin(), above.end(), isPushed))
+                continue;
+            const std::size_t count = links.size();
+            addLinksBefore(*task, *task, links);
+            for (const KWTaskInfo *summary : above)
+                addLinksBefore(*summary, *task, links);
+            if (links.size() > count)
+                pushed.add(task->ID);
+        }
+        return links;
+    }
+
+    void addLinksBefore(const KWTaskInfo &linked, KWTaskInfo &task, std::vector<push::Link> &links) const
+    {
+        for (const quint32 id : linked.Predecessors) {
+            const KWTaskInfo *predecessor = m_tasks.byId(id);
+            if (predecessor && rollup::isDated(*predecessor) && !push::holds(predecessor->Finish, task.Start))
+                links.push_back({predecessor, &task});
+        }
+    }
+
+    void addLinksAfter(const std::vector<KWTaskInfo *> &tasks, std::vector<push::Link> &links) const
+    {
+        for (const KWTaskInfo *task : tasks) {
+            if (!rollup::isDated(*task))
+                continue;
+            for (const quint32 id : task->Depends) {
+                KWTaskInfo *successor = m_tasks.byId(id);
+                if (successor && rollup::isDated(*successor) && !push::holds(task->Finish, successor->Start))
+                    links.push_back({task, successor});
+            }
+        }
+    }
+
+    // ---- Lengths and percents
+    // -----------------------------------------------------------------------------------
+
+    void measure()
+    {
+        for (KWTaskInfo *task : m_touched.tasks()) {
+            if (rollup::isDated(*task))
+                task->DurationSecs =
+                    duration::secs(m_calendar, task->Start, task->Finish, task->DurationUnits);
+            if (task->isParent() || !task->isHaveResource())
+                continue;
+            // Work that was written by hand stays as long as the length does.
+            if ((m_what & Everything) && !m_named.contains(*task) &&
+                m_lengthsBefore[m_tasks.index.posOf(task->ID)] == task->DurationSecs)
+                continue;
+            for (Resource *resource : qAsConst(task->resourceList))
+                resource->workSecs = cost::workSecs(*task, *resource);
+        }
+    }
+
+    // The summaries that change with these tasks, inner ones first.
+    std::vector<KWTaskInfo *> summariesOf(const std::vector<KWTaskInfo *> &tasks) const
+    {
+        std::vector<KWTaskInfo *> summaries;
+        const std::vector<KWTaskInfo *> all =
+            isWhole() ? std::vector<KWTaskInfo *>(m_tasks.list.rbegin(), m_tasks.list.rend())
+                      : outline::withAncestors(m_tasks, tasks);
+        std::copy_if(all.begin(), all.end(), std::back_inserter(summaries),
+                     [](const KWTaskInfo *task) { return task->isParent(); });
+        return summaries;
+    }
+
+    std::vector<KWTaskInfo *> changedTasks() const
+    {
+        std::vector<KWTaskInfo *> tasks = m_touched.tasks();
+        tasks.insert(tasks.end(), m_named.tasks().begin(), m_named.tasks().end());
+        tasks.insert(tasks.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
+        return tasks;
+    }
+
+    void sumPercents()
+    {
+        if (!(m_what & (movesTasks | Progress)))
+            return;
+        for (KWTaskInfo *summary : summariesOf(changedTasks())) {
+            const double percent = summary->Percent;
+            summary->setPercent(rollup::percent(m_calendar, m_tasks, *summary));
+            if (!isSame(percent, summary->Percent))
+                m_progressed.add(summary);
+        }
+        for (KWTaskInfo *task : m_named.tasks())
+            m_progressed.add(task);
+    }
+
+    // ---- Money
+    // --------------------------------------------------------------------------------------------------
+
+    // Whether anything of the leaf became another.
+    bool sumLeaf(const cost::Measures &measures, KWTaskInfo &leaf) const
+    {
+        const bool isNamed = !isWhole() && m_named.contains(leaf);
+        const bool isAssigned = leaf.isHaveResource() || (isNamed && (m_what & Assignments));
+        if (!isAssigned && !(isNamed && (m_what & Progress)))
+            return false;
+        const double oldCost = leaf.Cost;
+        const double oldWork = leaf.Work;
+        const double oldRemaining = leaf.RemainingCost;
+        if (isAssigned) {
+            const cost::Total total = cost::ofAssignments(measures, leaf);
+            leaf.Cost = total.cost;
+            leaf.Work = total.work;
+        }
+        leaf.RemainingCost = cost::remaining(leaf);
+        // The same number in another unit is other work.
+        return isNamed || !isSame(oldCost, leaf.Cost) || !isSame(oldWork, leaf.Work) ||
+               !isSame(oldRemaining, leaf.RemainingCost);
+    }
+
+    // A summary that has lost its last child has nothing left of what it took from them.
+    static void makeLeaf(KWTaskInfo &task)
+    {
+        task.Cost = task.Work = task.RemainingCost = 0;
+        task.Resources.clear();
+        baselines::store({}, task);
+    }
+
+    void sumMoney()
+    {
+        const cost::Measures measures = cost::measuresOf(m_calendar);
+        std::vector<KWTaskInfo *> changed;
+        const bool withNames = m_what & (Assignments | Everything);
+        for (KWTaskInfo *task : isWhole() ? m_touched.tasks() : changedTasks()) {
+            if (task->isParent())
+                continue;
+            if (sumLeaf(measures, *task))
+                changed.push_back(task);
+            if (withNames && (task->isHaveResource() || ((m_what & Assignments) && m_named.contains(*task))))
+                task->Resources = names::ofAssignments(*task);
+        }
+        if (m_what & (Outline | Assignments)) {
+            for (KWTaskInfo *task : m_summaries.tasks()) {
+                if (!task->isParent() && !task->isHaveResource())
+                    makeLeaf(*task);
+            }
+            changed.insert(changed.end(), m_named.tasks().begin(), m_named.tasks().end());
+            changed.insert(changed.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
+        }
+        forEachSummary(changed, [&](KWTaskInfo &summary, const std::vector<KWTaskInfo *> &leaves) {
+            const cost::Total total = cost::ofLeaves(measures, leaves);
+            summary.Cost = total.cost;
+            summary.Work = total.work;
+            summary.RemainingCost = cost::remainingOfLeaves(leaves);
+            if (!withNames)
+                return;
+            summary.clearResources();
+            names::Distinct distinct;
+            distinct.addLeaves(leaves);
+            // Names that were typed where nobody is assigned stay.
+            if (!(m_what & Everything) || !distinct.list().isEmpty())
+                summary.Resources = distinct.text();
+        });
+    }
+
+    void sumBaselines()
+    {
+        if (!(m_what & (Baseline | Outline | Everything)))
+            return;
+        std::vector<KWTaskInfo *> changed = m_named.tasks();
+        changed.insert(changed.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
+        forEachSummary(changed, [](KWTaskInfo &summary, const std::vector<KWTaskInfo *> &leaves) {
+            baselines::store(baselines::ofLeaves(leaves), summary);
+        });
+    }
+
+    // Each summary at or above these tasks, with the leaves below it.
+    template <typename Visit>
+    void forEachSummary(const std::vector<KWTaskInfo *> &changed, Visit visit)
+    {
+        const std::vector<KWTaskInfo *> summaries = summariesOf(changed);
+        std::vector<KWTaskInfo *> tops;
+        for (KWTaskInfo *summary : summaries) {
+            if (summary->ParentID == 0 || !m_tasks.byId(summary->ParentID))
+                tops.push_back(summary);
+        }
+        std::reverse(tops.begin(), tops.end());
+        const outline::Branches branches(m_tasks, tops);
+        for (KWTaskInfo *summary : summaries)
+            visit(*summary, branches.knows(*summary) ? branches.leavesBelow(*summary)
+                                                     : outline::descendants(m_tasks, *summary));
+    }
+
+    // ---- Late dates
+    // ---------------------------------------------------------------------------------------------
+
+    void findLateDates()
+    {
+        const std::vector<LateValues> before = m_replaced ? lateValues() : std::vector<LateValues>();
+        quint32 projectFinish = 0;
+        for (const KWTaskInfo *task : m_tasks.list) {
+            if (rollup::isDated(*task))
+                projectFinish = std::max(projectFinish, task->Finish);
+        }
+        const unsigned int unit = latedates::slackUnit(m_document.getMinorUnit());
+        latedates::LateDates late(m_calendar, projectFinish, unit,
+                                  KWDocument::getNameByMinorUnit(unit, false));
+        std::vector<quint32> lengths;
+        lengths.reserve(std::size_t(m_tasks.list.size()));
+        for (const KWTaskInfo *task : m_tasks.list)
+            lengths.push_back(rollup::isDated(*task) ? late.length(*task) : 0);
+        const std::vector<latedates::Tail> tails = latedates::inheritedTails(m_tasks, lengths);
+        for (int pos = 0; pos < m_tasks.list.size(); ++pos) {
+            KWTaskInfo &task = *m_tasks.list[pos];
+            if (rollup::isDated(task)) {
+                late.apply(task, lengths[pos], tails[pos]);
+            } else {
+                task.LateStart = task.LateFinish = 0;
+                task.EarlySlack.clear();
+                task.LateSlack.clear();
+                task.CriticalPath = false;
+            }
+        }
+        latedates::spreadCritical(m_tasks);
+        if (m_replaced)
+            keepReplaced(before);
+    }
+
+    std::vector<LateValues> lateValues() const
+    {
+        std::vector<LateValues> values;
+        values.reserve(std::size_t(m_tasks.list.size()));
+        for (const KWTaskInfo *task : m_tasks.list)
+            values.push_back({task->ID, task->LateStart, task->LateFinish, task->EarlySlack, task->LateSlack,
+                              task->CriticalPath});
+        return values;
+    }
+
+    void keepReplaced(const std::vector<LateValues> &before)
+    {
+        for (int pos = 0; pos < m_tasks.list.size(); ++pos) {
+            const KWTaskInfo &task = *m_tasks.list[pos];
+            const LateValues &old = before[pos];
+            if (old.lateStart != task.LateStart || old.lateFinish != task.LateFinish ||
+                old.isCritical != task.CriticalPath || old.earlySlack != task.EarlySlack ||
+                old.lateSlack != task.LateSlack)
+                m_replaced->push_back(old);
+        }
+    }
+
+    // Work that has begun has no start slack.
+    void refreshSlack()
+    {
+        if (m_progressed.tasks().empty())
+            return;
+        const unsigned int unit = latedates::slackUnit(m_document.getMinorUnit());
+        latedates::SlackTexts texts(m_calendar, unit, KWDocument::getNameByMinorUnit(unit, false));
+        for (KWTaskInfo *task : m_progressed.tasks()) {
+            if (rollup::isDated(*task))
+                latedates::writeSlack(*task, texts);
+        }
+    }
+
+    // ---- The chart
+    // ----------------------------------------------------------------------------------------------
+
+    void emboldenSummaries()
+    {
+        for (KWTaskInfo *summary : summariesOf(changedTasks()))
+            summary->font.setWeight(QFont::Bold);
+        for (KWTaskInfo *task : m_summaries.tasks()) {
+            if (!task->isParent())
+                task->font.setWeight(QFont::Normal);
+        }
+    }
+
+    void drawChart();
+
+    KWDocument &m_document;
+    KWTaskCollection &m_collection;
+    const Tasks m_tasks;
+    const worktime::WorkCalendar &m_calendar;
+    bool m_hourScale;
+    unsigned m_what;
+    std::vector<LateValues> *m_replaced;
+    TaskSet m_named;
+    TaskSet m_summaries;  // whose children became others
+    TaskSet m_touched;    // whose dates may have become others
+    TaskSet m_progressed; // whose percent may have become another
+    std::vector<quint32> m_lengthsBefore;
+    std::unordered_map<quint32, quint32> m_pushedBy;
+};
+
+// ---- The chart
+// ------------------------------------------------------------------------------------------------------
+
+// The range from the tasks that have dates. Whether it became another, or the width.
+bool updateRange(KWDocument &document)
+{
+    KWTaskCollection &collection = *document.taskCollection();
+    quint32 start = 0;
+    quint32 finish = 0;
+    for (const KWTaskInfo *task : document.taskList()) {
+        if (!rollup::isDated(*task))
+            continue;
+        start = start == 0 ? task->Start : std::min(start, task->Start);
+        finish = std::max(finish, task->Finish);
+    }
+    if (start == 0) // as without tasks
+        start = finish = worktime::clampSecs(KWClock::now().date().startOfDay().toSecsSinceEpoch());
+    const quint32 oldStart = collection.minDateStart();
+    const quint32 oldFinish = collection.maxDateFinish();
+    const int oldWidth = collection.totalWidth();
+    collection.updateRangeOf(start, finish);
+    collection.updateTotalWidth();
+    return oldStart != collection.minDateStart() || oldFinish != collection.maxDateFinish() ||
+           oldWidth != collection.totalWidth();
+}
+
+void place(const timescale::Scale &scale, KWTaskInfo &task)
+{
+    scale.placeBar(task);
+    task.FirstWidth = scale.finishedWidth(task);
+}
+
+// Hidden bars as well: they are there when their summary is expanded, and progress is measured on them.
+void placeAll(KWDocument &document)
+{
+    const timescale::Scale scale = document.taskCollection()->scale();
+    const std::vector<double> rowYs = document.rowYs(true);
+    const QList<KWTaskInfo *> &tasks = document.taskList();
+    for (int pos = 0; pos < tasks.size(); ++pos) {
+        KWTaskInfo &task = *tasks[pos];
+        place(scale, task);
+        if (task.HideID == 0)
+            task.y1 = task.y2 = timescale::wholePixels(rowYs[std::size_t(pos)]);
+    }
+}
+
+void Settling::drawChart()
+{
+    const bool isMoved = m_what & movesTasks;
+    if ((isMoved && updateRange(m_document)) || (m_what & (Outline | wholePlan))) {
+        placeAll(m_document);
+        return;
+    }
+    const timescale::Scale scale = m_collection.scale();
+    for (KWTaskInfo *task : m_touched.tasks())
+        place(scale, *task);
+    for (KWTaskInfo *task : m_progressed.tasks())
+        place(scale, *task);
+}
+}
+
+QVector<Push> settle(KWDocument &document, const Changes &changes, std::vector<LateValues> *replaced)
+{
+    if (changes.what == 0 || !document.taskCollection())
+        return {};
+    return Settling(document, changes, replaced).run();
+}
+
+QVector<Push> settle(KWDocument &document, const Changes &changes)
+{
+    return settle(document, changes, nullptr);
+}
+
+void settleChart(KWDocument &document)
+{
+    if (!document.taskCollection())
+        return;
+    updateRange(document);
+    placeAll(document);
+}
+}

@@ -1,0 +1,26 @@
+#pragma once
+#include <QString>
+#include <vector>
+
+class KWTaskInfo;
+
+// Baselines of summaries: what those leaves have together that have one.
+namespace baselines {
+
+struct Baseline
+{
+    quint32 start = 0; // 0: none
+    quint32 finish = 0;
+    QString cost; // empty: none
+};
+
+// Whether the task has any of the three.
+bool has(const KWTaskInfo &task);
+Baseline of(const KWTaskInfo &task);
+void store(const Baseline &baseline, KWTaskInfo &task);
+// The span of the dates and the sum of the costs of the leaves among the tasks, in their order. What no leaf
+// has, the sum does not have.
+Baseline ofLeaves(const std::vector<KWTaskInfo *> &tasks);
+// A cost with all the digits that a double has for sure.
+QString costText(double value);
+}

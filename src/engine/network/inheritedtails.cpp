@@ -1,0 +1,124 @@
+#include "engine/network/inheritedtails.h"
+#include "engine/network/rollup.h"
+#include "model/kwtaskinfo.h"
+#include <algorithm>
+
+namespace latedates {
+
+using linkgraph::Components;
+using linkgraph::Graph;
+
+namespace {
+
+// The links of each task, and behind them the way to its summary: what follows the summary follows the task.
+struct Inherited
+{
+    Graph graph;
+    std::vector<int> linkEnd; // of each task: where its links end among its edges
+    std::vector<char> listsUnknown;
+};
+
+Inherited inheritedNetwork(const outline::Tasks &tasks)
+{
+    Inherited network;
+    network.graph.first.reserve(std::size_t(tasks.list.size()) + 1);
+    network.linkEnd.reserve(std::size_t(tasks.list.size()));
+    network.listsUnknown.reserve(std::size_t(tasks.list.size()));
+    std::vector<int> &targets = network.graph.targets;
+    for (int pos = 0; pos < tasks.list.size(); ++pos) {
+        const auto &task = *tasks.list[pos];
+        bool listsUnknown = false;
+        if (rollup::isDated(task)) {
+            for (const quint32 id : task.Depends) {
+                const int successor = tasks.index.posOf(id);
+                listsUnknown = listsUnknown || successor < 0;
+                if (successor >= 0 && rollup::isDated(*tasks.list[successor]))
+                    targets.push_back(successor);
+            }
+        }
+        network.linkEnd.push_back(int(targets.size()));
+        network.listsUnknown.push_back(listsUnknown);
+        const int summary = task.ParentID == 0 ? -1 : tasks.index.posOf(task.ParentID);
+        if (summary >= 0 && summary != pos)
+            targets.push_back(summary);
+        network.graph.first.push_back(int(targets.size()));
+    }
+    return network;
+}
+
+// Links between the tasks of a ring do not count; the outline does.
+Inherited withoutRings(const Inherited &network, const Components &components)
+{
+    Inherited rest;
+    rest.listsUnknown = network.listsUnknown;
+    for (int node = 0; node < network.graph.count(); ++node) {
+        for (int edge = network.graph.first[node]; edge < network.linkEnd[node]; ++edge) {
+            if (components.of[network.graph.targets[edge]] != components.of[node])
+                rest.graph.targets.push_back(network.graph.targets[edge]);
+        }
+        rest.linkEnd.push_back(int(rest.graph.targets.size()));
+        for (int edge = network.linkEnd[node]; edge < network.graph.first[node + 1]; ++edge)
+            rest.graph.targets.push_back(network.graph.targets[edge]);
+        rest.graph.first.push_back(int(rest.graph.targets.size()));
+    }
+    return rest;
+}
+}
+
+std::vector<Tail> inheritedTails(const outline::Tasks &tasks, const std::vector<quint32> &lengths)
+{
+    Inherited network = inheritedNetwork(tasks);
+    Components components = linkgraph::components(network.graph);
+    if (components.hasRings) {
+        network = withoutRings(network, components);
+        components = linkgraph::components(network.graph); // what rings are left are of a damaged outline
+    }
+    const Graph &graph = network.graph;
+    std::vector<Tail> result(lengths.size());
+    for (auto it = components.order.rbegin(); it != components.order.rend(); ++it) {
+        const int node = *it;
+        Tail tail{network.listsUnknown[node] ? Tail::NoPath : Tail::Last, 0};
+        const auto follow = [&](const Tail &after, qint64 length) {
+            if (after.kind != Tail::Path && length < 0) { // nothing follows the summary
+                if (after.kind == Tail::NoPath && tail.kind == Tail::Last)
+                    tail.kind = Tail::NoPath;
+                return;
+            }
+            if (tail.kind == Tail::Last)
+                tail.kind = Tail::NoPath;
+            if (after.kind == Tail::NoPath)
+                return;
+            tail.kind = Tail::Path;
+            tail.secs = std::max(tail.secs, after.secs + std::max<qint64>(length, 0));
+        };
+        for (int edge = graph.first[node]; edge < graph.first[node + 1]; ++edge) {
+            const int target = graph.targets[edge];
+            const bool isLink = edge < network.linkEnd[node];
+            if (components.of[target] != components.of[node])
+                follow(result[target], isLink ? qint64(lengths[target]) : -1);
+        }
+        result[node] = tail;
+    }
+    return result;
+}
+
+void spreadCritical(const outline::Tasks &tasks)
+{
+    // What is above a summary that was made critical here is critical already.
+    std::vector<char> isDone(std::size_t(tasks.list.size()), 0);
+    for (int pos = 0; pos < tasks.list.size(); ++pos) {
+        if (!tasks.list[pos]->CriticalPath)
+            continue;
+        int at = pos;
+        while (!isDone[at]) {
+            isDone[at] = 1;
+            tasks.list[at]->CriticalPath = true;
+            const quint32 parent = tasks.list[at]->ParentID;
+            const int above = parent == 0 ? -1 : tasks.index.posOf(parent);
+            if (above < 0)
+                break;
+            at = above;
+        }
+    }
+}
+}
