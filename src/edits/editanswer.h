@@ -24,7 +24,6 @@ enum class EditRefusal {
     BadPercent,
     BadAmount,
     BadHeight,
-    BadText,
     LinkToItself,
     LinkTwice,
     LinkToOwnTask, // a summary after a task below it
@@ -45,8 +44,7 @@ enum class EditRefusal {
     NoSuchColumn,
     BadWidth,
     NothingToPaste,
-    ClipboardFailed,
-    TooManyTasks
+    ClipboardFailed
 };
 
 // One task whose dates an edit changed.

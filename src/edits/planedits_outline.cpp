@@ -10,6 +10,7 @@
 #include "support/kwclock.h"
 #include "table/rowcolumndata.h"
 #include <algorithm>
+#include <unordered_map>
 
 using outlineplaces::Target;
 
@@ -104,20 +105,27 @@ EditAnswer PlanEdits::insert(quint32 id, Place place, const TaskValues &values)
 
 namespace {
 
-// The task goes out of its parent's children; those that stay of what it held take its place.
-void unhook(OneEdit &edit, const KWTaskInfo &task, const std::vector<KWTaskInfo *> &lifted)
+// The children of a summary that loses some of them: in the place of each that leaves stand those of its own
+// that stay.
+QList<quint32> remaining(const outline::Tasks &tasks, const QList<quint32> &children,
+                         const TaskIndex &leaving)
 {
-    KWTaskInfo *parent = edit.parentOf(task);
-    for (KWTaskInfo *child : lifted)
-        child->ParentID = parent ? parent->ID.value() : 0;
-    if (!parent)
-        return;
-    int place = parent->Childs.indexOf(task.ID);
-    if (place < 0)
-        place = parent->Childs.size();
-    parent->removeTaskChildIDByID(task.ID);
-    for (KWTaskInfo *child : lifted)
-        parent->insertTaskChildID(place++, child->ID);
+    QList<quint32> left;
+    TaskIndex seen;
+    QList<quint32> open(children.crbegin(), children.crend());
+    while (!open.isEmpty()) {
+        const quint32 id = open.takeLast();
+        const KWTaskInfo *child = tasks.byId(id);
+        if (!seen.add(id))
+            continue;
+        if (!child || !leaving.contains(id)) {
+            left.append(id);
+            continue;
+        }
+        for (auto below = child->Childs.crbegin(); below != child->Childs.crend(); ++below)
+            open.append(*below);
+    }
+    return left;
 }
 
 // Takes tasks out of the document: those in `leaving`, whose children that stay move up in their place.
@@ -125,31 +133,30 @@ void takeOut(OneEdit &edit, const TaskIndex &leaving)
 {
     KWDocument &document = edit.document();
     const outline::Tasks tasks = edit.tasks();
-    std::vector<KWTaskInfo *> gone;
+    const auto isGone = [&](quint32 id) { return leaving.contains(id); };
     std::vector<KWTaskInfo *> lifted;
     for (KWTaskInfo *task : tasks.list) {
-        if (leaving.contains(task->ID))
-            gone.push_back(task);
-        const auto isGone = [&](quint32 id) { return leaving.contains(id); };
         for (QList<quint32> *links : {&task->Depends, &task->Predecessors}) {
             if (std::any_of(links->cbegin(), links->cend(), isGone))
                 links->erase(std::remove_if(links->begin(), links->end(), isGone), links->end());
         }
-    }
-    // Inner ones first, so that what stays moves up step by step.
-    for (auto task = gone.rbegin(); task != gone.rend(); ++task) {
-        std::vector<KWTaskInfo *> children;
-        for (const quint32 id : qAsConst((*task)->Childs)) {
-            KWTaskInfo *child = tasks.byId(id);
-            if (child && child->ParentID == (*task)->ID && !leaving.contains(id))
-                children.push_back(child);
+        if (leaving.contains(task->ID)) {
+            if (task->isHaveResource())
+                edit.changes.what |= settling::Assignments;
+            continue;
         }
-        unhook(edit, **task, children);
-        lifted.insert(lifted.end(), children.begin(), children.end());
-        if (const KWTaskInfo *parent = edit.parentOf(**task))
-            edit.childrenChanged(parent);
-        if ((*task)->isHaveResource())
-            edit.changes.what |= settling::Assignments;
+        if (std::any_of(task->Childs.cbegin(), task->Childs.cend(), isGone)) {
+            task->Childs = remaining(tasks, task->Childs, leaving);
+            edit.childrenChanged(task);
+        }
+        if (!leaving.contains(task->ParentID))
+            continue;
+        // The nearest summary above that stays; all between them leave.
+        const KWTaskInfo *parent = edit.parentOf(*task);
+        while (parent && leaving.contains(parent->ID))
+            parent = edit.parentOf(*parent);
+        task->ParentID = parent ? parent->ID.value() : 0;
+        lifted.push_back(task);
     }
     document.removeTasks(leaving);
     const outline::Tasks left = edit.tasks();
@@ -207,22 +214,44 @@ EditAnswer PlanEdits::cut(const QVector<quint32> &ids)
 
 namespace {
 
-// Gives the task another parent (null: the top level), at a place among its children.
-void rehang(OneEdit &edit, KWTaskInfo &task, KWTaskInfo *parent, int place)
+// Hangs a task that its old parent does not name any more below another one (null: the top level), at a place
+// among its children.
+void hang(OneEdit &edit, KWTaskInfo &task, KWTaskInfo *old, KWTaskInfo *parent, int place)
 {
-    KWTaskInfo *old = edit.parentOf(task);
-    if (old)
-        old->removeTaskChildIDByID(task.ID);
-    edit.childrenChanged(old);
     task.ParentID = parent ? parent->ID.value() : 0;
     if (parent)
-        parent->insertTaskChildID(place, task.ID);
-    edit.childrenChanged(parent);
+        parent->Childs.insert(place, task.ID);
     if (old && !old->isParent())
         old->IsToggler = false;
+    edit.childrenChanged(old);
+    edit.childrenChanged(parent);
     if (!task.Resources.isEmpty() || task.isHaveResource())
         edit.changes.what |= settling::Assignments;
     edit.changed(task);
+}
+
+// For each of the tasks the sibling before it that is none of them; refuses where there is none.
+std::vector<KWTaskInfo *> newParents(OneEdit &edit, const std::vector<KWTaskInfo *> &tasks)
+{
+    TaskIndex placeOf; // among the tasks
+    for (std::size_t i = 0; i < tasks.size(); ++i)
+        placeOf.add(tasks[i]->ID, int(i));
+    std::vector<KWTaskInfo *> parents(tasks.size());
+    std::unordered_map<quint32, KWTaskInfo *> last; // by their parent
+    for (KWTaskInfo *task : edit.document().taskList()) {
+        const int place = placeOf.posOf(task->ID);
+        KWTaskInfo *&before = last[task->ParentID];
+        if (place < 0) {
+            before = task;
+            continue;
+        }
+        if (!before) {
+            edit.refuse(EditRefusal::NoTaskBefore, {edit.nameOf(*task)});
+            break;
+        }
+        parents[std::size_t(place)] = before;
+    }
+    return parents;
 }
 
 int placeBehind(const KWTaskInfo *parent, const KWTaskInfo &task)
@@ -238,19 +267,25 @@ EditAnswer PlanEdits::indent(const QVector<quint32> &ids)
     const std::vector<KWTaskInfo *> tasks = outlineplaces::tops(edit.tasks(), edit.named(ids));
     if (edit.isRefused())
         return edit.answer;
-    for (const KWTaskInfo *task : tasks) {
-        if (!outlineplaces::sibling(edit.tasks(), *task, -1))
-            return edit.refuse(EditRefusal::NoTaskBefore, {edit.nameOf(*task)});
-    }
+    const std::vector<KWTaskInfo *> parents = newParents(edit, tasks);
+    if (edit.isRefused())
+        return edit.answer;
     edit.begin(OneEdit::AllTasks);
-    for (KWTaskInfo *task : tasks) {
-        KWTaskInfo *parent = outlineplaces::sibling(edit.tasks(), *task, -1);
-        edit.mayBecomeSummary(*parent);
-        rehang(edit, *task, parent, parent->Childs.size());
-        edit.mayNotSuitLinks(*parent);
-        outlineplaces::refreshBelow(edit.tasks(), *task);
-        edit.answer.tasks.append(task->ID);
+    TaskIndex moving;
+    for (const KWTaskInfo *task : tasks)
+        moving.add(task->ID);
+    for (std::size_t i = 0; i < tasks.size(); ++i) {
+        KWTaskInfo &task = *tasks[i];
+        KWTaskInfo *old = edit.parentOf(task);
+        if (old && old->Childs.contains(task.ID))
+            outline::removeChilds(*old, moving); // all of them at once
+        edit.mayBecomeSummary(*parents[i]);
+        edit.mayNotSuitLinks(*parents[i]);
+        hang(edit, task, old, parents[i], parents[i]->Childs.size());
+        edit.answer.tasks.append(task.ID);
     }
+    for (KWTaskInfo *task : tasks)
+        outlineplaces::refreshBelow(edit.tasks(), *task);
     edit.changes.what |= settling::Outline | settling::Dates;
     return edit.finish();
 }
@@ -271,17 +306,20 @@ EditAnswer PlanEdits::outdent(const QVector<quint32> &ids)
     std::reverse(tasks.begin(), tasks.end());
     for (KWTaskInfo *task : tasks) {
         KWTaskInfo *parent = edit.parentOf(*task);
-        const QList<quint32> followers = parent->Childs.mid(placeBehind(parent, *task));
+        const int place = placeBehind(parent, *task);
+        const QList<quint32> followers = parent->Childs.mid(place);
         if (!followers.isEmpty()) {
             edit.mayBecomeSummary(*task);
             edit.mayNotSuitLinks(*task);
         }
+        parent->Childs = parent->Childs.mid(0, place);
+        parent->removeTaskChildIDByID(task->ID);
         for (const quint32 id : followers) {
             if (KWTaskInfo *follower = edit.task(id))
-                rehang(edit, *follower, task, task->Childs.size());
+                hang(edit, *follower, parent, task, task->Childs.size());
         }
         KWTaskInfo *above = edit.parentOf(*parent);
-        rehang(edit, *task, above, placeBehind(above, *parent));
+        hang(edit, *task, parent, above, placeBehind(above, *parent));
         outlineplaces::refreshBelow(edit.tasks(), *task);
         edit.answer.tasks.prepend(task->ID);
     }

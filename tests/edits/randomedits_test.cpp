@@ -400,7 +400,7 @@ unsigned int fromEnvironment(const char *name, unsigned int usual)
 TEST(RandomEdits, leaveASettledPlanThatUndoBringsBack)
 {
     const unsigned int first = fromEnvironment("KW_EDIT_SEED", 1);
-    const unsigned int sequences = fromEnvironment("KW_EDIT_SEQUENCES", 40);
+    const unsigned int sequences = fromEnvironment("KW_EDIT_SEQUENCES", 20);
     constexpr int steps = 40;
     for (unsigned int seed = first; seed < first + sequences; ++seed) {
         Session session(seed);
