@@ -2,6 +2,7 @@
 #include "columns.h"
 #include "commands.h"
 #include "edit.h"
+#include "edits/planreasons.h"
 #include "explain.h"
 #include "helptext.h"
 #include "invariants.h"
@@ -41,7 +42,7 @@ int show(Console &console)
                                 : console.options().format == Options::Csv
                                     ? sheetfile::resources(plan)
                                     : sheetreport::text(plan, styleOf(console)).toUtf8());
-    if (const int early = plan::countEarlyTasks(plan))
+    if (const int early = planreasons::earlyTaskCount(*plan.document))
         console.warning(file + QLatin1String(": ") +
                             counted(early, "%1 task starts before its predecessor finishes",
                                     "%1 tasks start before a predecessor finishes"),
@@ -90,7 +91,7 @@ int load(Console &console)
     scheduleMissing(console, plan);
     plan::refresh(plan, progressOf(console));
     tell(console, plan, findings);
-    const int early = plan.withoutStart ? 0 : plan::countEarlyTasks(plan);
+    const int early = plan.withoutStart ? 0 : planreasons::earlyTaskCount(*plan.document);
     const QByteArray data = console.options().format == Options::Json
                                 ? machine::summaryJson(plan, findings, early)
                                 : summaryText(plan, styleOf(console), findings.count(), early).toUtf8();
@@ -128,7 +129,6 @@ int schedule(Console &console)
         return Console::CannotSchedule;
     plan::schedule(plan, options.asSoonAsPossible ? plan::AsSoonAsPossible : plan::AsGiven,
                    progressOf(console));
-    plan::refresh(plan, progressOf(console));
 
     const Style style = styleOf(console);
     const QString summary = report::movesSummary(plan, style);
@@ -169,7 +169,6 @@ int explainTask(Console &console)
     }
     plan::schedule(plan, options.asSoonAsPossible ? plan::AsSoonAsPossible : plan::AsGiven,
                    progressOf(console));
-    plan::refresh(plan, progressOf(console));
     const QVector<explain::Line> lines = explain::task(plan, pos);
     return written(console, options.format == Options::Json
                                 ? explain::json(lines)
@@ -258,7 +257,6 @@ int version(Console &console)
 
 int runCommand(Console &console)
 {
-    editverbs::fillUndoNames();
     struct Command
     {
         const char *name;

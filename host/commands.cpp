@@ -33,6 +33,15 @@ void tell(Console &console, const Plan &plan, const Findings &findings)
         console.list(plan.file, findings);
 }
 
+void tellLost(Console &console, const Plan &plan, const QStringList &lost)
+{
+    constexpr int mostTold = 10;
+    for (const QString &line : lost.mid(0, mostTold))
+        console.warning(plan.file + QLatin1String(": ") + line);
+    if (lost.size() > mostTold)
+        console.warning(plan.file + QLatin1String(": ") + t("%1 more").arg(lost.size() - mostTold));
+}
+
 void scheduleMissing(Console &console, Plan &plan)
 {
     if (plan.withoutStart > 0)
@@ -129,8 +138,6 @@ int loadForChange(Console &console, const QString &file, Plan &plan)
 int writeChanged(Console &console, Plan &plan, const QString &summary)
 {
     const Options &options = console.options();
-    plan.document->updateAllTaskEarlyLate();
-    plan.document->taskCollection()->updateRageAndTaskPoint();
     plan.majorUnit = plan.document->MajorUnit;
     plan.minorUnit = plan.document->MinorUnit;
     kwpxfile::describe(plan);

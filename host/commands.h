@@ -14,6 +14,8 @@ Plan::Progress progressOf(Console &console);
 int written(Console &console, const QByteArray &data, int code = Console::Done);
 // The findings, unless the user wants quiet.
 void tell(Console &console, const Plan &plan, const Findings &findings);
+// What edits had to take away, the first of it line by line.
+void tellLost(Console &console, const Plan &plan, const QStringList &lost);
 // Dates that the file does not give come from the links.
 void scheduleMissing(Console &console, Plan &plan);
 // Loads the plan and tells what was found. Not 0: an exit code, and the reason has been told.

@@ -1,5 +1,6 @@
 #pragma once
 #include "editline.h"
+#include "edits/planedits.h"
 #include "plan.h"
 #include <QStringList>
 
@@ -10,9 +11,11 @@ struct Edit
 {
     Plan &plan;
     KWDocument &document;
+    PlanEdits &edits;
     QVector<quint32> tasks; // IDs of the TASK arguments
     QStringList words;      // what follows them
     options::Fault &fault;
+    QStringList &lost; // what the edit had to take away, in words
 
     KWTaskInfo *task(int index = 0) const { return document.getTaskInfoByID(tasks.value(index)); }
     bool refuse(const QString &what, const QString &hint = QString())
@@ -20,6 +23,8 @@ struct Edit
         fault = {what, hint};
         return false;
     }
+    // What the library answered: whether it was done, with its reason or with what was lost.
+    bool take(const EditAnswer &answer);
 };
 
 // The verbs of the language of edits. `editverbs.cpp` holds the table with their arguments and what they do.
@@ -34,22 +39,20 @@ struct VerbInfo
     QString arguments;
 };
 QVector<VerbInfo> all();
-// Does one edit and records it, so that it can be undone. False with a fault; the plan may be half changed
-// then.
-bool run(Plan &plan, const QStringList &words, options::Fault &fault);
-// Names of the edits for the library's undo, by their codes.
-void fillUndoNames();
+// Does one edit and records it, so that it can be undone; what it had to take away is added to `lost`. False with a
+// fault; the plan is as it was then.
+bool run(Plan &plan, const QStringList &words, options::Fault &fault, QStringList &lost);
 
-// ---- The parts of a verb
-// ------------------------------------------------------------------------------------ Values of a task
-// (editfields.cpp).
+// Something that an edit had to take away.
+QString lossText(const KWDocument &document, const EditLoss &loss);
+
+// ---- The parts of a verb ------------------------------------------------------------------------------
+
+// Values of a task (editfields.cpp).
 const QStringList &taskFields();
 QString taskFieldsHelp();
-bool setTaskFields(Edit &edit, KWTaskInfo &task, const editline::Pairs &values);
-// After a task's dates or length changed: its cost, what follows it, what holds it.
-void datesChanged(KWDocument &document, KWTaskInfo &task);
-// Moves the task behind the ends of its predecessors, and what follows.
-void pushBehindPredecessors(KWDocument &document, const KWTaskInfo &task);
+// The values that the pairs give to a task whose length counts in `unit` where none is written.
+bool readTaskFields(Edit &edit, const editline::Pairs &pairs, quint32 unit, TaskValues &values);
 
 // Resource sheet and assignments (editresources.cpp).
 bool addResource(Edit &edit);

@@ -67,15 +67,17 @@ int edit(Console &console)
     if (const int code = loadForChange(console, options.arguments.first(), plan))
         return code;
     int done = 0;
+    QStringList lost;
     for (const Line &line : lines) {
         options::Fault fault;
-        if (!editverbs::run(plan, line.words, fault)) {
+        if (!editverbs::run(plan, line.words, fault, lost)) {
             console.error(placeOf(console, line) + QLatin1String(": ") + fault.what, fault.hint);
             console.note(t("nothing was written"));
             return Console::WrongUse;
         }
         console.progress(t("editing"), ++done, qint64(lines.size()));
     }
+    tellLost(console, plan, lost);
     return writeChanged(console, plan, counted(done, "%1 edit made", "%1 edits made"));
 }
 }

@@ -1,9 +1,8 @@
 // What 'set' can set of a task.
 #include "datetext.h"
 #include "edit.h"
+#include "editing/kwhyperlink.h"
 #include "model/kwtaskinfo.h"
-#include "schedule/kwtaskcollection.h"
-#include "table/rowcolumndata.h"
 #include "taskref.h"
 #include "texts.h"
 
@@ -11,9 +10,14 @@ namespace editverbs {
 
 namespace {
 
-constexpr quint32 milestoneSecs = 1; // a milestone's finish lies one second after its start
-constexpr double oneDay = 1;
-constexpr unsigned int day = 4;
+// Fills one value from its text; `unit` is that of a length without one.
+struct Reading
+{
+    Edit &edit;
+    const QString &text;
+    quint32 unit;
+    TaskValues &values;
+};
 
 bool readMoment(Edit &edit, const QString &text, datetext::Moment &moment)
 {
@@ -21,181 +25,114 @@ bool readMoment(Edit &edit, const QString &text, datetext::Moment &moment)
            edit.refuse(t("'%1' is not a date").arg(text), t("write it as 2026-02-28 or 2026-02-28T17:00"));
 }
 
-bool isYes(const QString &text)
+template <std::optional<QString> TaskValues::*member>
+bool readText(const Reading &r)
 {
-    return text == QLatin1String("yes") || text == QLatin1String("1") || text == QLatin1String("true");
-}
-
-bool refuseSummary(Edit &edit, const KWTaskInfo &task)
-{
-    return edit.refuse(
-        t("%1 is a summary: that comes from the tasks below it").arg(taskref::named(edit.document, task.ID)),
-        t("set it on those"));
-}
-
-void setLength(Edit &edit, KWTaskInfo &task, double value, unsigned int unit)
-{
-    const quint32 finish = KWTaskInfo::backwardsDateTime(&edit.document, task.Start, value, unit);
-    task.Milestone = value == 0;
-    task.DurationUnits = unit;
-    task.Finish = task.Milestone ? task.Start + milestoneSecs : qMax(finish, task.Start + milestoneSecs);
-    datesChanged(edit.document, task);
-}
-
-bool setName(Edit &, KWTaskInfo &task, const QString &text)
-{
-    task.Name = text;
+    r.values.*member = r.text;
     return true;
 }
 
-bool setNotes(Edit &, KWTaskInfo &task, const QString &text)
-{
-    task.Notes = text;
-    return true;
-}
-
-bool setStart(Edit &edit, KWTaskInfo &task, const QString &text)
+template <std::optional<quint32> TaskValues::*member, quint32 (*secs)(KWDocument &, const datetext::Moment &),
+          bool mayBeEmpty>
+bool readDate(const Reading &r)
 {
     datetext::Moment moment;
-    if (!readMoment(edit, text, moment))
+    if (mayBeEmpty && r.text.isEmpty()) {
+        r.values.*member = 0;
+        return true;
+    }
+    if (!readMoment(r.edit, r.text, moment))
         return false;
-    const quint32 oldStart = task.Start;
-    task.moveStartTo(&edit.document, plan::startSecs(edit.document, moment));
-    edit.document.taskCollection()->recalculateTask(&task, oldStart);
-    if (task.Milestone && !task.isParent())
-        task.Finish = task.Start + milestoneSecs;
-    datesChanged(edit.document, task);
-    pushBehindPredecessors(edit.document, task);
+    r.values.*member = secs(r.edit.document, moment);
     return true;
 }
 
-bool setFinish(Edit &edit, KWTaskInfo &task, const QString &text)
-{
-    datetext::Moment moment;
-    if (!readMoment(edit, text, moment))
-        return false;
-    const quint32 finish = plan::finishSecs(edit.document, moment);
-    if (finish <= task.Start)
-        return edit.refuse(
-            t("'%1' lies before the start of %2").arg(text, taskref::named(edit.document, task.ID)),
-            t("set start first; it takes the finish along"));
-    task.Finish = finish;
-    task.Milestone = false;
-    datesChanged(edit.document, task);
-    return true;
-}
-
-bool setDuration(Edit &edit, KWTaskInfo &task, const QString &text)
+bool readDuration(const Reading &r)
 {
     datetext::Duration length;
-    if (!datetext::parseDuration(text, length, task.DurationUnits))
-        return edit.refuse(t("'%1' is not a duration").arg(text),
-                           t("write it as 3d, 12h, 30min, 1.5w or 2mon"));
-    setLength(edit, task, length.value, length.unit);
+    if (!datetext::parseDuration(r.text, length, r.unit))
+        return r.edit.refuse(t("'%1' is not a duration").arg(r.text),
+                             t("write it as 3d, 12h, 30min, 1.5w or 2mon"));
+    r.values.length = TaskLength{length.value, length.unit};
     return true;
 }
 
-bool setMilestone(Edit &edit, KWTaskInfo &task, const QString &text)
+bool readMilestone(const Reading &r)
 {
-    if (isYes(text) != task.Milestone)
-        setLength(edit, task, isYes(text) ? 0 : oneDay, isYes(text) ? task.DurationUnits : day);
+    r.values.isMilestone =
+        r.text == QLatin1String("yes") || r.text == QLatin1String("1") || r.text == QLatin1String("true");
     return true;
 }
 
-bool setPercent(Edit &edit, KWTaskInfo &task, const QString &text)
-{
-    bool ok = false;
-    const double percent = QString(text).remove(QLatin1Char('%')).toDouble(&ok);
-    if (!ok || percent < 0 || percent > 100)
-        return edit.refuse(t("'%1' is not a percentage").arg(text), t("write a number from 0 to 100"));
-    task.setPercent(percent / 100);
-    task.Progress = KWTaskInfo::indexFromPercent(task.Percent);
-    task.updateOneTaskFirstWidth(&edit.document);
-    task.updateRemainCost(&edit.document);
-    task.updateParentPercent(&edit.document);
-    return true;
-}
-
-bool setPriority(Edit &edit, KWTaskInfo &task, const QString &text)
+bool readPercent(const Reading &r)
 {
     bool ok = false;
-    const int priority = text.toInt(&ok);
-    if (!ok)
-        return edit.refuse(t("'%1' is not a whole number").arg(text));
-    task.Priority = priority;
+    const double percent = QString(r.text).remove(QLatin1Char('%')).toDouble(&ok);
+    if (!ok || !(percent >= 0 && percent <= 100))
+        return r.edit.refuse(t("'%1' is not a percentage").arg(r.text), t("write a number from 0 to 100"));
+    r.values.percent = percent / 100;
     return true;
 }
 
-bool setHeight(Edit &edit, KWTaskInfo &task, const QString &text)
+bool readPriority(const Reading &r)
 {
-    constexpr double tallest = 10000;
     bool ok = false;
-    const double pixels = text.toDouble(&ok);
-    if (!ok || !(pixels > 0 && pixels <= tallest))
-        return edit.refuse(t("'%1' is no row height").arg(text), t("write a number of pixels"));
-    edit.document.rowColumnData()->replaceRowHeight(edit.document.getPosByID(task.ID), pixels);
-    edit.document.taskCollection()->updateTaskPoint();
-    return true;
+    r.values.priority = r.text.toInt(&ok);
+    return ok || r.edit.refuse(t("'%1' is not a whole number").arg(r.text));
 }
 
-bool setHyperlinks(Edit &, KWTaskInfo &task, const QString &text)
+bool readHeight(const Reading &r)
 {
-    task.hyperlinks.clear();
-    for (const QString &part : text.split(QLatin1Char(';'))) {
+    bool ok = false;
+    r.values.rowHeight = r.text.toDouble(&ok);
+    return ok || r.edit.refuse(t("'%1' is no row height").arg(r.text), t("write a number of pixels"));
+}
+
+bool readHyperlinks(const Reading &r)
+{
+    QVector<KWHyperlink> links;
+    for (const QString &part : r.text.split(QLatin1Char(';'))) {
         if (part.trimmed().isEmpty())
             continue;
-        KWHyperlink *link = task.hyperlinks.autoAddHyperlink();
-        link->address = part.trimmed();
-        link->type = KWHyperlink::hyperlinkType(link->address);
+        KWHyperlink link;
+        link.address = part.trimmed();
+        link.type = KWHyperlink::hyperlinkType(link.address);
+        links.append(link);
     }
+    r.values.hyperlinks = links;
     return true;
 }
 
-template <quint32 TaskRecord::*member, quint32 (*secs)(KWDocument &, const datetext::Moment &)>
-bool setBaseDate(Edit &edit, KWTaskInfo &task, const QString &text)
+bool readBaseCost(const Reading &r)
 {
-    datetext::Moment moment;
-    if (!text.isEmpty() && !readMoment(edit, text, moment))
-        return false;
-    task.*member = text.isEmpty() ? 0 : secs(edit.document, moment);
-    task.updateParentBaselineStartAndFinish(&edit.document);
-    return true;
-}
-
-bool setBaseCost(Edit &edit, KWTaskInfo &task, const QString &text)
-{
-    bool ok = text.isEmpty();
-    const double cost = text.isEmpty() ? 0 : text.toDouble(&ok);
+    bool ok = r.text.isEmpty();
     if (!ok)
-        return edit.refuse(t("'%1' is no amount").arg(text), t("write a number"));
-    const double before = task.BaselineCost.toDouble();
-    task.BaselineCost = text;
-    task.updateParentStrBaseCost(&edit.document, cost - before);
-    return true;
+        r.text.toDouble(&ok);
+    r.values.baseCost = r.text;
+    return ok || r.edit.refuse(t("'%1' is no amount").arg(r.text), t("write a number"));
 }
 
 struct TaskField
 {
     const char *name;
     const char *value;
-    bool ofSummaries; // a summary has a value of its own
-    bool (*set)(Edit &, KWTaskInfo &, const QString &);
+    bool (*read)(const Reading &);
 };
 
 constexpr TaskField fieldTable[] = {
-    {"name", "TEXT", true, setName},
-    {"start", "DATE", true, setStart},
-    {"finish", "DATE", false, setFinish},
-    {"duration", "3d|12h|30min|1.5w|2mon", false, setDuration},
-    {"percent", "0..100", false, setPercent},
-    {"milestone", "yes|no", false, setMilestone},
-    {"priority", "NUMBER", true, setPriority},
-    {"notes", "TEXT", true, setNotes},
-    {"hyperlinks", "ADDRESS;ADDRESS...", true, setHyperlinks},
-    {"height", "PIXELS", true, setHeight},
-    {"base-start", "DATE", false, setBaseDate<&KWTaskInfo::BaseStart, plan::startSecs>},
-    {"base-finish", "DATE", false, setBaseDate<&KWTaskInfo::BaseFinish, plan::finishSecs>},
-    {"base-cost", "NUMBER", false, setBaseCost},
+    {"name", "TEXT", readText<&TaskValues::name>},
+    {"start", "DATE", readDate<&TaskValues::start, plan::startSecs, false>},
+    {"finish", "DATE", readDate<&TaskValues::finish, plan::finishSecs, false>},
+    {"duration", "3d|12h|30min|1.5w|2mon", readDuration},
+    {"percent", "0..100", readPercent},
+    {"milestone", "yes|no", readMilestone},
+    {"priority", "NUMBER", readPriority},
+    {"notes", "TEXT", readText<&TaskValues::notes>},
+    {"hyperlinks", "ADDRESS;ADDRESS...", readHyperlinks},
+    {"height", "PIXELS", readHeight},
+    {"base-start", "DATE", readDate<&TaskValues::baseStart, plan::startSecs, true>},
+    {"base-finish", "DATE", readDate<&TaskValues::baseFinish, plan::finishSecs, true>},
+    {"base-cost", "NUMBER", readBaseCost},
 };
 
 const TaskField *fieldNamed(const QString &name)
@@ -226,49 +163,12 @@ QString taskFieldsHelp()
     return texts.join(QLatin1Char(' '));
 }
 
-bool setTaskFields(Edit &edit, KWTaskInfo &task, const editline::Pairs &values)
+bool readTaskFields(Edit &edit, const editline::Pairs &pairs, quint32 unit, TaskValues &values)
 {
-    for (const auto &[name, value] : values) {
-        const TaskField *field = fieldNamed(name);
-        if (task.isParent() && !field->ofSummaries)
-            return refuseSummary(edit, task);
-        if (!field->set(edit, task, value))
+    for (const auto &[name, text] : pairs) {
+        if (!fieldNamed(name)->read({edit, text, unit, values}))
             return false;
     }
     return true;
-}
-
-void datesChanged(KWDocument &document, KWTaskInfo &task)
-{
-    KWTaskCollection *collection = document.taskCollection();
-    collection->refreshTask(&task);
-    if (!task.isParent()) {
-        task.updateCostAndWork(&document);
-        task.updateParentPercent(&document);
-    }
-    QList<quint32> ids;
-    collection->subIDListByTask(&task, ids);
-    std::vector<KWTaskInfo *> moved{&task};
-    for (const quint32 id : qAsConst(ids))
-        moved.push_back(document.getTaskInfoByID(id));
-    collection->pushSuccessorsOf(moved);
-    collection->updateTaskInfoParentTime(&task);
-}
-
-void pushBehindPredecessors(KWDocument &document, const KWTaskInfo &task)
-{
-    KWTaskCollection *collection = document.taskCollection();
-    std::vector<KWTaskInfo *> predecessors;
-    for (const quint32 id : task.Predecessors)
-        if (KWTaskInfo *predecessor = document.getTaskInfoByID(id))
-            predecessors.push_back(predecessor);
-    QList<KWTaskInfo *> above;
-    collection->parentIDListByTask(&task, above);
-    for (const KWTaskInfo *summary : qAsConst(above))
-        for (const quint32 id : summary->Predecessors)
-            if (KWTaskInfo *predecessor = document.getTaskInfoByID(id))
-                predecessors.push_back(predecessor);
-    collection->pushSuccessorsOf(predecessors);
-    collection->updateTaskInfoParentTime(const_cast<KWTaskInfo *>(&task));
 }
 }

@@ -1,9 +1,5 @@
 // Editing the calendar, the options and the columns.
 #include "edit.h"
-#include "model/kwtaskinfo.h"
-#include "resources/assignmentbatch.h"
-#include "schedule/kwcalendar.h"
-#include "schedule/kwtaskcollection.h"
 #include "table/rowcolumndata.h"
 #include "texts.h"
 
@@ -11,45 +7,7 @@ namespace editverbs {
 
 namespace {
 
-// ---- Calendar ---------------------------------------------------------------------------------------------
-
-// Tasks keep their length in working time and move off the days off.
-template <typename Change>
-bool changeCalendar(Edit &edit, Change change)
-{
-    KWDocument &document = edit.document;
-    std::vector<double> lengths;
-    for (const KWTaskInfo *task : document.taskList())
-        lengths.push_back(KWTaskInfo::getDurValueByTaskInfo(&document, task));
-    change();
-    if (!KWTaskInfo::isHaveWorkDay(&document) ||
-        KWTaskInfo::startOrFinishHour(&document, false) <= KWTaskInfo::startOrFinishHour(&document, true))
-        return edit.refuse(t("no working time is left"), t("at least one weekday and one hour must work"));
-    AssignmentBatch batch(document);
-    for (int pos = 0; pos < document.taskCount(); ++pos) {
-        KWTaskInfo *task = document.getTaskInfoAt(pos);
-        if (task->isParent())
-            continue;
-        task->Start = KWTaskCollection::moveForwarstartOnDayOff(&document, task->Start, false);
-        const quint32 finish =
-            task->Milestone ? 0
-                            : KWTaskInfo::backwardsDateTime(&document, task->Start, lengths[std::size_t(pos)],
-                                                            task->DurationUnits);
-        task->Finish = qMax(finish, task->Start + 1);
-        task->DurationSecs =
-            KWTaskInfo::durationSecs(&document, task->Start, task->Finish, task->DurationUnits);
-        if (!task->isHaveResource())
-            continue;
-        task->updateResourceWorkSecs(&document);
-        batch.updateCostAndWork(*task);
-    }
-    KWTaskCollection *collection = document.taskCollection();
-    collection->updateOptionTaskTime();
-    collection->pushAllSuccessors();
-    collection->updateOptionTaskTime();
-    document.updateAllParentPercent();
-    return true;
-}
+// ---- Calendar -----------------------------------------------------------------------------------------
 
 bool addException(Edit &edit, bool works)
 {
@@ -57,58 +15,52 @@ bool addException(Edit &edit, bool works)
     if (!workingtime::parseHoliday(edit.words.first(), written))
         return edit.refuse(t("'%1' is no date").arg(edit.words.first()),
                            t("write it as 2026-12-25 or 2026-12-24..2026-12-31"));
-    return changeCalendar(edit, [&] {
-        auto *calendar = new KWCalendar;
-        calendar->name = edit.words.value(1);
-        calendar->startDate = written.exceptions.front().from;
-        calendar->finishDate = written.exceptions.front().to;
-        calendar->isException = true;
-        calendar->isWork = works;
-        edit.document.calendars.prepend(calendar); // the first one that covers a date decides
-    });
+    const WorkingTime::Exception &exception = written.exceptions.front();
+    return edit.take(
+        edit.edits.addException({edit.words.value(1), exception.from, exception.to, works, {}}));
 }
 
-// ---- Options ----------------------------------------------------------------------------------------------
+// ---- Options ------------------------------------------------------------------------------------------
 
-bool readUnit(const QString &text, quint32 &unit)
+bool readUnit(KWDocument &, const QString &text, PlanOptions &options)
 {
     datetext::Duration one;
     if (!datetext::parseDuration(QLatin1Char('1') + text, one))
         return false;
-    unit = one.unit;
+    options.projectUnit = one.unit;
     return true;
 }
 
-template <bool KWDocument::*member>
-bool setFlag(KWDocument &document, const QString &text)
+template <std::optional<bool> PlanOptions::*member>
+bool readFlag(KWDocument &, const QString &text, PlanOptions &options)
 {
-    document.*member = text == QLatin1String("yes");
-    return document.*member || text == QLatin1String("no");
+    options.*member = text == QLatin1String("yes");
+    return *(options.*member) || text == QLatin1String("no");
 }
 
-template <typename Number, Number KWDocument::*member, int least, int most>
-bool setNumber(KWDocument &document, const QString &text)
+template <typename Number, std::optional<Number> PlanOptions::*member, int least, int most>
+bool readNumber(KWDocument &, const QString &text, PlanOptions &options)
 {
     bool ok = false;
     const double number = text.toDouble(&ok);
     if (!ok || !(number >= least && number <= most))
         return false;
-    document.*member = Number(number);
+    options.*member = Number(number);
     return true;
 }
 
-template <quint32 KWDocument::*member>
-bool setDate(KWDocument &document, const QString &text)
+template <std::optional<quint32> PlanOptions::*member>
+bool readDate(KWDocument &document, const QString &text, PlanOptions &options)
 {
     datetext::Moment moment;
     if (!datetext::parseMoment(text, moment))
         return false;
-    document.*member = plan::startSecs(document, moment);
+    options.*member = plan::startSecs(document, moment);
     return true;
 }
 
-// "week/day": the two units of the chart's head. The smaller one is stored as its distance from the other.
-bool setScale(KWDocument &document, const QString &text)
+// "week/day": the two units of the chart's head.
+bool readScale(KWDocument &, const QString &text, PlanOptions &options)
 {
     constexpr const char *names[] = {"year", "quarter", "month", "week", "day", "hour", "minute"};
     constexpr int greatestMajor = 3;
@@ -120,8 +72,8 @@ bool setScale(KWDocument &document, const QString &text)
                 units[part] = unit;
     if (units[0] < 0 || units[0] > greatestMajor || units[1] <= units[0])
         return false;
-    document.MajorUnit = quint32(units[0]);
-    document.MinorUnit = quint32(units[1] - units[0] - 1);
+    options.majorUnit = quint32(units[0]);
+    options.minorUnit = quint32(units[1]);
     return true;
 }
 
@@ -129,22 +81,21 @@ struct OptionField
 {
     const char *name;
     const char *value;
-    bool (*set)(KWDocument &, const QString &);
+    bool (*read)(KWDocument &, const QString &, PlanOptions &);
 };
 
 constexpr int most = 1000000000;
 
 constexpr OptionField optionTable[] = {
-    {"unit", "y|q|mon|w|d|h|min",
-     [](KWDocument &document, const QString &text) { return readUnit(text, document.ProjectUnit); }},
-    {"start", "DATE", setDate<&KWDocument::StartDate>},
-    {"finish", "DATE", setDate<&KWDocument::FinishDate>},
-    {"scale", "week/day", setScale},
-    {"unit-width", "PIXELS", setNumber<qint32, &KWDocument::UnitWidth, 1, 10000>},
-    {"auto-zoom", "yes|no", setFlag<&KWDocument::AutoZoom>},
-    {"auto-progress", "yes|no", setFlag<&KWDocument::Auto>},
-    {"theme", "NUMBER", setNumber<qint32, &KWDocument::ThemeIndex, 0, 1000>},
-    {"baseline-cost", "NUMBER", setNumber<double, &KWDocument::BaselineCost, -most, most>},
+    {"unit", "y|q|mon|w|d|h|min", readUnit},
+    {"start", "DATE", readDate<&PlanOptions::startDate>},
+    {"finish", "DATE", readDate<&PlanOptions::finishDate>},
+    {"scale", "week/day", readScale},
+    {"unit-width", "PIXELS", readNumber<qint32, &PlanOptions::unitWidth, 1, 10000>},
+    {"auto-zoom", "yes|no", readFlag<&PlanOptions::autoZoom>},
+    {"auto-progress", "yes|no", readFlag<&PlanOptions::autoProgress>},
+    {"theme", "NUMBER", readNumber<qint32, &PlanOptions::theme, 0, 1000>},
+    {"baseline-cost", "NUMBER", readNumber<double, &PlanOptions::baselineCost, -most, most>},
 };
 }
 
@@ -154,8 +105,7 @@ bool setDays(Edit &edit)
     if (!workingtime::parseDays(edit.words.first(), written))
         return edit.refuse(t("'%1' are no weekdays").arg(edit.words.first()),
                            t("write it as Mon-Fri or Mon-Thu,Sat"));
-    return changeCalendar(
-        edit, [&] { std::copy(written.week.begin(), written.week.end(), edit.document.WorkDay); });
+    return edit.take(edit.edits.setWorkDays(written.week));
 }
 
 bool setHours(Edit &edit)
@@ -164,13 +114,10 @@ bool setHours(Edit &edit)
     if (!workingtime::parseHours(edit.words.first(), written))
         return edit.refuse(t("'%1' are no working hours").arg(edit.words.first()),
                            t("write it as 08:00-12:00,13:00-17:00"));
-    return changeCalendar(edit, [&] {
-        qDeleteAll(edit.document.workTimes);
-        edit.document.workTimes.clear();
-        for (const WorkingTime::Interval &interval : written.hours)
-            edit.document.workTimes.append(
-                new KWDayTime(quint32(interval.startSecs), quint32(interval.finishSecs)));
-    });
+    QVector<DayHours> hours;
+    for (const WorkingTime::Interval &interval : written.hours)
+        hours.append({quint32(interval.startSecs), quint32(interval.finishSecs)});
+    return edit.take(edit.edits.setWorkHours(hours));
 }
 
 bool addHoliday(Edit &edit)
@@ -188,15 +135,7 @@ bool removeException(Edit &edit)
     datetext::Moment moment;
     if (!datetext::parseMoment(edit.words.first(), moment))
         return edit.refuse(t("'%1' is not a date").arg(edit.words.first()), t("write it as 2026-02-28"));
-    QList<KWCalendar *> &calendars = edit.document.calendars;
-    const QDate date = moment.when.date();
-    for (int i = 0; i < calendars.size(); ++i) {
-        const KWCalendar *calendar = calendars.at(i);
-        if (!calendar->isException || date < calendar->startDate || date > calendar->finishDate)
-            continue;
-        return changeCalendar(edit, [&] { delete calendars.takeAt(i); });
-    }
-    return edit.refuse(t("no holiday or workday holds %1").arg(date.toString(Qt::ISODate)));
+    return edit.take(edit.edits.removeException(moment.when.date()));
 }
 
 QString optionsHelp()
@@ -212,41 +151,42 @@ bool setOptions(Edit &edit)
     QStringList names;
     for (const OptionField &option : optionTable)
         names.append(QLatin1String(option.name));
-    editline::Pairs values;
-    if (!editline::pairs(edit.words, names, values, edit.fault))
+    editline::Pairs pairs;
+    if (!editline::pairs(edit.words, names, pairs, edit.fault))
         return false;
-    for (const auto &[name, value] : values) {
+    PlanOptions options;
+    for (const auto &[name, text] : pairs) {
         const OptionField &option = optionTable[names.indexOf(name)];
-        if (!option.set(edit.document, value))
-            return edit.refuse(t("'%1' is no value for '%2'").arg(value, name),
+        if (!option.read(edit.document, text, options))
+            return edit.refuse(t("'%1' is no value for '%2'").arg(text, name),
                                t("possible: %1").arg(QLatin1String(option.value)));
     }
-    edit.document.taskCollection()->updateRageAndTaskPoint();
-    return true;
+    return edit.take(edit.edits.setOptions(options));
 }
 
 bool setColumn(Edit &edit)
 {
-    RowColumnData *table = edit.document.rowColumnData();
-    RowColumnData::ColumnData *column = table->getColumnDataByName(edit.words.first());
-    if (!column) {
+    const QString title = edit.words.first();
+    const QString what = edit.words.at(1);
+    const RowColumnData &table = *edit.document.rowColumnData();
+    if (!table.getColumnDataByName(title)) {
         QStringList titles;
-        for (const RowColumnData::ColumnData *each : table->columns())
+        for (const RowColumnData::ColumnData *each : table.columns())
             titles.append(each->title.value());
-        return edit.refuse(t("no column '%1'").arg(edit.words.first()),
+        return edit.refuse(t("no column '%1'").arg(title),
                            t("there are %1").arg(titles.join(QLatin1String(", "))));
     }
-    constexpr double widest = 10000;
-    const QString what = edit.words.at(1);
+    ColumnValues values;
     bool isWidth = false;
     const double width = what.toDouble(&isWidth);
-    if (isWidth && width > 0 && width <= widest)
-        column->width = width;
+    if (isWidth)
+        values.width = width;
     else if (what == QLatin1String("show") || what == QLatin1String("hide"))
-        column->isHide = what == QLatin1String("hide");
-    else
+        values.isHidden = what == QLatin1String("hide");
+    const EditAnswer answer = edit.edits.setColumn(title, values);
+    if ((!values.width && !values.isHidden) || !answer.isDone())
         return edit.refuse(t("'%1' is no value for a column").arg(what),
                            t("write show, hide or a width in pixels"));
-    return true;
+    return edit.take(answer);
 }
 }

@@ -1,8 +1,6 @@
 // Editing the resource sheet and assignments.
 #include "edit.h"
-#include "engine/record/resource.h"
 #include "model/kwtaskinfo.h"
-#include "resources/assignmentbatch.h"
 #include "resources/resourceinfodata.h"
 #include "sheettext.h"
 #include "taskref.h"
@@ -27,79 +25,74 @@ ResourceInfo *entryNamed(Edit &edit, const QString &name)
     return nullptr;
 }
 
-// What can be set of an entry. The change that its assignments are told of; -1: they have no such value.
-struct SheetField
-{
-    const char *name;
-    int change;
-    bool (*set)(ResourceInfo &, const QString &);
-    const char *hint;
-};
+using Values = ResourceValues;
 
-template <double ResourceEntry::*amount, qint32 ResourceEntry::*unit>
-bool setRate(ResourceInfo &entry, const QString &text)
+template <std::optional<double> Values::*amount, std::optional<qint32> Values::*unit>
+bool readRate(const QString &text, Values &values)
 {
     sheettext::Rate rate;
     if (!sheettext::parseRate(text, rate))
         return false;
-    entry.*amount = rate.amount;
-    entry.*unit = rate.unit;
+    values.*amount = rate.amount;
+    values.*unit = rate.unit;
     return true;
 }
 
-template <QString ResourceEntry::*member>
-bool setText(ResourceInfo &entry, const QString &text)
+// A value that one function parses.
+template <typename Value, std::optional<Value> Values::*member, bool (*parse)(const QString &, Value &)>
+bool readParsed(const QString &text, Values &values)
 {
-    entry.*member = text;
+    Value value{};
+    if (!parse(text, value))
+        return false;
+    values.*member = value;
     return true;
 }
 
-constexpr int nobody = -1;
+template <std::optional<QString> Values::*member>
+bool readText(const QString &text, Values &values)
+{
+    values.*member = text;
+    return true;
+}
 
-constexpr SheetField sheetFields[] = {
-    {"type", ResourceInfo::ChangeType,
-     [](ResourceInfo &entry, const QString &text) { return sheettext::parseType(text, entry.type); },
-     "write work or material"},
-    {"rate", ResourceInfo::ChangeCost, setRate<&ResourceInfo::cost, &ResourceInfo::costUnit>,
-     "write it as 50/h, 400/d, 8000/m, or 2.5 for a material"},
-    {"overtime", ResourceInfo::ChangeOvertimeUnit,
-     setRate<&ResourceInfo::overtimeCost, &ResourceInfo::overtimeUnit>, "write it as 70/h"},
-    {"per-use", ResourceInfo::ChangeCostPer,
-     [](ResourceInfo &entry, const QString &text) { return sheettext::parseMoney(text, entry.costPer); },
-     "write a number"},
-    {"units", nobody,
-     [](ResourceInfo &entry, const QString &text) { return sheettext::parseUnits(text, entry.unit); },
-     "write it as 200%"},
-    {"group", nobody, setText<&ResourceInfo::group>, ""},
-    {"email", nobody, setText<&ResourceInfo::email>, ""},
-    {"notes", nobody, setText<&ResourceInfo::notes>, ""},
+struct SheetField
+{
+    const char *name;
+    bool (*read)(const QString &, Values &);
+    const char *hint;
 };
 
-bool setFields(Edit &edit, ResourceInfo &entry, const QStringList &words)
+constexpr SheetField sheetFields[] = {
+    {"type", readParsed<qint32, &Values::type, sheettext::parseType>, "write work or material"},
+    {"rate", readRate<&Values::cost, &Values::costUnit>,
+     "write it as 50/h, 400/d, 8000/m, or 2.5 for a material"},
+    {"overtime", readRate<&Values::overtimeCost, &Values::overtimeUnit>, "write it as 70/h"},
+    {"per-use", readParsed<double, &Values::costPer, sheettext::parseMoney>, "write a number"},
+    {"units", readParsed<double, &Values::units, sheettext::parseUnits>, "write it as 200%"},
+    {"group", readText<&Values::group>, ""},
+    {"email", readText<&Values::email>, ""},
+    {"notes", readText<&Values::notes>, ""},
+};
+
+bool readFields(Edit &edit, const QStringList &words, Values &values)
 {
     QStringList names;
     for (const SheetField &field : sheetFields)
         names.append(QLatin1String(field.name));
-    editline::Pairs values;
-    if (!editline::pairs(words, names, values, edit.fault))
+    editline::Pairs pairs;
+    if (!editline::pairs(words, names, pairs, edit.fault))
         return false;
-    for (const auto &[name, value] : values) {
+    for (const auto &[name, text] : pairs) {
         const SheetField &field = sheetFields[names.indexOf(name)];
-        if (!field.set(entry, value))
-            return edit.refuse(t("'%1' is no value for '%2'").arg(value, name), t(field.hint));
-        if (field.change == nobody)
-            continue;
-        entry.changeAllTaskSameNameResource(&edit.document, ResourceInfo::ChangeVal(field.change));
-        if (field.change == ResourceInfo::ChangeCost)
-            entry.changeAllTaskSameNameResource(&edit.document, ResourceInfo::ChangeCostUnit);
+        if (!field.read(text, values))
+            return edit.refuse(t("'%1' is no value for '%2'").arg(text, name), t(field.hint));
     }
     return true;
 }
 
 bool isFree(Edit &edit, const QString &name)
 {
-    if (name.trimmed().isEmpty())
-        return edit.refuse(t("a resource needs a name"));
     return !edit.document.resourceInfoData()->getResourceInfoByName(name) ||
            edit.refuse(t("there is a resource '%1' already").arg(name.trimmed()),
                        t("'resource set' changes it"));
@@ -109,92 +102,55 @@ bool isFree(Edit &edit, const QString &name)
 bool addResource(Edit &edit)
 {
     const QString name = edit.words.first();
-    if (!isFree(edit, name))
-        return false;
-    ResourceInfoData *sheet = edit.document.resourceInfoData();
-    auto *entry = new ResourceInfo;
-    entry->ID = sheet->maxID();
-    entry->name = name;
-    sheet->appendResourceInfo(entry);
-    return setFields(edit, *entry, edit.words.mid(1));
+    Values values;
+    return isFree(edit, name) && readFields(edit, edit.words.mid(1), values) &&
+           edit.take(edit.edits.addResource(name, values));
 }
 
 bool setResource(Edit &edit)
 {
-    ResourceInfo *entry = entryNamed(edit, edit.words.first());
-    return entry && setFields(edit, *entry, edit.words.mid(1));
+    const ResourceInfo *entry = entryNamed(edit, edit.words.first());
+    Values values;
+    return entry && readFields(edit, edit.words.mid(1), values) &&
+           edit.take(edit.edits.setResource(entry->name, values));
 }
 
 bool removeResource(Edit &edit)
 {
     const ResourceInfo *entry = entryNamed(edit, edit.words.first());
-    if (!entry)
-        return false;
-    const QString name = entry->name;
-    AssignmentBatch batch(edit.document);
-    for (KWTaskInfo *task : edit.document.taskList()) {
-        bool changed = false;
-        while (Resource *assigned = task->getResourceByName(name)) {
-            task->resourceList.removeOne(assigned);
-            Resource::release(assigned);
-            changed = true;
-        }
-        if (changed)
-            batch.updateCostAndWork(*task);
-    }
-    edit.document.updateResourcesName();
-    edit.document.resourceInfoData()->deleteResourceByName(name);
-    return true;
+    return entry && edit.take(edit.edits.removeResource(entry->name));
 }
 
 bool renameResource(Edit &edit)
 {
-    ResourceInfo *entry = entryNamed(edit, edit.words.first());
+    const ResourceInfo *entry = entryNamed(edit, edit.words.first());
     const QString name = edit.words.at(1);
-    if (!entry || (entry->name.trimmed() != name.trimmed() && !isFree(edit, name)))
-        return false;
-    const QString before = entry->name;
-    entry->name = name;
-    edit.document.replaceTaskResourceName(before, name);
-    return true;
+    return entry && (entry->name.trimmed() == name.trimmed() || isFree(edit, name)) &&
+           edit.take(edit.edits.renameResource(entry->name, name));
 }
 
 bool assign(Edit &edit)
 {
-    KWTaskInfo *task = edit.task();
-    if (task->isParent())
-        return edit.refuse(t("%1 is a summary").arg(taskref::named(edit.document, task->ID)),
-                           t("assign resources to the tasks below it"));
-    const ResourceInfo *entry = entryNamed(edit, edit.words.first());
-    if (!entry)
+    const KWTaskInfo *task = edit.task();
+    const ResourceInfo *entry = task->isParent() ? nullptr : entryNamed(edit, edit.words.first());
+    if (!task->isParent() && !entry)
         return false;
-    double units = 1;
-    if (edit.words.size() > 1 && !sheettext::parseUnits(edit.words.at(1), units))
+    std::optional<double> units;
+    if (edit.words.size() > 1 && !sheettext::parseUnits(edit.words.at(1), units.emplace()))
         return edit.refuse(t("'%1' are no units").arg(edit.words.at(1)),
                            t("write 50% of the time, or a number of a material"));
-    task->addOrDelResourceByName(&edit.document, entry->name, true);
-    if (edit.words.size() > 1) {
-        task->getResourceByName(entry->name)->percent = units;
-        task->updateResourceWorkSecs(&edit.document);
-        task->updateCostAndWork(&edit.document);
-    }
-    return true;
+    return edit.take(edit.edits.assign(task->ID, edit.words.first(), units));
 }
 
 bool unassign(Edit &edit)
 {
-    KWTaskInfo *task = edit.task();
-    if (edit.words.isEmpty()) {
-        task->clearResources();
-        task->updateCostAndWork(&edit.document);
-        task->updateResourceName(&edit.document);
-        return true;
-    }
+    const KWTaskInfo *task = edit.task();
+    if (edit.words.isEmpty())
+        return edit.take(edit.edits.unassignAll({task->ID}));
     if (!task->getResourceByName(edit.words.first()))
         return edit.refuse(
             t("'%1' is not assigned to %2").arg(edit.words.first(), taskref::named(edit.document, task->ID)),
             task->isHaveResource() ? t("assigned are: %1").arg(task->Resources) : QString());
-    task->addOrDelResourceByName(&edit.document, edit.words.first(), false);
-    return true;
+    return edit.take(edit.edits.unassign(task->ID, edit.words.first()));
 }
 }

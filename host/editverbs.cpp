@@ -1,11 +1,18 @@
 #include "edit.h"
 #include "editing/actionmanager.h"
-#include "editing/clipbdmanager.h"
 #include "model/kwtaskinfo.h"
-#include "schedule/kwtaskcollection.h"
 #include "taskref.h"
 #include "texts.h"
-#include "textwidth.h"
+#include <algorithm>
+
+bool Edit::take(const EditAnswer &answer)
+{
+    if (!answer.isDone())
+        return refuse(answer.sentence(), answer.hint());
+    for (const EditLoss &loss : answer.losses)
+        lost.append(editverbs::lossText(document, loss));
+    return true;
+}
 
 namespace editverbs {
 
@@ -27,89 +34,48 @@ int rowOf(Edit &edit, quint32 id)
     return -1;
 }
 
-// Name and fields of a task just made.
-bool complete(Edit &edit, KWTaskInfo *task)
+// Whether all of them have a row.
+bool areShown(Edit &edit)
+{
+    return std::all_of(edit.tasks.begin(), edit.tasks.end(), [&](quint32 id) { return rowOf(edit, id) >= 0; });
+}
+
+// Name and fields of a task that is going to be made.
+bool readNew(Edit &edit, TaskValues &values)
 {
     QStringList words = edit.words;
-    editline::Pairs values;
+    editline::Pairs pairs;
     if (!words.isEmpty() && !editline::isPair(words.first(), taskFields()))
-        values.append({QStringLiteral("name"), words.takeFirst()});
-    edit.tasks = {task->ID};
-    return editline::pairs(words, taskFields(), values, edit.fault) && setTaskFields(edit, *task, values);
+        pairs.append({QStringLiteral("name"), words.takeFirst()});
+    return editline::pairs(words, taskFields(), pairs, edit.fault) &&
+           readTaskFields(edit, pairs, edit.document.ProjectUnit, values);
 }
 
 bool add(Edit &edit)
 {
-    return complete(edit, edit.document.addTaskInfo());
+    TaskValues values;
+    return readNew(edit, values) && edit.take(edit.edits.add(values));
 }
 
-bool insertAbove(Edit &edit)
+template <PlanEdits::Place place>
+bool insert(Edit &edit)
 {
-    const int row = rowOf(edit, edit.tasks.first());
-    return row >= 0 && complete(edit, edit.document.insertTaskByRow(row));
+    TaskValues values;
+    return areShown(edit) && readNew(edit, values) &&
+           edit.take(edit.edits.insert(edit.tasks.first(), place, values));
 }
 
-bool insertBelow(Edit &edit)
+// An operation on the named tasks.
+template <EditAnswer (PlanEdits::*operation)(const QVector<quint32> &)>
+bool onTasks(Edit &edit)
 {
-    const int row = rowOf(edit, edit.tasks.first());
-    return row >= 0 && complete(edit, edit.document.insertSubTaskByRow(row));
+    return edit.take((edit.edits.*operation)(edit.tasks));
 }
 
-using RowOperation = bool (*)(KWDocument &, int row);
-
-// One after the other; what a removal before it took along is gone.
-bool onRows(Edit &edit, RowOperation operation, const char *refusal, const char *hint)
+template <EditAnswer (PlanEdits::*operation)(const QVector<quint32> &)>
+bool onShownTasks(Edit &edit)
 {
-    for (const quint32 id : qAsConst(edit.tasks)) {
-        if (!edit.document.getTaskInfoByID(id))
-            continue;
-        const int row = rowOf(edit, id);
-        if (row < 0)
-            return false;
-        if (!operation(edit.document, row))
-            return edit.refuse(t(refusal).arg(taskref::named(edit.document, id)), t(hint));
-    }
-    return true;
-}
-
-bool removeTasks(Edit &edit)
-{
-    return onRows(
-        edit, [](KWDocument &d, int row) { return d.removeTaskByRow(row); }, "%1 cannot be removed", "");
-}
-
-bool indent(Edit &edit)
-{
-    return onRows(
-        edit, [](KWDocument &d, int row) { return d.indentTaskByRow(row); },
-        "%1 has no task before it on its level", "it becomes the last task below that one");
-}
-
-bool outdent(Edit &edit)
-{
-    return onRows(
-        edit, [](KWDocument &d, int row) { return d.outdentTaskByRow(row); },
-        "%1 is at the top level already", "only a task below a summary can move one level up");
-}
-
-bool expand(Edit &edit)
-{
-    for (int i = 0; i < edit.tasks.size(); ++i)
-        edit.document.expandTaskInfo(edit.task(i));
-    edit.document.taskCollection()->updateTaskPoint();
-    return true;
-}
-
-bool collapse(Edit &edit)
-{
-    for (int i = 0; i < edit.tasks.size(); ++i) {
-        if (!edit.task(i)->isParent())
-            return edit.refuse(t("%1 is no summary").arg(taskref::named(edit.document, edit.tasks.at(i))),
-                               t("only a task with tasks below it can be collapsed"));
-        edit.document.collapseTaskInfo(edit.task(i));
-    }
-    edit.document.taskCollection()->updateTaskPoint();
-    return true;
+    return areShown(edit) && onTasks<operation>(edit);
 }
 
 bool countOf(Edit &edit, int index, int &count)
@@ -126,125 +92,48 @@ bool move(Edit &edit)
     int places = 0;
     if (!up && edit.words.first() != QLatin1String("down"))
         return edit.refuse(t("'%1' is no direction").arg(edit.words.first()), t("write up or down"));
-    if (!countOf(edit, 1, places))
-        return false;
-    for (int i = 0; i < places; ++i) {
-        const int row = rowOf(edit, edit.tasks.first());
-        if (row < 0)
-            return false;
-        if ((up ? edit.document.moveUpByRow(row) : edit.document.moveDownByRow(row)) < 0)
-            return edit.refuse(
-                (up ? t("%1 has no task before it on its level") : t("%1 has no task after it on its level"))
-                    .arg(taskref::named(edit.document, edit.tasks.first())),
-                t("a task moves among the tasks of its summary"));
-    }
-    return true;
+    return countOf(edit, 1, places) && areShown(edit) &&
+           edit.take(edit.edits.move(edit.tasks.first(), up ? -places : places));
 }
 
-// ---- Values -----------------------------------------------------------------------------------------------
+// ---- Values -------------------------------------------------------------------------------------------
+
+bool setValues(Edit &edit, const editline::Pairs &pairs)
+{
+    const KWTaskInfo &task = *edit.task();
+    TaskValues values;
+    if (!readTaskFields(edit, pairs, task.DurationUnits, values))
+        return false;
+    const EditAnswer answer = edit.edits.set({task.ID}, values);
+    if (answer.refusal != EditRefusal::FinishBeforeStart)
+        return edit.take(answer);
+    const auto finish = std::find_if(pairs.begin(), pairs.end(), [](const auto &pair) {
+        return pair.first == QLatin1String("finish");
+    });
+    return edit.refuse(
+        t("'%1' lies before the start of %2").arg(finish->second, taskref::named(edit.document, task.ID)),
+        answer.hint());
+}
 
 bool rename(Edit &edit)
 {
-    return setTaskFields(edit, *edit.task(), {{QStringLiteral("name"), edit.words.first()}});
+    return setValues(edit, {{QStringLiteral("name"), edit.words.first()}});
 }
 
 bool set(Edit &edit)
 {
-    editline::Pairs values;
-    return editline::pairs(edit.words, taskFields(), values, edit.fault) &&
-           setTaskFields(edit, *edit.task(), values);
-}
-
-// ---- Links ------------------------------------------------------------------------------------------------
-
-bool link(Edit &edit)
-{
-    KWTaskCollection *collection = edit.document.taskCollection();
-    for (int i = 1; i < edit.tasks.size(); ++i) {
-        KWTaskInfo *before = edit.task(i - 1);
-        KWTaskInfo *after = edit.task(i);
-        KWTaskLink wanted{before->ID, after->ID, LinkRefusal::None, {}};
-        wanted.refusal = collection->linkRefusal(before, after, &wanted.ring);
-        if (wanted.refusal != LinkRefusal::None) {
-            const options::Fault why = taskref::refusal(edit.document, wanted);
-            return edit.refuse(taskref::named(edit.document, after->ID) + QLatin1String(": ") + why.what,
-                               why.hint);
-        }
-        collection->taskDependTask(before, after);
-        pushBehindPredecessors(edit.document, *after);
-    }
-    return true;
-}
-
-void cut(KWTaskInfo &before, KWTaskInfo &after)
-{
-    before.removeDependIDByID(after.ID);
-    after.removeDependOnIDByID(before.ID);
+    editline::Pairs pairs;
+    return editline::pairs(edit.words, taskFields(), pairs, edit.fault) && setValues(edit, pairs);
 }
 
 bool unlink(Edit &edit)
 {
-    KWTaskInfo *task = edit.task();
-    for (int i = 1; i < edit.tasks.size(); ++i) {
-        KWTaskInfo *after = edit.task(i);
-        if (!after->Predecessors.contains(edit.tasks.at(i - 1)))
-            return edit.refuse(t("%1 does not wait for %2")
-                                   .arg(taskref::named(edit.document, after->ID),
-                                        taskref::named(edit.document, edit.tasks.at(i - 1))));
-        cut(*edit.task(i - 1), *after);
-    }
-    if (edit.tasks.size() > 1)
-        return true;
-    const QList<quint32> before = task->Predecessors;
-    const QList<quint32> after = task->Depends;
-    for (const quint32 id : before)
-        if (KWTaskInfo *other = edit.document.getTaskInfoByID(id))
-            cut(*other, *task);
-    for (const quint32 id : after)
-        if (KWTaskInfo *other = edit.document.getTaskInfoByID(id))
-            cut(*task, *other);
-    return true;
-}
-
-// ---- The whole plan ---------------------------------------------------------------------------------------
-
-void setBaseline(KWTaskInfo &task, bool keep)
-{
-    constexpr int digits = 15;
-    task.BaseStart = keep ? task.Start : 0;
-    task.BaseFinish = keep ? task.Finish : 0;
-    task.BaselineCost = keep ? QString::number(task.Cost, 'g', digits) : QString();
-}
-
-// Of all tasks, or of the named ones with what lies below them.
-bool changeBaseline(Edit &edit, bool keep)
-{
-    if (edit.tasks.isEmpty()) {
-        for (KWTaskInfo *task : edit.document.taskList())
-            setBaseline(*task, keep);
-        edit.document.BaselineCost = keep ? edit.document.getToltalCost() : 0;
-        return true;
-    }
-    for (const quint32 id : qAsConst(edit.tasks)) {
-        KWTaskInfo *task = edit.document.getTaskInfoByID(id);
-        const double before = task->BaselineCost.toDouble();
-        QList<quint32> branch{id};
-        edit.document.taskCollection()->subIDListByTask(task, branch);
-        for (const quint32 each : qAsConst(branch))
-            setBaseline(*edit.document.getTaskInfoByID(each), keep);
-        task->updateParentStrBaseCost(&edit.document, task->BaselineCost.toDouble() - before);
-        task->updateParentBaselineStartAndFinish(&edit.document);
-    }
-    return true;
+    return edit.take(edit.tasks.size() > 1 ? edit.edits.unlink(edit.tasks) : edit.edits.unlinkAll(edit.tasks));
 }
 
 bool schedule(Edit &edit)
 {
-    KWTaskCollection *collection = edit.document.taskCollection();
-    collection->updateOptionTaskTime();
-    collection->pushAllSuccessors();
-    collection->updateOptionTaskTime();
-    return true;
+    return edit.take(edit.edits.schedule(PlanEdits::AsGiven));
 }
 
 // ---- Going back, and the clipboard ------------------------------------------------------------------------
@@ -274,62 +163,21 @@ bool redo(Edit &edit)
     return true;
 }
 
-bool rowsOf(Edit &edit, QList<int> &rows)
-{
-    for (const quint32 id : qAsConst(edit.tasks)) {
-        rows.append(rowOf(edit, id));
-        if (rows.last() < 0)
-            return false;
-    }
-    return true;
-}
-
-bool copy(Edit &edit)
-{
-    QList<int> rows;
-    return rowsOf(edit, rows) &&
-           (edit.document.clipbdManager().copy(rows) || edit.refuse(t("the tasks cannot be copied")));
-}
-
-bool cutBranches(Edit &edit)
-{
-    QList<int> rows;
-    return rowsOf(edit, rows) &&
-           (edit.document.clipbdManager().cut(rows) || edit.refuse(t("the tasks cannot be cut")));
-}
-
-bool isPasted(Edit &edit, bool isDone)
-{
-    return isDone || edit.refuse(t("nothing to paste"), t("copy or cut tasks first"));
-}
-
 bool paste(Edit &edit)
 {
-    const int row = edit.tasks.isEmpty() ? -1 : rowOf(edit, edit.tasks.first());
-    if (!edit.tasks.isEmpty() && row < 0)
-        return false;
-    return isPasted(edit, edit.document.clipbdManager().paste(row));
+    return areShown(edit) && edit.take(edit.tasks.isEmpty()
+                                           ? edit.edits.paste()
+                                           : edit.edits.paste(edit.tasks.first(), PlanEdits::Above));
 }
 
 bool pasteUnder(Edit &edit)
 {
-    const int row = rowOf(edit, edit.tasks.first());
-    return row >= 0 && isPasted(edit, edit.document.clipbdManager().pasteUnder(row));
+    return areShown(edit) && edit.take(edit.edits.paste(edit.tasks.first(), PlanEdits::LastChild));
 }
 
 // ---- The table --------------------------------------------------------------------------------------------
 
 enum TaskArguments { NoTask, MaybeTask, OneTask, TaskAndMore, SomeTasks, AnyTasks };
-
-// What an edit changes, and so what is kept of before it.
-enum Backup : unsigned {
-    Nothing = 0,
-    AllTasks = 1, // the list, with everything in it
-    Affected = 2, // the named tasks with what they can push, and their summaries
-    Sheet = 4,    // the resource sheet with all assignments
-    Settings = 8, // calendar and options
-    Columns = 16,
-};
 
 struct Verb
 {
@@ -337,7 +185,6 @@ struct Verb
     TaskArguments tasks;
     int least; // words behind the tasks
     int most;  // -1: any number
-    unsigned backup;
     bool (*run)(Edit &);
     const char *arguments;
     const char *meaning;
@@ -346,60 +193,58 @@ struct Verb
 constexpr int any = -1;
 
 constexpr Verb verbs[] = {
-    {"add", NoTask, 0, any, AllTasks, add, "[NAME] [FIELD=VALUE...]",
+    {"add", NoTask, 0, any, add, "[NAME] [FIELD=VALUE...]",
      "a task at the end, beside the last one"},
-    {"insert", OneTask, 0, any, AllTasks, insertAbove, "TASK [NAME] [FIELD=VALUE...]", "a task above TASK"},
-    {"sub", OneTask, 0, any, AllTasks, insertBelow, "TASK [NAME] [FIELD=VALUE...]",
+    {"insert", OneTask, 0, any, insert<PlanEdits::Above>, "TASK [NAME] [FIELD=VALUE...]", "a task above TASK"},
+    {"sub", OneTask, 0, any, insert<PlanEdits::FirstChild>, "TASK [NAME] [FIELD=VALUE...]",
      "a task as the first one below TASK"},
-    {"remove", SomeTasks, 0, 0, AllTasks, removeTasks, "TASK...",
+    {"remove", SomeTasks, 0, 0, onShownTasks<&PlanEdits::remove>, "TASK...",
      "a collapsed summary goes with what is below it, the tasks below another one move up"},
-    {"indent", SomeTasks, 0, 0, AllTasks, indent, "TASK...", "below the task before it"},
-    {"outdent", SomeTasks, 0, 0, AllTasks, outdent, "TASK...",
+    {"indent", SomeTasks, 0, 0, onShownTasks<&PlanEdits::indent>, "TASK...", "below the task before it"},
+    {"outdent", SomeTasks, 0, 0, onShownTasks<&PlanEdits::outdent>, "TASK...",
      "one level up; the tasks that follow it on its level go below it"},
-    {"move", OneTask, 1, 2, AllTasks, move, "TASK up|down [N]", "among the tasks of its summary"},
-    {"expand", SomeTasks, 0, 0, AllTasks, expand, "TASK...", "shows what is below"},
-    {"collapse", SomeTasks, 0, 0, AllTasks, collapse, "TASK...", "hides what is below"},
-    {"rename", OneTask, 1, 1, Affected, rename, "TASK NAME", ""},
-    {"set", OneTask, 1, any, Affected, set, "TASK FIELD=VALUE...",
+    {"move", OneTask, 1, 2, move, "TASK up|down [N]", "among the tasks of its summary"},
+    {"expand", SomeTasks, 0, 0, onTasks<&PlanEdits::expand>, "TASK...", "shows what is below"},
+    {"collapse", SomeTasks, 0, 0, onTasks<&PlanEdits::collapse>, "TASK...", "hides what is below"},
+    {"rename", OneTask, 1, 1, rename, "TASK NAME", ""},
+    {"set", OneTask, 1, any, set, "TASK FIELD=VALUE...",
      "dates push what waits for the task; the fields are listed below"},
-    {"link", TaskAndMore, 0, 0, Affected, link, "TASK TASK...", "each one waits for the one before it"},
-    {"unlink", SomeTasks, 0, 0, Affected, unlink, "TASK [TASK...]",
+    {"link", TaskAndMore, 0, 0, onTasks<&PlanEdits::link>, "TASK TASK...", "each one waits for the one before it"},
+    {"unlink", SomeTasks, 0, 0, unlink, "TASK [TASK...]",
      "the links from each to the next; of one task, all its links"},
-    {"assign", OneTask, 1, 2, Affected, assign, "TASK RESOURCE [UNITS]",
+    {"assign", OneTask, 1, 2, assign, "TASK RESOURCE [UNITS]",
      "UNITS: 50% of the time, or a number of a material"},
-    {"unassign", OneTask, 0, 1, Affected, unassign, "TASK [RESOURCE]", "one resource, or all"},
-    {"resource add", NoTask, 1, any, Sheet, addResource, "NAME [FIELD=VALUE...]",
+    {"unassign", OneTask, 0, 1, unassign, "TASK [RESOURCE]", "one resource, or all"},
+    {"resource add", NoTask, 1, any, addResource, "NAME [FIELD=VALUE...]",
      "type=work|material rate=50/h overtime=70/h per-use=20 units=100% group= email= notes="},
-    {"resource set", NoTask, 2, any, AllTasks | Sheet, setResource, "NAME FIELD=VALUE...",
+    {"resource set", NoTask, 2, any, setResource, "NAME FIELD=VALUE...",
      "the assignments follow"},
-    {"resource remove", NoTask, 1, 1, AllTasks | Sheet, removeResource, "NAME", "with its assignments"},
-    {"resource rename", NoTask, 2, 2, AllTasks | Sheet, renameResource, "NAME NAME",
+    {"resource remove", NoTask, 1, 1, removeResource, "NAME", "with its assignments"},
+    {"resource rename", NoTask, 2, 2, renameResource, "NAME NAME",
      "the assignments follow"},
-    {"calendar days", NoTask, 1, 1, AllTasks | Settings, setDays, "Mon-Fri",
+    {"calendar days", NoTask, 1, 1, setDays, "Mon-Fri",
      "tasks keep their working time and move off the days off"},
-    {"calendar hours", NoTask, 1, 1, AllTasks | Settings, setHours, "08:00-12:00,13:00-17:00", ""},
-    {"calendar holiday", NoTask, 1, 2, AllTasks | Settings, addHoliday, "DATE[..DATE] [NAME]", "days off"},
-    {"calendar workday", NoTask, 1, 2, AllTasks | Settings, addWorkday, "DATE[..DATE] [NAME]",
+    {"calendar hours", NoTask, 1, 1, setHours, "08:00-12:00,13:00-17:00", ""},
+    {"calendar holiday", NoTask, 1, 2, addHoliday, "DATE[..DATE] [NAME]", "days off"},
+    {"calendar workday", NoTask, 1, 2, addWorkday, "DATE[..DATE] [NAME]",
      "days that work, whatever the week says"},
-    {"calendar remove", NoTask, 1, 1, AllTasks | Settings, removeException, "DATE",
+    {"calendar remove", NoTask, 1, 1, removeException, "DATE",
      "the holiday or workday that holds the date"},
-    {"option", NoTask, 1, any, AllTasks | Settings, setOptions, "OPTION=VALUE...",
+    {"option", NoTask, 1, any, setOptions, "OPTION=VALUE...",
      "the options are listed below"},
-    {"column", NoTask, 2, 2, Columns, setColumn, "TITLE show|hide|PIXELS", "a column of the task table"},
-    {"baseline set", AnyTasks, 0, 0, AllTasks | Settings,
-     [](Edit &edit) { return changeBaseline(edit, true); }, "[TASK...]",
+    {"column", NoTask, 2, 2, setColumn, "TITLE show|hide|PIXELS", "a column of the task table"},
+    {"baseline set", AnyTasks, 0, 0, onTasks<&PlanEdits::setBaseline>, "[TASK...]",
      "remembers dates and cost, of all tasks or of branches"},
-    {"baseline clear", AnyTasks, 0, 0, AllTasks | Settings,
-     [](Edit &edit) { return changeBaseline(edit, false); }, "[TASK...]", ""},
-    {"schedule", NoTask, 0, 0, AllTasks, schedule, "", "moves every task behind its predecessors"},
-    {"copy", SomeTasks, 0, 0, Nothing, copy, "TASK...", "the tasks with all that is below them"},
-    {"cut", SomeTasks, 0, 0, AllTasks, cutBranches, "TASK...", "the same, and removes them"},
-    {"paste", MaybeTask, 0, 0, AllTasks | Columns, paste, "[TASK]",
+    {"baseline clear", AnyTasks, 0, 0, onTasks<&PlanEdits::clearBaseline>, "[TASK...]", ""},
+    {"schedule", NoTask, 0, 0, schedule, "", "moves every task behind its predecessors"},
+    {"copy", SomeTasks, 0, 0, onShownTasks<&PlanEdits::copy>, "TASK...", "the tasks with all that is below them"},
+    {"cut", SomeTasks, 0, 0, onShownTasks<&PlanEdits::cut>, "TASK...", "the same, and removes them"},
+    {"paste", MaybeTask, 0, 0, paste, "[TASK]",
      "above TASK, or at the end, with new IDs and names"},
-    {"paste under", OneTask, 0, 0, AllTasks | Columns, pasteUnder, "TASK",
+    {"paste under", OneTask, 0, 0, pasteUnder, "TASK",
      "the same as the last tasks below TASK; hidden when it is collapsed"},
-    {"undo", NoTask, 0, 1, Nothing, undo, "[N]", "takes the last N edits back, of the 60 that are kept"},
-    {"redo", NoTask, 0, 1, Nothing, redo, "[N]", "makes them again"},
+    {"undo", NoTask, 0, 1, undo, "[N]", "takes the last N edits back, of the 60 that are kept"},
+    {"redo", NoTask, 0, 1, redo, "[N]", "makes them again"},
 };
 
 // "resource add" is one verb in two words.
@@ -420,29 +265,6 @@ QStringList verbNames()
     for (const Verb &verb : verbs)
         names.append(QLatin1String(verb.name));
     return names;
-}
-
-int codeOf(const Verb &verb)
-{
-    return int(&verb - verbs) + 1;
-}
-
-// Keeps what the verb is going to change.
-void record(const Verb &verb, const Edit &edit)
-{
-    if (verb.backup == Nothing)
-        return;
-    ActionManager::preUndoAction(&edit.document, codeOf(verb), 0);
-    if (verb.backup & AllTasks)
-        ActionManager::backAllTaskData();
-    for (int i = 0; (verb.backup & Affected) && i < edit.tasks.size(); ++i)
-        ActionManager::backupAffected(edit.task(i));
-    if (verb.backup & Sheet)
-        ActionManager::backupAllDocResources();
-    if (verb.backup & Settings)
-        ActionManager::backupAllOption();
-    if (verb.backup & Columns)
-        ActionManager::backupAllColData();
 }
 
 QString usage(const Verb &verb)
@@ -478,7 +300,25 @@ bool takeTasks(const Verb &verb, Edit &edit)
 }
 }
 
-bool run(Plan &plan, const QStringList &words, options::Fault &fault)
+QString lossText(const KWDocument &document, const EditLoss &loss)
+{
+    const KWTaskInfo *task = document.getTaskInfoByID(loss.task);
+    const QString name = taskref::named(document, loss.task);
+    const bool isSummary = task && task->isParent();
+    switch (loss.kind) {
+    case EditLoss::Assignment:
+        return (isSummary ? t("%1 is a summary now and loses its resource '%2'") : t("%1 loses its resource '%2'"))
+            .arg(name, loss.name);
+    case EditLoss::Baseline:
+        return t("%1 is a summary now and loses its baseline").arg(name);
+    case EditLoss::Link:
+        break;
+    }
+    return t("%1 does not wait for %2 any more: they would wait for each other")
+        .arg(name, taskref::named(document, loss.other));
+}
+
+bool run(Plan &plan, const QStringList &words, options::Fault &fault, QStringList &lost)
 {
     int length = 0;
     const Verb *verb = verbNamed(words, length);
@@ -491,20 +331,9 @@ bool run(Plan &plan, const QStringList &words, options::Fault &fault)
                                  : t("did you mean '%1'? 'kwgantt help edit' lists all edits").arg(guess)};
         return false;
     }
-    Edit edit{plan, *plan.document, {}, words.mid(length), fault};
-    if (!takeTasks(*verb, edit))
-        return false;
-    record(*verb, edit);
-    if (!verb->run(edit))
-        return false;
-    ActionManager::addUndoAction();
-    return true;
-}
-
-void fillUndoNames()
-{
-    for (const Verb &verb : verbs)
-        ActionManager::s_undoString.insert(codeOf(verb), QLatin1String(verb.name));
+    PlanEdits edits(*plan.document, QLatin1String(verb->name));
+    Edit edit{plan, *plan.document, edits, {}, words.mid(length), fault, lost};
+    return takeTasks(*verb, edit) && verb->run(edit);
 }
 
 QVector<VerbInfo> all()

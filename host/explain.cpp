@@ -1,12 +1,11 @@
 #include "explain.h"
 #include "datetext.h"
+#include "edits/planreasons.h"
 #include "machine.h"
 #include "model/kwtaskinfo.h"
 #include "shown.h"
 #include "texts.h"
 #include "textwidth.h"
-#include <QSet>
-#include <algorithm>
 
 namespace explain {
 
@@ -16,13 +15,6 @@ constexpr unsigned int day = 4;
 constexpr int mostListed = 3;   // of things that a sentence counts up
 constexpr int longestChain = 6; // tasks in "holds up"
 
-// A task that another waits for, directly or through a summary that holds the waiting one.
-struct Reason
-{
-    int pos;
-    int throughSummary; // -1: linked directly
-};
-
 class Explainer
 {
 public:
@@ -31,8 +23,8 @@ public:
         , m_times(plan)
         , m_pos(pos)
         , m_task(plan.task(pos))
+        , m_reasons(planreasons::of(*plan.document, m_task->ID, longestChain + 1))
     {
-        collectReasons();
     }
 
     QVector<Line> run() const
@@ -48,7 +40,7 @@ public:
         if (!moved().isEmpty())
             lines.append({t("moved"), "moved", moved()});
         lines.append({t("critical"), "critical", critical()});
-        if (!m_task->isParent() || !m_task->Depends.isEmpty())
+        if (!m_task->isParent() || m_reasons.successorCount > 0)
             lines.append({t("holds up"), "holdsUp", holdsUp()});
         return lines;
     }
@@ -74,33 +66,6 @@ private:
         return QString::number(qAbs(plan::workingMinutes(m_plan, from, to))) + QLatin1String(" min");
     }
 
-    void collectReasons()
-    {
-        QSet<int> seen;
-        QSet<quint32> above;
-        for (const KWTaskInfo *holder = m_task; holder && !above.contains(holder->ID);
-             holder = holder->ParentID ? m_plan.document->getTaskInfoByID(holder->ParentID) : nullptr) {
-            above.insert(holder->ID);
-            for (const quint32 id : holder->Predecessors) {
-                const int pos = m_plan.posOf(id);
-                if (pos < 0 || seen.contains(pos))
-                    continue;
-                seen.insert(pos);
-                m_reasons.push_back({pos, holder == m_task ? -1 : m_plan.posOf(holder->ID)});
-            }
-        }
-        // The last to finish first; equal ones in the order of the list.
-        std::stable_sort(m_reasons.begin(), m_reasons.end(), [this](const Reason &a, const Reason &b) {
-            return m_plan.task(a.pos)->Finish > m_plan.task(b.pos)->Finish;
-        });
-    }
-
-    bool isDriven() const
-    {
-        return !m_reasons.empty() &&
-               plan::workingMinutes(m_plan, m_plan.task(m_reasons.front().pos)->Finish, m_task->Start) <= 0;
-    }
-
     QString heading() const
     {
         const shown::Clock &start = m_times.start(m_pos);
@@ -120,12 +85,13 @@ private:
     QString startsWhen() const
     {
         const shown::Clock start = m_times.start(m_pos);
-        if (isDriven()) {
-            const Reason &driver = m_reasons.front();
-            QString text = t("%1 finishes (%2)").arg(named(driver.pos), moment(m_times.finish(driver.pos)));
-            if (driver.throughSummary >= 0)
-                text += t(", which its summary %1 waits for").arg(named(driver.throughSummary));
-            if (start != m_times.finish(driver.pos))
+        if (m_reasons.isDriven()) {
+            const planreasons::Waiting &driver = m_reasons.waitsFor.first();
+            const int pos = m_plan.posOf(driver.predecessor);
+            QString text = t("%1 finishes (%2)").arg(named(pos), moment(m_times.finish(pos)));
+            if (driver.summary != 0)
+                text += t(", which its summary %1 waits for").arg(named(m_plan.posOf(driver.summary)));
+            if (start != m_times.finish(pos))
                 text += t("; next working moment is %1").arg(moment(start));
             return text;
         }
@@ -136,26 +102,25 @@ private:
 
     QString couldStart() const
     {
-        if (m_reasons.empty())
+        const QVector<planreasons::Waiting> &reasons = m_reasons.waitsFor;
+        if (reasons.isEmpty())
             return t("at any time: it waits for no other task");
-        const Reason &last = m_reasons.front();
-        if (!isDriven())
+        const int last = m_plan.posOf(reasons.first().predecessor);
+        if (!m_reasons.isDriven())
             return t("%1 earlier: %2 finishes on %3")
-                .arg(length(m_plan.task(last.pos)->Finish, m_task->Start), named(last.pos),
-                     moment(m_times.finish(last.pos)));
-        QString text = t("no earlier: %1 drives it").arg(named(last.pos));
-        for (std::size_t i = 1; i < m_reasons.size(); ++i) {
-            if (int(i) > mostListed) {
-                text += QLatin1String("; ") + t("%1 more").arg(m_reasons.size() - i);
+                .arg(length(m_plan.task(last)->Finish, m_task->Start), named(last),
+                     moment(m_times.finish(last)));
+        QString text = t("no earlier: %1 drives it").arg(named(last));
+        for (int i = 1; i < reasons.size(); ++i) {
+            if (i > mostListed) {
+                text += QLatin1String("; ") + t("%1 more").arg(reasons.size() - i);
                 break;
             }
-            const quint32 finish = m_plan.task(m_reasons[i].pos)->Finish;
-            const bool drives = plan::workingMinutes(m_plan, finish, m_task->Start) <= 0;
-            text +=
-                QLatin1String("; ") +
-                (drives
-                     ? t("%1 drives it, too").arg(named(m_reasons[i].pos))
-                     : t("%1 has %2 to spare").arg(named(m_reasons[i].pos), length(finish, m_task->Start)));
+            const int pos = m_plan.posOf(reasons.at(i).predecessor);
+            text += QLatin1String("; ") +
+                    (reasons.at(i).isDriving
+                         ? t("%1 drives it, too").arg(named(pos))
+                         : t("%1 has %2 to spare").arg(named(pos), length(m_plan.task(pos)->Finish, m_task->Start)));
         }
         return text;
     }
@@ -187,24 +152,10 @@ private:
     QStringList daysOff() const
     {
         QStringList runs;
-        int left = 0;
-        const QDate last = m_times.finish(m_pos).date;
-        for (QDate date = m_times.start(m_pos).date; date <= last; date = date.addDays(1)) {
-            if (KWTaskInfo::isWorkday(m_plan.document.get(), date.startOfDay()))
-                continue;
-            const bool usual = isUsuallyOff(date);
-            QDate end = date;
-            while (end < last && !KWTaskInfo::isWorkday(m_plan.document.get(), end.addDays(1).startOfDay()) &&
-                   isUsuallyOff(end.addDays(1)) == usual)
-                end = end.addDays(1);
-            if (runs.size() == mostListed)
-                ++left;
-            else
-                runs.append(runText(date, end, usual));
-            date = end;
-        }
-        if (left)
-            runs.append(t("%1 more").arg(left));
+        for (const planreasons::DaysOff &run : m_reasons.daysOff.mid(0, mostListed))
+            runs.append(runText(run.from, run.to, run.isUsual));
+        if (m_reasons.daysOff.size() > mostListed)
+            runs.append(t("%1 more").arg(m_reasons.daysOff.size() - mostListed));
         return runs;
     }
 
@@ -214,11 +165,6 @@ private:
             return parts.join(QString());
         return t("%1 and %2")
             .arg(QStringList(parts.mid(0, parts.size() - 1)).join(QLatin1String(", ")), parts.last());
-    }
-
-    bool isUsuallyOff(const QDate &date) const
-    {
-        return !m_plan.workingTime.week[std::size_t(date.dayOfWeek() - 1)];
     }
 
     static QString runText(const QDate &first, const QDate &last, bool usual)
@@ -234,22 +180,11 @@ private:
 
     QString spans() const
     {
-        int first = -1;
-        int last = -1;
-        for (const quint32 id : m_task->Childs) {
-            const int pos = m_plan.posOf(id);
-            if (pos < 0)
-                continue;
-            if (first < 0 || m_plan.task(pos)->Start < m_plan.task(first)->Start)
-                first = pos;
-            if (last < 0 || m_plan.task(pos)->Finish > m_plan.task(last)->Finish)
-                last = pos;
-        }
-        if (first < 0)
+        if (m_reasons.firstChild == 0)
             return t("nothing: it holds no task");
         return t("%1; from %2 to %3")
             .arg(counted(m_task->Childs.size(), "%1 task right below it", "%1 tasks right below it"),
-                 named(first), named(last));
+                 named(m_plan.posOf(m_reasons.firstChild)), named(m_plan.posOf(m_reasons.lastChild)));
     }
 
     QString moved() const
@@ -280,38 +215,17 @@ private:
             .arg(m_task->LateSlack, moment(m_times.lateFinish(m_pos)));
     }
 
-    // The successor with the least to spare.
-    int nextInChain(int pos) const
-    {
-        int next = -1;
-        for (const quint32 id : m_plan.task(pos)->Depends) {
-            const int candidate = m_plan.posOf(id);
-            if (candidate >= 0 && (next < 0 || slackMinutes(candidate) < slackMinutes(next)))
-                next = candidate;
-        }
-        return next;
-    }
-
-    qint64 slackMinutes(int pos) const
-    {
-        return plan::workingMinutes(m_plan, m_plan.task(pos)->Finish, m_plan.task(pos)->LateFinish);
-    }
-
     QString holdsUp() const
     {
         QStringList chain;
-        QSet<int> seen{m_pos};
-        int pos = nextInChain(m_pos);
-        for (; pos >= 0 && !seen.contains(pos) && chain.size() < longestChain; pos = nextInChain(pos)) {
-            seen.insert(pos);
-            chain.append(named(pos));
-        }
+        for (const quint32 id : m_reasons.chain.mid(0, longestChain))
+            chain.append(named(m_plan.posOf(id)));
         if (chain.isEmpty())
             return t("nothing: no task waits for it");
         QString text = chain.join(QLatin1String(" -> "));
-        if (pos >= 0 && chain.size() == longestChain)
+        if (m_reasons.chain.size() > longestChain)
             text += QLatin1String(" -> ...");
-        const int others = m_task->Depends.size() - 1;
+        const int others = m_reasons.successorCount - 1;
         if (others > 0)
             text += counted(others, "; %1 more task waits for it", "; %1 more tasks wait for it");
         return text;
@@ -321,7 +235,7 @@ private:
     shown::Times m_times;
     int m_pos;
     const KWTaskInfo *m_task;
-    std::vector<Reason> m_reasons;
+    planreasons::Reasons m_reasons;
 };
 
 QVector<int> withName(const Plan &plan, const std::function<bool(const QString &)> &fits)

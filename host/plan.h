@@ -66,8 +66,6 @@ void schedule(Plan &plan, Beginning beginning, const Plan::Progress &progress);
 void refresh(Plan &plan, const Plan::Progress &progress);
 // Slack is measured in the minor unit of the chart: 4 day, 5 hour, 6 minute.
 void countSlackIn(Plan &plan, unsigned int unit);
-// How many tasks begin before a predecessor ends.
-int countEarlyTasks(const Plan &plan);
 
 // The project's ends on the day clock; 0 without tasks.
 quint32 firstStart(const Plan &plan);

@@ -4,7 +4,6 @@
 #include "completions.h"
 #include "diff.h"
 #include "edit.h"
-#include "editing/clipbdmanager.h"
 #include "format/dataformat.h"
 #include "kwfilepathmanager.h"
 #include "kwpxfile.h"
@@ -25,14 +24,27 @@ namespace {
 // Runs edits on a plan; false after telling what is wrong.
 bool runEdits(Console &console, Plan &plan, const std::vector<QStringList> &edits)
 {
+    QStringList lost;
     for (const QStringList &words : edits) {
         options::Fault fault;
-        if (!editverbs::run(plan, words, fault)) {
+        if (!editverbs::run(plan, words, fault, lost)) {
             console.error(plan.file + QLatin1String(": ") + fault.what, fault.hint);
             return false;
         }
     }
+    tellLost(console, plan, lost);
     return true;
+}
+
+// The task that the words mean; 0 after telling what is wrong.
+quint32 taskNamed(Console &console, const Plan &plan, const QString &words)
+{
+    options::Fault fault;
+    const int pos = taskref::find(plan, words, fault);
+    if (pos >= 0)
+        return plan.task(pos)->ID;
+    console.error(plan.file + QLatin1String(": ") + fault.what, fault.hint);
+    return 0;
 }
 
 // A small project that shows what a plan can hold.
@@ -184,18 +196,30 @@ int copyBranch(Console &console)
         return code;
     if (const int code = loadForChange(console, target, into))
         return code;
-    QStringList words{QStringLiteral("copy")};
-    words += options.arguments.mid(1, options.arguments.size() - 2);
-    if (!runEdits(console, from, {words}))
+    QVector<quint32> branches;
+    for (const QString &words : options.arguments.mid(1, options.arguments.size() - 2)) {
+        branches.append(taskNamed(console, from, words));
+        if (branches.last() == 0)
+            return Console::WrongUse;
+    }
+    const QString beside = options.before.isEmpty() ? options.under : options.before;
+    const quint32 place = beside.isEmpty() ? 0 : taskNamed(console, into, beside);
+    if (!beside.isEmpty() && place == 0)
         return Console::WrongUse;
-    QStringList paste{QStringLiteral("paste")};
-    if (!options.before.isEmpty())
-        paste.append(options.before);
-    else if (!options.under.isEmpty())
-        paste += {QStringLiteral("under"), options.under};
     const int count = into.taskCount();
-    if (!runEdits(console, into, {paste}))
+    PlanEdits edits(*into.document, t("copy branch"));
+    const EditAnswer answer =
+        place == 0 ? edits.copyBranches(*from.document, branches)
+                   : edits.copyBranches(*from.document, branches, place,
+                                        options.before.isEmpty() ? PlanEdits::LastChild : PlanEdits::Above);
+    if (!answer.isDone()) {
+        console.error(into.file + QLatin1String(": ") + answer.sentence(), answer.hint());
         return Console::WrongUse;
+    }
+    QStringList lost;
+    for (const EditLoss &loss : answer.losses)
+        lost.append(editverbs::lossText(*into.document, loss));
+    tellLost(console, into, lost);
     return writeChanged(console, into,
                         counted(into.taskCount() - count, "%1 task copied", "%1 tasks copied"));
 }

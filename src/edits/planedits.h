@@ -1,4 +1,5 @@
 #pragma once
+#include "editing/kwhyperlink.h"
 #include "edits/editanswer.h"
 #include "engine/network/linkrefusal.h"
 #include "kwgantt_export.h"
@@ -11,7 +12,6 @@
 #include <optional>
 
 class KWDocument;
-class KWHyperlink;
 struct EditStep;
 
 // What a user does to a plan, one call for each thing.
@@ -101,6 +101,21 @@ struct ColumnValues
     std::optional<double> width; // pixels at the current screen scale
 };
 
+// Options of the plan; what is not set stays.
+struct PlanOptions
+{
+    std::optional<quint32> projectUnit; // of new tasks' lengths, as in TaskLength
+    std::optional<quint32> startDate;   // day clock; 0: none
+    std::optional<quint32> finishDate;
+    std::optional<quint32> majorUnit; // of the chart's head: 0 year, 1 quarter, 2 month, 3 week
+    std::optional<quint32> minorUnit; // as in TaskLength, smaller than the major one
+    std::optional<qint32> unitWidth;  // pixels of a minor unit, 1..10000
+    std::optional<bool> autoZoom;
+    std::optional<bool> autoProgress;
+    std::optional<qint32> theme;
+    std::optional<double> baselineCost;
+};
+
 class KWGANTT_EXPORT PlanEdits
 {
 public:
@@ -177,6 +192,7 @@ public:
     // cost as they are become the baseline, of the tasks and of all below them; of all tasks without any.
     EditAnswer setBaseline(const QVector<quint32> &ids = {});
     EditAnswer clearBaseline(const QVector<quint32> &ids = {});
+    EditAnswer setOptions(const PlanOptions &options);
     // Pushes every task behind its predecessors. As soon as possible: after putting all tasks to the
     // beginning, the project's first start when it is 0. answer.moves has each task that moved.
     EditAnswer schedule(Beginning beginning, quint32 projectStart = 0);

@@ -1,14 +1,14 @@
 // Values of tasks, links between them, and what the whole plan takes: baselines, scheduling, columns.
 #include "edits/oneedit.h"
 #include "edits/planedits.h"
+#include "edits/starttogether.h"
 #include "edits/taskvalues.h"
 #include "engine/cost/baselines.h"
 #include "engine/network/rollup.h"
-#include "engine/time/dayoff.h"
+#include "engine/time/duration.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
-#include "support/kwclock.h"
 #include "table/rowcolumndata.h"
 #include <algorithm>
 #include <cmath>
@@ -265,28 +265,67 @@ EditAnswer PlanEdits::schedule(Beginning beginning, quint32 projectStart)
     KWDocument &document = edit.document();
     edit.begin(OneEdit::AllTasks);
     if (beginning == AsSoonAsPossible) {
-        constexpr bool hourClock = false;
-        quint32 start = projectStart;
+        settling::startTogether(document, projectStart);
         for (const KWTaskInfo *task : document.taskList()) {
-            if (projectStart == 0 && rollup::isDated(*task))
-                start = start == 0 ? task->Start : std::min(start, task->Start);
-        }
-        if (start == 0)
-            start = document.StartDate;
-        if (start == 0)
-            start = worktime::clampSecs(KWClock::now().date().startOfDay().toSecsSinceEpoch());
-        start = dayoff::startForward(document.workCalendar(), start, hourClock);
-        for (KWTaskInfo *task : document.taskList()) {
-            if (task->isParent())
-                continue;
-            const double length = taskvalues::lengthOf(document, *task);
-            task->Start = start;
-            taskvalues::setLength(document, *task, length);
-            edit.changed(*task);
+            if (!task->isParent())
+                edit.changed(*task);
         }
     }
     edit.changes.what |= settling::Everything;
     return edit.finish();
+}
+
+// ---- Options
+// --------------------------------------------------------------------------------------------------------
+
+namespace {
+
+constexpr quint32 smallestMajorUnit = 3; // week
+
+EditRefusal refusalOf(const KWDocument &document, const PlanOptions &options)
+{
+    constexpr qint32 widest = 10000;
+    const auto isUnit = [](const std::optional<quint32> &unit) { return !unit || *unit < duration::unitCount; };
+    const quint32 major = options.majorUnit.value_or(document.MajorUnit);
+    if (!isUnit(options.projectUnit) || !isUnit(options.minorUnit) || major > smallestMajorUnit ||
+        (options.minorUnit && *options.minorUnit <= major))
+        return EditRefusal::BadUnit;
+    if (options.unitWidth && (*options.unitWidth < 1 || *options.unitWidth > widest))
+        return EditRefusal::BadWidth;
+    if (options.baselineCost && !std::isfinite(*options.baselineCost))
+        return EditRefusal::BadAmount;
+    return EditRefusal::None;
+}
+
+template <typename Value>
+void take(const std::optional<Value> &wanted, Value &value)
+{
+    if (wanted)
+        value = *wanted;
+}
+}
+
+EditAnswer PlanEdits::setOptions(const PlanOptions &options)
+{
+    OneEdit edit(step());
+    KWDocument &document = edit.document();
+    const EditRefusal refusal = refusalOf(document, options);
+    if (refusal != EditRefusal::None)
+        return edit.refuse(refusal, {options.baselineCost ? QString::number(*options.baselineCost) : QString()});
+    edit.begin(OneEdit::Options, OneEdit::MovesNothing);
+    take(options.projectUnit, document.ProjectUnit);
+    take(options.startDate, document.StartDate);
+    take(options.finishDate, document.FinishDate);
+    take(options.majorUnit, document.MajorUnit);
+    if (options.minorUnit)
+        document.MinorUnit = *options.minorUnit - document.MajorUnit - 1; // stored as the distance from the major one
+    take(options.unitWidth, document.UnitWidth);
+    take(options.autoZoom, document.AutoZoom);
+    take(options.autoProgress, document.Auto);
+    take(options.theme, document.ThemeIndex);
+    take(options.baselineCost, document.BaselineCost);
+    edit.changes.what |= settling::Links; // of no task: slack is counted in the unit of the scale
+    return edit.finishRows();
 }
 
 // ---- The table

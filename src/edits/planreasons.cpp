@@ -1,4 +1,5 @@
 #include "edits/planreasons.h"
+#include "engine/network/push.h"
 #include "engine/network/rollup.h"
 #include "engine/record/outline.h"
 #include "engine/time/duration.h"
@@ -189,6 +190,45 @@ Reasons of(const KWDocument &document, quint32 id, int longestChain)
 {
     const KWTaskInfo *task = id == 0 ? nullptr : document.getTaskInfoByID(id);
     return task ? Finder(document, *task).run(longestChain) : Reasons();
+}
+
+std::vector<int> tightest(const KWDocument &document)
+{
+    constexpr int nobody = -1;
+    const outline::Tasks tasks{document.taskList(), document.taskIndex()};
+    const std::size_t count = std::size_t(tasks.list.size());
+    std::vector<qint64> slack(count);
+    std::vector<int> places(count, nobody);
+    // A summary stands before the tasks that it holds.
+    for (int pos = tasks.list.size() - 1; pos >= 0; --pos) {
+        const KWTaskInfo &task = *tasks.list[pos];
+        const std::size_t at = std::size_t(pos);
+        if (places[at] == nobody) {
+            places[at] = pos;
+            slack[at] = workingMinutes(document, task.Finish, task.LateFinish);
+        }
+        const int parent = task.ParentID != 0 ? tasks.index.posOf(task.ParentID) : nobody;
+        if (parent < 0 || parent >= pos)
+            continue;
+        const std::size_t above = std::size_t(parent);
+        if (places[above] == nobody || slack[at] < slack[above]) {
+            places[above] = places[at];
+            slack[above] = slack[at];
+        }
+    }
+    return places;
+}
+
+int earlyTaskCount(const KWDocument &document)
+{
+    const outline::Tasks tasks{document.taskList(), document.taskIndex()};
+    const auto isEarly = [&](const KWTaskInfo *task) {
+        return std::any_of(task->Predecessors.begin(), task->Predecessors.end(), [&](quint32 id) {
+            const KWTaskInfo *predecessor = tasks.byId(id);
+            return predecessor && rollup::isDated(*task) && !push::holds(predecessor->Finish, task->Start);
+        });
+    };
+    return int(std::count_if(tasks.list.begin(), tasks.list.end(), isEarly));
 }
 
 qint64 workingMinutes(const KWDocument &document, quint32 from, quint32 to)

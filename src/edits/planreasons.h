@@ -2,6 +2,7 @@
 #include "kwgantt_export.h"
 #include <QDate>
 #include <QVector>
+#include <vector>
 
 class KWDocument;
 
@@ -45,6 +46,11 @@ struct Reasons
 
 // `longestChain` tasks at most in the chain. Without such a task nothing is set.
 KWGANTT_EXPORT Reasons of(const KWDocument &document, quint32 id, int longestChain = 6);
+// For each task of the list the place of the one with the least slack at or below it: a summary is as urgent as its
+// most urgent leaf.
+KWGANTT_EXPORT std::vector<int> tightest(const KWDocument &document);
+// How many tasks begin before a predecessor of their own ends.
+KWGANTT_EXPORT int earlyTaskCount(const KWDocument &document);
 // Whole working minutes from one moment to another, negative when they stand the other way round.
 KWGANTT_EXPORT qint64 workingMinutes(const KWDocument &document, quint32 from, quint32 to);
 }

@@ -26,7 +26,7 @@ namespace {
 
 using outline::Tasks;
 
-constexpr unsigned wholePlan = Calendar | Everything;
+constexpr unsigned wholePlan = Calendar | Everything | AsItStands;
 constexpr unsigned movesTasks = Dates | Length | Outline | Links | wholePlan;
 // Pushes and summaries move in turns. Every turn moves something later, so few are needed; a plan of links
 // that cannot all hold must end as well.
@@ -85,13 +85,16 @@ public:
 
     QVector<Push> run()
     {
-        if (isWhole())
+        if (m_what & AsItStands)
+            rollUpAll();
+        else if (isWhole())
             moveAll();
         else if (m_what & movesTasks)
             moveReached();
         measure();
         sumPercents();
-        sumMoney();
+        if (!(m_what & AsItStands))
+            sumMoney();
         sumBaselines();
         if (m_what & movesTasks)
             findLateDates();
@@ -100,7 +103,8 @@ public:
         if (m_what & (Outline | Everything))
             emboldenSummaries();
         drawChart();
-        m_document.setModified(true);
+        if (!(m_what & AsItStands))
+            m_document.setModified(true);
         QVector<Push> pushes;
         for (const auto &[task, pushedBy] : m_pushedBy)
             pushes.append({task, pushedBy});
@@ -154,11 +158,20 @@ private:
             if (moves.empty())
                 break;
         }
-        for (int pos = m_tasks.list.size() - 1; pos >= 0; --pos) {
-            if (m_tasks.list[pos]->isParent())
-                rollup::datesOfDated(m_calendar, m_tasks, *m_tasks.list[pos]);
-        }
+        rollUpAll();
         m_lengthsBefore = std::move(lengths);
+    }
+
+    // Inner summaries first.
+    void rollUpAll()
+    {
+        for (int pos = m_tasks.list.size() - 1; pos >= 0; --pos) {
+            KWTaskInfo *task = m_tasks.list[pos];
+            if (!task->isParent())
+                continue;
+            rollup::datesOfDated(m_calendar, m_tasks, *task);
+            touch(task);
+        }
     }
 
     void moveReached()

@@ -23,7 +23,10 @@ enum What : unsigned {
     Links = 32,      // links between tasks: the successors
     Calendar = 64,   // the working time: the tasks have their new dates already
     Baseline = 128,  // baselines of tasks
-    Everything = 256 // whatever it was: all tasks, whichever are named
+    Everything = 256, // whatever it was: all tasks, whichever are named
+    // Nothing: the plan was read. Dates and percents of summaries, late dates and the chart follow from the tasks as
+    // they stand; nothing is pushed, money stays as it was read, and so does the modified flag.
+    AsItStands = 512
 };
 
 struct Changes
