@@ -6,6 +6,7 @@
 #include "resources/resourceinfodata.h"
 #include "schedule/kwtaskcollection.h"
 #include "table/rowcolumndata.h"
+#include <QPair>
 #include <QSet>
 #include <limits>
 
@@ -26,15 +27,15 @@ public:
     QVector<Finding> run()
     {
         checkIds();
+        collectNames();
         for (m_pos = 0; m_pos < m_document.taskCount(); ++m_pos) {
             const KWTaskInfo &task = *m_document.getTaskInfoAt(m_pos);
             checkParent(task);
             checkChildren(task);
             checkHidden(task);
-            checkLinks(task.Predecessors, task, &KWTaskInfo::Depends,
+            checkLinks(task.Predecessors, task, m_successors,
                        {UnknownPredecessor, OwnPredecessor, OneSidedPredecessor});
-            checkLinks(task.Depends, task, &KWTaskInfo::Predecessors,
-                       {UnknownSuccessor, OwnSuccessor, OneSidedSuccessor});
+            checkLinks(task.Depends, task, m_predecessors, {UnknownSuccessor, OwnSuccessor, OneSidedSuccessor});
             checkAssignments(task);
         }
         for (const QList<quint32> &ring : m_document.taskCollection()->linkRings())
@@ -72,6 +73,21 @@ private:
         }
     }
 
+    // What tasks say of each other is looked up here: their own lists may be as long as the plan.
+    using Names = QSet<QPair<quint32, quint32>>; // who names, and whom
+
+    void collectNames()
+    {
+        for (const KWTaskInfo *task : m_document.taskList()) {
+            for (const quint32 id : task->Childs)
+                m_children.insert({task->ID, id});
+            for (const quint32 id : task->Predecessors)
+                m_predecessors.insert({task->ID, id});
+            for (const quint32 id : task->Depends)
+                m_successors.insert({task->ID, id});
+        }
+    }
+
     void checkParent(const KWTaskInfo &task)
     {
         const KWTaskInfo *parent = byId(task.ParentID);
@@ -79,7 +95,7 @@ private:
             report(UnknownSummary, task.ParentID);
         else if (parent && m_posOfId.posOf(task.ParentID) >= m_pos)
             report(AboveItsSummary, task.ParentID);
-        else if (parent && !parent->Childs.contains(task.ID))
+        else if (parent && !m_children.contains({parent->ID, task.ID}))
             report(UnnamedBySummary, task.ParentID);
         const qint64 level = parent ? qint64(parent->Level) + 1 : 1;
         if (task.Level != level && level <= std::numeric_limits<qint32>::max())
@@ -110,8 +126,8 @@ private:
             report(WrongHider, task.HideID);
     }
 
-    void checkLinks(const QList<quint32> &ids, const KWTaskInfo &task,
-                    const QList<quint32> KWTaskInfo::*other, const LinkFaults &faults)
+    void checkLinks(const QList<quint32> &ids, const KWTaskInfo &task, const Names &others,
+                    const LinkFaults &faults)
     {
         for (const quint32 id : ids) {
             const KWTaskInfo *linked = byId(id);
@@ -119,7 +135,7 @@ private:
                 report(faults.unknown, id);
             else if (linked == &task)
                 report(faults.own);
-            else if (!(linked->*other).contains(task.ID))
+            else if (!others.contains({linked->ID, task.ID}))
                 report(faults.oneSided, id);
         }
     }
@@ -139,6 +155,9 @@ private:
     int m_pos = -1;
     TaskIndex m_posOfId;
     QSet<QString> m_resources;
+    Names m_children;
+    Names m_predecessors;
+    Names m_successors;
 };
 }
 
