@@ -389,7 +389,7 @@ bool ClipbdManager::pasteTo(const Place &place)
     const Inserted inserted = insert(content, place, withColumns);
     std::vector<TaskRecord *> changed;
     if (isOwn) // others came without money
-        changed = inserted.robbed;
+        changed.assign(inserted.robbed.begin(), inserted.robbed.end());
     if (place.parent) {
         for (KWTaskInfo *top : inserted.tops) {
             if (!top->BaselineCost.isEmpty())

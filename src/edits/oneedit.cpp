@@ -15,7 +15,7 @@ OneEdit::OneEdit(EditStep &step)
 
 outline::Tasks OneEdit::tasks() const
 {
-    return {document().taskList(), document().taskIndex()};
+    return document().outline();
 }
 
 KWTaskInfo *OneEdit::task(quint32 id) const
@@ -23,7 +23,7 @@ KWTaskInfo *OneEdit::task(quint32 id) const
     return id == 0 ? nullptr : document().getTaskInfoByID(id);
 }
 
-KWTaskInfo *OneEdit::parentOf(const KWTaskInfo &task) const
+KWTaskInfo *OneEdit::parentOf(const TaskRecord &task) const
 {
     KWTaskInfo *parent = this->task(task.ParentID);
     return parent == &task ? nullptr : parent;
@@ -59,7 +59,7 @@ std::vector<KWTaskInfo *> OneEdit::named(const QVector<quint32> &ids)
     return found;
 }
 
-QString OneEdit::nameOf(const KWTaskInfo &task) const
+QString OneEdit::nameOf(const TaskRecord &task) const
 {
     return QStringLiteral("%1 \"%2\"").arg(document().getTagByTaskID(task.ID)).arg(task.Name.trimmed());
 }
@@ -88,60 +88,60 @@ void OneEdit::keepDates()
 {
     const QList<KWTaskInfo *> &list = document().taskList();
     m_datesBefore.reserve(std::size_t(list.size()));
-    for (const KWTaskInfo *task : list)
+    for (const TaskRecord *task : list)
         m_datesBefore.push_back({task->ID, task->Start, task->Finish});
 }
 
-void OneEdit::keepValues(KWTaskInfo &task)
+void OneEdit::keepValues(TaskRecord &task)
 {
     if (m_hasAllTasks)
         return;
-    m_record->action().addChangeTaskInfo(&task);
-    for (KWTaskInfo *summary : outline::ancestors(tasks(), task))
-        m_record->action().addChangeTaskInfo(summary);
+    m_record->action().addChangeTaskInfo(asTask(&task));
+    for (TaskRecord *summary : outline::ancestors(tasks(), task))
+        m_record->action().addChangeTaskInfo(asTask(summary));
 }
 
-void OneEdit::keepAssignments(KWTaskInfo &task)
+void OneEdit::keepAssignments(TaskRecord &task)
 {
     if (m_hasAllTasks)
         return;
-    m_record->action().addTaskAllResources(&task);
-    for (KWTaskInfo *summary : outline::ancestors(tasks(), task))
-        m_record->action().addTaskAllResources(summary);
+    m_record->action().addTaskAllResources(asTask(&task));
+    for (TaskRecord *summary : outline::ancestors(tasks(), task))
+        m_record->action().addTaskAllResources(asTask(summary));
 }
 
-void OneEdit::keepReach(KWTaskInfo &task)
+void OneEdit::keepReach(TaskRecord &task)
 {
     if (!m_hasAllTasks)
-        m_record->action().backupAffected(&task);
+        m_record->action().backupAffected(asTask(&task));
 }
 
 // ---- Changing
 // -------------------------------------------------------------------------------------------------------
 
-void OneEdit::changed(const KWTaskInfo &task)
+void OneEdit::changed(const TaskRecord &task)
 {
     changes.tasks.append(task.ID);
 }
 
-void OneEdit::childrenChanged(const KWTaskInfo *summary)
+void OneEdit::childrenChanged(const TaskRecord *summary)
 {
     if (summary)
         changes.summaries.append(summary->ID);
 }
 
-void OneEdit::mayBecomeSummary(KWTaskInfo &task)
+void OneEdit::mayBecomeSummary(TaskRecord &task)
 {
     if (!task.isParent())
         m_newSummaries.push_back(task.ID);
 }
 
-void OneEdit::mayNotSuitLinks(KWTaskInfo &summary)
+void OneEdit::mayNotSuitLinks(TaskRecord &summary)
 {
     m_linkedSummaries.push_back(summary.ID);
 }
 
-void OneEdit::lose(EditLoss::Kind kind, const KWTaskInfo &task, const QString &name, quint32 other)
+void OneEdit::lose(EditLoss::Kind kind, const TaskRecord &task, const QString &name, quint32 other)
 {
     answer.losses.append({kind, task.ID, name, other});
 }
@@ -230,7 +230,7 @@ void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<qui
     for (const quint32 id : edited)
         editedIds.add(id);
     for (const Dates &old : m_datesBefore) {
-        const KWTaskInfo *task = all.byId(old.id);
+        const TaskRecord *task = all.byId(old.id);
         if (!task || (task->Start == old.start && task->Finish == old.finish))
             continue;
         EditMove move;

@@ -7,6 +7,7 @@
 #include <vector>
 
 class KWTaskInfo;
+struct TaskRecord;
 
 // The step that is being made.
 struct EditStep
@@ -28,7 +29,7 @@ public:
     KWDocument &document() const { return m_step.document; }
     outline::Tasks tasks() const;
     KWTaskInfo *task(quint32 id) const; // null when there is none
-    KWTaskInfo *parentOf(const KWTaskInfo &task) const;
+    KWTaskInfo *parentOf(const TaskRecord &task) const;
 
     // ---- Judging
     // --------------------------------------------------------------------------------------------------
@@ -37,7 +38,7 @@ public:
     // The tasks of these IDs in list order, each once; refuses when one is missing or there is none.
     std::vector<KWTaskInfo *> named(const QVector<quint32> &ids);
     // As a user knows the task: its row number and name.
-    QString nameOf(const KWTaskInfo &task) const;
+    QString nameOf(const TaskRecord &task) const;
 
     // ---- Recording
     // ------------------------------------------------------------------------------------------------
@@ -45,22 +46,22 @@ public:
     enum Reach { MovesTasks, MovesNothing };
     // Begins the edit: what is kept of all that it changes. Without AllTasks single tasks follow.
     void begin(unsigned backups, Reach reach = MovesTasks);
-    void keepValues(KWTaskInfo &task); // and those of the summaries above it
-    void keepAssignments(KWTaskInfo &task);
-    void keepReach(KWTaskInfo &task); // all that a change of its dates or links can reach
+    void keepValues(TaskRecord &task); // and those of the summaries above it
+    void keepAssignments(TaskRecord &task);
+    void keepReach(TaskRecord &task); // all that a change of its dates or links can reach
 
     // ---- Changing
     // -------------------------------------------------------------------------------------------------
     settling::Changes changes;
     EditAnswer answer;
-    void changed(const KWTaskInfo &task);
-    void childrenChanged(const KWTaskInfo *summary); // null: the top level
+    void changed(const TaskRecord &task);
+    void childrenChanged(const TaskRecord *summary); // null: the top level
     // The task is going to get children. What it cannot keep as a summary is taken away, and told, at the
     // end.
-    void mayBecomeSummary(KWTaskInfo &task);
+    void mayBecomeSummary(TaskRecord &task);
     // Takes away the links of summaries that got children which these links do not suit any more.
-    void mayNotSuitLinks(KWTaskInfo &summary);
-    void lose(EditLoss::Kind kind, const KWTaskInfo &task, const QString &name = {}, quint32 other = 0);
+    void mayNotSuitLinks(TaskRecord &summary);
+    void lose(EditLoss::Kind kind, const TaskRecord &task, const QString &name = {}, quint32 other = 0);
 
     // Settles and hands the record to the step.
     EditAnswer finish();

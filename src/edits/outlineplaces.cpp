@@ -7,11 +7,11 @@
 
 namespace outlineplaces {
 
-Target target(const OneEdit &edit, const KWTaskInfo &beside, PlanEdits::Place place)
+Target target(const OneEdit &edit, const TaskRecord &beside, PlanEdits::Place place)
 {
     const outline::Tasks tasks = edit.tasks();
     const int pos = tasks.index.posOf(beside.ID);
-    auto *self = const_cast<KWTaskInfo *>(&beside);
+    auto *self = const_cast<TaskRecord *>(&beside);
     Target target;
     switch (place) {
     case PlanEdits::FirstChild:
@@ -36,7 +36,7 @@ Target target(const OneEdit &edit, const KWTaskInfo &beside, PlanEdits::Place pl
 Target atEnd(const OneEdit &edit)
 {
     const KWDocument &document = edit.document();
-    const KWTaskInfo *last = document.getTaskInfoByRow(document.visibleRowCount() - 1);
+    const TaskRecord *last = document.getTaskInfoByRow(document.visibleRowCount() - 1);
     Target target;
     target.pos = document.taskCount();
     target.parent = last ? edit.parentOf(*last) : nullptr;
@@ -45,15 +45,15 @@ Target atEnd(const OneEdit &edit)
     return target;
 }
 
-int endOf(const outline::Tasks &tasks, const KWTaskInfo &task)
+int endOf(const outline::Tasks &tasks, const TaskRecord &task)
 {
     int last = tasks.index.posOf(task.ID);
-    for (const KWTaskInfo *below : outline::descendants(tasks, task))
+    for (const TaskRecord *below : outline::descendants(tasks, task))
         last = std::max(last, tasks.index.posOf(below->ID));
     return last + 1;
 }
 
-KWTaskInfo *sibling(const outline::Tasks &tasks, const KWTaskInfo &task, int places)
+TaskRecord *sibling(const outline::Tasks &tasks, const TaskRecord &task, int places)
 {
     const int step = places < 0 ? -1 : 1;
     int left = std::abs(places);
@@ -68,38 +68,16 @@ KWTaskInfo *sibling(const outline::Tasks &tasks, const KWTaskInfo &task, int pla
     return tasks.list[pos];
 }
 
-void sort(const outline::Tasks &tasks, std::vector<KWTaskInfo *> &some)
+void refreshBelow(const outline::Tasks &tasks, TaskRecord &task)
 {
-    std::sort(some.begin(), some.end(), [&tasks](const KWTaskInfo *a, const KWTaskInfo *b) {
-        return tasks.index.posOf(a->ID) < tasks.index.posOf(b->ID);
-    });
-}
-
-std::vector<KWTaskInfo *> tops(const outline::Tasks &tasks, std::vector<KWTaskInfo *> some)
-{
-    TaskIndex ids;
-    for (const KWTaskInfo *task : some)
-        ids.add(task->ID);
-    const auto isBelow = [&](const KWTaskInfo *task) {
-        const std::vector<KWTaskInfo *> above = outline::ancestors(tasks, *task);
-        return std::any_of(above.begin(), above.end(),
-                           [&ids](const KWTaskInfo *each) { return ids.contains(each->ID); });
-    };
-    some.erase(std::remove_if(some.begin(), some.end(), isBelow), some.end());
-    sort(tasks, some);
-    return some;
-}
-
-void refreshBelow(const outline::Tasks &tasks, KWTaskInfo &task)
-{
-    const auto refresh = [&](KWTaskInfo &each) {
-        const KWTaskInfo *parent = each.ParentID == 0 ? nullptr : tasks.byId(each.ParentID);
+    const auto refresh = [&](TaskRecord &each) {
+        const TaskRecord *parent = each.ParentID == 0 ? nullptr : tasks.byId(each.ParentID);
         constexpr qint32 deepest = std::numeric_limits<qint32>::max();
         each.Level = !parent ? 1 : parent->Level == deepest ? deepest : parent->Level + 1;
         each.HideID = !parent ? 0 : parent->IsToggler ? parent->ID.value() : parent->HideID.value();
     };
     refresh(task);
-    for (KWTaskInfo *below : outline::descendants(tasks, task))
+    for (TaskRecord *below : outline::descendants(tasks, task))
         refresh(*below);
 }
 }

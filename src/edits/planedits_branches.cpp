@@ -22,7 +22,7 @@ QList<quint32> idsOf(const std::vector<KWTaskInfo *> &tasks)
 
 // Resources that the sheet does not have come with their tasks from another plan. On the clipboard they may
 // have been left behind by what was done to the sheet since.
-void takeResources(OneEdit &edit, KWTaskInfo &task, const KWDocument *source)
+void takeResources(OneEdit &edit, TaskRecord &task, const KWDocument *source)
 {
     ResourceInfoData &sheet = *edit.document().resourceInfoData();
     const QList<Resource *> assignments = task.resourceList;
@@ -52,18 +52,18 @@ EditAnswer insertBranches(OneEdit &edit, const QByteArray &bytes, bool withAssig
     if (target.parent)
         edit.mayBecomeSummary(*target.parent);
     const QList<quint32> tops = document.clipbdManager().insertBranches(bytes, withAssignments, target.pos,
-                                                                        target.parent, target.child);
+                                                                        asTask(target.parent), target.child);
     if (tops.isEmpty())
         return edit.refuse(EditRefusal::NothingToPaste);
     const outline::Tasks tasks = edit.tasks();
     for (const quint32 id : tops) {
-        KWTaskInfo *top = tasks.byId(id);
+        TaskRecord *top = tasks.byId(id);
         outlineplaces::refreshBelow(tasks, *top);
         edit.changed(*top);
         edit.answer.tasks.append(id);
-        std::vector<KWTaskInfo *> branch = outline::descendants(tasks, *top);
+        std::vector<TaskRecord *> branch = outline::descendants(tasks, *top);
         branch.push_back(top);
-        for (KWTaskInfo *task : branch) {
+        for (TaskRecord *task : branch) {
             edit.childrenChanged(task);
             takeResources(edit, *task, source);
         }
@@ -93,7 +93,7 @@ EditAnswer copyFrom(OneEdit &edit, const KWDocument &source, const QVector<quint
     }
     if (wanted.empty())
         return edit.refuse(EditRefusal::NoTasks);
-    const QList<quint32> tops = idsOf(outlineplaces::tops({source.taskList(), source.taskIndex()}, wanted));
+    const QList<quint32> tops = idsOf(outlineplaces::tops(source.outline(), wanted));
     // Reading the branches of a document changes nothing of it.
     const QByteArray bytes = const_cast<KWDocument &>(source).clipbdManager().branches(tops);
     constexpr bool withAssignments = true;

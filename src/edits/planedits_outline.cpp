@@ -72,7 +72,7 @@ EditAnswer insertAt(OneEdit &edit, const Target &target, const KWTaskInfo *like,
     task->initFont();
     document.insertTasks(target.pos, {task}, {});
     if (target.parent)
-        target.parent->insertTaskChildID(target.child, task->ID);
+        asTask(target.parent)->insertTaskChildID(target.child, task->ID);
     outlineplaces::refreshBelow(edit.tasks(), *task);
     edit.childrenChanged(target.parent);
     edit.changed(*task);
@@ -115,7 +115,7 @@ QList<quint32> remaining(const outline::Tasks &tasks, const QList<quint32> &chil
     QList<quint32> open(children.crbegin(), children.crend());
     while (!open.isEmpty()) {
         const quint32 id = open.takeLast();
-        const KWTaskInfo *child = tasks.byId(id);
+        const TaskRecord *child = tasks.byId(id);
         if (!seen.add(id))
             continue;
         if (!child || !leaving.contains(id)) {
@@ -134,8 +134,8 @@ void takeOut(OneEdit &edit, const TaskIndex &leaving)
     KWDocument &document = edit.document();
     const outline::Tasks tasks = edit.tasks();
     const auto isGone = [&](quint32 id) { return leaving.contains(id); };
-    std::vector<KWTaskInfo *> lifted;
-    for (KWTaskInfo *task : tasks.list) {
+    std::vector<TaskRecord *> lifted;
+    for (TaskRecord *task : tasks.list) {
         for (QList<quint32> *links : {&task->Depends, &task->Predecessors}) {
             if (std::any_of(links->cbegin(), links->cend(), isGone))
                 links->erase(std::remove_if(links->begin(), links->end(), isGone), links->end());
@@ -160,7 +160,7 @@ void takeOut(OneEdit &edit, const TaskIndex &leaving)
     }
     document.removeTasks(leaving);
     const outline::Tasks left = edit.tasks();
-    for (KWTaskInfo *task : lifted)
+    for (TaskRecord *task : lifted)
         outlineplaces::refreshBelow(left, *task);
     for (const quint32 id : qAsConst(edit.changes.summaries)) {
         KWTaskInfo *summary = edit.task(id);
@@ -182,7 +182,7 @@ EditAnswer PlanEdits::remove(const QVector<quint32> &ids)
         leaving.add(task->ID);
         if (!task->IsToggler)
             continue;
-        for (const KWTaskInfo *below : outline::descendants(edit.tasks(), *task)) {
+        for (const TaskRecord *below : outline::descendants(edit.tasks(), *task)) {
             if (below->HideID != 0)
                 leaving.add(below->ID);
         }
@@ -201,7 +201,7 @@ EditAnswer PlanEdits::cut(const QVector<quint32> &ids)
     TaskIndex leaving;
     for (const KWTaskInfo *task : edit.named(ids)) {
         leaving.add(task->ID);
-        for (const KWTaskInfo *below : outline::descendants(edit.tasks(), *task))
+        for (const TaskRecord *below : outline::descendants(edit.tasks(), *task))
             leaving.add(below->ID);
     }
     edit.begin(OneEdit::AllTasks);
@@ -340,11 +340,11 @@ EditAnswer PlanEdits::move(quint32 id, int places)
     edit.begin(OneEdit::AllTasks);
     KWDocument &document = edit.document();
     for (; places < 0; ++places) {
-        const KWTaskInfo *before = outlineplaces::sibling(edit.tasks(), *task, -1);
+        const TaskRecord *before = outlineplaces::sibling(edit.tasks(), *task, -1);
         document.moveTaskInfo(task, document.getPosByID(task->ID), document.getPosByID(before->ID));
     }
     for (; places > 0; --places) {
-        KWTaskInfo *after = outlineplaces::sibling(edit.tasks(), *task, 1);
+        KWTaskInfo *after = asTask(outlineplaces::sibling(edit.tasks(), *task, 1));
         document.moveTaskInfo(after, document.getPosByID(after->ID), document.getPosByID(task->ID));
     }
     // Sums and names of summaries follow the order of the tasks.
@@ -366,8 +366,8 @@ EditAnswer showBelow(OneEdit &edit, const std::vector<KWTaskInfo *> &tasks, bool
     const outline::Tasks all = edit.tasks();
     std::vector<KWTaskInfo *> concerned = tasks;
     for (const KWTaskInfo *task : tasks) {
-        const std::vector<KWTaskInfo *> below = outline::descendants(all, *task);
-        concerned.insert(concerned.end(), below.begin(), below.end());
+        for (TaskRecord *below : outline::descendants(all, *task))
+            concerned.push_back(asTask(below));
     }
     const bool isFew = concerned.size() <= fewTasks;
     edit.begin(isFew ? OneEdit::SingleTasks : OneEdit::AllTasks, OneEdit::MovesNothing);

@@ -214,19 +214,19 @@ EditAnswer changeBaseline(OneEdit &edit, const QVector<quint32> &ids, bool isKep
 {
     KWDocument &document = edit.document();
     const outline::Tasks all = edit.tasks();
-    std::vector<KWTaskInfo *> tasks(all.list.begin(), all.list.end());
+    std::vector<TaskRecord *> tasks(all.list.begin(), all.list.end());
     if (!ids.isEmpty()) {
-        tasks = edit.named(ids);
+        const std::vector<KWTaskInfo *> named = edit.named(ids);
         if (edit.isRefused())
             return edit.answer;
-        const std::vector<KWTaskInfo *> named = tasks;
+        tasks.assign(named.begin(), named.end());
         for (const KWTaskInfo *task : named) {
-            for (KWTaskInfo *below : outline::descendants(all, *task))
+            for (TaskRecord *below : outline::descendants(all, *task))
                 tasks.push_back(below);
         }
     }
     edit.begin(OneEdit::AllTasks | OneEdit::Options, OneEdit::MovesNothing);
-    for (KWTaskInfo *task : tasks) {
+    for (TaskRecord *task : tasks) {
         edit.changed(*task);
         if (task->isParent())
             continue;

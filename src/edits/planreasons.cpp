@@ -15,9 +15,9 @@ namespace {
 class Finder
 {
 public:
-    Finder(const KWDocument &document, const KWTaskInfo &task)
+    Finder(const KWDocument &document, const TaskRecord &task)
         : m_document(document)
-        , m_tasks{document.taskList(), document.taskIndex()}
+        , m_tasks(document.outline())
         , m_task(task)
     {
     }
@@ -35,7 +35,7 @@ public:
         reasons.successorCount = int(successorsOf(m_task).size());
         TaskIndex seen;
         seen.add(m_task.ID);
-        for (const KWTaskInfo *next = nextInChain(m_task); next && reasons.chain.size() < longestChain;
+        for (const TaskRecord *next = nextInChain(m_task); next && reasons.chain.size() < longestChain;
              next = nextInChain(*next)) {
             if (!seen.add(next->ID))
                 break;
@@ -48,7 +48,7 @@ private:
     quint32 projectStart() const
     {
         quint32 start = 0;
-        for (const KWTaskInfo *task : m_tasks.list) {
+        for (const TaskRecord *task : m_tasks.list) {
             if (rollup::isDated(*task))
                 start = start == 0 ? task->Start : std::min(start, task->Start);
         }
@@ -56,10 +56,10 @@ private:
     }
 
     // The task and the summaries above it.
-    std::vector<const KWTaskInfo *> withAbove(const KWTaskInfo &task) const
+    std::vector<const TaskRecord *> withAbove(const TaskRecord &task) const
     {
-        std::vector<const KWTaskInfo *> all{&task};
-        for (const KWTaskInfo *summary : outline::ancestors(m_tasks, task))
+        std::vector<const TaskRecord *> all{&task};
+        for (const TaskRecord *summary : outline::ancestors(m_tasks, task))
             all.push_back(summary);
         return all;
     }
@@ -67,9 +67,9 @@ private:
     void findPredecessors(Reasons &reasons) const
     {
         TaskIndex seen;
-        for (const KWTaskInfo *holder : withAbove(m_task)) {
+        for (const TaskRecord *holder : withAbove(m_task)) {
             for (const quint32 id : holder->Predecessors) {
-                const KWTaskInfo *predecessor = m_tasks.byId(id);
+                const TaskRecord *predecessor = m_tasks.byId(id);
                 if (!predecessor || !seen.add(id))
                     continue;
                 const bool isDriving = reasons.isDated && rollup::isDated(*predecessor) &&
@@ -112,10 +112,10 @@ private:
 
     void findSpan(Reasons &reasons) const
     {
-        const KWTaskInfo *first = nullptr;
-        const KWTaskInfo *last = nullptr;
+        const TaskRecord *first = nullptr;
+        const TaskRecord *last = nullptr;
         for (const quint32 id : m_task.Childs) {
-            const KWTaskInfo *child = m_tasks.byId(id);
+            const TaskRecord *child = m_tasks.byId(id);
             if (!child || !rollup::isDated(*child))
                 continue;
             if (!first || child->Start < first->Start)
@@ -127,7 +127,7 @@ private:
         reasons.lastChild = last ? last->ID.value() : 0;
     }
 
-    qint64 slackOf(const KWTaskInfo &task) const
+    qint64 slackOf(const TaskRecord &task) const
     {
         return workingMinutes(m_document, task.Finish, task.LateFinish);
     }
@@ -135,16 +135,16 @@ private:
     // Of several the last in the list, and the task itself only where nothing below it is as tight.
     void findTightest(Reasons &reasons) const
     {
-        const KWTaskInfo *tightest = nullptr;
+        const TaskRecord *tightest = nullptr;
         qint64 least = 0;
-        const auto offer = [&](const KWTaskInfo &task) {
+        const auto offer = [&](const TaskRecord &task) {
             const qint64 slack = slackOf(task);
             if (!tightest || slack < least) {
                 tightest = &task;
                 least = slack;
             }
         };
-        std::vector<KWTaskInfo *> below = outline::descendants(m_tasks, m_task);
+        std::vector<TaskRecord *> below = outline::descendants(m_tasks, m_task);
         for (auto task = below.rbegin(); task != below.rend(); ++task) {
             if (!(*task)->isParent() && rollup::isDated(**task))
                 offer(**task);
@@ -154,13 +154,13 @@ private:
         reasons.tightest = tightest ? tightest->ID.value() : 0;
     }
 
-    std::vector<const KWTaskInfo *> successorsOf(const KWTaskInfo &task) const
+    std::vector<const TaskRecord *> successorsOf(const TaskRecord &task) const
     {
         TaskIndex seen;
-        std::vector<const KWTaskInfo *> successors;
-        for (const KWTaskInfo *holder : withAbove(task)) {
+        std::vector<const TaskRecord *> successors;
+        for (const TaskRecord *holder : withAbove(task)) {
             for (const quint32 id : holder->Depends) {
-                const KWTaskInfo *successor = m_tasks.byId(id);
+                const TaskRecord *successor = m_tasks.byId(id);
                 if (successor && seen.add(id))
                     successors.push_back(successor);
             }
@@ -168,10 +168,10 @@ private:
         return successors;
     }
 
-    const KWTaskInfo *nextInChain(const KWTaskInfo &task) const
+    const TaskRecord *nextInChain(const TaskRecord &task) const
     {
-        const KWTaskInfo *next = nullptr;
-        for (const KWTaskInfo *successor : successorsOf(task)) {
+        const TaskRecord *next = nullptr;
+        for (const TaskRecord *successor : successorsOf(task)) {
             if (!rollup::isDated(*successor))
                 continue;
             if (!next || slackOf(*successor) < slackOf(*next))
@@ -182,26 +182,26 @@ private:
 
     const KWDocument &m_document;
     const outline::Tasks m_tasks;
-    const KWTaskInfo &m_task;
+    const TaskRecord &m_task;
 };
 }
 
 Reasons of(const KWDocument &document, quint32 id, int longestChain)
 {
-    const KWTaskInfo *task = id == 0 ? nullptr : document.getTaskInfoByID(id);
+    const TaskRecord *task = id == 0 ? nullptr : document.getTaskInfoByID(id);
     return task ? Finder(document, *task).run(longestChain) : Reasons();
 }
 
 std::vector<int> tightest(const KWDocument &document)
 {
     constexpr int nobody = -1;
-    const outline::Tasks tasks{document.taskList(), document.taskIndex()};
+    const outline::Tasks tasks = document.outline();
     const std::size_t count = std::size_t(tasks.list.size());
     std::vector<qint64> slack(count);
     std::vector<int> places(count, nobody);
     // A summary stands before the tasks that it holds.
     for (int pos = tasks.list.size() - 1; pos >= 0; --pos) {
-        const KWTaskInfo &task = *tasks.list[pos];
+        const TaskRecord &task = *tasks.list[pos];
         const std::size_t at = std::size_t(pos);
         if (places[at] == nobody) {
             places[at] = pos;
@@ -221,10 +221,10 @@ std::vector<int> tightest(const KWDocument &document)
 
 int earlyTaskCount(const KWDocument &document)
 {
-    const outline::Tasks tasks{document.taskList(), document.taskIndex()};
-    const auto isEarly = [&](const KWTaskInfo *task) {
+    const outline::Tasks tasks = document.outline();
+    const auto isEarly = [&](const TaskRecord *task) {
         return std::any_of(task->Predecessors.begin(), task->Predecessors.end(), [&](quint32 id) {
-            const KWTaskInfo *predecessor = tasks.byId(id);
+            const TaskRecord *predecessor = tasks.byId(id);
             return predecessor && rollup::isDated(*task) && !push::holds(predecessor->Finish, task->Start);
         });
     };

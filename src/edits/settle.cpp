@@ -34,7 +34,7 @@ constexpr int mostTurns = 50;
 
 Tasks tasksOf(const KWDocument &document)
 {
-    return {document.taskList(), document.taskIndex()};
+    return document.outline();
 }
 
 bool isSame(double a, double b)
@@ -46,19 +46,19 @@ bool isSame(double a, double b)
 class TaskSet
 {
 public:
-    bool add(KWTaskInfo *task)
+    bool add(TaskRecord *task)
     {
         if (!m_ids.add(task->ID))
             return false;
         m_tasks.push_back(task);
         return true;
     }
-    bool contains(const KWTaskInfo &task) const { return m_ids.contains(task.ID); }
-    const std::vector<KWTaskInfo *> &tasks() const { return m_tasks; }
+    bool contains(const TaskRecord &task) const { return m_ids.contains(task.ID); }
+    const std::vector<TaskRecord *> &tasks() const { return m_tasks; }
 
 private:
     TaskIndex m_ids;
-    std::vector<KWTaskInfo *> m_tasks;
+    std::vector<TaskRecord *> m_tasks;
 };
 
 class Settling
@@ -74,11 +74,11 @@ public:
         , m_replaced(replaced)
     {
         for (const quint32 id : changes.tasks) {
-            if (KWTaskInfo *task = m_tasks.byId(id))
+            if (TaskRecord *task = m_tasks.byId(id))
                 m_named.add(task);
         }
         for (const quint32 id : changes.summaries) {
-            if (KWTaskInfo *task = m_tasks.byId(id))
+            if (TaskRecord *task = m_tasks.byId(id))
                 m_summaries.add(task);
         }
     }
@@ -114,16 +114,16 @@ public:
 private:
     bool isWhole() const { return m_what & wholePlan; }
 
-    void touch(KWTaskInfo *task) { m_touched.add(task); }
+    void touch(TaskRecord *task) { m_touched.add(task); }
 
     // ---- Dates
     // --------------------------------------------------------------------------------------------------
 
     // Summaries above these tasks, and these where they are summaries; those whose dates became others.
-    std::vector<KWTaskInfo *> rollUpFrom(const std::vector<KWTaskInfo *> &tasks)
+    std::vector<TaskRecord *> rollUpFrom(const std::vector<TaskRecord *> &tasks)
     {
-        std::vector<KWTaskInfo *> changed;
-        for (KWTaskInfo *task : outline::withAncestors(m_tasks, tasks)) {
+        std::vector<TaskRecord *> changed;
+        for (TaskRecord *task : outline::withAncestors(m_tasks, tasks)) {
             if (!task->isParent())
                 continue;
             touch(task);
@@ -147,7 +147,7 @@ private:
     void moveAll()
     {
         std::vector<quint32> lengths;
-        for (KWTaskInfo *task : m_tasks.list) {
+        for (TaskRecord *task : m_tasks.list) {
             lengths.push_back(task->DurationSecs);
             touch(task);
         }
@@ -166,7 +166,7 @@ private:
     void rollUpAll()
     {
         for (int pos = m_tasks.list.size() - 1; pos >= 0; --pos) {
-            KWTaskInfo *task = m_tasks.list[pos];
+            TaskRecord *task = m_tasks.list[pos];
             if (!task->isParent())
                 continue;
             rollup::datesOfDated(m_calendar, m_tasks, *task);
@@ -176,25 +176,25 @@ private:
 
     void moveReached()
     {
-        std::vector<KWTaskInfo *> starts = m_named.tasks();
-        for (KWTaskInfo *task : m_named.tasks()) {
+        std::vector<TaskRecord *> starts = m_named.tasks();
+        for (TaskRecord *task : m_named.tasks()) {
             touch(task);
             // What lies below a summary went along with it.
-            for (KWTaskInfo *below : outline::descendants(m_tasks, *task)) {
+            for (TaskRecord *below : outline::descendants(m_tasks, *task)) {
                 touch(below);
                 if (!m_named.contains(*below))
                     starts.push_back(below);
             }
         }
-        const auto byPlace = [this](const KWTaskInfo *a, const KWTaskInfo *b) {
+        const auto byPlace = [this](const TaskRecord *a, const TaskRecord *b) {
             return m_tasks.index.posOf(a->ID) < m_tasks.index.posOf(b->ID);
         };
         std::sort(starts.begin(), starts.end(), byPlace); // summaries before what they hold
-        std::vector<KWTaskInfo *> grown = starts;
-        std::vector<KWTaskInfo *> moved = starts;
+        std::vector<TaskRecord *> grown = starts;
+        std::vector<TaskRecord *> moved = starts;
         moved.insert(moved.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
         for (int turn = 0; turn < mostTurns; ++turn) {
-            const std::vector<KWTaskInfo *> changed = rollUpFrom(moved);
+            const std::vector<TaskRecord *> changed = rollUpFrom(moved);
             grown.insert(grown.end(), changed.begin(), changed.end());
             std::vector<push::Link> links = linksBefore(starts);
             addLinksAfter(grown, links);
@@ -205,7 +205,7 @@ private:
             remember(moves);
             if (moved.empty())
                 break;
-            for (KWTaskInfo *task : moved)
+            for (TaskRecord *task : moved)
                 touch(task);
             grown = moved;
         }
@@ -213,20 +213,20 @@ private:
 
     // The links that a task comes too early for: its own, and those of the summaries above it. A summary is
     // pushed as a whole, and before what it holds.
-    std::vector<push::Link> linksBefore(const std::vector<KWTaskInfo *> &tasks) const
+    std::vector<push::Link> linksBefore(const std::vector<TaskRecord *> &tasks) const
     {
         std::vector<push::Link> links;
         TaskIndex pushed;
-        for (KWTaskInfo *task : tasks) {
+        for (TaskRecord *task : tasks) {
             if (!rollup::isDated(*task))
                 continue;
-            const std::vector<KWTaskInfo *> above = outline::ancestors(m_tasks, *task);
-            const auto isPushed = [&](const KWTaskInfo *summary) { return pushed.contains(summary->ID); };
+            const std::vector<TaskRecord *> above = outline::ancestors(m_tasks, *task);
+            const auto isPushed = [&](const TaskRecord *summary) { return pushed.contains(summary->ID); };
             if (std::any_of(above.begin(), above.end(), isPushed))
                 continue;
             const std::size_t count = links.size();
             addLinksBefore(*task, *task, links);
-            for (const KWTaskInfo *summary : above)
+            for (const TaskRecord *summary : above)
                 addLinksBefore(*summary, *task, links);
             if (links.size() > count)
                 pushed.add(task->ID);
@@ -234,22 +234,22 @@ private:
         return links;
     }
 
-    void addLinksBefore(const KWTaskInfo &linked, KWTaskInfo &task, std::vector<push::Link> &links) const
+    void addLinksBefore(const TaskRecord &linked, TaskRecord &task, std::vector<push::Link> &links) const
     {
         for (const quint32 id : linked.Predecessors) {
-            const KWTaskInfo *predecessor = m_tasks.byId(id);
+            const TaskRecord *predecessor = m_tasks.byId(id);
             if (predecessor && rollup::isDated(*predecessor) && !push::holds(predecessor->Finish, task.Start))
                 links.push_back({predecessor, &task});
         }
     }
 
-    void addLinksAfter(const std::vector<KWTaskInfo *> &tasks, std::vector<push::Link> &links) const
+    void addLinksAfter(const std::vector<TaskRecord *> &tasks, std::vector<push::Link> &links) const
     {
-        for (const KWTaskInfo *task : tasks) {
+        for (const TaskRecord *task : tasks) {
             if (!rollup::isDated(*task))
                 continue;
             for (const quint32 id : task->Depends) {
-                KWTaskInfo *successor = m_tasks.byId(id);
+                TaskRecord *successor = m_tasks.byId(id);
                 if (successor && rollup::isDated(*successor) && !push::holds(task->Finish, successor->Start))
                     links.push_back({task, successor});
             }
@@ -261,7 +261,7 @@ private:
 
     void measure()
     {
-        for (KWTaskInfo *task : m_touched.tasks()) {
+        for (TaskRecord *task : m_touched.tasks()) {
             if (rollup::isDated(*task))
                 task->DurationSecs =
                     duration::secs(m_calendar, task->Start, task->Finish, task->DurationUnits);
@@ -277,20 +277,20 @@ private:
     }
 
     // The summaries that change with these tasks, inner ones first.
-    std::vector<KWTaskInfo *> summariesOf(const std::vector<KWTaskInfo *> &tasks) const
+    std::vector<TaskRecord *> summariesOf(const std::vector<TaskRecord *> &tasks) const
     {
-        std::vector<KWTaskInfo *> summaries;
-        const std::vector<KWTaskInfo *> all =
-            isWhole() ? std::vector<KWTaskInfo *>(m_tasks.list.rbegin(), m_tasks.list.rend())
+        std::vector<TaskRecord *> summaries;
+        const std::vector<TaskRecord *> all =
+            isWhole() ? std::vector<TaskRecord *>(m_tasks.list.rbegin(), m_tasks.list.rend())
                       : outline::withAncestors(m_tasks, tasks);
         std::copy_if(all.begin(), all.end(), std::back_inserter(summaries),
-                     [](const KWTaskInfo *task) { return task->isParent(); });
+                     [](const TaskRecord *task) { return task->isParent(); });
         return summaries;
     }
 
-    std::vector<KWTaskInfo *> changedTasks() const
+    std::vector<TaskRecord *> changedTasks() const
     {
-        std::vector<KWTaskInfo *> tasks = m_touched.tasks();
+        std::vector<TaskRecord *> tasks = m_touched.tasks();
         tasks.insert(tasks.end(), m_named.tasks().begin(), m_named.tasks().end());
         tasks.insert(tasks.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
         return tasks;
@@ -300,13 +300,13 @@ private:
     {
         if (!(m_what & (movesTasks | Progress)))
             return;
-        for (KWTaskInfo *summary : summariesOf(changedTasks())) {
+        for (TaskRecord *summary : summariesOf(changedTasks())) {
             const double percent = summary->Percent;
-            summary->setPercent(rollup::percent(m_calendar, m_tasks, *summary));
+            asTask(summary)->setPercent(rollup::percent(m_calendar, m_tasks, *summary));
             if (!isSame(percent, summary->Percent))
                 m_progressed.add(summary);
         }
-        for (KWTaskInfo *task : m_named.tasks())
+        for (TaskRecord *task : m_named.tasks())
             m_progressed.add(task);
     }
 
@@ -314,7 +314,7 @@ private:
     // --------------------------------------------------------------------------------------------------
 
     // Whether anything of the leaf became another.
-    bool sumLeaf(const cost::Measures &measures, KWTaskInfo &leaf) const
+    bool sumLeaf(const cost::Measures &measures, TaskRecord &leaf) const
     {
         const bool isNamed = !isWhole() && m_named.contains(leaf);
         const bool isAssigned = leaf.isHaveResource() || (isNamed && (m_what & Assignments));
@@ -335,7 +335,7 @@ private:
     }
 
     // A summary that has lost its last child has nothing left of what it took from them.
-    static void makeLeaf(KWTaskInfo &task)
+    static void makeLeaf(TaskRecord &task)
     {
         task.Cost = task.Work = task.RemainingCost = 0;
         task.Resources.clear();
@@ -345,9 +345,9 @@ private:
     void sumMoney()
     {
         const cost::Measures measures = cost::measuresOf(m_calendar);
-        std::vector<KWTaskInfo *> changed;
+        std::vector<TaskRecord *> changed;
         const bool withNames = m_what & (Assignments | Everything);
-        for (KWTaskInfo *task : isWhole() ? m_touched.tasks() : changedTasks()) {
+        for (TaskRecord *task : isWhole() ? m_touched.tasks() : changedTasks()) {
             if (task->isParent())
                 continue;
             if (sumLeaf(measures, *task))
@@ -356,21 +356,21 @@ private:
                 task->Resources = names::ofAssignments(*task);
         }
         if (m_what & (Outline | Assignments)) {
-            for (KWTaskInfo *task : m_summaries.tasks()) {
+            for (TaskRecord *task : m_summaries.tasks()) {
                 if (!task->isParent() && !task->isHaveResource())
                     makeLeaf(*task);
             }
             changed.insert(changed.end(), m_named.tasks().begin(), m_named.tasks().end());
             changed.insert(changed.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
         }
-        forEachSummary(changed, [&](KWTaskInfo &summary, const std::vector<KWTaskInfo *> &leaves) {
+        forEachSummary(changed, [&](TaskRecord &summary, const std::vector<TaskRecord *> &leaves) {
             const cost::Total total = cost::ofLeaves(measures, leaves);
             summary.Cost = total.cost;
             summary.Work = total.work;
             summary.RemainingCost = cost::remainingOfLeaves(leaves);
             if (!withNames)
                 return;
-            summary.clearResources();
+            asTask(&summary)->clearResources();
             names::Distinct distinct;
             distinct.addLeaves(leaves);
             // Names that were typed where nobody is assigned stay.
@@ -383,26 +383,26 @@ private:
     {
         if (!(m_what & (Baseline | Outline | Everything)))
             return;
-        std::vector<KWTaskInfo *> changed = m_named.tasks();
+        std::vector<TaskRecord *> changed = m_named.tasks();
         changed.insert(changed.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
-        forEachSummary(changed, [](KWTaskInfo &summary, const std::vector<KWTaskInfo *> &leaves) {
+        forEachSummary(changed, [](TaskRecord &summary, const std::vector<TaskRecord *> &leaves) {
             baselines::store(baselines::ofLeaves(leaves), summary);
         });
     }
 
     // Each summary at or above these tasks, with the leaves below it.
     template <typename Visit>
-    void forEachSummary(const std::vector<KWTaskInfo *> &changed, Visit visit)
+    void forEachSummary(const std::vector<TaskRecord *> &changed, Visit visit)
     {
-        const std::vector<KWTaskInfo *> summaries = summariesOf(changed);
-        std::vector<KWTaskInfo *> tops;
-        for (KWTaskInfo *summary : summaries) {
+        const std::vector<TaskRecord *> summaries = summariesOf(changed);
+        std::vector<TaskRecord *> tops;
+        for (TaskRecord *summary : summaries) {
             if (summary->ParentID == 0 || !m_tasks.byId(summary->ParentID))
                 tops.push_back(summary);
         }
         std::reverse(tops.begin(), tops.end());
         const outline::Branches branches(m_tasks, tops);
-        for (KWTaskInfo *summary : summaries)
+        for (TaskRecord *summary : summaries)
             visit(*summary, branches.knows(*summary) ? branches.leavesBelow(*summary)
                                                      : outline::descendants(m_tasks, *summary));
     }
@@ -414,7 +414,7 @@ private:
     {
         const std::vector<LateValues> before = m_replaced ? lateValues() : std::vector<LateValues>();
         quint32 projectFinish = 0;
-        for (const KWTaskInfo *task : m_tasks.list) {
+        for (const TaskRecord *task : m_tasks.list) {
             if (rollup::isDated(*task))
                 projectFinish = std::max(projectFinish, task->Finish);
         }
@@ -423,11 +423,11 @@ private:
                                   KWDocument::getNameByMinorUnit(unit, false));
         std::vector<quint32> lengths;
         lengths.reserve(std::size_t(m_tasks.list.size()));
-        for (const KWTaskInfo *task : m_tasks.list)
+        for (const TaskRecord *task : m_tasks.list)
             lengths.push_back(rollup::isDated(*task) ? late.length(*task) : 0);
         const std::vector<latedates::Tail> tails = latedates::inheritedTails(m_tasks, lengths);
         for (int pos = 0; pos < m_tasks.list.size(); ++pos) {
-            KWTaskInfo &task = *m_tasks.list[pos];
+            TaskRecord &task = *m_tasks.list[pos];
             if (rollup::isDated(task)) {
                 late.apply(task, lengths[pos], tails[pos]);
             } else {
@@ -446,7 +446,7 @@ private:
     {
         std::vector<LateValues> values;
         values.reserve(std::size_t(m_tasks.list.size()));
-        for (const KWTaskInfo *task : m_tasks.list)
+        for (const TaskRecord *task : m_tasks.list)
             values.push_back({task->ID, task->LateStart, task->LateFinish, task->EarlySlack, task->LateSlack,
                               task->CriticalPath});
         return values;
@@ -455,7 +455,7 @@ private:
     void keepReplaced(const std::vector<LateValues> &before)
     {
         for (int pos = 0; pos < m_tasks.list.size(); ++pos) {
-            const KWTaskInfo &task = *m_tasks.list[pos];
+            const TaskRecord &task = *m_tasks.list[pos];
             const LateValues &old = before[pos];
             if (old.lateStart != task.LateStart || old.lateFinish != task.LateFinish ||
                 old.isCritical != task.CriticalPath || old.earlySlack != task.EarlySlack ||
@@ -471,7 +471,7 @@ private:
             return;
         const unsigned int unit = latedates::slackUnit(m_document.getMinorUnit());
         latedates::SlackTexts texts(m_calendar, unit, KWDocument::getNameByMinorUnit(unit, false));
-        for (KWTaskInfo *task : m_progressed.tasks()) {
+        for (TaskRecord *task : m_progressed.tasks()) {
             if (rollup::isDated(*task))
                 latedates::writeSlack(*task, texts);
         }
@@ -482,9 +482,9 @@ private:
 
     void emboldenSummaries()
     {
-        for (KWTaskInfo *summary : summariesOf(changedTasks()))
+        for (TaskRecord *summary : summariesOf(changedTasks()))
             summary->font.setWeight(QFont::Bold);
-        for (KWTaskInfo *task : m_summaries.tasks()) {
+        for (TaskRecord *task : m_summaries.tasks()) {
             if (!task->isParent())
                 task->font.setWeight(QFont::Normal);
         }
@@ -516,7 +516,7 @@ bool updateRange(KWDocument &document)
     KWTaskCollection &collection = *document.taskCollection();
     quint32 start = 0;
     quint32 finish = 0;
-    for (const KWTaskInfo *task : document.taskList()) {
+    for (const TaskRecord *task : document.taskList()) {
         if (!rollup::isDated(*task))
             continue;
         start = start == 0 ? task->Start : std::min(start, task->Start);
@@ -533,7 +533,7 @@ bool updateRange(KWDocument &document)
            oldWidth != collection.totalWidth();
 }
 
-void place(const timescale::Scale &scale, KWTaskInfo &task)
+void place(const timescale::Scale &scale, TaskRecord &task)
 {
     scale.placeBar(task);
     task.FirstWidth = scale.finishedWidth(task);
@@ -544,9 +544,9 @@ void placeAll(KWDocument &document)
 {
     const timescale::Scale scale = document.taskCollection()->scale();
     const std::vector<double> rowYs = document.rowYs(true);
-    const QList<KWTaskInfo *> &tasks = document.taskList();
+    const QList<TaskRecord *> &tasks = document.outline().list;
     for (int pos = 0; pos < tasks.size(); ++pos) {
-        KWTaskInfo &task = *tasks[pos];
+        TaskRecord &task = *tasks[pos];
         place(scale, task);
         if (task.HideID == 0)
             task.y1 = task.y2 = timescale::wholePixels(rowYs[std::size_t(pos)]);
@@ -561,9 +561,9 @@ void Settling::drawChart()
         return;
     }
     const timescale::Scale scale = m_collection.scale();
-    for (KWTaskInfo *task : m_touched.tasks())
+    for (TaskRecord *task : m_touched.tasks())
         place(scale, *task);
-    for (KWTaskInfo *task : m_progressed.tasks())
+    for (TaskRecord *task : m_progressed.tasks())
         place(scale, *task);
 }
 }

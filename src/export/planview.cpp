@@ -118,21 +118,21 @@ void PlanView::chooseRows()
         m_plan.bottom = count > 0 ? m_document.getRowYByRow(count - 1, false) : chart::headHeight;
         return;
     }
-    const outline::Tasks tasks{m_document.taskList(), m_document.taskIndex()};
-    QSet<const KWTaskInfo *> branch, critical;
+    const outline::Tasks tasks = m_document.outline();
+    QSet<const TaskRecord *> branch, critical;
     if (m_options.branch != 0) {
         if (const KWTaskInfo *top = m_document.getTaskInfoByID(m_options.branch)) {
             branch.insert(top);
-            for (const KWTaskInfo *task : outline::descendants(tasks, *top))
+            for (const TaskRecord *task : outline::descendants(tasks, *top))
                 branch.insert(task);
         }
     }
     if (m_options.onlyCritical) {
-        std::vector<KWTaskInfo *> found;
+        std::vector<TaskRecord *> found;
         for (KWTaskInfo *task : m_document.taskList())
             if (task->CriticalPath && !task->isParent())
                 found.push_back(task);
-        for (const KWTaskInfo *task : outline::withAncestors(tasks, found))
+        for (const TaskRecord *task : outline::withAncestors(tasks, found))
             critical.insert(task);
     }
     m_drawnRow.assign(std::size_t(count), -1);
@@ -385,7 +385,7 @@ QString PlanView::labelOf(int row) const
                    ? QString()
                    : chart::shortDate(
                          m_plan.locale,
-                         celltext::shownMoment(m_document, m_scale->calendar(), secs, isStart).date(), false);
+                         celltext::shownMoment(m_scale->calendar(), secs, isStart).date(), false);
     };
     if (m_options.labels == KWExportOptions::NameLabels)
         return task->Name.simplified();

@@ -1,33 +1,33 @@
 #include "engine/cost/baselines.h"
 #include "engine/cost/cost.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 #include <algorithm>
 
 namespace baselines {
 
-bool has(const KWTaskInfo &task)
+bool has(const TaskRecord &task)
 {
     return task.BaseStart != 0 || task.BaseFinish != 0 || !task.BaselineCost.isEmpty();
 }
 
-Baseline of(const KWTaskInfo &task)
+Baseline of(const TaskRecord &task)
 {
     return {task.BaseStart, task.BaseFinish, task.BaselineCost};
 }
 
-void store(const Baseline &baseline, KWTaskInfo &task)
+void store(const Baseline &baseline, TaskRecord &task)
 {
     task.BaseStart = baseline.start;
     task.BaseFinish = baseline.finish;
     task.BaselineCost = baseline.cost;
 }
 
-Baseline ofLeaves(const std::vector<KWTaskInfo *> &tasks)
+Baseline ofLeaves(const std::vector<TaskRecord *> &tasks)
 {
     Baseline all;
     double sum = 0;
     bool hasCost = false;
-    for (const KWTaskInfo *task : tasks) {
+    for (const TaskRecord *task : tasks) {
         if (task->isParent())
             continue;
         if (task->BaseStart != 0)

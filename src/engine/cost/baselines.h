@@ -2,7 +2,7 @@
 #include <QString>
 #include <vector>
 
-class KWTaskInfo;
+class TaskRecord;
 
 // Baselines of summaries: what those leaves have together that have one.
 namespace baselines {
@@ -15,12 +15,12 @@ struct Baseline
 };
 
 // Whether the task has any of the three.
-bool has(const KWTaskInfo &task);
-Baseline of(const KWTaskInfo &task);
-void store(const Baseline &baseline, KWTaskInfo &task);
+bool has(const TaskRecord &task);
+Baseline of(const TaskRecord &task);
+void store(const Baseline &baseline, TaskRecord &task);
 // The span of the dates and the sum of the costs of the leaves among the tasks, in their order. What no leaf
 // has, the sum does not have.
-Baseline ofLeaves(const std::vector<KWTaskInfo *> &tasks);
+Baseline ofLeaves(const std::vector<TaskRecord *> &tasks);
 // A cost with all the digits that a double has for sure.
 QString costText(double value);
 }

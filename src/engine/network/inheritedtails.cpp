@@ -1,6 +1,6 @@
 #include "engine/network/inheritedtails.h"
 #include "engine/network/rollup.h"
-#include "model/kwtaskinfo.h"
+#include "engine/record/taskrecord.h"
 #include <algorithm>
 
 namespace latedates {

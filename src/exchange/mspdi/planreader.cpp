@@ -79,11 +79,11 @@ staged::Calendar stagedCalendar(const WorkingTime &time)
 worktime::WorkCalendar compiled(const staged::Calendar &calendar)
 {
     QList<KWDayTime *> hours;
-    QList<KWCalendar *> exceptions;
+    QList<CalendarRecord *> exceptions;
     for (const staged::Interval &interval : calendar.hours)
         hours.append(new KWDayTime(interval.startSecs, interval.finishSecs));
     for (const staged::CalendarException &each : calendar.exceptions) {
-        auto *exception = new KWCalendar;
+        auto *exception = new CalendarRecord;
         exception->startDate = each.from;
         exception->finishDate = each.to;
         exception->isException = true;
@@ -92,8 +92,11 @@ worktime::WorkCalendar compiled(const staged::Calendar &calendar)
             exception->dayTimes.append(new KWDayTime(interval.startSecs, interval.finishSecs));
         exceptions.append(exception);
     }
-    worktime::WorkCalendar result({calendar.week.data(), hours, exceptions}, LocalClock::current());
+    worktime::WorkCalendar result({calendar.week.data(), hours, {exceptions.cbegin(), exceptions.cend()}},
+                                  LocalClock::current());
     qDeleteAll(hours);
+    for (CalendarRecord *exception : qAsConst(exceptions))
+        qDeleteAll(exception->dayTimes);
     qDeleteAll(exceptions);
     return result;
 }

@@ -395,15 +395,15 @@ private:
     bool isBroughtThere(const TaskRow &row) const
     {
         quint32 latest = 0;
-        const outline::Tasks all{m_document.taskList(), m_document.taskIndex()};
-        const auto look = [&](const KWTaskInfo &task) {
+        const outline::Tasks all = m_document.outline();
+        const auto look = [&](const TaskRecord &task) {
             for (const quint32 id : task.Predecessors) {
-                if (const KWTaskInfo *predecessor = all.byId(id))
+                if (const TaskRecord *predecessor = all.byId(id))
                     latest = std::max(latest, predecessor->Finish);
             }
         };
         look(*row.task);
-        for (const KWTaskInfo *above : outline::ancestors(all, *row.task))
+        for (const TaskRecord *above : outline::ancestors(all, *row.task))
             look(*above);
         return latest != 0 && shownmoment::isSame(m_calendar, latest, row.task->Start);
     }
