@@ -132,6 +132,7 @@ EditAnswer PlanEdits::link(const QVector<quint32> &chain)
     if (edit.isRefused())
         return edit.answer;
     KWTaskCollection &collection = *edit.document().taskCollection();
+    const bool wasModified = edit.document().isModified();
     edit.begin(tasks.size() <= fewTasks ? OneEdit::SingleTasks : OneEdit::AllTasks);
     for (KWTaskInfo *task : tasks) {
         edit.keepValues(*task);
@@ -147,6 +148,7 @@ EditAnswer PlanEdits::link(const QVector<quint32> &chain)
             const Highlight highlight(collection);
             for (std::size_t made = 1; made < i; ++made)
                 cutLink(*tasks[made - 1], *tasks[made]);
+            edit.document().setModified(wasModified);
             refuseLink(edit, refusal, before, after, ring);
             return edit.answer;
         }
