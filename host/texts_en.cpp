@@ -139,35 +139,45 @@ A PDF is cut into sheets as the print setup of a package says; a plan that bring
 that can be read. An image and an SVG hold the whole plan in one. '-o -' with --to pdf|png|svg writes to standard
 output. Collapsed tasks stay hidden, dates are those of the file.
 
-  --paper SIZE       A4, A3, LETTER or another name, or 297x210mm
-  --portrait         sheets stand upright
-  --landscape        sheets lie
-  --margins MM[,MM]  left and right, and above and below: 20mm,15mm
-  --fit NxM          all of it on N sheets across and M down, never above its size
-  --zoom N           percent of the size on a screen, on as many sheets as it takes
-  --preview          tells how many sheets there are and how small the text; nothing is written
-  --title TEXT       above the first sheet; &[Page] &[Pages] &[Date] &[File] &[Title] stand for what they name
-  --head TEXT        at the top of every sheet
-  --foot TEXT        at the bottom of every sheet
-  --font FAMILY      of all texts
-  --date-format TEXT   of &[Date], such as "dd MMM yyyy"
-  --labels WHAT      beside the bars: none, name, resources or dates
-  --theme THEME      light, dark, print or contrast
-  --ratio N          pixels of an image for each of the chart, 1 to 4
-  --fold-marks       prints the marks of summaries that can be folded
-  --without LIST     leaves out: today, baseline, slack, critical, links, legend, repeat, background
-  --columns LIST     columns by their keys, joined by commas; 'kwgantt columns' lists them
-  --branch TASK      only this task with all that is below it
-  --critical         only critical tasks and their summaries
-  --level N          only tasks down to this outline level
-  --range D..D       only these dates
-  --trim             only the dates of the tasks and one unit around them
-  --scale SCALE      auto, hour, day, week, month, quarter or year
-  --unit-width N     pixels of one unit of the scale
+Sheets:
+  --paper PAPER    A4, A3, LETTER or a size such as 297x210mm
+  --portrait       upright
+  --landscape      across
+  --margins SIZES  all of them (20mm), or two of them (20mm,15mm)
+  --fit 3x2        as many sheets across and down
+  --zoom N         percent
+  --preview        how many sheets and how small the text; nothing is written
+  --fold-marks     marks for folding a large sheet
+
+Texts:
+  --title TEXT     above the chart
+  --head TEXT      at the top of each sheet, with &[Page] &[Pages] &[Date] &[File] &[Title]
+  --foot TEXT      at the bottom of each sheet, with the same
+  --font FAMILY    the font of all texts
+  --date-format "dd MMM yyyy"   how dates are written
+  --labels none|name|resources|dates   what stands beside the bars
+
+Picture:
+  --theme light|dark|print|contrast
+                   the colours
+  --ratio 1..4     pixels of an image for one of the chart
+  --without LIST   leaves out today, baseline, slack, critical, links, legend, repeat or background (the shades
+                   behind the bars), joined by commas
+
+What is drawn:
+  --columns LIST   columns by their keys, joined by commas; 'kwgantt columns' lists them
+  --branch TASK    only this task with all that is below it
+  --critical       only critical tasks and their summaries
+  --level N        only tasks down to this outline level
+  --range D..D     only these dates
+  --trim           the tasks' dates and one unit around
+  --scale SCALE    auto, hour, day, week, month, quarter or year
+  --unit-width N   pixels of a unit
 
 SOURCE_DATE_EPOCH sets the date that is written into the file and the line of today, --now that line alone.
 
-Example: kwgantt render plan.csv -o plan.pdf --paper A3 --theme print
+Examples:
+    kwgantt render plan.csv -o plan.pdf --paper A3 --theme print
 )")},
         {QStringLiteral("edit"), text(R"(kwgantt edit FILE EDIT - changes a plan
 kwgantt edit FILE --script FILE
