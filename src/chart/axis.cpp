@@ -379,7 +379,8 @@ Head headOf(const Plan &plan)
 {
     const Axis &axis = plan.axis;
     constexpr double roomyPadding = 24, unitPadding = 4;
-    Head head{axis.minor, 0, Decade, 0};
+    // Where the picture is made much smaller, fine units would only be dust.
+    Head head{coarserUnit(axis, axis.minor, plan.least), 0, Decade, 0};
     const auto unitTexts = [&](int unit, const Tick &tick) {
         return unitForms(axis, plan.locale, unit, tick);
     };
@@ -396,7 +397,8 @@ Head headOf(const Plan &plan)
     const auto periodTexts = [&](int unit, const Tick &tick) {
         return periodForms(axis, plan.locale, unit, tick, true);
     };
-    for (head.period = std::min(wanted, head.unit - 1); head.period > Decade; --head.period) {
+    head.period = coarserUnit(axis, std::min(wanted, head.unit - 1), plan.least);
+    for (; head.period > Decade; --head.period) {
         const QStringList forms = periodTexts(head.period, {Axis::dayOf(QDate(2026, 1, 1)), 0});
         head.periodForm =
             formThatFits(plan, head.period, PeriodFont, 2 * textInset, 2 * textInset, periodTexts);
@@ -430,12 +432,13 @@ std::vector<UnitSpan> headPeriods(const Plan &plan, const Head &head, double x0,
         // A week belongs to the year of its last day, as its text ends with it.
         const int year = (head.period == Week ? date.addDays(6) : date).year();
         const QStringList forms = periodForms(plan.axis, plan.locale, head.period, tick, year != yearBefore);
+        // A new year is worth a longer form than the others have.
+        const int form = std::max(0, head.periodForm - (year != yearBefore));
         // A bare number says enough only where all periods show one.
         const bool isCut = right - left < leastPixels(plan.axis, head.period) || left < x0 || right > x1;
-        span.text = fitting(
-            plan,
-            isCut && forms.size() > head.periodForm + 1 ? QStringList(forms.mid(0, forms.size() - 1)) : forms,
-            head.periodForm, PeriodFont, span.x2 - span.x1 - textInset - 2);
+        const bool leavesNumberOut = isCut && forms.size() > head.periodForm + 1;
+        span.text = fitting(plan, leavesNumberOut ? QStringList(forms.mid(0, forms.size() - 1)) : forms, form,
+                            PeriodFont, span.x2 - span.x1 - textInset - 2);
         if (span.text.contains(QString::number(year)))
             yearBefore = year;
         spans.push_back(span);

@@ -334,14 +334,8 @@ Marks Layout::body(int first, int last, double x0, double x1) const
     take(low);
     take(bars);
     addLinks(marks, first, last, x0, x1);
-    if (m_plan.today >= x0 && m_plan.today <= x1) {
-        // The triangle hangs from the head, where it covers none of its texts.
-        constexpr double half = 4.5, height = 6;
-        marks.push_back(line(Kind::Today, Style::Today, m_plan.today, top, m_plan.today, bottom));
-        marks.push_back(points(Kind::Today, Style::Today, Shape::Polygon,
-                               {QPointF(m_plan.today - half, top), QPointF(m_plan.today + half, top),
-                                QPointF(m_plan.today, top + height)}));
-    }
+    if (m_plan.today >= x0 && m_plan.today <= x1)
+        marks.push_back(line(Kind::Today, Style::Today, m_plan.today, headHeight, m_plan.today, bottom));
     take(labels);
     return marks;
 }
@@ -369,6 +363,14 @@ Marks Layout::head(double x0, double x1) const
             marks.push_back(cellText(m_plan, Kind::HeadText, Style::HeadMajor, PeriodFont, Align::Left,
                                      span.x1 + periodInset, span.x2 - span.x1 - periodInset, 0, lineHeight,
                                      span.text));
+    }
+    if (m_plan.today >= x0 && m_plan.today <= x1) {
+        // Hangs below the head, where it covers none of its texts.
+        constexpr double half = 4.5;
+        marks.push_back(
+            points(Kind::Today, Style::Today, Shape::Polygon,
+                   {QPointF(m_plan.today - half, headHeight), QPointF(m_plan.today + half, headHeight),
+                    QPointF(m_plan.today, headHeight + headOverhang)}));
     }
     return marks;
 }

@@ -13,7 +13,8 @@
 // negative x. All lengths are pixels at 96 dpi.
 namespace chart {
 
-constexpr double headHeight = 40; // two lines of 20
+constexpr double headHeight = 40;  // two lines of 20
+constexpr double headOverhang = 6; // of the mark of today below it
 constexpr double barHeight = 15;
 constexpr double diamondSize = 15;
 

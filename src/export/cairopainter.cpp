@@ -226,14 +226,21 @@ void CairoPainter::strokeLine(const Mark &mark, const KWLineFormat &line)
         format.width = width / m_scale;
         shift = std::fmod(width, 2) == 1 ? 0.5 / m_scale : 0;
     }
+    // A straight line keeps its ends.
+    const bool isLevel = count == 2 && mark.points.at(0).y() == mark.points.at(1).y();
+    const bool isUpright = count == 2 && mark.points.at(0).x() == mark.points.at(1).x();
+    const QPointF toMiddle(isLevel ? 0 : shift, isUpright ? 0 : shift);
     QVector<QPointF> corners(count);
     for (int i = 0; i < count; ++i) {
-        QPointF corner = cutTo(mark.points.at(i), m_view);
-        if (m_device == Pixels)
-            corner =
-                QPointF(snapped(corner.x(), m_offset.x()) + shift, snapped(corner.y(), m_offset.y()) + shift);
-        corners[i] = corner;
+        const QPointF corner = cutTo(mark.points.at(i), m_view);
+        corners[i] =
+            m_device == Paper
+                ? corner
+                : QPointF(snapped(corner.x(), m_offset.x()), snapped(corner.y(), m_offset.y())) + toMiddle;
     }
+    // Dashes stay where they are when the beginning is cut off.
+    const QPointF cutOff = cutTo(mark.points.at(0), m_view) - mark.points.at(0);
+    format.dash.offset += (std::abs(cutOff.x()) + std::abs(cutOff.y())) / format.width;
     // The line ends before the tip of its head.
     const QPointF tip = corners.last(), before = corners.at(count - 2);
     const double whole = std::hypot(tip.x() - before.x(), tip.y() - before.y());

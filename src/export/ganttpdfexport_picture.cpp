@@ -9,6 +9,7 @@
 namespace {
 
 constexpr int longestSide = 32767;       // of an image; cairo's own limit
+constexpr double widestSvg = 500000;     // pixels; no viewer pans further
 constexpr double mostPixels = 200000000; // of an image; 800 MB
 }
 
@@ -132,6 +133,13 @@ QByteArray GanttPdfExport::svgText()
     const std::unique_ptr<Drawing> drawing = prepareWhole();
     if (!drawing)
         return QByteArray();
+    if (drawing->to - drawing->from > widestSvg) {
+        m_findings.add(
+            QString(),
+            QStringLiteral("a chart of %1 pixels is too wide").arg(drawing->to - drawing->from, 0, 'f', 0),
+            QStringLiteral("export a PDF, take a coarser scale, or draw a part of the plan"));
+        return QByteArray();
+    }
     const QString title = filled(options.title, 1, 1);
     const picture::Whole whole =
         picture::whole(*drawing->layout, drawing->from, drawing->to, title, options.legend);

@@ -93,7 +93,8 @@ void addPart(std::vector<Block> &blocks, const chart::Layout &layout, const Part
         const QPointF chartPlace = place + QPointF((table - part.x0) * scale, 0);
         add(layout.body(part.firstRow, part.lastRow, part.x0, part.x1), chartPlace + bodyShift, x, headBottom,
             chartWidth, rows);
-        add(layout.head(part.x0, part.x1), chartPlace, x, place.y(), chartWidth, chart::headHeight);
+        add(layout.head(part.x0, part.x1), chartPlace, x, place.y(), chartWidth,
+            chart::headHeight + chart::headOverhang);
         if (!part.columns.empty())
             blocks.push_back({{upright(table, 0, chart::headHeight + rows)},
                               place,

@@ -25,27 +25,31 @@ constexpr int nameType = 1;
 constexpr int neighbourRows = 250; // beyond those asked for: links that pass by
 constexpr int longestReach = 2000; // rows that a link is followed
 
-// Only what a browser opens without doing anything else.
-QString safeAddress(const KWTaskInfo &task)
+// As it can be clicked: only what a browser opens without doing anything else, spelt in ASCII. Else empty.
+QString safeAddress(const KWHyperlink &link)
 {
-    const KWHyperlink *chosen = nullptr;
-    for (int i = 0; i < task.hyperlinks.count(); ++i) {
-        const KWHyperlink *link = task.hyperlinks.getAt(i);
-        if (!chosen || (link->isDefault && !chosen->isDefault))
-            chosen = link;
-    }
-    if (!chosen)
-        return QString();
-    const QString address = chosen->type == 3 ? chosen->getWebPageUrl() : chosen->address;
-    const QUrl url(address.trimmed(), QUrl::StrictMode);
+    constexpr int webPage = 3, longest = 2000;
+    const QUrl url((link.type == webPage ? link.getWebPageUrl() : link.address).trimmed(),
+                   QUrl::TolerantMode);
     static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("ftp"),
                                      QStringLiteral("mailto")};
-    if (!url.isValid() || !schemes.contains(url.scheme().toLower()))
-        return QString();
-    // Nothing but ASCII, so that no writer has to know how an address is spelt.
-    constexpr int longest = 2000;
-    const QString encoded = QString::fromLatin1(url.toEncoded());
-    return encoded.size() <= longest ? encoded : QString();
+    const QString address = QString::fromLatin1(url.toEncoded());
+    return url.isValid() && schemes.contains(url.scheme().toLower()) && address.size() <= longest ? address
+                                                                                                  : QString();
+}
+
+// The task's default link, or the first that is safe.
+QString safeAddress(const KWTaskInfo &task)
+{
+    QString first;
+    for (int i = 0; i < task.hyperlinks.count(); ++i) {
+        const KWHyperlink *link = task.hyperlinks.getAt(i);
+        const QString address = safeAddress(*link);
+        if (link->isDefault && !address.isEmpty())
+            return address;
+        first = first.isEmpty() ? address : first;
+    }
+    return first;
 }
 
 // The names of a cell, as a sentence joins them.

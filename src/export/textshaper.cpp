@@ -6,6 +6,33 @@ namespace {
 constexpr int generationSize = 2048; // texts; two generations are kept
 constexpr double dotsPerInch = 96;
 constexpr const char *anySans = "Sans";
+
+// Characters that Chinese shares with Japanese and Korean look differently in each.
+bool isChinese(const QString &text)
+{
+    bool hasHan = false;
+    for (const QChar c : text) {
+        switch (c.script()) {
+        case QChar::Script_Hiragana:
+        case QChar::Script_Katakana:
+        case QChar::Script_Hangul:
+            return false;
+        case QChar::Script_Han:
+            hasHan = true;
+            break;
+        default:
+            break;
+        }
+    }
+    return hasHan;
+}
+
+// Kept as long as the process: on a machine with many fonts it takes longer to sort them than to draw a plan.
+PangoFontMap *fontMap()
+{
+    static PangoFontMap *const map = pango_cairo_font_map_new();
+    return map;
+}
 }
 
 bool TextShaper::hasFonts()
@@ -15,8 +42,7 @@ bool TextShaper::hasFonts()
 }
 
 TextShaper::TextShaper(const std::vector<chart::Font> &fonts, const QString &family)
-    : m_map(pango_cairo_font_map_new())
-    , m_context(pango_font_map_create_context(m_map))
+    : m_context(pango_font_map_create_context(fontMap()))
     , m_family(family)
 {
     pango_cairo_context_set_resolution(m_context, dotsPerInch);
@@ -40,7 +66,6 @@ TextShaper::~TextShaper()
     for (PangoFontDescription *font : m_descriptions)
         pango_font_description_free(font);
     g_object_unref(m_context);
-    g_object_unref(m_map);
 }
 
 int TextShaper::addFont(const chart::Font &font)
@@ -101,8 +126,11 @@ const TextShaper::Shaped &TextShaper::shaped(const QString &text, int font)
     const QByteArray bytes = text.toUtf8();
     pango_layout_set_text(fresh.layout, bytes.constData(), bytes.size());
     const chart::Font &format = m_fonts[std::size_t(font)];
-    if (format.underline || format.strikeOut) {
+    const bool chinese = isChinese(text);
+    if (format.underline || format.strikeOut || chinese) {
         PangoAttrList *attributes = pango_attr_list_new();
+        if (chinese)
+            pango_attr_list_insert(attributes, pango_attr_language_new(pango_language_from_string("zh-cn")));
         if (format.underline)
             pango_attr_list_insert(attributes, pango_attr_underline_new(PANGO_UNDERLINE_SINGLE));
         if (format.strikeOut)

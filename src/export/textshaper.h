@@ -52,7 +52,6 @@ private:
     const Shaped &shaped(const QString &text, int font);
     static void forget(Generation &generation);
 
-    PangoFontMap *m_map;
     PangoContext *m_context;
     QString m_family;
     std::vector<chart::Font> m_fonts;
