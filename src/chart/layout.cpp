@@ -385,10 +385,12 @@ Marks Layout::table(int first, int last, const std::vector<int> &columns, double
     double right = left;
     for (const int column : columns)
         right += m_plan.columns[std::size_t(column)].width;
+    // All of them together, so that painters can take them in one stroke.
+    for (int row = first; row <= last && m_plan.showsBackground; ++row)
+        marks.push_back(
+            line(Kind::Grid, Style::RowLine, left, m_plan.at(row).bottom(), right, m_plan.at(row).bottom()));
     for (int row = first; row <= last; ++row) {
         const Row &at = m_plan.at(row);
-        if (m_plan.showsBackground)
-            marks.push_back(line(Kind::Grid, Style::RowLine, left, at.bottom(), right, at.bottom()));
         double x = left;
         for (const int number : columns) {
             const Column &column = m_plan.columns[std::size_t(number)];

@@ -83,10 +83,33 @@ void CairoPainter::paint(const chart::Marks &marks, const QPointF &offset, const
     m_view = QRectF((clip.x() - offset.x()) / m_scale, (clip.y() - offset.y()) / m_scale,
                     clip.width() / m_scale, clip.height() / m_scale)
                  .adjusted(-viewMargin, -viewMargin, viewMargin, viewMargin);
-    for (const Mark &mark : marks)
-        if (mark.rect.right() >= m_view.left() && mark.rect.left() <= m_view.right() &&
-            mark.rect.bottom() >= m_view.top() && mark.rect.top() <= m_view.bottom())
-            paintMark(mark);
+    const auto isSeen = [this](const Mark &mark) {
+        return mark.rect.right() >= m_view.left() && mark.rect.left() <= m_view.right() &&
+               mark.rect.bottom() >= m_view.top() && mark.rect.top() <= m_view.bottom();
+    };
+    for (std::size_t i = 0; i < marks.size(); ++i) {
+        if (!isSeen(marks[i]))
+            continue;
+        if (marks[i].kind != Kind::Grid || m_device == Pixels) {
+            paintMark(marks[i]);
+            continue;
+        }
+        // Lines of the grid that look alike are one stroke: each of its own would take more of a file than a
+        // name.
+        const KWLineFormat &format = m_sheet.style(marks[i].style).line;
+        for (; i < marks.size() && marks[i].kind == Kind::Grid &&
+               &m_sheet.style(marks[i].style).line == &format;
+             ++i) {
+            if (!isSeen(marks[i]))
+                continue;
+            const QPointF from = cutTo(marks[i].points.first(), m_view),
+                          to = cutTo(marks[i].points.last(), m_view);
+            cairo_move_to(m_context, from.x(), from.y());
+            cairo_line_to(m_context, to.x(), to.y());
+        }
+        --i;
+        stroke(format);
+    }
     cairo_restore(m_context);
 }
 
