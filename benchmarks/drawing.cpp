@@ -100,7 +100,6 @@ void measure(Report &report, int tasks)
     document->taskCollection()->updateTaskCollection();
     GanttPdfExport drawing(document.get());
     drawing.options.columns = {0, 1, 2, 3, 4};
-    drawing.options.scale = KWExportOptions::AutoScale;
     document->printConfig.FittoSheet = false;
     document->printConfig.Width = 297;
     document->printConfig.Height = 420;
@@ -134,6 +133,7 @@ void measure(Report &report, int tasks)
                                frames;
     report.line("a screen of 1,200 x 900", tasks, screen, screenFloor);
 
+    drawing.options.scale = KWExportOptions::AutoScale;
     const double before = megabytesAtMost();
     QByteArray bytes;
     int pages = 0;
