@@ -99,6 +99,8 @@ bool setFormat(Options &o, const QString &value)
         o.format = Options::Png;
     else if (value == QLatin1String("svg"))
         o.format = Options::Svg;
+    else if (value == QLatin1String("html"))
+        o.format = Options::Html;
 #endif
     else
         return false;
@@ -516,7 +518,8 @@ void setFormatByName(Options &options)
         {QStringLiteral("xls"), Options::Xls},
 #ifdef KW_WITH_EXPORT
         {QStringLiteral("pdf"), Options::Pdf},      {QStringLiteral("png"), Options::Png},
-        {QStringLiteral("svg"), Options::Svg}
+        {QStringLiteral("svg"), Options::Svg},      {QStringLiteral("html"), Options::Html},
+        {QStringLiteral("htm"), Options::Html}
 #endif
     };
     options.format = formats.value(options.output.section(QLatin1Char('.'), -1).toLower(), options.format);

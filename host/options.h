@@ -7,7 +7,7 @@
 struct Options
 {
     enum When { Auto, Always, Never };
-    enum Format { Table, Csv, Json, Package, Xlsx, Xls, Pdf, Png, Svg };
+    enum Format { Table, Csv, Json, Package, Xlsx, Xls, Pdf, Png, Svg, Html };
     static constexpr int everyLevel = 0;
 
     QString command;       // "help" when none is given

@@ -289,7 +289,8 @@ int draw(Console &console, const Plan &plan, GanttPdfExport &drawing)
         buffer.open(QIODevice::WriteOnly);
         isDrawn = options.format == Options::Pdf   ? drawing.writePdf(buffer)
                   : options.format == Options::Png ? drawing.writeImage(buffer, ratio)
-                                                   : drawing.writeSvg(buffer);
+                  : options.format == Options::Svg ? drawing.writeSvg(buffer)
+                                                   : drawing.writeHtml(buffer);
         if (isDrawn) {
             Options whereTo = options;
             if (toStandardOutput)
@@ -301,7 +302,8 @@ int draw(Console &console, const Plan &plan, GanttPdfExport &drawing)
     } else {
         isDrawn = options.format == Options::Pdf   ? drawing.exportPdf(options.output)
                   : options.format == Options::Png ? drawing.exportImage(options.output, ratio)
-                                                   : drawing.exportSvg(options.output);
+                  : options.format == Options::Svg ? drawing.exportSvg(options.output)
+                                                   : drawing.exportHtml(options.output);
     }
     if (!isDrawn)
         return cannotDraw(console, plan, drawing);
@@ -314,12 +316,12 @@ int draw(Console &console, const Plan &plan, GanttPdfExport &drawing)
 int render(Console &console)
 {
     const Options &options = console.options();
-    const bool isPicture =
-        options.format == Options::Pdf || options.format == Options::Png || options.format == Options::Svg;
+    const bool isPicture = options.format == Options::Pdf || options.format == Options::Png ||
+                           options.format == Options::Svg || options.format == Options::Html;
     if (!options.drawing.preview && (options.output.isEmpty() || !isPicture)) {
         console.error(options.output.isEmpty() ? t("where shall the picture go?")
                                                : t("'%1' names no picture").arg(options.output),
-                      t("-o OUT.pdf, OUT.png or OUT.svg; '-o -' with --to pdf|png|svg"));
+                      t("-o OUT.pdf, OUT.png, OUT.svg or OUT.html; '-o -' with --to pdf|png|svg|html"));
         return Console::WrongUse;
     }
     Plan plan;

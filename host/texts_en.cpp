@@ -133,11 +133,11 @@ is written beside it, too. What a workbook's cells could not give is listed on s
 Examples:
     kwgantt convert plan.csv plan.kwpx
 )")},
-        {QStringLiteral("render"), text(R"(kwgantt render FILE -o OUT.pdf|png|svg - draws the chart
+        {QStringLiteral("render"), text(R"(kwgantt render FILE -o OUT.pdf|png|svg|html - draws the chart
 
 A PDF is cut into sheets as the print setup of a package says; a plan that brings none is fitted to sheets of A4
-that can be read. An image and an SVG hold the whole plan in one. '-o -' with --to pdf|png|svg writes to standard
-output. Collapsed tasks stay hidden, dates are those of the file.
+that can be read. An image and an SVG hold the whole plan in one; a page (.html) folds, zooms, finds and follows links
+in a browser. '-o -' with --to pdf|png|svg|html writes to standard output. Collapsed tasks stay hidden, dates are those of the file.
 
 Sheets:
   --paper PAPER    A4, A3, LETTER or a size such as 297x210mm

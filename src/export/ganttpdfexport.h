@@ -41,10 +41,14 @@ public:
     // All in one PNG; `ratio` is pixels of the image for a pixel at 96 dpi, 1..4.
     bool exportImage(const QString &path, double ratio = 1);
     bool exportSvg(const QString &path);
+    // A page for a browser that needs nothing beside it. Its time axis is its own, and tasks that are folded
+    // away are in it, to be unfolded.
+    bool exportHtml(const QString &path);
     // The same into a device that is open for writing.
     bool writePdf(QIODevice &device);
     bool writeImage(QIODevice &device, double ratio = 1);
     bool writeSvg(QIODevice &device);
+    bool writeHtml(QIODevice &device);
 
     // ---- Preview ------------------------------------------------------------------------------------------
     int pageCount();
@@ -75,6 +79,8 @@ private:
     bool writeSheets(Drawing &drawing, QIODevice &device);
     QImage wholeImage(double ratio);
     QByteArray svgText();
+    bool hasTasks();
+    bool writePage(QIODevice &device);
     bool screenIsReady();
     void setToday(PlanView &view) const;
     bool isCancelled(int done, int total);
