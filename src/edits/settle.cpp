@@ -412,7 +412,6 @@ private:
 
     void findLateDates()
     {
-        const std::vector<LateValues> before = m_replaced ? lateValues() : std::vector<LateValues>();
         quint32 projectFinish = 0;
         for (const TaskRecord *task : m_tasks.list) {
             if (rollup::isDated(*task))
@@ -426,8 +425,12 @@ private:
         for (const TaskRecord *task : m_tasks.list)
             lengths.push_back(rollup::isDated(*task) ? late.length(*task) : 0);
         const std::vector<latedates::Tail> tails = latedates::inheritedTails(m_tasks, lengths);
+        std::vector<LateValues> before;
+        before.reserve(m_replaced ? lengths.size() : 0);
         for (int pos = 0; pos < m_tasks.list.size(); ++pos) {
             TaskRecord &task = *m_tasks.list[pos];
+            if (m_replaced)
+                before.push_back(valuesOf(task));
             if (rollup::isDated(task)) {
                 late.apply(task, lengths[pos], tails[pos]);
             } else {
@@ -442,14 +445,9 @@ private:
             keepReplaced(before);
     }
 
-    std::vector<LateValues> lateValues() const
+    static LateValues valuesOf(const TaskRecord &task)
     {
-        std::vector<LateValues> values;
-        values.reserve(std::size_t(m_tasks.list.size()));
-        for (const TaskRecord *task : m_tasks.list)
-            values.push_back({task->ID, task->LateStart, task->LateFinish, task->EarlySlack, task->LateSlack,
-                              task->CriticalPath});
-        return values;
+        return {task.ID, task.LateStart, task.LateFinish, task.EarlySlack, task.LateSlack, task.CriticalPath};
     }
 
     void keepReplaced(const std::vector<LateValues> &before)

@@ -10,7 +10,8 @@ using linkgraph::Graph;
 
 namespace {
 
-// The links of each task, and behind them the way to its summary: what follows the summary follows the task.
+// The links of each task, and behind them the way to the nearest summary above it that has links: what
+// follows that one follows the task. Where no summary has any, there are no such ways.
 struct Inherited
 {
     Graph graph;
@@ -18,17 +19,21 @@ struct Inherited
     std::vector<char> listsUnknown;
 };
 
+constexpr int none = -1;
+
 Inherited inheritedNetwork(const outline::Tasks &tasks)
 {
+    const std::size_t count = std::size_t(tasks.list.size());
     Inherited network;
-    network.graph.first.reserve(std::size_t(tasks.list.size()) + 1);
-    network.linkEnd.reserve(std::size_t(tasks.list.size()));
-    network.listsUnknown.reserve(std::size_t(tasks.list.size()));
+    network.graph.first.reserve(count + 1);
+    network.linkEnd.reserve(count);
+    network.listsUnknown.reserve(count);
+    std::vector<int> linkedAbove(count, none);
     std::vector<int> &targets = network.graph.targets;
     for (int pos = 0; pos < tasks.list.size(); ++pos) {
         const auto &task = *tasks.list[pos];
         bool listsUnknown = false;
-        if (rollup::isDated(task)) {
+        if (!task.Depends.isEmpty() && rollup::isDated(task)) {
             for (const quint32 id : task.Depends) {
                 const int successor = tasks.index.posOf(id);
                 listsUnknown = listsUnknown || successor < 0;
@@ -38,9 +43,15 @@ Inherited inheritedNetwork(const outline::Tasks &tasks)
         }
         network.linkEnd.push_back(int(targets.size()));
         network.listsUnknown.push_back(listsUnknown);
-        const int summary = task.ParentID == 0 ? -1 : tasks.index.posOf(task.ParentID);
-        if (summary >= 0 && summary != pos)
-            targets.push_back(summary);
+        const int summary = task.ParentID == 0 ? none : tasks.index.posOf(task.ParentID);
+        if (summary != none && summary != pos) {
+            // In a damaged outline a summary stands below what it holds: then the way leads over it in any
+            // case.
+            const bool isKnown = summary < pos && tasks.list[summary]->Depends.isEmpty();
+            linkedAbove[pos] = isKnown ? linkedAbove[summary] : summary;
+        }
+        if (linkedAbove[pos] != none)
+            targets.push_back(linkedAbove[pos]);
         network.graph.first.push_back(int(targets.size()));
     }
     return network;
