@@ -229,8 +229,10 @@ void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<qui
     TaskIndex editedIds;
     for (const quint32 id : edited)
         editedIds.add(id);
-    for (const Dates &old : m_datesBefore) {
-        const TaskRecord *task = all.byId(old.id);
+    for (std::size_t pos = 0; pos < m_datesBefore.size(); ++pos) {
+        const Dates &old = m_datesBefore[pos];
+        const bool isInPlace = int(pos) < all.list.size() && all.list[int(pos)]->ID == old.id;
+        const TaskRecord *task = isInPlace ? all.list[int(pos)] : all.byId(old.id);
         if (!task || (task->Start == old.start && task->Finish == old.finish))
             continue;
         EditMove move;

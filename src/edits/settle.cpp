@@ -442,7 +442,7 @@ private:
         }
         latedates::spreadCritical(m_tasks);
         if (m_replaced)
-            keepReplaced(before);
+            keepReplaced(std::move(before));
     }
 
     static LateValues valuesOf(const TaskRecord &task)
@@ -450,16 +450,23 @@ private:
         return {task.ID, task.LateStart, task.LateFinish, task.EarlySlack, task.LateSlack, task.CriticalPath};
     }
 
-    void keepReplaced(const std::vector<LateValues> &before)
+    // What stayed as it was is left out of `before`, which has all tasks in list order.
+    void keepReplaced(std::vector<LateValues> &&before)
     {
+        std::size_t kept = 0;
         for (int pos = 0; pos < m_tasks.list.size(); ++pos) {
             const TaskRecord &task = *m_tasks.list[pos];
-            const LateValues &old = before[pos];
-            if (old.lateStart != task.LateStart || old.lateFinish != task.LateFinish ||
-                old.isCritical != task.CriticalPath || old.earlySlack != task.EarlySlack ||
-                old.lateSlack != task.LateSlack)
-                m_replaced->push_back(old);
+            LateValues &old = before[std::size_t(pos)];
+            if (old.lateStart == task.LateStart && old.lateFinish == task.LateFinish &&
+                old.isCritical == task.CriticalPath && old.earlySlack == task.EarlySlack &&
+                old.lateSlack == task.LateSlack)
+                continue;
+            if (kept != std::size_t(pos))
+                before[kept] = std::move(old);
+            ++kept;
         }
+        before.resize(kept);
+        *m_replaced = std::move(before);
     }
 
     // Work that has begun has no start slack.

@@ -53,11 +53,6 @@ void addSubtrees(const outline::Tasks &tasks, const TaskRecord &summary,
 }
 }
 
-bool isDated(const TaskRecord &task)
-{
-    return task.Start != 0 && task.Finish != 0;
-}
-
 namespace {
 
 bool datesOf(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, TaskRecord &summary,

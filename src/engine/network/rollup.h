@@ -13,7 +13,11 @@ bool dates(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, 
 // The same from those children that have both.
 bool datesOfDated(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, TaskRecord &summary);
 // Whether the task has a start and a finish.
-bool isDated(const TaskRecord &task);
+template <typename Task>
+bool isDated(const Task &task)
+{
+    return task.Start != 0 && task.Finish != 0;
+}
 // The completed fraction of the direct children, each weighted by its length in its own unit; milestones do
 // not count. 0.0 when nothing is done or the children have no length.
 double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,
