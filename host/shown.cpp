@@ -7,6 +7,7 @@ namespace shown {
 namespace {
 
 constexpr int secsPerDay = 86400;
+constexpr int secsPerHour = 3600;
 constexpr int nobody = -1;
 
 // The predecessor whose end is the milestone's moment; a task rather than another milestone.
@@ -61,8 +62,17 @@ QString Clock::text() const
 
 Clock startOf(const Plan &plan, quint32 secs)
 {
-    const quint32 working = KWTaskCollection::moveForwarstartOnDayOff(plan.document.get(), secs, true);
-    const QDateTime when = KWTaskInfo::showDateTime(plan.document.get(), working, true);
+    KWDocument *document = plan.document.get();
+    const QDateTime given = KWTaskInfo::showDateTime(document, secs, true);
+    // Nothing that works begins on a day off or when work ends: what is stored there was put there.
+    const int finishSecs = int(KWTaskInfo::startOrFinishHour(document, false)) * secsPerHour;
+    const bool isEvening = given.time().msecsSinceStartOfDay() / 1000 == finishSecs;
+    const bool stays =
+        isEvening || (KWTaskInfo::isHaveWorkDay(document) && !KWTaskInfo::isWorkday(document, given));
+    if (stays)
+        return {given.date(), given.time().msecsSinceStartOfDay() / 1000};
+    const quint32 working = KWTaskCollection::moveForwarstartOnDayOff(document, secs, true);
+    const QDateTime when = KWTaskInfo::showDateTime(document, working, true);
     return {when.date(), when.time().msecsSinceStartOfDay() / 1000};
 }
 
@@ -114,6 +124,26 @@ Times::Times(const Plan &plan)
             m_starts[std::size_t(*link)] = m_finishes[std::size_t(*link)] = when;
             at = *link;
         }
+    }
+    showSummaries();
+}
+
+// A summary begins and ends as its subtasks are shown to, which stand below it.
+void Times::showSummaries()
+{
+    std::vector<bool> hasSubtask(m_starts.size(), false);
+    for (int pos = m_plan.taskCount() - 1; pos >= 0; --pos) {
+        const KWTaskInfo *task = m_plan.task(pos);
+        const int parent = task->ParentID != 0 ? m_plan.posOf(task->ParentID) : nobody;
+        if (parent < 0 || parent >= pos)
+            continue;
+        const std::size_t at = std::size_t(pos);
+        const std::size_t above = std::size_t(parent);
+        if (!hasSubtask[above] || m_starts[at] < m_starts[above])
+            m_starts[above] = m_starts[at];
+        if (!hasSubtask[above] || m_finishes[above] < m_finishes[at])
+            m_finishes[above] = m_finishes[at];
+        hasSubtask[above] = true;
     }
 }
 

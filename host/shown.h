@@ -43,6 +43,8 @@ public:
     Clock lateFinish(int pos) const;
 
 private:
+    void showSummaries();
+
     const Plan &m_plan;
     std::vector<Clock> m_starts;
     std::vector<Clock> m_finishes;
