@@ -243,7 +243,8 @@ int listFormats(Console &console)
         t("csv    reads and writes: a row a task, titles in the first row, UTF-8") + QLatin1Char('\n') +
         t("xlsx   reads and writes: a workbook with a sheet each of tasks, resources and assignments") +
         QLatin1Char('\n') + t("xls    reads and writes: the same, at most 65,536 rows") + QLatin1Char('\n') +
-        t("json   writes") + QLatin1Char('\n') + t("table  writes: text for people") + QLatin1Char('\n');
+        t("mspdi  reads and writes: project XML (.xml), as other planners exchange it") +
+        QLatin1Char('\n') + t("json   writes") + QLatin1Char('\n') + t("table  writes: text for people") + QLatin1Char('\n');
     return written(console, text.toUtf8());
 }
 

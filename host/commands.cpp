@@ -2,6 +2,7 @@
 #include "kwpxfile.h"
 #include "machine.h"
 #include "planfile.h"
+#include "projectfile.h"
 #include "report.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/findings.h"
@@ -70,6 +71,8 @@ int writePlan(Console &console, Plan &plan)
                    ? Console::Done
                    : Console::CannotWrite;
     }
+    if (options.format == Options::Project)
+        return projectfile::save(console, plan, options.output);
     if (options.format == Options::Csv)
         return written(console, machine::csv(plan));
     if (options.format == Options::Json)

@@ -94,14 +94,20 @@ bool isPackage(const QString &path)
     return path.endsWith(QLatin1String(".kwpx")) || file.readAll().contains("document.xml");
 }
 
+bool refusesCalendar(Console &console, const QString &path)
+{
+    if (!namesCalendar(console.options()))
+        return false;
+    console.error(
+        t("%1: a package brings its own calendar and resources").arg(path),
+        t("leave --calendar, --days, --hours, --holiday, --start, --resources and --assignments out"));
+    return true;
+}
+
 int load(const QString &path, Console &console, Plan &plan, Findings &findings)
 {
-    if (namesCalendar(console.options())) {
-        console.error(
-            t("%1: a package brings its own calendar and resources").arg(path),
-            t("leave --calendar, --days, --hours, --holiday, --start, --resources and --assignments out"));
+    if (refusesCalendar(console, path))
         return Console::WrongUse;
-    }
     KWDocument &document = *plan.document;
     if (!document.loadFromKWGT(path)) {
         const QString why = KWZip::lastError();

@@ -90,6 +90,8 @@ bool setFormat(Options &o, const QString &value)
         o.format = Options::Csv;
     else if (value == QLatin1String("json"))
         o.format = Options::Json;
+    else if (value == QLatin1String("mspdi"))
+        o.format = Options::Project;
     else if (value == QLatin1String("table") || value == QLatin1String("text"))
         o.format = Options::Table;
 #ifdef KW_WITH_EXPORT
@@ -160,7 +162,16 @@ const Option optionTable[] = {
      [](Options &o, const QString &) { return setFormat(o, QStringLiteral("json")); }},
     {"csv", "", nullptr, Showing | Changing,
      [](Options &o, const QString &) { return setFormat(o, QStringLiteral("csv")); }},
-    {"to", "", "csv|json|table", Planning, [](Options &o, const QString &v) { return setFormat(o, v); }},
+    {"from", "", "kwpx|csv|xlsx|xls|mspdi", Planning,
+     [](Options &o, const QString &v) {
+         static const QStringList formats{QStringLiteral("kwpx"), QStringLiteral("csv"),
+                                          QStringLiteral("xlsx"), QStringLiteral("xls"),
+                                          QStringLiteral("mspdi")};
+         o.inputFormat = v;
+         return formats.contains(v);
+     }},
+    {"to", "", "csv|json|mspdi|table", Planning,
+     [](Options &o, const QString &v) { return setFormat(o, v); }},
     {"quiet", "q", nullptr, Everywhere, [](Options &o, const QString &) { return o.quiet = true; }},
     {"verbose", "v", nullptr, Everywhere, [](Options &o, const QString &) { return o.verbose = true; }},
     {"progress", "", "auto|always|never", Everywhere,
@@ -515,7 +526,7 @@ void setFormatByName(Options &options)
     static const QHash<QString, Options::Format> formats{
         {QStringLiteral("csv"), Options::Csv},      {QStringLiteral("json"), Options::Json},
         {QStringLiteral("kwpx"), Options::Package}, {QStringLiteral("xlsx"), Options::Xlsx},
-        {QStringLiteral("xls"), Options::Xls},
+        {QStringLiteral("xls"), Options::Xls},      {QStringLiteral("xml"), Options::Project},
 #ifdef KW_WITH_EXPORT
         {QStringLiteral("pdf"), Options::Pdf},      {QStringLiteral("png"), Options::Png},
         {QStringLiteral("svg"), Options::Svg},      {QStringLiteral("html"), Options::Html},
@@ -571,7 +582,7 @@ bool parse(const QStringList &arguments, Options &result, Fault &fault)
     setFormatByName(result);
     if (isConvert && result.format == Options::Table)
         return fail(fault, t("'%1' names no format that can be written").arg(result.output),
-                    t("end it in .kwpx, .csv, .xlsx, .xls or .json"));
+                    t("end it in .kwpx, .csv, .xlsx, .xls, .xml or .json"));
     return checkTogether(result, fault);
 }
 

@@ -7,7 +7,7 @@
 struct Options
 {
     enum When { Auto, Always, Never };
-    enum Format { Table, Csv, Json, Package, Xlsx, Xls, Pdf, Png, Svg, Html };
+    enum Format { Table, Csv, Json, Package, Xlsx, Xls, Project, Pdf, Png, Svg, Html };
     static constexpr int everyLevel = 0;
 
     QString command;       // "help" when none is given
@@ -19,6 +19,7 @@ struct Options
     bool force = false;
     Format format = Table;
     bool formatGiven = false;
+    QString inputFormat; // of the plan that is read; empty: found from its content
     bool quiet = false;
     bool verbose = false;
     When progress = Auto;

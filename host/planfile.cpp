@@ -2,6 +2,7 @@
 #include "console.h"
 #include "kwpxfile.h"
 #include "model/kwtaskinfo.h"
+#include "projectfile.h"
 #include "resources/resourceinfodata.h"
 #include "sheetfile.h"
 #include "shown.h"
@@ -256,14 +257,23 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
 {
     plan.file = path;
     plan.slackUnit = console.options().slackUnit;
-    if (kwpxfile::isPackage(path)) {
+    const QString &from = console.options().inputFormat;
+    const bool isXml = from == QLatin1String("mspdi") ||
+                       (from.isEmpty() && projectfile::kindOf(path) != projectfile::None);
+    if (isXml) {
+        const int code = projectfile::load(path, console, plan, findings);
+        if (plan.name.isEmpty())
+            plan.name = projectName(plan);
+        return code;
+    }
+    if (from == QLatin1String("kwpx") || (from.isEmpty() && kwpxfile::isPackage(path))) {
         if (const int code = kwpxfile::load(path, console, plan, findings))
             return code;
         plan::countSlackIn(plan, plan.slackUnit);
         plan.name = projectName(plan);
         return Console::Done;
     }
-    if (workbookfile::kindOf(path) != workbookfile::None)
+    if (from != QLatin1String("csv") && workbookfile::kindOf(path) != workbookfile::None)
         return loadWorkbook(path, console, plan, findings);
     int code = readRows(path, console, plan, findings);
     if (code == Console::Done)

@@ -9,8 +9,8 @@ QMap<QString, QString> helpTopics()
         {QString(), text(R"(kwgantt - schedules project plans and shows them in the terminal
 
 Arguments:
-  FILE   a package (.kwpx), a workbook (.xlsx, .xls) or a CSV plan ('-' reads standard input): titles in the
-         first row, in any order and case, such as ID, WBS, Level, Name, Start, Finish,
+  FILE   a package (.kwpx), a workbook (.xlsx, .xls), project XML (.xml) or a CSV plan ('-' reads standard
+         input): titles in the first row, in any order and case, such as ID, WBS, Level, Name, Start, Finish,
          Duration (3d 12h 30min 1.5w 2mon), Percent, Predecessors (joined by ;), Resources, Milestone, Notes.
          A calendar stands beside it as NAME.calendar.json or calendar.json, the resource sheet and the
          assignments as NAME.resources.csv and NAME.assignments.csv.
@@ -95,7 +95,7 @@ summed up on standard error. Tasks that wait for each other in a ring of links g
   --dry-run        what would move, and because of what; nothing is written
   --check          the same, and exit code 1 when anything would move or was found
   -i, --in-place   writes the new dates into FILE, a package or a CSV plan, and leaves everything else as it is
-  -o FILE          writes the scheduled plan; the format follows the name (.kwpx, .csv, .xlsx, .xls, .json)
+  -o FILE          writes the scheduled plan; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)
   --unit d|h|min   the unit of slack
 
 All options of 'kwgantt help show' go with it, too.
@@ -117,7 +117,7 @@ Examples:
 )")},
         {QStringLiteral("convert"), text(R"(kwgantt convert IN OUT - writes a plan in another format
 
-The input's format is found from its content, the output's from its name: .kwpx, .csv, .xlsx, .xls or .json. Tasks without a
+The input's format is found from its content, the output's from its name: .kwpx, .csv, .xlsx, .xls, .xml or .json. Tasks without a
 start are placed as 'kwgantt schedule' does.
 
 A CSV plan holds tasks alone: its calendar, resources and assignments are written beside it, where they are
@@ -183,7 +183,7 @@ Examples:
 kwgantt edit FILE --script FILE
 
   -i, --in-place   writes the package FILE itself
-  -o OUT           writes another file; the format follows the name (.kwpx, .csv, .xlsx, .xls, .json)
+  -o OUT           writes another file; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)
   --dry-run        shows the changed plan and writes nothing
   --script FILE    one edit a line ('-' reads standard input); a line that begins with # says nothing
   --sheets rich    a workbook with values, widths, filters and outline groups
