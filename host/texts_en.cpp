@@ -17,7 +17,7 @@ Arguments:
   TASK   the row number shown, #ID, or a name
 
 Options of all commands:
-  -o, --output FILE   writes the result into FILE; the format follows the name (.kwpx, .csv, .xlsx, .xls, .json)
+  -o, --output FILE   writes the result into FILE; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)
   --force             replaces a file that is there
   -q, --quiet         says nothing but errors
   -v, --verbose       lists all findings, not only the first
@@ -33,7 +33,8 @@ Options of all commands:
 
 Options of commands that read a plan:
   --json              data for other programs
-  --to csv|json|table   the format of what is printed
+  --to csv|json|mspdi|table   the format of what is printed
+  --from FORMAT       the format of FILE: kwpx, csv, xlsx, xls or mspdi; its content decides otherwise
   --calendar FILE     the calendar of a plan that holds none
   --days DAYS         the days that work, such as Mon-Fri
   --hours HOURS       the hours of a day, such as 08:00-12:00,13:00-17:00
