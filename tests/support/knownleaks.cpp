@@ -4,9 +4,5 @@ extern "C" __attribute__((visibility("default"))) const char *__lsan_default_sup
 const char *__lsan_default_suppressions()
 {
     return "leak:libfontconfig\n"
-           "leak:libpango\n"
-           "leak:libcairo\n"
-           "leak:libglib\n"
-           "leak:libgobject\n"
-           "leak:libharfbuzz\n";
+           "leak:libcairo\n";
 }
