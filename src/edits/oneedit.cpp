@@ -29,8 +29,7 @@ KWTaskInfo *OneEdit::parentOf(const TaskRecord &task) const
     return parent == &task ? nullptr : parent;
 }
 
-// ---- Judging
-// --------------------------------------------------------------------------------------------------------
+// ---- Judging ---------------------------------------------------------------------------------------------
 
 EditAnswer &OneEdit::refuse(EditRefusal refusal, const QStringList &arguments)
 {
@@ -64,8 +63,7 @@ QString OneEdit::nameOf(const TaskRecord &task) const
     return QStringLiteral("%1 \"%2\"").arg(document().getTagByTaskID(task.ID)).arg(task.Name.trimmed());
 }
 
-// ---- Recording
-// ------------------------------------------------------------------------------------------------------
+// ---- Recording -------------------------------------------------------------------------------------------
 
 void OneEdit::begin(unsigned backups, Reach reach)
 {
@@ -116,8 +114,7 @@ void OneEdit::keepReach(TaskRecord &task)
         m_record->action().backupAffected(asTask(&task));
 }
 
-// ---- Changing
-// -------------------------------------------------------------------------------------------------------
+// ---- Changing --------------------------------------------------------------------------------------------
 
 void OneEdit::changed(const TaskRecord &task)
 {
@@ -166,38 +163,27 @@ void OneEdit::takeFromSummaries()
     }
 }
 
-// The links are made again one by one, as far as they may be made.
 void OneEdit::dropUnsuitedLinks()
 {
     const outline::Tasks all = tasks();
+    const auto dropUnsuited = [&](TaskRecord *predecessor, TaskRecord *successor) {
+        if (!predecessor || !successor || links::fault(all, *predecessor, *successor) == LinkRefusal::None)
+            return;
+        predecessor->Depends.removeOne(successor->ID);
+        successor->Predecessors.removeOne(predecessor->ID);
+        lose(EditLoss::Link, *successor, {}, predecessor->ID);
+        changes.what |= settling::Links;
+    };
     for (const quint32 id : m_linkedSummaries) {
-        KWTaskInfo *summary = this->task(id);
+        TaskRecord *summary = this->task(id);
         if (!summary)
             continue;
-        const auto isSound = [&](KWTaskInfo &predecessor, KWTaskInfo &successor) {
-            const int successorPlace = predecessor.Depends.indexOf(successor.ID);
-            const int predecessorPlace = successor.Predecessors.indexOf(predecessor.ID);
-            predecessor.removeDependIDByID(successor.ID);
-            successor.removeDependOnIDByID(predecessor.ID);
-            if (links::refusal(all, predecessor, successor) != LinkRefusal::None) {
-                lose(EditLoss::Link, successor, {}, predecessor.ID);
-                changes.what |= settling::Links;
-                return false;
-            }
-            predecessor.insertDependID(successorPlace, successor.ID);
-            successor.insertDependOnID(predecessorPlace, predecessor.ID);
-            return true;
-        };
         const QList<quint32> before = summary->Predecessors;
         const QList<quint32> after = summary->Depends;
-        for (const quint32 other : before) {
-            if (KWTaskInfo *predecessor = this->task(other))
-                isSound(*predecessor, *summary);
-        }
-        for (const quint32 other : after) {
-            if (KWTaskInfo *successor = this->task(other))
-                isSound(*summary, *successor);
-        }
+        for (const quint32 other : before)
+            dropUnsuited(this->task(other), summary);
+        for (const quint32 other : after)
+            dropUnsuited(summary, this->task(other));
     }
 }
 

@@ -19,8 +19,8 @@ struct EditStep
 
 // One call at work: it judges, then begins, changes and finishes.
 //
-// An edit that was refused is dropped with its record; one that has begun must not be refused any more,
-// unless what it changed has been changed back.
+// An edit that was refused is dropped with its record; it must not have changed anything. So all is judged
+// beforehand.
 class OneEdit
 {
 public:
@@ -31,8 +31,7 @@ public:
     KWTaskInfo *task(quint32 id) const; // null when there is none
     KWTaskInfo *parentOf(const TaskRecord &task) const;
 
-    // ---- Judging
-    // --------------------------------------------------------------------------------------------------
+    // ---- Judging -----------------------------------------------------------------------------------------
     EditAnswer &refuse(EditRefusal refusal, const QStringList &arguments = {});
     bool isRefused() const { return !answer.isDone(); }
     // The tasks of these IDs in list order, each once; refuses when one is missing or there is none.
@@ -40,8 +39,7 @@ public:
     // As a user knows the task: its row number and name.
     QString nameOf(const TaskRecord &task) const;
 
-    // ---- Recording
-    // ------------------------------------------------------------------------------------------------
+    // ---- Recording ---------------------------------------------------------------------------------------
     enum Backup : unsigned { SingleTasks = 0, AllTasks = 1, Sheet = 2, Options = 4, Columns = 8 };
     enum Reach { MovesTasks, MovesNothing };
     // Begins the edit: what is kept of all that it changes. Without AllTasks single tasks follow.
@@ -50,8 +48,7 @@ public:
     void keepAssignments(TaskRecord &task);
     void keepReach(TaskRecord &task); // all that a change of its dates or links can reach
 
-    // ---- Changing
-    // -------------------------------------------------------------------------------------------------
+    // ---- Changing ----------------------------------------------------------------------------------------
     settling::Changes changes;
     EditAnswer answer;
     void changed(const TaskRecord &task);

@@ -136,10 +136,9 @@ public:
     // Takes back everything since the last finish; nothing goes on the undo stack.
     void cancel();
 
-    // ---- The outline
-    // ------------------------------------------------------------------------------------------------ New
-    // tasks: answer.tasks has them. They take the dates of the task beside them, last as long but a day at
-    // most, and are named as no other. A task below a collapsed summary is hidden.
+    // ---- The outline -------------------------------------------------------------------------------------
+    // New tasks: answer.tasks has them. They take the dates of the task beside them, last as long but a day
+    // at most, and are named as no other. A task below a collapsed summary is hidden.
     EditAnswer add(const TaskValues &values = {}); // at the end, beside the last visible task
     EditAnswer insert(quint32 id, Place place, const TaskValues &values = {});
     // A collapsed summary goes with what is hidden below it, what is below another task moves up in its
@@ -154,21 +153,18 @@ public:
     EditAnswer collapse(const QVector<quint32> &ids);
     EditAnswer expand(const QVector<quint32> &ids);
 
-    // ---- Values
-    // -----------------------------------------------------------------------------------------------------
+    // ---- Values ------------------------------------------------------------------------------------------
     // The same values for each of the tasks. Dates, length, percent and baseline of a summary come from the
     // tasks below it and are refused, but for its start.
     EditAnswer set(const QVector<quint32> &ids, const TaskValues &values);
 
-    // ---- Links
-    // ------------------------------------------------------------------------------------------------------
+    // ---- Links -------------------------------------------------------------------------------------------
     // Each task waits for the one before it in the list.
     EditAnswer link(const QVector<quint32> &chain);
     EditAnswer unlink(const QVector<quint32> &chain);
     EditAnswer unlinkAll(const QVector<quint32> &ids); // from all that they wait for and that waits for them
 
-    // ---- Resources
-    // --------------------------------------------------------------------------------------------------
+    // ---- Resources ---------------------------------------------------------------------------------------
     // Names are compared trimmed. An assignment that is there already takes the units, if given; 1.0 is 100 %
     // of a work resource, or one piece of a material.
     EditAnswer assign(quint32 id, const QString &resource, std::optional<double> units = std::nullopt);
@@ -179,17 +175,16 @@ public:
     EditAnswer renameResource(const QString &name, const QString &newName);
     EditAnswer removeResource(const QString &name); // with its assignments, which are told as lost
 
-    // ---- Working time
-    // ----------------------------------------------------------------------------------------------- Tasks
-    // keep their length in working time, move off the days off and behind their predecessors.
+    // ---- Working time ------------------------------------------------------------------------------------
+    // Tasks keep their length in working time, move off the days off and behind their predecessors.
     EditAnswer setWorkDays(const std::array<bool, 7> &week); // Monday first
     EditAnswer setWorkHours(const QVector<DayHours> &hours); // of every working day, in order
     EditAnswer addException(const DateException &exception); // wins over those that are there
     EditAnswer removeException(const QDate &date);           // the one that decides about the date
 
-    // ---- The whole plan
-    // --------------------------------------------------------------------------------------------- Dates and
-    // cost as they are become the baseline, of the tasks and of all below them; of all tasks without any.
+    // ---- The whole plan ----------------------------------------------------------------------------------
+    // Dates and cost as they are become the baseline, of the tasks and of all below them; of all tasks
+    // without any.
     EditAnswer setBaseline(const QVector<quint32> &ids = {});
     EditAnswer clearBaseline(const QVector<quint32> &ids = {});
     EditAnswer setOptions(const PlanOptions &options);
@@ -197,14 +192,12 @@ public:
     // beginning, the project's first start when it is 0. answer.moves has each task that moved.
     EditAnswer schedule(Beginning beginning, quint32 projectStart = 0);
 
-    // ---- The table
-    // --------------------------------------------------------------------------------------------------
+    // ---- The table ---------------------------------------------------------------------------------------
     EditAnswer setColumn(const QString &title, const ColumnValues &values);
     EditAnswer moveColumn(int from, int to); // column numbers, hidden ones not counted
 
-    // ---- Branches
-    // --------------------------------------------------------------------------------------------------- To
-    // the clipboard, each with all that is below it; hidden tasks too.
+    // ---- Branches ----------------------------------------------------------------------------------------
+    // To the clipboard, each with all that is below it; hidden tasks too.
     EditAnswer copy(const QVector<quint32> &ids);
     EditAnswer cut(const QVector<quint32> &ids);
     // From the clipboard, with new IDs, names of their own and the links among them; the columns stay as they

@@ -21,8 +21,7 @@ constexpr quint32 secsPerDay = LocalClock::secsPerDay;
 // More tasks are recorded with all others, which costs the same for any number.
 constexpr std::size_t fewTasks = 200;
 
-// ---- New tasks
-// ------------------------------------------------------------------------------------------------------
+// ---- New tasks -------------------------------------------------------------------------------------------
 
 bool isDated(const KWTaskInfo *task)
 {
@@ -100,8 +99,7 @@ EditAnswer PlanEdits::insert(quint32 id, Place place, const TaskValues &values)
     return insertAt(edit, outlineplaces::target(edit, *beside.front(), place), beside.front(), values);
 }
 
-// ---- Removal
-// --------------------------------------------------------------------------------------------------------
+// ---- Removal ---------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -209,8 +207,7 @@ EditAnswer PlanEdits::cut(const QVector<quint32> &ids)
     return edit.finish();
 }
 
-// ---- Levels
-// ---------------------------------------------------------------------------------------------------------
+// ---- Levels ----------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -356,8 +353,7 @@ EditAnswer PlanEdits::move(quint32 id, int places)
     return edit.finish();
 }
 
-// ---- What is shown
-// --------------------------------------------------------------------------------------------------
+// ---- What is shown ---------------------------------------------------------------------------------------
 
 namespace {
 

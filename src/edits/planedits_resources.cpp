@@ -113,8 +113,7 @@ void beginAssignment(OneEdit &edit, const std::vector<KWTaskInfo *> &tasks)
 }
 }
 
-// ---- Assignments
-// ----------------------------------------------------------------------------------------------------
+// ---- Assignments -----------------------------------------------------------------------------------------
 
 EditAnswer PlanEdits::assign(quint32 id, const QString &resource, std::optional<double> units)
 {
@@ -171,8 +170,7 @@ EditAnswer PlanEdits::unassignAll(const QVector<quint32> &ids)
     return edit.finish();
 }
 
-// ---- The sheet
-// ------------------------------------------------------------------------------------------------------
+// ---- The sheet -------------------------------------------------------------------------------------------
 
 EditAnswer PlanEdits::addResource(const QString &name, const ResourceValues &values)
 {

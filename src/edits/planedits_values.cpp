@@ -4,6 +4,7 @@
 #include "edits/starttogether.h"
 #include "edits/taskvalues.h"
 #include "engine/cost/baselines.h"
+#include "engine/network/links.h"
 #include "engine/network/rollup.h"
 #include "engine/time/duration.h"
 #include "model/kwdocument.h"
@@ -40,8 +41,7 @@ EditAnswer PlanEdits::set(const QVector<quint32> &ids, const TaskValues &values)
     return values.rowHeight ? edit.finishRows() : edit.finish();
 }
 
-// ---- Links
-// ----------------------------------------------------------------------------------------------------------
+// ---- Links -----------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -84,11 +84,11 @@ QString ringText(const OneEdit &edit, const QList<quint32> &ring)
     return names.join(QString::fromUtf8(" \u2192 "));
 }
 
-void refuseLink(OneEdit &edit, LinkRefusal refusal, const KWTaskInfo &before, const KWTaskInfo &after,
-                const QList<quint32> &ring)
+void refuseLink(OneEdit &edit, const KWTaskLink &link)
 {
-    const QStringList both{edit.nameOf(after), edit.nameOf(before)};
-    switch (refusal) {
+    const QStringList both{edit.nameOf(*edit.task(link.successor)),
+                           edit.nameOf(*edit.task(link.predecessor))};
+    switch (link.refusal) {
     case LinkRefusal::Self:
         edit.refuse(EditRefusal::LinkToItself, {both.first()});
         return;
@@ -106,8 +106,8 @@ void refuseLink(OneEdit &edit, LinkRefusal refusal, const KWTaskInfo &before, co
     case LinkRefusal::Loop:
         break;
     }
-    edit.refuse(EditRefusal::LinkInRing, {both.first(), ringText(edit, ring)});
-    edit.answer.ring = ring;
+    edit.refuse(EditRefusal::LinkInRing, {both.first(), ringText(edit, link.ring)});
+    edit.answer.ring = link.ring;
 }
 
 // The tasks of a chain, in its order.
@@ -131,30 +131,26 @@ EditAnswer PlanEdits::link(const QVector<quint32> &chain)
     const std::vector<KWTaskInfo *> tasks = chained(edit, chain);
     if (edit.isRefused())
         return edit.answer;
-    KWTaskCollection &collection = *edit.document().taskCollection();
-    const bool wasModified = edit.document().isModified();
+    QList<KWTaskLink> wanted;
+    for (std::size_t i = 1; i < tasks.size(); ++i)
+        wanted.append({tasks[i - 1]->ID, tasks[i]->ID, {}, {}});
+    links::judgeAll(edit.tasks(), wanted);
+    for (const KWTaskLink &link : qAsConst(wanted)) {
+        if (link.refusal != LinkRefusal::None) {
+            refuseLink(edit, link);
+            return edit.answer;
+        }
+    }
     edit.begin(tasks.size() <= fewTasks ? OneEdit::SingleTasks : OneEdit::AllTasks);
     for (KWTaskInfo *task : tasks) {
         edit.keepValues(*task);
         edit.keepReach(*task);
     }
+    const Highlight highlight(*edit.document().taskCollection());
     for (std::size_t i = 1; i < tasks.size(); ++i) {
-        KWTaskInfo &before = *tasks[i - 1];
-        KWTaskInfo &after = *tasks[i];
-        QList<quint32> ring;
-        const LinkRefusal refusal = collection.linkRefusal(&before, &after, &ring);
-        if (refusal != LinkRefusal::None) {
-            // Each link is judged after the ones before it, which go again.
-            const Highlight highlight(collection);
-            for (std::size_t made = 1; made < i; ++made)
-                cutLink(*tasks[made - 1], *tasks[made]);
-            edit.document().setModified(wasModified);
-            refuseLink(edit, refusal, before, after, ring);
-            return edit.answer;
-        }
-        collection.taskDependTask(&before, &after);
-        edit.changed(after);
-        edit.answer.tasks.append(after.ID);
+        links::insert(edit.tasks(), *tasks[i - 1], *tasks[i]);
+        edit.changed(*tasks[i]);
+        edit.answer.tasks.append(tasks[i]->ID);
     }
     edit.changes.what |= settling::Links;
     return edit.finish();
@@ -207,8 +203,7 @@ EditAnswer PlanEdits::unlinkAll(const QVector<quint32> &ids)
     return edit.finish();
 }
 
-// ---- Baselines
-// ------------------------------------------------------------------------------------------------------
+// ---- Baselines -------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -258,8 +253,7 @@ EditAnswer PlanEdits::clearBaseline(const QVector<quint32> &ids)
     return changeBaseline(edit, ids, false);
 }
 
-// ---- Scheduling
-// -----------------------------------------------------------------------------------------------------
+// ---- Scheduling ------------------------------------------------------------------------------------------
 
 EditAnswer PlanEdits::schedule(Beginning beginning, quint32 projectStart)
 {
@@ -277,8 +271,7 @@ EditAnswer PlanEdits::schedule(Beginning beginning, quint32 projectStart)
     return edit.finish();
 }
 
-// ---- Options
-// --------------------------------------------------------------------------------------------------------
+// ---- Options ---------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -287,7 +280,9 @@ constexpr quint32 smallestMajorUnit = 3; // week
 EditRefusal refusalOf(const KWDocument &document, const PlanOptions &options)
 {
     constexpr qint32 widest = 10000;
-    const auto isUnit = [](const std::optional<quint32> &unit) { return !unit || *unit < duration::unitCount; };
+    const auto isUnit = [](const std::optional<quint32> &unit) {
+        return !unit || *unit < duration::unitCount;
+    };
     const quint32 major = options.majorUnit.value_or(document.MajorUnit);
     if (!isUnit(options.projectUnit) || !isUnit(options.minorUnit) || major > smallestMajorUnit ||
         (options.minorUnit && *options.minorUnit <= major))
@@ -313,14 +308,16 @@ EditAnswer PlanEdits::setOptions(const PlanOptions &options)
     KWDocument &document = edit.document();
     const EditRefusal refusal = refusalOf(document, options);
     if (refusal != EditRefusal::None)
-        return edit.refuse(refusal, {options.baselineCost ? QString::number(*options.baselineCost) : QString()});
+        return edit.refuse(refusal,
+                           {options.baselineCost ? QString::number(*options.baselineCost) : QString()});
     edit.begin(OneEdit::Options, OneEdit::MovesNothing);
     take(options.projectUnit, document.ProjectUnit);
     take(options.startDate, document.StartDate);
     take(options.finishDate, document.FinishDate);
     take(options.majorUnit, document.MajorUnit);
     if (options.minorUnit)
-        document.MinorUnit = *options.minorUnit - document.MajorUnit - 1; // stored as the distance from the major one
+        document.MinorUnit =
+            *options.minorUnit - document.MajorUnit - 1; // stored as the distance from the major one
     take(options.unitWidth, document.UnitWidth);
     take(options.autoZoom, document.AutoZoom);
     take(options.autoProgress, document.Auto);
@@ -330,8 +327,7 @@ EditAnswer PlanEdits::setOptions(const PlanOptions &options)
     return edit.finishRows();
 }
 
-// ---- The table
-// ------------------------------------------------------------------------------------------------------
+// ---- The table -------------------------------------------------------------------------------------------
 
 EditAnswer PlanEdits::setColumn(const QString &title, const ColumnValues &values)
 {

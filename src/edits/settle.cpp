@@ -116,8 +116,7 @@ private:
 
     void touch(TaskRecord *task) { m_touched.add(task); }
 
-    // ---- Dates
-    // --------------------------------------------------------------------------------------------------
+    // ---- Dates -------------------------------------------------------------------------------------------
 
     // Summaries above these tasks, and these where they are summaries; those whose dates became others.
     std::vector<TaskRecord *> rollUpFrom(const std::vector<TaskRecord *> &tasks)
@@ -256,8 +255,7 @@ private:
         }
     }
 
-    // ---- Lengths and percents
-    // -----------------------------------------------------------------------------------
+    // ---- Lengths and percents ----------------------------------------------------------------------------
 
     void measure()
     {
@@ -310,8 +308,7 @@ private:
             m_progressed.add(task);
     }
 
-    // ---- Money
-    // --------------------------------------------------------------------------------------------------
+    // ---- Money -------------------------------------------------------------------------------------------
 
     // Whether anything of the leaf became another.
     bool sumLeaf(const cost::Measures &measures, TaskRecord &leaf) const
@@ -407,8 +404,7 @@ private:
                                                      : outline::descendants(m_tasks, *summary));
     }
 
-    // ---- Late dates
-    // ---------------------------------------------------------------------------------------------
+    // ---- Late dates --------------------------------------------------------------------------------------
 
     void findLateDates()
     {
@@ -482,8 +478,7 @@ private:
         }
     }
 
-    // ---- The chart
-    // ----------------------------------------------------------------------------------------------
+    // ---- The chart ---------------------------------------------------------------------------------------
 
     void emboldenSummaries()
     {
@@ -512,8 +507,7 @@ private:
     std::unordered_map<quint32, quint32> m_pushedBy;
 };
 
-// ---- The chart
-// ------------------------------------------------------------------------------------------------------
+// ---- The chart -------------------------------------------------------------------------------------------
 
 // The range from the tasks that have dates. Whether it became another, or the width.
 bool updateRange(KWDocument &document)

@@ -114,8 +114,7 @@ void keep(OneEdit &edit, KWTaskInfo &task, const TaskValues &values)
         edit.keepReach(task);
 }
 
-// ---- Setting
-// --------------------------------------------------------------------------------------------------------
+// ---- Setting ---------------------------------------------------------------------------------------------
 
 double lengthOf(const KWDocument &document, const KWTaskInfo &task)
 {

@@ -54,26 +54,19 @@ public:
     {
         if (m_now > 0 && any(8) == 0)
             return undoAndRedo();
-        const std::string before = savedText(m_document);
         const int undoable = m_document.actionManager().undoActions().size();
-        m_document.setModified(false);
-        EditAnswer answer;
+        const int redoable = m_document.actionManager().redoActions().size();
+        bool isDone = false;
+        std::string found;
         {
             PlanEdits edits(m_document, QStringLiteral("Edit"));
-            answer = edit(edits);
-            if (answer.isDone() && any(6) == 0)
-                edit(edits); // two edits in one step
+            for (int calls = any(6) == 0 ? 2 : 1; calls > 0; --calls)
+                isDone = call(edits, found) || isDone;
         }
         const bool isStep = m_document.actionManager().undoActions().size() > undoable;
+        if ((isStep && !isDone) || m_document.actionManager().redoActions().size() != (isStep ? 0 : redoable))
+            found += "a step for nothing, or nothing to redo any more\n";
         const std::string after = savedText(m_document);
-        std::string found;
-        if (!answer.isDone()) {
-            m_log += "   refused: " + answer.sentence().toStdString() + "\n";
-            if (isStep || after != before || m_document.isModified())
-                found += "refused, and changed nevertheless: " + difference(before, after);
-        } else if (after != before && (!isStep || !m_document.isModified())) {
-            found += "changed without a word\n";
-        }
         if (isStep) {
             m_states.resize(++m_now);
             m_states.push_back(after);
@@ -83,6 +76,23 @@ public:
         if (savedText(m_document) != after)
             found += "settling everything changed:\n" + difference(after, savedText(m_document));
         return found;
+    }
+
+    // One call; whether it was done. What is refused changes nothing, and what changes something says so.
+    bool call(PlanEdits &edits, std::string &found)
+    {
+        const std::string before = savedText(m_document);
+        const bool wasModified = chance(50);
+        m_document.setModified(wasModified);
+        const EditAnswer answer = edit(edits);
+        const bool isChanged = savedText(m_document) != before;
+        if (!answer.isDone())
+            m_log += "   refused: " + answer.sentence().toStdString() + "\n";
+        if (!answer.isDone() && (isChanged || m_document.isModified() != wasModified))
+            found += "refused, and changed nevertheless: " + difference(before, savedText(m_document));
+        if (isChanged && !m_document.isModified())
+            found += "changed without a word\n";
+        return answer.isDone();
     }
 
     std::string undoAndRedo()
@@ -111,7 +121,9 @@ private:
     bool chance(int percent) { return any(100) < percent; }
     quint32 task()
     {
-        return m_document.taskCount() ? m_document.getTaskInfoAt(any(m_document.taskCount()))->ID.value() : 0;
+        if (m_document.taskCount() == 0 || any(100) == 0)
+            return 9999; // there is none
+        return m_document.getTaskInfoAt(any(m_document.taskCount()))->ID;
     }
     QVector<quint32> tasks()
     {
@@ -120,7 +132,7 @@ private:
             ids.append(task());
         return ids;
     }
-    QString resource() { return QStringLiteral("R%1").arg(any(5)); }
+    QString resource() { return any(50) == 0 ? QStringLiteral(" ") : QStringLiteral("R%1").arg(any(5)); }
     // Around a clock change of the western zones.
     quint32 moment()
     {
@@ -179,14 +191,40 @@ private:
             link.address = QStringLiteral("a%1.com").arg(any(9));
             values.hyperlinks = QVector<KWHyperlink>{link};
         }
+        if (chance(5))
+            spoil(values);
         return values;
+    }
+
+    // What no task can take.
+    void spoil(TaskValues &values)
+    {
+        switch (any(6)) {
+        case 0:
+            values.percent = 1.5;
+            break;
+        case 1:
+            values.length = TaskLength{-1, 4};
+            break;
+        case 2:
+            values.length = TaskLength{1, 7};
+            break;
+        case 3:
+            values.baseCost = QStringLiteral("much");
+            break;
+        case 4:
+            values.rowHeight = 0;
+            break;
+        default:
+            values.finish = 1;
+        }
     }
 
     ResourceValues rates()
     {
         ResourceValues values;
         values.cost = any(100);
-        values.costUnit = any(5);
+        values.costUnit = any(chance(95) ? 5 : 9);
         if (chance(20))
             values.type = any(2);
         if (chance(20))
@@ -285,7 +323,7 @@ private:
         }
         case 19:
             note("unlinkAll", id);
-            return chance(30) ? edits.unlinkAll({id}) : edits.link({id, task(), task()});
+            return chance(30) ? edits.unlinkAll({id}) : edits.link({id, task(), task(), task()});
         case 20:
         case 21: {
             const QString name = resource();
@@ -328,7 +366,8 @@ private:
         note("calendar", kind, date.toString(Qt::ISODate));
         switch (kind) {
         case 0:
-            return edits.setWorkDays({true, chance(80), true, chance(80), true, chance(30), chance(20)});
+            return edits.setWorkDays(
+                {chance(90), chance(80), chance(80), false, chance(80), chance(30), false});
         case 1:
             return edits.setWorkHours(chance(50)
                                           ? QVector<DayHours>{{28800, 43200}, {46800, 61200}}

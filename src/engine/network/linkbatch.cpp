@@ -5,6 +5,7 @@
 #include "engine/record/taskrecord.h"
 #include <QSet>
 #include <QVector>
+#include <algorithm>
 #include <limits>
 #include <numeric>
 
@@ -51,43 +52,34 @@ bool isOutlineSound(const Tasks &tasks)
     return named == children;
 }
 
-// The links of all tasks, with what is asked again and again at hand.
-class Linker
+// What becomes of links, with what is asked again and again at hand.
+class Judge
 {
 public:
-    Linker(const Tasks &tasks, const EventNetwork &network, QList<KWTaskLink> &wanted)
+    Judge(const Tasks &tasks, const EventNetwork &network, QList<KWTaskLink> &wanted)
         : m_tasks(tasks)
         , m_network(network)
         , m_wanted(wanted)
-        , m_successorsRight(size_t(tasks.list.size()), unknown)
-        , m_predecessorsRight(size_t(tasks.list.size()), unknown)
     {
         for (int pos = 0; pos < tasks.list.size(); ++pos) {
             for (const quint32 id : tasks.list[pos]->Depends)
                 m_linked.insert(pairOf(pos, tasks.index.posOf(id)));
-            for (const quint32 id : tasks.list[pos]->Predecessors)
-                m_named.insert(pairOf(tasks.index.posOf(id), pos));
         }
         m_from.reserve(wanted.size());
         for (KWTaskLink &link : wanted)
             m_from.append({tasks.index.posOf(link.predecessor), tasks.index.posOf(link.successor)});
     }
 
-    int run()
+    void run()
     {
         linkgraph::GrowingOrder order(linkgraph::components(withWanted()).order);
         addPresent(order);
-        int made = 0;
         for (int i = 0; i < m_wanted.size(); ++i) {
-            KWTaskLink &link = m_wanted[i];
-            link.ring.clear();
-            link.refusal = judged(i, order);
-            if (link.refusal != LinkRefusal::None)
-                continue;
-            insert(m_from[i].predecessor, m_from[i].successor);
-            ++made;
+            m_wanted[i].ring.clear();
+            m_wanted[i].refusal = judged(i, order);
+            if (m_wanted[i].refusal == LinkRefusal::None)
+                m_linked.insert(pairOf(m_from[i].predecessor, m_from[i].successor));
         }
-        return made;
     }
 
 private:
@@ -95,7 +87,6 @@ private:
     {
         int predecessor, successor; // places
     };
-    static constexpr double unknown = std::numeric_limits<double>::infinity();
 
     bool isPossible(const Ends &link) const
     {
@@ -173,70 +164,113 @@ private:
         return LinkRefusal::Loop;
     }
 
-    void insert(int predecessor, int successor)
-    {
-        TaskRecord &a = *m_tasks.list[predecessor];
-        TaskRecord &b = *m_tasks.list[successor];
-        const quint64 pair = pairOf(predecessor, successor);
-        m_linked.insert(pair);
-        insertByBar(a.Depends, b, m_successorsRight[predecessor]);
-        if (m_named.contains(pair))
-            return;
-        m_named.insert(pair);
-        insertByBar(b.Predecessors, a, m_predecessorsRight[successor]);
-    }
-
-    // `right` is the greatest left edge of the listed bars: without a greater one the list need not be read.
-    void insertByBar(QList<quint32> &ids, const TaskRecord &task, double &right) const
-    {
-        if (right == unknown) {
-            right = -unknown;
-            for (const quint32 id : qAsConst(ids)) {
-                const TaskRecord *listed = m_tasks.byId(id);
-                if (listed && listed->x1 > right)
-                    right = listed->x1;
-            }
-        }
-        ids.insert(right > task.x1 ? placeByBar(m_tasks, ids, task.x1) : ids.size(), task.ID);
-        if (task.x1 > right)
-            right = task.x1;
-    }
-
     const Tasks &m_tasks;
     const EventNetwork &m_network;
     QList<KWTaskLink> &m_wanted;
     QVector<Ends> m_from;
     QSet<quint64> m_linked; // by Depends
-    QSet<quint64> m_named;  // by Predecessors
-    std::vector<double> m_successorsRight;
-    std::vector<double> m_predecessorsRight;
 };
 
-int insertOneByOne(const Tasks &tasks, QList<KWTaskLink> &wanted)
+void judgeOneByOne(const Tasks &tasks, QList<KWTaskLink> &wanted)
 {
-    int made = 0;
+    Added added;
     for (KWTaskLink &link : wanted) {
-        TaskRecord *a = tasks.byId(link.predecessor);
-        TaskRecord *b = tasks.byId(link.successor);
+        const TaskRecord *a = tasks.byId(link.predecessor);
+        const TaskRecord *b = tasks.byId(link.successor);
         link.ring.clear();
-        link.refusal = a && b ? refusal(tasks, *a, *b, &link.ring) : LinkRefusal::Missing;
-        if (link.refusal != LinkRefusal::None)
+        if (!a || !b) {
+            link.refusal = LinkRefusal::Missing;
             continue;
-        insert(tasks, *a, *b);
-        ++made;
+        }
+        const int successor = tasks.index.posOf(b->ID);
+        std::vector<int> &successors = added[tasks.index.posOf(a->ID)];
+        if (a != b && (a->Depends.contains(b->ID) ||
+                       std::find(successors.begin(), successors.end(), successor) != successors.end())) {
+            link.refusal = LinkRefusal::Twice;
+            continue;
+        }
+        link.refusal = fault(tasks, *a, *b, added, &link.ring);
+        if (link.refusal == LinkRefusal::None)
+            successors.push_back(successor);
     }
-    return made;
 }
+
+// ---- Making them ------------------------------------------------------------------------------------------
+
+// The lists of IDs on one side of the links, with what is asked of them again and again.
+class Lists
+{
+public:
+    Lists(const Tasks &tasks, QList<quint32> TaskRecord::*ids)
+        : m_tasks(tasks)
+        , m_ids(ids)
+    {
+    }
+
+    // As links::insert does it for one list.
+    void insert(int pos, int other)
+    {
+        QList<quint32> &ids = m_tasks.list[pos]->*m_ids;
+        const auto [found, isNew] = m_right.try_emplace(pos, -std::numeric_limits<double>::infinity());
+        double &right = found->second;
+        if (isNew)
+            read(pos, right);
+        const quint64 pair = pairOf(pos, other);
+        if (m_listed.contains(pair))
+            return;
+        m_listed.insert(pair);
+        // Where no bar starts further right the list need not be looked through.
+        const TaskRecord &task = *m_tasks.list[other];
+        ids.insert(right > task.x1 ? placeByBar(m_tasks, ids, task.x1) : ids.size(), task.ID);
+        right = std::max(right, task.x1);
+    }
+
+private:
+    void read(int pos, double &right)
+    {
+        for (const quint32 id : qAsConst(m_tasks.list[pos]->*m_ids)) {
+            const int listed = m_tasks.index.posOf(id);
+            if (listed < 0)
+                continue;
+            m_listed.insert(pairOf(pos, listed));
+            right = std::max(right, m_tasks.list[listed]->x1);
+        }
+    }
+
+    const Tasks &m_tasks;
+    QList<quint32> TaskRecord::*m_ids;
+    std::unordered_map<int, double> m_right; // by place: the greatest left edge of the listed bars
+    QSet<quint64> m_listed;
+};
+}
+
+void judgeAll(const Tasks &tasks, QList<KWTaskLink> &wanted)
+{
+    constexpr int few = 8;
+    if (wanted.size() <= few || !isOutlineSound(tasks))
+        return judgeOneByOne(tasks, wanted);
+    const EventNetwork network(tasks);
+    // With rings there is no order to begin with.
+    if (linkgraph::components(network.graph()).hasRings)
+        return judgeOneByOne(tasks, wanted);
+    Judge(tasks, network, wanted).run();
 }
 
 int insertAll(const Tasks &tasks, QList<KWTaskLink> &wanted)
 {
-    if (!isOutlineSound(tasks))
-        return insertOneByOne(tasks, wanted);
-    const EventNetwork network(tasks);
-    // With rings there is no order to begin with.
-    if (linkgraph::components(network.graph()).hasRings)
-        return insertOneByOne(tasks, wanted);
-    return Linker(tasks, network, wanted).run();
+    judgeAll(tasks, wanted);
+    Lists successors(tasks, &TaskRecord::Depends);
+    Lists predecessors(tasks, &TaskRecord::Predecessors);
+    int made = 0;
+    for (const KWTaskLink &link : qAsConst(wanted)) {
+        if (link.refusal != LinkRefusal::None)
+            continue;
+        const int a = tasks.index.posOf(link.predecessor);
+        const int b = tasks.index.posOf(link.successor);
+        successors.insert(a, b);
+        predecessors.insert(b, a);
+        ++made;
+    }
+    return made;
 }
 }

@@ -47,7 +47,7 @@ struct Reached
 };
 
 // Looks for a way along links and outline from the begin of b to the end of a, the nearest first.
-bool isReached(const Tasks &tasks, int a, int b, QList<quint32> *ring)
+bool isReached(const Tasks &tasks, int a, int b, const Added &added, QList<quint32> *ring)
 {
     TaskIndex aboveA;
     for (const TaskRecord *above : outline::ancestors(tasks, *tasks.list[a]))
@@ -71,6 +71,9 @@ bool isReached(const Tasks &tasks, int a, int b, QList<quint32> *ring)
         linkgraph::forEachFollower(tasks, event.pos, event.isEnd, [&](int pos, bool isEnd, bool isLink) {
             found = found || reach(pos, isEnd, isLink);
         });
+        const auto more = event.isEnd ? added.find(event.pos) : added.end();
+        for (std::size_t k = 0; more != added.end() && k < more->second.size(); ++k)
+            found = found || reach(more->second[k], false, true);
     }
     if (found && ring) {
         std::vector<int> path;
@@ -149,7 +152,8 @@ bool leadsTo(const Tasks &tasks, const TaskRecord &t, const TaskRecord &a)
     return std::any_of(t.Depends.begin(), t.Depends.end(), [&](quint32 id) { return ids.contains(id); });
 }
 
-LinkRefusal refusal(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b, QList<quint32> *ring)
+LinkRefusal fault(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b, const Added &added,
+                  QList<quint32> *ring)
 {
     const int posOfA = tasks.index.posOf(a.ID);
     const int posOfB = tasks.index.posOf(b.ID);
@@ -157,15 +161,24 @@ LinkRefusal refusal(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b
         return LinkRefusal::Missing;
     if (posOfA == posOfB)
         return LinkRefusal::Self;
-    if (a.Depends.contains(b.ID))
-        return LinkRefusal::Twice;
     const LinkRefusal byOutline = outlineRefusal(tasks, a, b);
     if (byOutline != LinkRefusal::None)
         return byOutline;
     // A child that names another summary is still below this one.
     if (contains(outline::descendants(tasks, a), b.ID))
         return LinkRefusal::OwnSubtask;
-    return isReached(tasks, posOfA, posOfB, ring) ? LinkRefusal::Loop : LinkRefusal::None;
+    return isReached(tasks, posOfA, posOfB, added, ring) ? LinkRefusal::Loop : LinkRefusal::None;
+}
+
+LinkRefusal fault(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b, QList<quint32> *ring)
+{
+    return fault(tasks, a, b, {}, ring);
+}
+
+LinkRefusal refusal(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b, QList<quint32> *ring)
+{
+    const bool isLinked = a.ID != b.ID && a.Depends.contains(b.ID) && tasks.byId(a.ID) && tasks.byId(b.ID);
+    return isLinked ? LinkRefusal::Twice : fault(tasks, a, b, {}, ring);
 }
 
 void insert(const Tasks &tasks, TaskRecord &a, TaskRecord &b)

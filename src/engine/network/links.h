@@ -1,6 +1,7 @@
 #pragma once
 #include "engine/network/linkrefusal.h"
 #include "engine/record/outline.h"
+#include <unordered_map>
 #include <vector>
 
 struct TaskRecord;
@@ -17,9 +18,13 @@ LinkRefusal refusal(const outline::Tasks &tasks, const TaskRecord &a, const Task
 // Makes the link without asking. Each list takes the ID before the first task whose bar starts further right,
 // else at its end; an ID that it holds already stays where it is.
 void insert(const outline::Tasks &tasks, TaskRecord &a, TaskRecord &b);
-// Makes those links that may be made, each judged after the ones before it, and fills in what became of them.
-// As refusal and insert on one after the other, without walking the network for each. Returns how many it
-// made.
+// The same without LinkRefusal::Twice: for a link that is there, whether it can hold.
+LinkRefusal fault(const outline::Tasks &tasks, const TaskRecord &a, const TaskRecord &b,
+                  QList<quint32> *ring = nullptr);
+// Fills in what would become of these links, each judged as if those before it that may be made were there.
+// Changes nothing. A few look through the network one by one, many all at once.
+void judgeAll(const outline::Tasks &tasks, QList<KWTaskLink> &wanted);
+// Makes those links that judgeAll allows. Returns how many these are.
 int insertAll(const outline::Tasks &tasks, QList<KWTaskLink> &wanted);
 
 // ---- What the two ways of making links share --------------------------------------------------------------
@@ -28,6 +33,11 @@ int insertAll(const outline::Tasks &tasks, QList<KWTaskLink> &wanted);
 LinkRefusal outlineRefusal(const outline::Tasks &tasks, const TaskRecord &a, const TaskRecord &b);
 // The place before the first listed task whose bar starts further right than x (pixels).
 int placeByBar(const outline::Tasks &tasks, const QList<quint32> &ids, double x);
+// Links that are not in the tasks' lists, by the place of their predecessor: the places of the successors.
+using Added = std::unordered_map<int, std::vector<int>>;
+// fault() with those links as well.
+LinkRefusal fault(const outline::Tasks &tasks, const TaskRecord &a, const TaskRecord &b, const Added &added,
+                  QList<quint32> *ring);
 // The ring of KWTaskLink for a way through the network: places in the list, from the successor to the
 // predecessor.
 QList<quint32> ringAlong(const outline::Tasks &tasks, const std::vector<int> &path);
