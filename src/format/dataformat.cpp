@@ -1,5 +1,5 @@
 #include "format/dataformat.h"
-#include "format/datetext.h"
+#include "format/numericdate.h"
 #include "kwfilepathmanager.h"
 #include <QCoreApplication>
 #include <QDomDocument>
@@ -88,9 +88,9 @@ QDateTime readNamed(const QString &text, const QString &format)
 
 QDateTime readByFormat(const QString &text, const QString &format)
 {
-    if (!datetext::isNumeric(format))
+    if (!numericdate::isNumeric(format))
         return readNamed(text, format);
-    const std::optional<datetext::Moment> read = datetext::read(text, format);
+    const std::optional<numericdate::Moment> read = numericdate::read(text, format);
     return read ? momentAt(read->date, read->time) : QDateTime();
 }
 }

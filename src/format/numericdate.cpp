@@ -1,6 +1,6 @@
-#include "format/datetext.h"
+#include "format/numericdate.h"
 
-namespace datetext {
+namespace numericdate {
 namespace {
 
 constexpr int firstYearOfTwoDigits = 1970;

@@ -5,7 +5,7 @@
 #include <optional>
 
 // Reads dates and times by formats of numbers: d, dd, M, MM, yy, yyyy, h, hh, mm, ss and literal signs.
-namespace datetext {
+namespace numericdate {
 
 struct Moment
 {
