@@ -26,6 +26,7 @@ set(kw_module_headers
     edits/settle.h
     edits/starttogether.h
     engine/network/linkrefusal.h
+    engine/record/codes.h
     engine/record/outline.h
     engine/record/resource.h
     engine/record/taskindex.h

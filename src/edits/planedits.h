@@ -2,6 +2,7 @@
 #include "editing/kwhyperlink.h"
 #include "edits/editanswer.h"
 #include "engine/network/linkrefusal.h"
+#include "engine/record/codes.h"
 #include "kwgantt_export.h"
 #include <QDate>
 #include <QString>
@@ -51,11 +52,11 @@ struct DateException
     QVector<DayHours> hours; // of their own; empty: those of every day
 };
 
-// A length in a unit of time: 0 year, 1 quarter, 2 month, 3 week, 4 day, 5 hour, 6 minute.
+// A length in a unit of time, of duration::Unit.
 struct TaskLength
 {
     double value = 0; // 0 makes a milestone
-    quint32 unit = 4;
+    quint32 unit = duration::Day;
 };
 
 // Values of tasks; what is not set stays. Taken in this order.
@@ -82,9 +83,9 @@ struct TaskValues
 // Values of an entry of the resource sheet; what is not set stays. They reach every assignment of the entry.
 struct ResourceValues
 {
-    std::optional<qint32> type; // 0 work, other material
+    std::optional<qint32> type; // of resourcetypes::Type
     std::optional<double> cost;
-    std::optional<qint32> costUnit; // 0 minute, 1 hour, 2 day, 3 week, 4 month
+    std::optional<qint32> costUnit; // of cost::RateUnit
     std::optional<double> overtimeCost;
     std::optional<qint32> overtimeUnit;
     std::optional<double> costPer; // cost per use
@@ -107,7 +108,7 @@ struct PlanOptions
     std::optional<quint32> projectUnit; // of new tasks' lengths, as in TaskLength
     std::optional<quint32> startDate;   // day clock; 0: none
     std::optional<quint32> finishDate;
-    std::optional<quint32> majorUnit; // of the chart's head: 0 year, 1 quarter, 2 month, 3 week
+    std::optional<quint32> majorUnit; // of the chart's head, up to duration::smallestMajorUnit
     std::optional<quint32> minorUnit; // as in TaskLength, smaller than the major one
     std::optional<qint32> unitWidth;  // pixels of a minor unit, 1..10000
     std::optional<bool> autoZoom;

@@ -16,7 +16,6 @@ using outlineplaces::Target;
 
 namespace {
 
-constexpr int nameColumn = 1;
 constexpr quint32 secsPerDay = LocalClock::secsPerDay;
 // More tasks are recorded with all others, which costs the same for any number.
 constexpr std::size_t fewTasks = 200;
@@ -35,7 +34,7 @@ void giveDates(const KWDocument &document, const KWTaskInfo *like, bool sameLeng
     constexpr bool hourClock = false;
     const worktime::WorkCalendar &calendar = document.workCalendar();
     if (isDated(like)) {
-        const bool lasts = like->Finish > like->Start + 1;
+        const bool lasts = like->Finish > like->Start + duration::milestoneSecs;
         const bool keeps = lasts && (sameLength || like->Finish - like->Start <= secsPerDay);
         task.Start = like->Start;
         task.Finish = dayoff::finishForward(
@@ -67,7 +66,7 @@ EditAnswer insertAt(OneEdit &edit, const Target &target, const KWTaskInfo *like,
     constexpr bool useColumnTitle = true;
     if (!values.name)
         task->Name = document.differentSuffixTaskName(
-            RowColumnData::s_columnNames.value(nameColumn) + QLatin1Char('1'), useColumnTitle);
+            RowColumnData::s_columnNames.value(columntypes::Name) + QLatin1Char('1'), useColumnTitle);
     task->initFont();
     document.insertTasks(target.pos, {task}, {});
     if (target.parent)

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int costUnitCount = 5;
-
 bool isAmount(const std::optional<double> &amount)
 {
     return !amount || std::isfinite(*amount);
@@ -24,7 +22,7 @@ bool isUnits(const std::optional<double> &units)
 
 bool isCostUnit(const std::optional<qint32> &unit)
 {
-    return !unit || (*unit >= 0 && *unit < costUnitCount);
+    return !unit || (*unit >= 0 && *unit < cost::rateUnitCount);
 }
 
 bool judge(OneEdit &edit, const ResourceValues &values)

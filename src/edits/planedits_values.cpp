@@ -275,8 +275,6 @@ EditAnswer PlanEdits::schedule(Beginning beginning, quint32 projectStart)
 
 namespace {
 
-constexpr quint32 smallestMajorUnit = 3; // week
-
 EditRefusal refusalOf(const KWDocument &document, const PlanOptions &options)
 {
     constexpr qint32 widest = 10000;
@@ -284,7 +282,7 @@ EditRefusal refusalOf(const KWDocument &document, const PlanOptions &options)
         return !unit || *unit < duration::unitCount;
     };
     const quint32 major = options.majorUnit.value_or(document.MajorUnit);
-    if (!isUnit(options.projectUnit) || !isUnit(options.minorUnit) || major > smallestMajorUnit ||
+    if (!isUnit(options.projectUnit) || !isUnit(options.minorUnit) || major > duration::smallestMajorUnit ||
         (options.minorUnit && *options.minorUnit <= major))
         return EditRefusal::BadUnit;
     if (options.unitWidth && (*options.unitWidth < 1 || *options.unitWidth > widest))

@@ -16,7 +16,6 @@ namespace taskvalues {
 
 namespace {
 
-constexpr quint32 milestoneSecs = 1; // a milestone's finish lies one second after its start
 constexpr double tallestRow = 10000; // pixels
 constexpr qint64 longestSecs = 100LL * 366 * LocalClock::secsPerDay;
 // A year before the last moment that there is: what starts here still has a finish.
@@ -130,7 +129,7 @@ double lengthOf(const KWDocument &document, const KWTaskInfo &task)
 void setLength(const KWDocument &document, KWTaskInfo &task, double value)
 {
     const worktime::WorkCalendar &calendar = document.workCalendar();
-    const quint32 least = worktime::clampSecs(qint64(task.Start) + milestoneSecs);
+    const quint32 least = worktime::clampSecs(qint64(task.Start) + duration::milestoneSecs);
     task.Finish = task.Milestone || value == 0
                       ? least
                       : std::max(walk::byUnits(calendar, task.Start, value, task.DurationUnits), least);
@@ -183,7 +182,7 @@ void applyDates(OneEdit &edit, KWTaskInfo &task, const TaskValues &values)
     if (values.unit)
         task.DurationUnits = *values.unit;
     if (values.finish) {
-        task.Finish = std::max(*values.finish, task.Start + milestoneSecs);
+        task.Finish = std::max(*values.finish, task.Start + duration::milestoneSecs);
         task.Milestone = false;
     }
     if (values.isMilestone && *values.isMilestone != task.Milestone)

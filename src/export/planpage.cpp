@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr int nameType = 1;
-constexpr int resourcesType = 7;
 // What is told of a task beside its row, whether the table shows it or not.
-constexpr int toldTypes[] = {2, 3, 4, 5, resourcesType, 17, 8, 19};
+constexpr int toldTypes[] = {columntypes::Start,      columntypes::Finish,        columntypes::Duration,
+                             columntypes::Percent,    columntypes::ResourceNames, columntypes::FinishSlack,
+                             columntypes::Hyperlinks, columntypes::Notes};
 
 // As the page's script has them.
 enum Flag { Summary = 1, Milestone = 2, Critical = 4, Folded = 8, AtStart = 16 };
@@ -94,7 +94,7 @@ std::vector<int> columnTypes(KWDocument &document, const KWExportOptions &option
         if (std::find(types.begin(), types.end(), type) == types.end() && isKnown(type))
             types.push_back(type);
     };
-    addMissing(nameType);
+    addMissing(columntypes::Name);
     for (const int type : toldTypes)
         addMissing(type);
     return types;
@@ -224,9 +224,9 @@ QByteArray PlanPage::head() const
                                    {QStringLiteral("right"), column.isRightAligned ? 1 : 0},
                                    {QStringLiteral("shown"), i < m_shownColumns ? 1 : 0},
                                    {QStringLiteral("tells"), isTold ? 1 : 0}});
-        if (column.type == nameType)
+        if (column.type == columntypes::Name)
             name = i;
-        if (column.type == resourcesType)
+        if (column.type == columntypes::ResourceNames)
             resources = i;
     }
     QJsonObject text;

@@ -20,8 +20,6 @@ using chart::RowKind;
 
 namespace {
 
-constexpr int idType = 0;
-constexpr int nameType = 1;
 constexpr int neighbourRows = 250; // beyond those asked for: links that pass by
 constexpr int longestReach = 2000; // rows that a link is followed
 
@@ -385,11 +383,10 @@ QString PlanView::labelOf(int row) const
     if (!task || (task->isParent() && m_options.labels != KWExportOptions::NameLabels))
         return QString();
     const auto date = [&](quint32 secs, bool isStart) {
-        return secs == 0
-                   ? QString()
-                   : chart::shortDate(
-                         m_plan.locale,
-                         celltext::shownMoment(m_scale->calendar(), secs, isStart).date(), false);
+        return secs == 0 ? QString()
+                         : chart::shortDate(m_plan.locale,
+                                            celltext::shownMoment(m_scale->calendar(), secs, isStart).date(),
+                                            false);
     };
     if (m_options.labels == KWExportOptions::NameLabels)
         return task->Name.simplified();
@@ -495,8 +492,8 @@ void PlanView::makeColumns()
         column.title = head.title;
         column.width = head.width;
         column.alignsRight = head.isRightAligned;
-        column.isName = head.type == nameType;
-        column.isNumber = head.type == idType;
+        column.isName = head.type == columntypes::Name;
+        column.isNumber = head.type == columntypes::Id;
         m_plan.columns.push_back(column);
     }
     m_plan.cell = [this](int row, int column) {

@@ -1,6 +1,7 @@
 #pragma once
 #include "editing/actionmanager.h"
 #include "editing/clipbdmanager.h"
+#include "engine/record/codes.h"
 #include "kwgantt_export.h"
 #include "kwversion.h"
 #include "settings/kwconfig.h"
@@ -52,15 +53,15 @@ public:
     QString DocGuid;                                                // braced UUID
     QString HostText;                                               // kept for the host
     bool WorkDay[7] = {true, true, true, true, true, false, false}; // Monday first
-    quint32 MajorUnit = 3;                                          // 0 year, 1 quarter, 2 month, 3 week
-    quint32 MinorUnit = 0;                                          // stored form, see getMinorUnit
-    quint32 StartDate = 0;                                          // seconds, 0 = not set
+    quint32 MajorUnit = duration::Week;
+    quint32 MinorUnit = 0; // stored form, see getMinorUnit
+    quint32 StartDate = 0; // seconds, 0 = not set
     quint32 FinishDate = 0;
     quint32 DayStart = 28800; // two times of day kept for the host
     quint32 DayFinish = 57600;
     qint32 UnitWidth = 100; // pixels for one minor unit
     bool AutoZoom = true;
-    quint32 ProjectUnit = 4; // duration unit of new tasks
+    quint32 ProjectUnit = duration::Day; // duration unit of new tasks
     double BaselineCost = 0;
     KWPrintConfig printConfig;
     QList<KWCalendar *> calendars; // owned
@@ -221,7 +222,7 @@ public:
     const worktime::WorkCalendar &workCalendar() const;
     void clearCalendar();
     double getDurationValue(quint32 start, quint32 finish, unsigned int unit, bool rounded);
-    unsigned int getMinorUnit() const; // 0 year .. 6 minute
+    unsigned int getMinorUnit() const; // of duration::Unit
     // Names for the codes above, English ones until the host fills its own in; the short names are built in.
     static QMap<unsigned int, QString> s_longUnitNames;
     static QString getNameByMinorUnit(unsigned int unit, bool longName = false); // empty past 6

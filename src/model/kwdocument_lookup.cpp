@@ -209,8 +209,7 @@ bool KWDocument::isHaveDifferentTaskSameName(const KWTaskInfo *task) const
 
 QString KWDocument::differentSuffixTaskName(const QString &name, bool useColumnTitle) const
 {
-    constexpr int nameColumn = 1;
-    const QString base = useColumnTitle ? RowColumnData::s_columnNames.value(nameColumn) : name;
+    const QString base = useColumnTitle ? RowColumnData::s_columnNames.value(columntypes::Name) : name;
     QStringView shownBase(base);
     while (!shownBase.isEmpty() && shownBase.front().isSpace())
         shownBase = shownBase.mid(1);

@@ -13,7 +13,6 @@
 
 namespace {
 
-constexpr int nameColumn = 1;
 constexpr bool hourClock = false;
 constexpr bool pushSuccessors = true;
 
@@ -52,8 +51,8 @@ KWTaskInfo *KWDocument::newTask(quint32 start, quint32 finish, int level, quint3
     auto *task = new KWTaskInfo;
     task->ID = nextTaskID();
     constexpr bool useColumnTitle = true;
-    task->Name = differentSuffixTaskName(RowColumnData::s_columnNames.value(nameColumn) + QLatin1Char('1'),
-                                         useColumnTitle);
+    task->Name = differentSuffixTaskName(
+        RowColumnData::s_columnNames.value(columntypes::Name) + QLatin1Char('1'), useColumnTitle);
     task->Level = level;
     task->ParentID = parentId;
     task->Start = start;

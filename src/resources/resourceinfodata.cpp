@@ -11,9 +11,7 @@
 
 namespace {
 
-// By cost unit: minute, hour, day, week, month.
-const char *const costUnitTexts[] = {"/min", "/h", "/d", "/w", "/m"};
-constexpr int costUnitCount = int(std::size(costUnitTexts));
+const char *const costUnitTexts[cost::rateUnitCount] = {"/min", "/h", "/d", "/w", "/m"};
 constexpr int typeCount = 5;
 }
 
@@ -41,7 +39,7 @@ void copyChange(const ResourceInfo &info, ResourceInfo::ChangeVal what, const KW
     case ResourceInfo::ChangeType:
         assigned.type = info.type;
         assigned.workSecs = cost::workSecs(task, assigned);
-        if (assigned.type != 0)
+        if (!resourcetypes::isWork(assigned.type))
             assigned.overtimeCost = 0;
         return;
     case ResourceInfo::ChangeCostUnit:
@@ -169,12 +167,12 @@ int ResourceInfoData::getTypeIndex(const QString &text) const
 
 QString ResourceInfoData::getCostUintText(int index) const
 {
-    return index >= 0 && index < costUnitCount ? QString::fromLatin1(costUnitTexts[index]) : QString();
+    return index >= 0 && index < cost::rateUnitCount ? QString::fromLatin1(costUnitTexts[index]) : QString();
 }
 
 int ResourceInfoData::getCostUnitIndex(const QString &text) const
 {
-    for (int unit = 0; unit < costUnitCount; ++unit) {
+    for (int unit = 0; unit < cost::rateUnitCount; ++unit) {
         if (text.endsWith(QLatin1String(costUnitTexts[unit])))
             return unit;
     }
@@ -267,7 +265,7 @@ void ResourceInfoData::updateWorkStarAndFinishWork(KWDocument *document)
     SheetSums sheet(infos);
     sheet.collect(document->taskList(),
                   [&pass](NameSums &sums, const KWTaskInfo &task, const Resource &resource) {
-                      const bool isWork = resource.type == 0;
+                      const bool isWork = resourcetypes::isWork(resource.type);
                       double work = isWork ? cost::work(pass.measures(), task, resource) : resource.percent;
                       if (work == 0)
                           return;
@@ -297,23 +295,24 @@ void ResourceInfoData::udpateWorkAndCost(KWDocument *document)
         return;
     const CostPass pass = costsOf(*document);
     SheetSums sheet(infos);
-    sheet.collect(document->taskList(), [&pass](NameSums &sums, const KWTaskInfo &task,
-                                                const Resource &resource) {
-        const cost::Measures &measures = pass.measures();
-        const double work = resource.type == 0 ? cost::toHours(measures, cost::work(measures, task, resource),
-                                                               task.DurationUnits)
-                                               : resource.percent;
-        const double total = cost::ofAssignment(measures, task, resource);
-        sums.totalWork += work;
-        sums.totalCost += total;
-        sums.actualWork += work * task.Percent;
-        if (task.Percent != 0) {
-            const double fixed = cost::fixedPart(resource);
-            sums.actualCost += (total - fixed) * task.Percent + fixed;
-        }
-        sums.unitsSum += resource.percent;
-        sums.count += 1;
-    });
+    sheet.collect(
+        document->taskList(), [&pass](NameSums &sums, const KWTaskInfo &task, const Resource &resource) {
+            const cost::Measures &measures = pass.measures();
+            const double work =
+                resourcetypes::isWork(resource.type)
+                    ? cost::toHours(measures, cost::work(measures, task, resource), task.DurationUnits)
+                    : resource.percent;
+            const double total = cost::ofAssignment(measures, task, resource);
+            sums.totalWork += work;
+            sums.totalCost += total;
+            sums.actualWork += work * task.Percent;
+            if (task.Percent != 0) {
+                const double fixed = cost::fixedPart(resource);
+                sums.actualCost += (total - fixed) * task.Percent + fixed;
+            }
+            sums.unitsSum += resource.percent;
+            sums.count += 1;
+        });
     for (int place = 0; place < infos.size(); ++place) {
         ResourceInfo *info = infos[place];
         if (!info)
@@ -323,7 +322,7 @@ void ResourceInfoData::udpateWorkAndCost(KWDocument *document)
         info->totalWork = sums.totalWork;
         info->actualCost = sums.actualCost;
         info->actualWork = sums.actualWork;
-        info->unitsSum = info->type == 0 ? sums.unitsSum : sums.count;
+        info->unitsSum = resourcetypes::isWork(info->type) ? sums.unitsSum : sums.count;
     }
 }
 

@@ -15,8 +15,6 @@ using columntypes::Kind;
 
 namespace {
 
-constexpr int nameType = 1;
-
 bool isNumber(Kind kind)
 {
     switch (kind) {
@@ -232,8 +230,8 @@ Cell CustomTable::cell(const TableRow &row, int column) const
     cell.text = celltext::ofType(DocumentTexts(*m_document, m_calendar), task, cell.type, *m_style);
     const columntypes::ColumnType *type = columntypes::find(cell.type);
     cell.isMuted = cell.type == 0 || (type && type->kind == columntypes::Kind::Percent && task.Percent == 0);
-    cell.isBold = task.isParent() && cell.type == nameType;
-    if (cell.type == nameType) {
+    cell.isBold = task.isParent() && cell.type == columntypes::Name;
+    if (cell.type == columntypes::Name) {
         const int level = std::clamp(task.Level - 1, 0, maxIndentLevels);
         cell.indent = (level * indentWidth + foldMarkWidth) * m_scale;
         if (task.isParent())

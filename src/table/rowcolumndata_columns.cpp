@@ -1,12 +1,10 @@
 // The table's columns.
+#include "engine/record/codes.h"
 #include "format/unitutil.h"
 #include "model/kwdocument.h"
 #include "table/rowcolumndata.h"
 
 namespace {
-
-constexpr int idType = 0;
-constexpr int nameType = 1;
 
 struct DefaultColumn
 {
@@ -16,17 +14,36 @@ struct DefaultColumn
 };
 
 constexpr DefaultColumn defaultColumns[] = {
-    {idType, 30, false}, {nameType, 240, false}, {2, 128, false}, {3, 128, false}, {4, 80, false},
-    {5, 80, false},      {6, 80, true},          {7, 200, false}, {8, 200, true},  {9, 128, true},
-    {10, 128, true},     {11, 80, true},         {12, 128, true}, {13, 128, true}, {14, 128, true},
-    {15, 128, true},     {16, 80, true},         {17, 80, true},  {18, 80, true},  {19, 200, true},
-    {20, 128, true},     {21, 128, true},        {22, 128, true}, {23, 80, true},
+    {columntypes::Id, 30, false},
+    {columntypes::Name, 240, false},
+    {columntypes::Start, 128, false},
+    {columntypes::Finish, 128, false},
+    {columntypes::Duration, 80, false},
+    {columntypes::Percent, 80, false},
+    {columntypes::Priority, 80, true},
+    {columntypes::ResourceNames, 200, false},
+    {columntypes::Hyperlinks, 200, true},
+    {columntypes::Cost, 128, true},
+    {columntypes::RemainingCost, 128, true},
+    {columntypes::Work, 80, true},
+    {columntypes::EarlyStart, 128, true},
+    {columntypes::EarlyFinish, 128, true},
+    {columntypes::LateStart, 128, true},
+    {columntypes::LateFinish, 128, true},
+    {columntypes::StartSlack, 80, true},
+    {columntypes::FinishSlack, 80, true},
+    {columntypes::Critical, 80, true},
+    {columntypes::Notes, 200, true},
+    {columntypes::BaselineStart, 128, true},
+    {columntypes::BaselineFinish, 128, true},
+    {columntypes::BaselineCost, 128, true},
+    {columntypes::Level, 80, true},
 };
 }
 
 int RowColumnData::typeOfTitle(const QString &title)
 {
-    return s_columnNames.key(title, idType);
+    return s_columnNames.key(title, columntypes::Id);
 }
 
 void RowColumnData::initColumnDataList()
@@ -148,5 +165,5 @@ bool RowColumnData::isReplaceColumn(int pos) const
     if (!column)
         return false;
     const int type = typeOfTitle(column->title);
-    return type != idType && type != nameType;
+    return type != columntypes::Id && type != columntypes::Name;
 }

@@ -35,7 +35,7 @@ constexpr Rate spannedMinutes{SpannedDays, {TimesHours, Times60}};
 constexpr Rate spannedWeeks{SpannedDays, {OverWeekDays, Done}};
 
 // By cost unit (minute, hour, day, week, month), then by the task's unit (year .. minute).
-constexpr Rate rates[5][duration::unitCount] = {
+constexpr Rate rates[rateUnitCount][duration::unitCount] = {
     {spannedMinutes,
      spannedMinutes,
      spannedMinutes,
@@ -166,7 +166,7 @@ quint32 secsOfHours(const Measures &measures, double hours, unsigned int unit)
 
 quint32 workSecs(const TaskRecord &task, const Resource &resource)
 {
-    return resource.type == 0 ? truncatedSecs(task.DurationSecs * resource.percent) : 0;
+    return resourcetypes::isWork(resource.type) ? truncatedSecs(task.DurationSecs * resource.percent) : 0;
 }
 
 void updateWorkSecs(TaskRecord &task)
@@ -182,14 +182,14 @@ double work(const Measures &measures, const TaskRecord &task, const Resource &re
 
 double ofAssignment(const Measures &measures, const TaskRecord &task, const Resource &resource)
 {
-    if (resource.type != 0)
+    if (!resourcetypes::isWork(resource.type))
         return resource.cost * resource.percent + resource.costPer;
     return resource.percent * resource.costPer + timePart(measures, task, resource);
 }
 
 double fixedPart(const Resource &resource)
 {
-    return resource.type != 0 ? resource.costPer : resource.percent * resource.costPer;
+    return resourcetypes::isWork(resource.type) ? resource.percent * resource.costPer : resource.costPer;
 }
 
 Total ofAssignments(const Measures &measures, const TaskRecord &task)

@@ -26,7 +26,7 @@ struct Total
     double work = 0;
 };
 
-// Work in the unit (0 year .. 6 minute) as hours; 0 for an unknown unit.
+// Work in the unit of time as hours; 0 for an unknown unit.
 double toHours(const Measures &measures, double work, unsigned int unit);
 // The other way, as the seconds of a duration in that unit, rounded; the span of a day counts where it has no
 // working hours.

@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/record/codes.h"
 #include "kwgantt_export.h"
 #include <QList>
 #include <QString>
@@ -17,11 +18,11 @@ public:
     double percent = 1.0; // units: 1.0 = 100 % of a work resource, the quantity of a material one
     quint32 workSecs = 0; // working seconds; 0 for a material resource
     qint32 ID = 0;        // of the sheet entry it was made from
-    qint32 type = 0;      // 0 work, other material
-    double cost = 0;      // standard rate
-    qint32 costUnit = 1;  // 0 minute, 1 hour, 2 day, 3 week, 4 month
+    qint32 type = resourcetypes::Work;
+    double cost = 0; // standard rate
+    qint32 costUnit = cost::PerHour;
     double overtimeCost = 0;
-    qint32 overtimeUnit = 1;
+    qint32 overtimeUnit = cost::PerHour;
     double costPer = 0; // cost per use
 
     Resource() = default;

@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/record/codes.h"
 #include <QString>
 
 // One entry of the resource sheet as the rules read it; ResourceInfo, which a sheet holds, is one.
@@ -6,12 +7,12 @@ struct ResourceEntry
 {
     QString name;
     qint32 ID = 0;
-    qint32 type = 0;     // 0 work, other material
-    double unit = 1.0;   // maximum units, 1.0 = 100 %
-    double cost = 0;     // standard rate: money for a cost unit of work, or for one of a material
-    qint32 costUnit = 1; // 0 minute, 1 hour, 2 day, 3 week, 4 month
+    qint32 type = resourcetypes::Work;
+    double unit = 1.0; // maximum units, 1.0 = 100 %
+    double cost = 0;   // standard rate: money for a cost unit of work, or for one of a material
+    qint32 costUnit = cost::PerHour;
     double overtimeCost = 0;
-    qint32 overtimeUnit = 1;
+    qint32 overtimeUnit = cost::PerHour;
     double costPer = 0; // cost per use
     QString group;
     QString email;

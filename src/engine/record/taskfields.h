@@ -24,7 +24,7 @@ inline constexpr auto taskFields = std::make_tuple(
     field("EarlySlack", &TaskRecord::EarlySlack, inFilesAndCleared),
     field("LateSlack", &TaskRecord::LateSlack, inFilesAndCleared),
     field("DurationSecs", &TaskRecord::DurationSecs, inFilesAndCleared),
-    field("DurationUnits", &TaskRecord::DurationUnits, inFilesAndCleared, 4),
+    field("DurationUnits", &TaskRecord::DurationUnits, inFilesAndCleared, duration::Day),
     field("Work", &TaskRecord::Work, inFiles), field("Cost", &TaskRecord::Cost, inFiles),
     field("RemainingCost", &TaskRecord::RemainingCost, inFiles),
     field("BaselineCost", &TaskRecord::BaselineCost, inFiles), field("Notes", &TaskRecord::Notes, inFiles),

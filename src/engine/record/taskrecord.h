@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/record/codes.h"
 #include "engine/record/trackedfield.h"
 #include <QFont>
 #include <QList>
@@ -21,10 +22,10 @@ struct TaskRecord
     qint32 Level = 1;             // 1 = top level
     quint32 Start = 0;
     quint32 Finish = 0;
-    quint32 DurationSecs = 0;  // working seconds, see duration::secs
-    quint32 DurationUnits = 4; // 0 year, 1 quarter, 2 month, 3 week, 4 day, 5 hour, 6 minute
-    QList<quint32> Childs;     // direct children
-    QList<quint32> Depends;    // successors
+    quint32 DurationSecs = 0; // working seconds, see duration::secs
+    quint32 DurationUnits = duration::Day;
+    QList<quint32> Childs;  // direct children
+    QList<quint32> Depends; // successors
     QList<quint32> Predecessors;
     double Percent = 0.0; // fraction 0..1
     bool Milestone = false;

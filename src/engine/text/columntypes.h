@@ -53,7 +53,6 @@ struct ColumnType
     Import import;
 };
 
-constexpr int count = 25;
 // Null for a type that this library does not know.
 const ColumnType *find(int type);
 

@@ -110,7 +110,7 @@ double ofTask(const WorkCalendar &calendar, quint32 start, quint32 finish, unsig
 {
     const quint32 length = secs(calendar, start, finish, unit);
     // Kept on purpose: also a task that is no milestone.
-    return length == 1 ? 0.0 : value(calendar, length, unit);
+    return length == milestoneSecs ? 0.0 : value(calendar, length, unit);
 }
 
 double stretchDayOff(const WorkCalendar &calendar, quint32 start, quint32 finish)

@@ -1,11 +1,9 @@
 #pragma once
+#include "engine/record/codes.h"
 #include "engine/time/worktime.h"
 
 // Durations in working time and their units.
 namespace duration {
-
-enum Unit : unsigned int { Year = 0, Quarter, Month, Week, Day, Hour, Minute };
-constexpr unsigned int unitCount = 7;
 
 // "year" .. "minute"; any other code is "day".
 const char *unitName(unsigned int unit);

@@ -28,7 +28,7 @@ constexpr qint32 wideUnit = 100;
 constexpr qint32 middleUnit = 60;
 constexpr qint32 narrowUnit = 20;
 
-// 0 year .. 6 minute; above that the stored values make no unit.
+// Of duration::Unit; above that the stored values make no unit.
 unsigned int minorUnit(quint32 majorUnit, quint32 storedMinor);
 // The minor unit for a project's length; keeps it where the major unit is too fine for that length.
 Zoom chosen(const LocalClock &clock, Zoom zoom, quint32 start, quint32 finish);
