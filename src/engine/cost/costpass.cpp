@@ -5,6 +5,7 @@
 #include "engine/record/resource.h"
 #include "engine/record/resourceentry.h"
 #include "engine/record/taskrecord.h"
+#include <algorithm>
 
 // ---- The pass ---------------------------------------------------------------------------------------------
 
@@ -213,5 +214,35 @@ void CostPass::sumFrom(const std::vector<TaskRecord *> &changed)
     for (TaskRecord *task : concerned) {
         if (task->isParent())
             sumWithoutBaseline(*task);
+    }
+}
+
+// ---- All tasks --------------------------------------------------------------------------------------------
+
+void CostPass::sumUp()
+{
+    for (TaskRecord *task : m_tasks.list) {
+        if (task->isParent() || !task->isHaveResource())
+            continue;
+        const cost::Total total = cost::ofAssignments(m_measures, *task);
+        task->Cost = total.cost;
+        task->Work = total.work;
+        task->RemainingCost = cost::remaining(*task);
+        task->Resources = names::ofAssignments(*task);
+    }
+    gather();
+    for (TaskRecord *summary : m_tasks.list) {
+        if (!summary->isParent())
+            continue;
+        const std::vector<TaskRecord *> leaves = leavesBelow(*summary);
+        const auto isAssigned = [](const TaskRecord *task) {
+            return !task->isParent() && task->isHaveResource();
+        };
+        if (std::any_of(leaves.begin(), leaves.end(), isAssigned)) {
+            sumWithoutBaseline(*summary, leaves);
+        } else {
+            sumCostAndWork(*summary, leaves);
+            summary->RemainingCost = 0;
+        }
     }
 }

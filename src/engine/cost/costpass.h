@@ -51,10 +51,10 @@ public:
     // below them changed. All is summed anew from the leaves; baselines stay.
     void sumFrom(const std::vector<TaskRecord *> &changed);
 
-    // ---- All tasks (engine/cost/sumup.cpp) -------------------------------------------------------
+    // ---- All tasks ----------------------------------------------------------------------------------------
     // Costs and work of every task that has assignments, and of the summaries from their leaves. A summary
     // with an assigned leaf loses assignments of its own and shows the leaves' names.
-    void sumUp() const;
+    void sumUp();
 
 private:
     void sumWithoutBaseline(TaskRecord &summary, const std::vector<TaskRecord *> &below) const;
