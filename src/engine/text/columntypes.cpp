@@ -88,12 +88,6 @@ void setNumber(TaskRecord &task, const Field &field, double value)
         task.**flag = std::fabs(value) >= 1; // whole, as it is shown
 }
 
-void setSecs(TaskRecord &task, const Field &field, quint32 secs)
-{
-    if (const auto *member = std::get_if<quint32 TaskRecord::*>(&field))
-        task.**member = secs;
-}
-
 void setText(TaskRecord &task, const Field &field, const QString &text)
 {
     if (const auto *member = std::get_if<QString TaskRecord::*>(&field))

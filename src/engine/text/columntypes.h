@@ -62,6 +62,5 @@ quint32 secs(const TaskRecord &task, const Field &field);
 QString text(const TaskRecord &task, const Field &field); // empty where it is no text
 // What does not fit becomes the nearest value that does; nothing happens where the field is of another kind.
 void setNumber(TaskRecord &task, const Field &field, double value);
-void setSecs(TaskRecord &task, const Field &field, quint32 secs);
 void setText(TaskRecord &task, const Field &field, const QString &text);
 }
