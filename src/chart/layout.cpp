@@ -331,6 +331,27 @@ Marks Layout::body(int first, int last, double x0, double x1) const
             if (touches(mark.rect, x0, x1))
                 marks.push_back(std::move(mark));
     };
+    // Rows do not overlap, so only the order within a row matters. What looks alike stands together: painters
+    // make one path of it.
+    const auto together = [](Marks &part) {
+        const auto layer = [](const Mark &mark) {
+            switch (mark.kind) {
+            case Kind::Baseline:
+            case Kind::Progress:
+                return 1;
+            case Kind::Slack:
+            case Kind::Critical:
+                return 2;
+            default:
+                return 0;
+            }
+        };
+        std::stable_sort(part.begin(), part.end(), [&](const Mark &one, const Mark &other) {
+            return layer(one) != layer(other) ? layer(one) < layer(other) : one.style < other.style;
+        });
+    };
+    together(low);
+    together(bars);
     take(low);
     take(bars);
     addLinks(marks, first, last, x0, x1);

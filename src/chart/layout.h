@@ -54,8 +54,17 @@ private:
     void addBar(Marks &low, Marks &marks, int row) const;
     void addLabel(Marks &marks, int row) const;
     void addLinks(Marks &marks, int first, int last, double x0, double x1) const;
-    int obstacles(int row, Interval (&found)[2]) const;
+    // What of a row a link must not run through.
+    struct Obstacles
+    {
+        bool isKnown = false;
+        bool hasLabel = false;
+        Interval bar{0, 0};
+        Interval label{0, 0};
+    };
+    const Obstacles &obstacles(int row) const;
     bool isFree(double x, int first, int last) const;
+    double nearestFree(double x, bool toTheRight, int first, int last) const;
     double freeX(double wanted, double other, int first, int last) const;
     void routeFrom(int group) const;
     Route routed(const Link &link, double &trunk, int &trunkEnd) const;
@@ -74,6 +83,7 @@ private:
     mutable std::vector<bool> m_isRouted; // by group
     mutable std::vector<LabelBox> m_labels;
     mutable std::vector<bool> m_isPlaced;
+    mutable std::vector<Obstacles> m_obstacles;
 };
 
 // All of the above for a part of the picture: the table too when x0 lies left of the chart.

@@ -52,6 +52,7 @@ Layout::Layout(const Plan &plan)
     , m_routes(plan.links.size())
     , m_labels(plan.rows.size())
     , m_isPlaced(plan.rows.size(), false)
+    , m_obstacles(plan.rows.size())
 {
     const std::vector<Link> &links = plan.links;
     const auto run = [&](int link) {
@@ -98,64 +99,93 @@ Layout::Layout(const Plan &plan)
     }
 }
 
-// What of a row a link must not run through.
-int Layout::obstacles(int row, Interval (&found)[2]) const
+const Layout::Obstacles &Layout::obstacles(int row) const
 {
-    const QRectF bar = barRect(row);
-    found[0] = {bar.left() - clearance, bar.right() + clearance};
-    const LabelBox box = label(row);
-    if (!box.isSet())
-        return 1;
-    found[1] = {box.x - clearance, box.x + box.width + clearance};
-    return 2;
+    Obstacles &its = m_obstacles[std::size_t(row - m_plan.firstRow)];
+    if (!its.isKnown) {
+        const QRectF bar = barRect(row);
+        const LabelBox box = label(row);
+        its.bar = {bar.left() - clearance, bar.right() + clearance};
+        its.label = {box.x - clearance, box.x + box.width + clearance};
+        its.hasLabel = box.isSet();
+        its.isKnown = true;
+    }
+    return its;
 }
 
 bool Layout::isFree(double x, int first, int last) const
 {
-    Interval found[2];
     for (int row = first; row <= last; ++row) {
-        const int count = obstacles(row, found);
-        for (int i = 0; i < count; ++i)
-            if (x > found[i].from && x < found[i].to)
-                return false;
+        const Obstacles &its = obstacles(row);
+        if ((x > its.bar.from && x < its.bar.to) || (its.hasLabel && x > its.label.from && x < its.label.to))
+            return false;
     }
     return true;
 }
 
-// The first free of: the two places, then the gap with the shortest way from both. Where there is none, the
-// wanted place.
+// The nearest free place at x or to one side of it: pushed out of what is in the way until nothing is. Each
+// round looks at all rows once. The bars of a plan mostly stand one behind the other, so few rounds do, and
+// sorting them for each link would take longer; only where they do not, they are sorted.
+double Layout::nearestFree(double x, bool toTheRight, int first, int last) const
+{
+    constexpr int mostRounds = 12;
+    // The left side is the right one in a mirror.
+    const auto mirrored = [toTheRight](const Interval &its) {
+        return toTheRight ? its : Interval{-its.to, -its.from};
+    };
+    double at = toTheRight ? x : -x;
+    const auto push = [&](const Interval &its) {
+        const Interval taken = mirrored(its);
+        if (!(at > taken.from && at < taken.to))
+            return false;
+        at = taken.to;
+        return true;
+    };
+    bool isPushed = true;
+    for (int round = 0; isPushed && round < mostRounds; ++round) {
+        isPushed = false;
+        for (int i = first; i <= last; ++i) {
+            const Obstacles &its = obstacles(round % 2 == 0 ? i : first + last - i);
+            isPushed |= push(its.bar);
+            isPushed |= its.hasLabel && push(its.label);
+        }
+    }
+    if (isPushed) {
+        std::vector<Interval> taken;
+        for (int row = first; row <= last; ++row) {
+            const Obstacles &its = obstacles(row);
+            taken.push_back(mirrored(its.bar));
+            if (its.hasLabel)
+                taken.push_back(mirrored(its.label));
+        }
+        std::sort(taken.begin(), taken.end(),
+                  [](const Interval &a, const Interval &b) { return a.from < b.from; });
+        for (const Interval &each : taken)
+            if (at > each.from && at < each.to)
+                at = each.to;
+    }
+    return toTheRight ? at : -at;
+}
+
+// The first free of: the two places, one between them, the one with the shortest way from both. Where there
+// is none, the wanted place.
 double Layout::freeX(double wanted, double other, int first, int last) const
 {
     if (isFree(wanted, first, last))
         return wanted;
     if (isFree(other, first, last))
         return other;
-    std::vector<Interval> taken;
-    Interval found[2];
-    for (int row = first; row <= last; ++row) {
-        const int count = obstacles(row, found);
-        taken.insert(taken.end(), found, found + count);
-    }
-    std::sort(taken.begin(), taken.end(),
-              [](const Interval &a, const Interval &b) { return a.from < b.from; });
-    double best = wanted, shortest = nowhere;
-    const auto consider = [&](double x) {
-        const double way = std::abs(x - wanted) + std::abs(x - other);
-        if (x >= 1 && x <= m_plan.width() - 1 && way < shortest) {
-            best = x;
-            shortest = way;
-        }
-    };
-    double free = 1; // where the gap begins
-    for (const Interval &each : taken) {
-        if (each.from > free) { // both edges of the gap
-            consider(free);
-            consider(each.from);
-        }
-        free = std::max(free, each.to);
-    }
-    consider(free);
-    return best;
+    const double low = std::min(wanted, other), high = std::max(wanted, other);
+    const double leftmost = 1, rightmost = m_plan.width() - 1;
+    const double right = nearestFree(low, true, first, last);
+    if (right <= high && right >= leftmost && right <= rightmost)
+        return right;
+    const double left = nearestFree(low, false, first, last);
+    const bool hasLeft = left >= leftmost && left <= rightmost,
+               hasRight = right >= leftmost && right <= rightmost;
+    if (hasLeft && (!hasRight || low - left <= right - high))
+        return left;
+    return hasRight ? right : wanted;
 }
 
 QPointF Layout::outOf(int row) const
@@ -259,8 +289,13 @@ void Layout::addLinks(Marks &marks, int first, int last, double x0, double x1) c
               lastBand = (last - m_plan.firstRow) / bandRows;
     std::vector<int> found;
     for (int band = firstBand; band <= lastBand; ++band) {
-        const std::vector<int> &links = m_linksOfBand[std::size_t(band)];
-        found.insert(found.end(), links.begin(), links.end());
+        for (const int number : m_linksOfBand[std::size_t(band)]) {
+            const Link &link = m_plan.links[std::size_t(number)];
+            // A stub or the way into a milestone may reach into a neighbouring row.
+            constexpr int reach = 1;
+            if (std::min(link.from, link.to) - reach <= last && std::max(link.from, link.to) + reach >= first)
+                found.push_back(number);
+        }
     }
     std::sort(found.begin(), found.end());
     found.erase(std::unique(found.begin(), found.end()), found.end());

@@ -9,7 +9,7 @@ using chart::Style;
 
 namespace {
 
-constexpr double quarterCircle = M_PI / 2;
+constexpr double roundness = 0.5522847498; // of a curve that is a quarter of a circle
 // Numbers of cairo's have no room for the far ends of a long bar.
 constexpr double viewMargin = 100; // chart pixels
 
@@ -24,6 +24,12 @@ QPointF cutTo(const QPointF &point, const QRectF &view)
 {
     return QPointF(std::clamp(point.x(), view.left(), view.right()),
                    std::clamp(point.y(), view.top(), view.bottom()));
+}
+
+bool isIn(const QRectF &rect, const QRectF &view)
+{
+    return rect.right() >= view.left() && rect.left() <= view.right() && rect.bottom() >= view.top() &&
+           rect.top() <= view.bottom();
 }
 
 void addPath(cairo_t *context, const KWPath &path)
@@ -80,35 +86,39 @@ void CairoPainter::paint(const chart::Marks &marks, const QPointF &offset, const
     cairo_translate(m_context, offset.x(), offset.y());
     cairo_scale(m_context, m_scale, m_scale);
     m_offset = offset;
-    m_view = QRectF((clip.x() - offset.x()) / m_scale, (clip.y() - offset.y()) / m_scale,
-                    clip.width() / m_scale, clip.height() / m_scale)
-                 .adjusted(-viewMargin, -viewMargin, viewMargin, viewMargin);
-    const auto isSeen = [this](const Mark &mark) {
-        return mark.rect.right() >= m_view.left() && mark.rect.left() <= m_view.right() &&
-               mark.rect.bottom() >= m_view.top() && mark.rect.top() <= m_view.bottom();
-    };
-    for (std::size_t i = 0; i < marks.size(); ++i) {
-        if (!isSeen(marks[i]))
+    m_seen = QRectF((clip.x() - offset.x()) / m_scale, (clip.y() - offset.y()) / m_scale,
+                    clip.width() / m_scale, clip.height() / m_scale);
+    m_view = m_seen.adjusted(-viewMargin, -viewMargin, viewMargin, viewMargin);
+    // Neighbours that look alike are one path: each of its own would take more of a file than a name, and
+    // cairo most of its time.
+    constexpr std::size_t longestRun = 1000;
+    const auto isLine = [](const Mark &mark) { return mark.shape == Shape::Line; };
+    for (std::size_t first = 0, end; first < marks.size(); first = end) {
+        const Mark &mark = marks[first];
+        end = first + 1;
+        if (mark.shape == Shape::Anchor)
             continue;
-        if (marks[i].kind != Kind::Grid || m_device == Pixels) {
-            paintMark(marks[i]);
+        if (mark.shape == Shape::Text) {
+            if (isIn(mark.rect, m_view))
+                drawText(mark);
             continue;
         }
-        // Lines of the grid that look alike are one stroke: each of its own would take more of a file than a
-        // name.
-        const KWLineFormat &format = m_sheet.style(marks[i].style).line;
-        for (; i < marks.size() && marks[i].kind == Kind::Grid &&
-               &m_sheet.style(marks[i].style).line == &format;
-             ++i) {
-            if (!isSeen(marks[i]))
-                continue;
-            const QPointF from = cutTo(marks[i].points.first(), m_view),
-                          to = cutTo(marks[i].points.last(), m_view);
-            cairo_move_to(m_context, from.x(), from.y());
-            cairo_line_to(m_context, to.x(), to.y());
-        }
-        --i;
-        stroke(format);
+        while (end < marks.size() && end - first < longestRun && marks[end].kind == mark.kind &&
+               marks[end].style == mark.style && marks[end].shape < Shape::Text &&
+               isLine(marks[end]) == isLine(mark))
+            ++end;
+        const Run run{&marks[first], &marks[first] + (end - first)};
+        const chartstyle::Style &style = m_sheet.style(mark.style);
+        // The second sign of a critical task is its style's edge.
+        const bool isEdge = mark.kind == Kind::Critical;
+        if (isLine(mark))
+            strokeLines(run, isEdge ? style.edge : style.line);
+        else if (isEdge)
+            fillAreas(run, style.edge.color.color());
+        else if (style.fill.isNone() && mark.shape == Shape::Rect) // a line given as the area that it covers
+            fillAreas(run, style.line.color.color());
+        else
+            paintShapes(run, style);
     }
     cairo_restore(m_context);
 }
@@ -127,7 +137,7 @@ QRectF CairoPainter::snapped(const QRectF &rect) const
                   std::max(1 / m_scale, snapped(rect.bottom(), m_offset.y()) - top));
 }
 
-// The outline of a closed shape as the current path.
+// Adds the outline of a closed shape to the current path.
 void CairoPainter::trace(const Mark &mark, const QRectF &rect)
 {
     if (mark.shape == Shape::Polygon) {
@@ -147,18 +157,21 @@ void CairoPainter::trace(const Mark &mark, const QRectF &rect)
         cairo_rectangle(m_context, rect.x(), rect.y(), rect.width(), rect.height());
         return;
     }
-    const double right = mark.shape == Shape::LeftRoundRect ? 0 : radius;
-    const auto corner = [&](double x, double y, double size, double angle) {
-        if (size > 0)
-            cairo_arc(m_context, x, y, size, angle, angle + quarterCircle);
-        else
-            cairo_line_to(m_context, x, y);
-    };
-    cairo_new_sub_path(m_context);
-    corner(rect.left() + radius, rect.top() + radius, radius, 2 * quarterCircle);
-    corner(rect.right() - right, rect.top() + right, right, 3 * quarterCircle);
-    corner(rect.right() - right, rect.bottom() - right, right, 0);
-    corner(rect.left() + radius, rect.bottom() - radius, radius, quarterCircle);
+    const double left = rect.left(), top = rect.top(), right = rect.right(), bottom = rect.bottom();
+    const bool isRoundRight = mark.shape != Shape::LeftRoundRect;
+    const double reach = radius * (1 - roundness); // of a curve's handle from the corner
+    const double turn = isRoundRight ? radius : 0;
+    cairo_move_to(m_context, left + radius, top);
+    cairo_line_to(m_context, right - turn, top);
+    if (isRoundRight)
+        cairo_curve_to(m_context, right - reach, top, right, top + reach, right, top + radius);
+    cairo_line_to(m_context, right, bottom - turn);
+    if (isRoundRight)
+        cairo_curve_to(m_context, right, bottom - reach, right - reach, bottom, right - radius, bottom);
+    cairo_line_to(m_context, left + radius, bottom);
+    cairo_curve_to(m_context, left + reach, bottom, left, bottom - reach, left, bottom - radius);
+    cairo_line_to(m_context, left, top + radius);
+    cairo_curve_to(m_context, left, top + reach, left + reach, top, left + radius, top);
     cairo_close_path(m_context);
 }
 
@@ -237,10 +250,9 @@ void CairoPainter::stroke(const KWLineFormat &line)
     cairo_stroke(m_context);
 }
 
-void CairoPainter::strokeLine(const Mark &mark, const KWLineFormat &line)
+void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
 {
-    const int count = mark.points.size();
-    if (count < 2 || line.isNone())
+    if (line.isNone())
         return;
     KWLineFormat format = line;
     double shift = 0; // to the middle of a device pixel
@@ -249,35 +261,59 @@ void CairoPainter::strokeLine(const Mark &mark, const KWLineFormat &line)
         format.width = width / m_scale;
         shift = std::fmod(width, 2) == 1 ? 0.5 / m_scale : 0;
     }
-    // A straight line keeps its ends.
-    const bool isLevel = count == 2 && mark.points.at(0).y() == mark.points.at(1).y();
-    const bool isUpright = count == 2 && mark.points.at(0).x() == mark.points.at(1).x();
-    const QPointF toMiddle(isLevel ? 0 : shift, isUpright ? 0 : shift);
-    QVector<QPointF> corners(count);
-    for (int i = 0; i < count; ++i) {
-        const QPointF corner = cutTo(mark.points.at(i), m_view);
-        corners[i] =
-            m_device == Paper
-                ? corner
-                : QPointF(snapped(corner.x(), m_offset.x()), snapped(corner.y(), m_offset.y())) + toMiddle;
+    const double inset = line.end.isNone() ? 0 : line.end.inset(line.width);
+    const double reach = line.width * (1 + line.end.length + line.end.width);
+    const QRectF seen = m_seen.adjusted(-reach, -reach, reach, reach);
+    KWPath heads;
+    for (const Mark &mark : run) {
+        const int count = mark.points.size();
+        if (count < 2 || !isIn(mark.rect, seen))
+            continue;
+        // A straight line keeps its ends.
+        const bool isLevel = count == 2 && mark.points.at(0).y() == mark.points.at(1).y();
+        const bool isUpright = count == 2 && mark.points.at(0).x() == mark.points.at(1).x();
+        const QPointF toMiddle(isLevel ? 0 : shift, isUpright ? 0 : shift);
+        const auto corner = [&](int number) {
+            const QPointF at = cutTo(mark.points.at(number), m_view);
+            return m_device == Paper
+                       ? at
+                       : QPointF(snapped(at.x(), m_offset.x()), snapped(at.y(), m_offset.y())) + toMiddle;
+        };
+        QPointF before = corner(0);
+        bool isOn = false; // at the end of the segment before
+        for (int i = 1; i < count; ++i) {
+            const QPointF at = corner(i);
+            if (isIn(QRectF(before, at).normalized(), seen)) {
+                if (!isOn)
+                    cairo_move_to(m_context, before.x(), before.y());
+                isOn = true;
+                const bool isLast = i + 1 == count;
+                const double whole = isLast ? std::hypot(at.x() - before.x(), at.y() - before.y()) : 0;
+                // The line ends before the tip of its head.
+                const QPointF end = whole > 0 ? at - (at - before) * (std::min(inset, whole) / whole) : at;
+                cairo_line_to(m_context, end.x(), end.y());
+                if (isLast && whole > 0 && !line.end.isNone())
+                    heads.addPath(line.end.path(before, at, line.width));
+            } else {
+                isOn = false;
+            }
+            before = at;
+        }
+        if (!line.dash.lengths.isEmpty()) {
+            // Dashes stay where they are when the beginning is cut off.
+            const QPointF cutOff = cutTo(mark.points.at(0), m_view) - mark.points.at(0);
+            format.dash.offset =
+                line.dash.offset + (std::abs(cutOff.x()) + std::abs(cutOff.y())) / format.width;
+            stroke(format);
+        }
     }
-    // Dashes stay where they are when the beginning is cut off.
-    const QPointF cutOff = cutTo(mark.points.at(0), m_view) - mark.points.at(0);
-    format.dash.offset += (std::abs(cutOff.x()) + std::abs(cutOff.y())) / format.width;
-    // The line ends before the tip of its head.
-    const QPointF tip = corners.last(), before = corners.at(count - 2);
-    const double whole = std::hypot(tip.x() - before.x(), tip.y() - before.y());
-    const double inset = std::min(line.end.isNone() ? 0 : line.end.inset(line.width), whole);
-    if (inset > 0)
-        corners[count - 1] = tip - (tip - before) * (inset / whole);
-    for (int i = 0; i < count; ++i)
-        i == 0 ? cairo_move_to(m_context, corners.at(i).x(), corners.at(i).y())
-               : cairo_line_to(m_context, corners.at(i).x(), corners.at(i).y());
-    stroke(format);
-    if (line.end.isNone() || whole == 0)
+    if (line.dash.lengths.isEmpty())
+        stroke(format);
+    if (heads.isEmpty())
         return;
-    addPath(m_context, line.end.path(before, tip, line.width));
+    addPath(m_context, heads);
     if (line.end.isFilled()) {
+        setColor(line.color.color());
         cairo_fill(m_context);
     } else {
         format.dash = KWLineDash();
@@ -285,56 +321,51 @@ void CairoPainter::strokeLine(const Mark &mark, const KWLineFormat &line)
     }
 }
 
-void CairoPainter::drawText(const Mark &mark, const chartstyle::Style &style)
+void CairoPainter::drawText(const Mark &mark)
 {
-    setColor(style.text.color.color());
+    setColor(m_sheet.style(mark.style).text.color.color());
     const double y = mark.rect.center().y() + chart::baselineShift(chart::pixelsOf(m_fonts[mark.font]));
     m_shaper.draw(m_context, mark.rect.x(), y, mark.text, mark.font);
 }
 
-void CairoPainter::paintMark(const Mark &mark)
+void CairoPainter::fillAreas(const Run &run, const QColor &color)
 {
-    const chartstyle::Style &style = m_sheet.style(mark.style);
-    // The second sign of a critical task is its style's edge.
-    const bool isEdge = mark.kind == Kind::Critical;
-    switch (mark.shape) {
-    case Shape::Anchor:
-        return;
-    case Shape::Text:
-        drawText(mark, style);
-        return;
-    case Shape::Line:
-        strokeLine(mark, isEdge ? style.edge : style.line);
-        return;
-    case Shape::Rect:
-    case Shape::RoundRect:
-    case Shape::LeftRoundRect:
-    case Shape::Polygon:
-        break;
-    }
-    const QRectF rect = snapped(cutTo(mark.rect, m_view));
-    if (isEdge) {
-        setColor(style.edge.color.color());
-        cairo_rectangle(m_context, rect.x(), rect.y(), rect.width(), rect.height());
-        cairo_fill(m_context);
-        return;
-    }
-    if (!style.fill.isNone()) {
-        trace(mark, rect);
-        fill(style.fill, rect);
-    } else if (mark.shape == Shape::Rect && !style.line.isNone()) {
-        // A line given as the area that it covers.
-        setColor(style.line.color.color());
-        trace(mark, rect);
-        cairo_fill(m_context);
-        return;
-    }
-    if (style.line.isNone())
-        return;
+    for (const Mark &mark : run)
+        if (isIn(mark.rect, m_view)) {
+            const QRectF rect = snapped(cutTo(mark.rect, m_view));
+            cairo_rectangle(m_context, rect.x(), rect.y(), rect.width(), rect.height());
+        }
+    setColor(color);
+    cairo_fill(m_context);
+}
+
+void CairoPainter::paintShapes(const Run &run, const chartstyle::Style &style)
+{
+    const bool hasLine = !style.line.isNone(), hasFill = !style.fill.isNone();
     // An outline lies inside the shape.
-    const double inset = style.line.width / 2;
-    const QRectF inner(rect.x() + inset, rect.y() + inset, std::max(0.0, rect.width() - 2 * inset),
-                       std::max(0.0, rect.height() - 2 * inset));
-    trace(mark, mark.shape == Shape::Polygon ? rect : inner);
-    stroke(style.line);
+    const double inset = hasLine ? style.line.width / 2 : 0;
+    const bool isPlain = style.fill.type == KWPaint::Solid;
+    for (const Mark &mark : run) {
+        if (!isIn(mark.rect, m_view))
+            continue;
+        const QRectF rect = snapped(cutTo(mark.rect, m_view));
+        trace(mark, QRectF(rect.x() + inset, rect.y() + inset, std::max(0.0, rect.width() - 2 * inset),
+                           std::max(0.0, rect.height() - 2 * inset)));
+        if (!hasFill || isPlain)
+            continue;
+        // What is not of one colour is laid out in its own bounds.
+        cairo_path_t *outline = hasLine ? cairo_copy_path(m_context) : nullptr;
+        fill(style.fill, rect);
+        if (outline) {
+            cairo_append_path(m_context, outline);
+            cairo_path_destroy(outline);
+            stroke(style.line);
+        }
+    }
+    if (hasFill && isPlain) {
+        setColor(style.fill.color.color());
+        hasLine ? cairo_fill_preserve(m_context) : cairo_fill(m_context);
+    }
+    if (hasLine)
+        stroke(style.line);
 }

@@ -22,13 +22,21 @@ public:
     void fillGround(const QRectF &area); // device units, with the paper's colour
 
 private:
-    struct Brush;
-    void paintMark(const chart::Mark &mark);
+    // Marks that look alike.
+    struct Run
+    {
+        const chart::Mark *first;
+        const chart::Mark *behind;
+        const chart::Mark *begin() const { return first; }
+        const chart::Mark *end() const { return behind; }
+    };
     void trace(const chart::Mark &mark, const QRectF &rect);
     void fill(const KWPaint &paint, const QRectF &bounds);
     void stroke(const KWLineFormat &line);
-    void strokeLine(const chart::Mark &mark, const KWLineFormat &line);
-    void drawText(const chart::Mark &mark, const chartstyle::Style &style);
+    void strokeLines(const Run &run, const KWLineFormat &line);
+    void fillAreas(const Run &run, const QColor &color);
+    void paintShapes(const Run &run, const chartstyle::Style &style);
+    void drawText(const chart::Mark &mark);
     void setColor(const QColor &color);
     double snapped(double position, double offset) const;
     QRectF snapped(const QRectF &rect) const;
@@ -40,5 +48,6 @@ private:
     Device m_device;
     double m_scale;
     QPointF m_offset;
-    QRectF m_view; // chart pixels that can be seen, with a margin
+    QRectF m_seen; // chart pixels that can be seen
+    QRectF m_view; // the same with a margin
 };

@@ -2,6 +2,7 @@
 #include "chart/axis.h"
 #include "engine/record/outline.h"
 #include "engine/text/celltext.h"
+#include "engine/time/dayoff.h"
 #include "engine/time/duration.h"
 #include "engine/time/timerange.h"
 #include "format/unitutil.h"
@@ -276,8 +277,7 @@ chart::Row PlanView::rowOf(int number, double top)
     }
     if (m_options.slack && row.kind != RowKind::Summary && task.LateFinish > task.Finish &&
         duration::secs(scale.calendar(), task.Finish, task.LateFinish, duration::Minute) >= 60) {
-        const double end =
-            scale.position(KWTaskCollection::reduceFinishOnDayOff(&m_document, task.LateFinish, true));
+        const double end = scale.position(dayoff::finishBack(scale.calendar(), task.LateFinish, true));
         const double begin = row.kind == RowKind::Milestone ? row.x1 + m_plan.axis.unitWidth : row.x2;
         if (end > begin + 1)
             row.slackEnd = end;
