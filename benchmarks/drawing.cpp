@@ -160,8 +160,14 @@ int main(int argc, char **argv)
     const QGuiApplication application(argc, argv);
     for (int type = 0; type < columntypes::count; ++type)
         RowColumnData::s_columnNames.insert(type, QStringLiteral("Column ") + QString::number(type));
+    // Numbers of tasks, for a look at one of them.
+    std::vector<int> sizes;
+    for (int i = 1; i < argc; ++i)
+        sizes.push_back(std::atoi(argv[i]));
+    if (sizes.empty())
+        sizes = {1000, 10000, 100000};
     Report report;
-    for (const int tasks : {1000, 10000, 100000})
+    for (const int tasks : sizes)
         measure(report, tasks);
     return 0;
 }

@@ -26,7 +26,7 @@ std::unique_ptr<Project> pumpProject()
                                     {2, QStringLiteral("Start")},
                                     {3, QStringLiteral("Finish")},
                                     {7, QStringLiteral("Resources")}};
-    auto project = std::make_unique<Project>("Mon-Fri 8-12 13-17, start 2026-01-05, off 2026-01-14",
+    auto project = std::make_unique<Project>("Mon-Fri 8-12 13-17, start 2026-01-05, off 2026-01-14, work 2026-01-17 8-12 13-17",
                                              "Design\n"
                                              "  Requirements 2d 100%\n"
                                              "  Sketch 3d 40% after Requirements\n"
@@ -137,6 +137,9 @@ TEST_F(Export, svgHoldsTextsAsTexts)
     web->address = QStringLiteral("example.org/a'b\"c");
     project->task("Test").hyperlinks.appendHyperlink(web);
     GanttPdfExport drawing(&project->document());
+    const QByteArray sheets = pdf(drawing);
+    EXPECT_EQ(sheets.count("/URI ("), 1);
+    EXPECT_TRUE(sheets.contains("/URI (http://example.org/"));
     const QByteArray text = svg(drawing);
     QDomDocument parsed;
     ASSERT_TRUE(parsed.setContent(text));
@@ -332,8 +335,8 @@ TEST_F(Export, paintsTheSamePartOnAScreen)
     document.taskCollection()->updateRageAndTaskPoint();
     GanttPdfExport drawing(&document);
     drawing.options.labels = KWExportOptions::NoLabels;
-    QImage image(600, 250, QImage::Format_RGB32);
-    ASSERT_TRUE(drawing.paint(image, QRectF(0, 0, 600, 250), 1)) << found(drawing);
+    QImage image(900, 250, QImage::Format_RGB32);
+    ASSERT_TRUE(drawing.paint(image, QRectF(0, 0, 900, 250), 1)) << found(drawing);
     const KWTaskInfo &task = *document.getTaskInfoByRow(1);
     const chartstyle::Sheet sheet(chartstyle::Theme::Light, ThemePalette::builtIn().first());
     EXPECT_EQ(image.pixelColor(int(task.x1 + task.x2) / 2, int(task.y1) + 7),
@@ -342,6 +345,9 @@ TEST_F(Export, paintsTheSamePartOnAScreen)
         quint32(QDateTime(QDate(2026, 1, 10), QTime(12, 0)).toSecsSinceEpoch())));
     EXPECT_EQ(image.pixelColor(saturday, 225), sheet.color(chartstyle::Role::DayOff));
     EXPECT_EQ(image.pixelColor(saturday - 180, 225), sheet.color(chartstyle::Role::Paper));
+    // A holiday, and the Saturday that is worked instead.
+    EXPECT_EQ(image.pixelColor(saturday + 4 * 60, 225), sheet.color(chartstyle::Role::DayOff));
+    EXPECT_EQ(image.pixelColor(saturday + 7 * 60, 225), sheet.color(chartstyle::Role::Paper));
     // The same part further down and to the right.
     QImage part(300, 100, QImage::Format_RGB32);
     ASSERT_TRUE(drawing.paint(part, QRectF(200, 100, 300, 100), 1));
@@ -349,6 +355,33 @@ TEST_F(Export, paintsTheSamePartOnAScreen)
     for (int y = 0; y < 100; ++y)
         for (int x = 0; x < 300; ++x)
             ASSERT_EQ(part.pixelColor(x, y).name(), same.pixelColor(x, y).name()) << x << ", " << y;
+}
+
+TEST_F(Export, outlinesHaveAnyDepth)
+{
+    constexpr int depth = 20000;
+    KWDocument document;
+    for (int i = 1; i <= depth; ++i) {
+        auto *task = new KWTaskInfo;
+        task->ID = quint32(i);
+        task->ParentID = quint32(i - 1);
+        task->Level = i;
+        task->Name = QStringLiteral("Level");
+        task->Start = 1767600000;
+        task->Finish = task->Start + 86400;
+        if (i < depth)
+            task->Childs.append(quint32(i + 1));
+        document.appendTaskInfoList(task);
+    }
+    GanttPdfExport drawing(&document);
+    drawing.options.columns = {1};
+    document.printConfig.FittoSheet = false;
+    document.printConfig.Zoom = 10;
+    EXPECT_TRUE(pdf(drawing).contains("%%EOF")) << found(drawing);
+    for (KWTaskInfo *task : document.taskList())
+        task->HideID = 1;
+    EXPECT_TRUE(pdf(drawing).isEmpty());
+    EXPECT_THAT(found(drawing), HasSubstr("no task is shown"));
 }
 
 TEST_F(Export, oddPlansAndOptionsAreDrawnOrRefused)
