@@ -35,11 +35,13 @@ set(kw_module_headers
     engine/time/timescale.h
     engine/time/worktime.h
     exchange/BasicExcel.h
+    exchange/CSVDataEngine.h
     exchange/MSPDIDataEngine.h
     exchange/XLSDataEngine.h
     exchange/XLSXDataBase.h
     exchange/XLSXDataEngine.h
     exchange/exceltitles.h
+    exchange/importedplan.h
     format/dataformat.h
     format/localizeutil.h
     format/unitutil.h

@@ -3,6 +3,7 @@
 #include "commands.h"
 #include "edit.h"
 #include "edits/planreasons.h"
+#include "exchange/csvplan.h"
 #include "explain.h"
 #include "helptext.h"
 #include "invariants.h"
@@ -12,7 +13,6 @@
 #include "planfile.h"
 #include "report.h"
 #include "schedule/kwtaskcollection.h"
-#include "sheetfile.h"
 #include "sheetreport.h"
 #include "support/findings.h"
 #include "taskref.h"
@@ -40,7 +40,7 @@ int show(Console &console)
     if (console.options().resources)
         return written(console, console.options().format == Options::Json ? sheetreport::json(plan)
                                 : console.options().format == Options::Csv
-                                    ? sheetfile::resources(plan)
+                                    ? csvplan::resources(*plan.document)
                                     : sheetreport::text(plan, styleOf(console)).toUtf8());
     if (const int early = planreasons::earlyTaskCount(*plan.document))
         console.warning(file + QLatin1String(": ") +
@@ -243,8 +243,8 @@ int listFormats(Console &console)
         t("csv    reads and writes: a row a task, titles in the first row, UTF-8") + QLatin1Char('\n') +
         t("xlsx   reads and writes: a workbook with a sheet each of tasks, resources and assignments") +
         QLatin1Char('\n') + t("xls    reads and writes: the same, at most 65,536 rows") + QLatin1Char('\n') +
-        t("mspdi  reads and writes: project XML (.xml), as other planners exchange it") +
-        QLatin1Char('\n') + t("json   writes") + QLatin1Char('\n') + t("table  writes: text for people") + QLatin1Char('\n');
+        t("mspdi  reads and writes: project XML (.xml), as other planners exchange it") + QLatin1Char('\n') +
+        t("json   writes") + QLatin1Char('\n') + t("table  writes: text for people") + QLatin1Char('\n');
     return written(console, text.toUtf8());
 }
 

@@ -35,7 +35,7 @@ Variance varianceOf(const Plan &plan, const KWTaskInfo &task)
 // "+1.5d", "0".
 QString daysText(const Plan &plan, qint64 minutes)
 {
-    const double perDay = plan.workingTime.hoursPerDay() * 60.0;
+    const double perDay = plan.document->workCalendar().hoursPerDay() * 60.0;
     if (minutes == 0 || perDay <= 0)
         return QStringLiteral("0");
     return (minutes > 0 ? QStringLiteral("+") : QString()) +

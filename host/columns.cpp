@@ -45,7 +45,7 @@ QString tagsText(const Plan &plan, const QList<quint32> &ids)
 
 QString wbsText(const Sheet &sheet, int pos)
 {
-    return sheet.plan.rows.rows[std::size_t(pos)].wbs;
+    return sheet.plan.imported.codes.value(sheet.plan.task(pos)->ID);
 }
 
 QString idText(const Sheet &sheet, int pos)
@@ -80,7 +80,7 @@ QString levelText(const Sheet &sheet, int pos)
 
 QString startText(const Sheet &sheet, int pos)
 {
-    const shown::Clock &start = sheet.times.start(pos);
+    const shown::Clock start = sheet.times.start(pos);
     // A milestone's finish says its time.
     if (start == sheet.times.finish(pos))
         return momentText(sheet, {start.date, usualSecs(sheet, true)}, true);

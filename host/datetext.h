@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/time/shownmoment.h"
 #include <QDateTime>
 #include <QString>
 
@@ -10,8 +11,13 @@ namespace datetext {
 // A typed moment of the clock on the wall.
 struct Moment
 {
-    QDateTime when;       // local time; invalid: not given
-    bool hasTime = false; // false: a date alone, `when` is its first moment
+    QDate date;           // invalid: not given
+    int secs = 0;         // since midnight, up to 86400
+    bool hasTime = false; // false: a date alone
+
+    bool isGiven() const { return date.isValid(); }
+    QDateTime when() const; // one that a clock change skips is the first behind the gap
+    shownmoment::Moment shown() const { return {LocalClock::dayOf(date), secs, hasTime}; }
 };
 
 struct Duration

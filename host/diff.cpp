@@ -1,8 +1,8 @@
 #include "diff.h"
 #include "datetext.h"
+#include "exchange/csvplan.h"
 #include "machine.h"
 #include "model/kwtaskinfo.h"
-#include "sheetfile.h"
 #include "sheettext.h"
 #include "shown.h"
 #include "texts.h"
@@ -89,7 +89,8 @@ const Value values[] = {
          return QString::number(qRound(plan.task(pos)->Percent * 100)) + QLatin1Char('%');
      }},
     {"cost", [](const Plan &plan, int pos) { return sheettext::moneyText(plan.task(pos)->Cost); }},
-    {"resources", [](const Plan &plan, int pos) { return sheetfile::columnText(plan, *plan.task(pos)); }},
+    {"resources",
+     [](const Plan &plan, int pos) { return csvplan::resourceNames(*plan.document, *plan.task(pos)); }},
     {"notes", [](const Plan &plan, int pos) { return plan.task(pos)->Notes; }},
     {"predecessors",
      [](const Plan &plan, int pos) {

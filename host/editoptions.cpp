@@ -2,6 +2,7 @@
 #include "edit.h"
 #include "table/rowcolumndata.h"
 #include "texts.h"
+#include "workingtime.h"
 
 namespace editverbs {
 
@@ -16,8 +17,7 @@ bool addException(Edit &edit, bool works)
         return edit.refuse(t("'%1' is no date").arg(edit.words.first()),
                            t("write it as 2026-12-25 or 2026-12-24..2026-12-31"));
     const WorkingTime::Exception &exception = written.exceptions.front();
-    return edit.take(
-        edit.edits.addException({edit.words.value(1), exception.from, exception.to, works, {}}));
+    return edit.take(edit.edits.addException({edit.words.value(1), exception.from, exception.to, works, {}}));
 }
 
 // ---- Options ------------------------------------------------------------------------------------------
@@ -116,7 +116,7 @@ bool setHours(Edit &edit)
                            t("write it as 08:00-12:00,13:00-17:00"));
     QVector<DayHours> hours;
     for (const WorkingTime::Interval &interval : written.hours)
-        hours.append({quint32(interval.startSecs), quint32(interval.finishSecs)});
+        hours.append({interval.startSecs, interval.finishSecs});
     return edit.take(edit.edits.setWorkHours(hours));
 }
 
@@ -135,7 +135,7 @@ bool removeException(Edit &edit)
     datetext::Moment moment;
     if (!datetext::parseMoment(edit.words.first(), moment))
         return edit.refuse(t("'%1' is not a date").arg(edit.words.first()), t("write it as 2026-02-28"));
-    return edit.take(edit.edits.removeException(moment.when.date()));
+    return edit.take(edit.edits.removeException(moment.date));
 }
 
 QString optionsHelp()

@@ -68,8 +68,8 @@ private:
 
     QString heading() const
     {
-        const shown::Clock &start = m_times.start(m_pos);
-        const shown::Clock &finish = m_times.finish(m_pos);
+        const shown::Clock start = m_times.start(m_pos);
+        const shown::Clock finish = m_times.finish(m_pos);
         QString text = named(m_pos) + QLatin1String("   ") + moment(start);
         if (start != finish)
             text += QLatin1String(" - ") + moment(finish);
@@ -120,7 +120,8 @@ private:
             text += QLatin1String("; ") +
                     (reasons.at(i).isDriving
                          ? t("%1 drives it, too").arg(named(pos))
-                         : t("%1 has %2 to spare").arg(named(pos), length(m_plan.task(pos)->Finish, m_task->Start)));
+                         : t("%1 has %2 to spare")
+                               .arg(named(pos), length(m_plan.task(pos)->Finish, m_task->Start)));
         }
         return text;
     }
@@ -189,7 +190,7 @@ private:
 
     QString moved() const
     {
-        const bool hadStart = m_plan.rows.rows[std::size_t(m_pos)].start.when.isValid();
+        const bool hadStart = !m_plan.imported.withoutStart.contains(m_task->ID);
         for (const Plan::Move &move : m_plan.moves) {
             if (move.pos != m_pos || !hadStart || m_task->isParent())
                 continue;

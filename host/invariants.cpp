@@ -2,7 +2,6 @@
 #include "edits/plancheck.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "planrows.h"
 #include "support/findings.h"
 #include "taskref.h"
 #include "texts.h"
@@ -69,7 +68,7 @@ QString words(const KWDocument &document, const plancheck::Finding &finding)
 void check(const KWDocument &document, Findings &findings)
 {
     for (const plancheck::Finding &finding : plancheck::check(document))
-        findings.add(finding.pos < 0 ? QString() : planrows::place(finding.pos + 1), words(document, finding),
+        findings.add(finding.pos < 0 ? QString() : t("row %1").arg(finding.pos + 1), words(document, finding),
                      finding.fault == plancheck::LinkRing ? t("remove one of these links") : QString());
 }
 }

@@ -1,80 +1,17 @@
 #include "kwpxfile.h"
 #include "console.h"
+#include "exchange/csvplan.h"
 #include "kwzip.h"
 #include "machine.h"
 #include "model/kwtaskinfo.h"
-#include "schedule/kwcalendar.h"
 #include "texts.h"
 #include <QFile>
 #include <QFileInfo>
-#include <QStringList>
 #include <QUuid>
 
 namespace kwpxfile {
 
 namespace {
-
-WorkingTime workingTimeOf(const KWDocument &document)
-{
-    WorkingTime time;
-    std::copy(std::begin(document.WorkDay), std::end(document.WorkDay), time.week.begin());
-    time.hours.clear();
-    for (const KWDayTime *interval : document.workTimes)
-        time.hours.push_back({int(interval->start), int(interval->finish)});
-    for (const KWCalendar *calendar : document.calendars) {
-        if (calendar->isException)
-            time.exceptions.push_back(
-                {calendar->startDate, calendar->finishDate, calendar->isWork, calendar->name});
-    }
-    return time;
-}
-
-// Numbers the outline: "1.2.3". A package holds no such numbers.
-class Numbering
-{
-public:
-    QString next(int level)
-    {
-        const int depth = qBound(1, level, planrows::deepestLevel);
-        while (m_numbers.size() < depth)
-            m_numbers.append(0);
-        m_numbers.erase(m_numbers.begin() + depth, m_numbers.end());
-        ++m_numbers.last();
-        QStringList parts;
-        for (const int number : qAsConst(m_numbers))
-            parts.append(QString::number(number));
-        return parts.join(QLatin1Char('.'));
-    }
-
-private:
-    QVector<int> m_numbers;
-};
-
-planrows::Row rowOf(KWDocument &document, const KWTaskInfo &task, Numbering &numbering)
-{
-    planrows::Row row;
-    row.id = task.ID;
-    row.level = task.Level;
-    row.wbs = numbering.next(task.Level);
-    row.name = task.Name;
-    if (task.Start != 0) {
-        row.start.when = KWTaskInfo::showDateTime(&document, task.Start, true);
-        row.start.hasTime = true;
-    }
-    row.hasDuration = !task.isParent();
-    row.duration.value = KWTaskInfo::getDurValueByTaskInfo(&document, &task);
-    row.duration.unit = task.DurationUnits;
-    row.percent = task.Percent;
-    row.resources = task.Resources;
-    row.notes = task.Notes;
-    row.milestone = task.Milestone;
-    for (const quint32 id : task.Predecessors) {
-        planrows::Link link;
-        link.number = id;
-        row.predecessors.append(link);
-    }
-    return row;
-}
 
 bool namesCalendar(const Options &options)
 {
@@ -127,18 +64,18 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
 void describe(Plan &plan)
 {
     KWDocument &document = *plan.document;
-    plan.workingTime = workingTimeOf(document);
-    plan.rows.hasIds = true;
-    plan.rows.rows.clear();
+    ImportedPlan &imported = plan.imported;
+    imported.codes = csvplan::outlineCodes(document);
+    imported.withoutStart.clear();
     plan.links = 0;
-    plan.withoutStart = 0;
-    Numbering numbering;
     for (const KWTaskInfo *task : document.taskList()) {
-        plan.rows.rows.push_back(rowOf(document, *task, numbering));
         plan.links += task->Predecessors.size();
-        plan.withoutStart += task->Start == 0 && !task->isParent();
+        if (task->Start == 0 && !task->isParent())
+            imported.withoutStart.insert(task->ID);
     }
-    plan.start = plan::firstStart(plan);
+    plan.withoutStart = imported.withoutStart.size();
+    imported.isStartGiven = document.StartDate != 0;
+    plan.start = imported.isStartGiven ? document.StartDate : plan::firstStart(plan);
 }
 
 bool save(Console &console, Plan &plan, const QString &path, bool overwrite)

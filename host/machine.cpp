@@ -1,124 +1,36 @@
 #include "machine.h"
-#include "csv.h"
-#include "datetext.h"
-#include "format/dataformat.h"
+#include "exchange/csvplan.h"
 #include "model/kwtaskinfo.h"
-#include "sheetfile.h"
 #include "sheettext.h"
 #include "shown.h"
 #include "support/findings.h"
+#include "workingtime.h"
 #include <QTimeZone>
 
 namespace machine {
 
 namespace {
 
-// A field of one task: its name in both forms and whether its text is a bare JSON value.
+// What only the JSON form says of a task.
 struct Field
 {
-    const char *csvTitle; // empty: not part of the CSV form
-    const char *jsonName;
-    bool bare;
-    QString (*text)(const Plan &plan, const shown::Times &times, int pos);
+    const char *name;
+    double (*number)(const Plan &plan, const KWTaskInfo &task);
 };
-
-QString number(qint64 value)
-{
-    return QString::number(value);
-}
-
-QString flag(bool value)
-{
-    return value ? QStringLiteral("1") : QStringLiteral("0");
-}
-
-QString joined(const QList<quint32> &ids)
-{
-    QStringList texts;
-    for (const quint32 id : ids)
-        texts.append(QString::number(id));
-    return texts.join(QLatin1Char(';'));
-}
 
 const Field fields[] = {
-    {"ID", "id", true, [](const Plan &p, const shown::Times &, int pos) { return number(p.task(pos)->ID); }},
-    {"WBS", "wbs", false,
-     [](const Plan &p, const shown::Times &, int pos) { return p.rows.rows[std::size_t(pos)].wbs; }},
-    {"Level", "level", true,
-     [](const Plan &p, const shown::Times &, int pos) { return number(p.task(pos)->Level); }},
-    {"Name", "name", false, [](const Plan &p, const shown::Times &, int pos) { return p.task(pos)->Name; }},
-    {"Start", "start", false,
-     [](const Plan &, const shown::Times &t, int pos) { return t.start(pos).iso(); }},
-    {"Finish", "finish", false,
-     [](const Plan &, const shown::Times &t, int pos) { return t.finish(pos).iso(); }},
-    {"Duration", "duration", false,
-     [](const Plan &p, const shown::Times &, int pos) {
-         const KWTaskInfo *task = p.task(pos);
-         return datetext::durationText(KWTaskInfo::getDurValueByTaskInfo(p.document.get(), task),
-                                       task->DurationUnits);
-     }},
-    {"Percent", "percent", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return DataFormat::formatNumber(p.task(pos)->Percent * 100, 0, 2, 1);
-     }},
-    {"Predecessors", "predecessors", false,
-     [](const Plan &p, const shown::Times &, int pos) { return joined(p.task(pos)->Predecessors); }},
-    {"Resources", "resources", false,
-     [](const Plan &p, const shown::Times &, int pos) { return sheetfile::columnText(p, *p.task(pos)); }},
-    {"Summary", "summary", true,
-     [](const Plan &p, const shown::Times &, int pos) { return flag(p.task(pos)->isParent()); }},
-    {"Milestone", "milestone", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return flag(p.task(pos)->Milestone && !p.task(pos)->isParent());
-     }},
-    {"Notes", "notes", false,
-     [](const Plan &p, const shown::Times &, int pos) { return p.task(pos)->Notes; }},
-    {"Critical", "critical", true,
-     [](const Plan &p, const shown::Times &, int pos) { return flag(p.task(pos)->CriticalPath); }},
-    {"LateStart", "lateStart", false,
-     [](const Plan &, const shown::Times &t, int pos) { return t.lateStart(pos).iso(); }},
-    {"LateFinish", "lateFinish", false,
-     [](const Plan &, const shown::Times &t, int pos) { return t.lateFinish(pos).iso(); }},
-    {"StartSlack", "startSlack", false,
-     [](const Plan &p, const shown::Times &, int pos) { return p.task(pos)->EarlySlack; }},
-    {"FinishSlack", "finishSlack", false,
-     [](const Plan &p, const shown::Times &, int pos) { return p.task(pos)->LateSlack; }},
-    {"StartMin", "startMin", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return number(plan::workingMinutes(p, p.start, p.task(pos)->Start));
-     }},
-    {"FinishMin", "finishMin", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return number(plan::workingMinutes(p, p.start, p.task(pos)->Finish));
-     }},
-    {"LateStartMin", "lateStartMin", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return number(plan::workingMinutes(p, p.start, p.task(pos)->LateStart));
-     }},
-    {"LateFinishMin", "lateFinishMin", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return number(plan::workingMinutes(p, p.start, p.task(pos)->LateFinish));
-     }},
-    {"SlackMin", "slackMin", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return number(
-             qMax<qint64>(0, plan::workingMinutes(p, p.task(pos)->Finish, p.task(pos)->LateFinish)));
-     }},
-    {"", "workHours", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return sheettext::numberText(plan::workHours(p, *p.task(pos)));
-     }},
-    {"", "cost", true,
-     [](const Plan &p, const shown::Times &, int pos) { return sheettext::numberText(p.task(pos)->Cost); }},
-    {"", "remainingCost", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return sheettext::numberText(p.task(pos)->RemainingCost);
-     }},
-    {"", "baselineCost", true,
-     [](const Plan &p, const shown::Times &, int pos) {
-         return sheettext::numberText(p.task(pos)->BaselineCost.toDouble());
-     }},
+    {"workHours", [](const Plan &plan, const KWTaskInfo &task) { return plan::workHours(plan, task); }},
+    {"cost", [](const Plan &, const KWTaskInfo &task) { return task.Cost; }},
+    {"remainingCost", [](const Plan &, const KWTaskInfo &task) { return task.RemainingCost; }},
+    {"baselineCost", [](const Plan &, const KWTaskInfo &task) { return task.BaselineCost.toDouble(); }},
 };
+
+ImportedPlan from(const Plan &plan)
+{
+    ImportedPlan imported = plan.imported;
+    imported.start = plan.start;
+    return imported;
+}
 
 QByteArray member(const char *name, const QByteArray &value)
 {
@@ -139,9 +51,10 @@ QByteArray planMembers(const Plan &plan)
     }
     const double days =
         plan.document->getDurationValue(plan::firstStart(plan), plan::lastFinish(plan), day, true);
-    QByteArrayList members{member("name", jsonText(plan.name)),
-                           member("timeZone", jsonText(QString::fromLatin1(QTimeZone::systemTimeZoneId()))),
-                           member("workingTime", jsonText(workingtime::describe(plan.workingTime)))};
+    QByteArrayList members{
+        member("name", jsonText(plan.name)),
+        member("timeZone", jsonText(QString::fromLatin1(QTimeZone::systemTimeZoneId()))),
+        member("workingTime", jsonText(workingtime::describe(workingtime::of(*plan.document))))};
     if (first.date.isValid()) {
         members.append(member("projectStart", jsonText(shown::startOf(plan, plan.start).iso())));
         members.append(member("start", jsonText(first.iso())));
@@ -190,36 +103,25 @@ QByteArray jsonText(const QString &text)
 
 QByteArray csv(const Plan &plan)
 {
-    const shown::Times times(plan);
-    QStringList titles;
-    for (const Field &field : fields)
-        if (*field.csvTitle)
-            titles.append(QLatin1String(field.csvTitle));
-    QByteArray bytes = titles.join(QLatin1Char(',')).toUtf8() + '\n';
-    for (int pos = 0; pos < plan.taskCount(); ++pos) {
-        QStringList cells;
-        for (const Field &field : fields)
-            if (*field.csvTitle)
-                cells.append(::csv::quoted(field.text(plan, times, pos)));
-        bytes += cells.join(QLatin1Char(',')).toUtf8() + '\n';
-    }
-    return bytes;
+    return csvplan::Rows(*plan.document, from(plan)).bytes();
 }
 
 QByteArray json(const Plan &plan)
 {
-    const shown::Times times(plan);
+    const csvplan::Rows rows(*plan.document, from(plan));
+    const std::vector<csvplan::Column> &columns = csvplan::columns();
     QByteArray bytes = "{\n" + planMembers(plan) + ",\n  \"tasks\": [";
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
-        bytes += pos ? ",\n    {" : "\n    {";
-        bool firstField = true;
-        for (const Field &field : fields) {
-            const QString text = field.text(plan, times, pos);
-            bytes += firstField ? "\"" : ", \"";
-            bytes += QByteArray(field.jsonName) + "\": " + (field.bare ? text.toUtf8() : jsonText(text));
-            firstField = false;
+        QByteArrayList members;
+        for (std::size_t column = 0; column < columns.size(); ++column) {
+            const QString text = rows.text(pos, column);
+            members.append('"' + QByteArray(columns[column].name) +
+                           "\": " + (columns[column].isNumber ? text.toUtf8() : jsonText(text)));
         }
-        bytes += '}';
+        for (const Field &field : fields)
+            members.append('"' + QByteArray(field.name) +
+                           "\": " + csvplan::numberText(field.number(plan, *plan.task(pos))).toUtf8());
+        bytes += (pos ? ",\n    {" : "\n    {") + members.join(", ") + '}';
     }
     bytes += "\n  ],\n  \"moved\": [";
     for (std::size_t i = 0; i < plan.moves.size(); ++i)

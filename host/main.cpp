@@ -65,7 +65,7 @@ bool setClock(Console &console)
                       t("write it as 2026-02-28 or 2026-02-28T08:00"));
         return false;
     }
-    KWClock::set(moment.when);
+    KWClock::set(moment.when());
     return true;
 }
 

@@ -344,6 +344,7 @@ const Option optionTable[] = {
     {"sheets", "", "rich|plain", Converting | Changing,
      [](Options &o, const QString &v) {
          o.richSheets = v == QLatin1String("rich");
+         o.sheetsGiven = true;
          return o.richSheets || v == QLatin1String("plain");
      }},
     {"man-pages", "", "FOLDER", Helping,
@@ -456,6 +457,8 @@ bool split(const QStringList &words, Words &result, Fault &fault)
 {
     QStringList &rest = result.rest;
     const auto isShow = [&rest] { return rest.value(0) == QLatin1String("show"); };
+    int sheetOption = -1; // --resources without a value, among the options
+    int sheetWord = -1;   // the place that the word behind it has in the rest
     for (int i = 0; i < words.size(); ++i) {
         const QString &word = words.at(i);
         if (word == QLatin1String("--")) {
@@ -489,7 +492,7 @@ bool split(const QStringList &words, Words &result, Fault &fault)
         if (option->value && equals >= 0)
             entry.value = word.mid(equals + 1);
         else if (isShow() && name == QLatin1String("resources"))
-            ; // shows the sheet; a file stands behind '='
+            sheetWord = rest.size(); // shows the sheet; a file may stand behind it, too
         else if (option->value && i + 1 < words.size())
             entry.value = words.at(++i);
         else if (option->value)
@@ -497,6 +500,15 @@ bool split(const QStringList &words, Words &result, Fault &fault)
         else if (equals >= 0)
             return fail(fault, t("option '%1' takes no value").arg(written));
         result.given.append(entry);
+        if (name == QLatin1String("resources") && isShow() && equals < 0)
+            sheetOption = result.given.size() - 1;
+    }
+    // 'show PLAN --resources SHEET' has one word more than 'show --resources PLAN'.
+    constexpr int wordsOfShow = 2;
+    if (sheetOption >= 0 && rest.size() == wordsOfShow + 1 && sheetWord < rest.size()) {
+        const Given sheet{result.given[sheetOption].option, result.given[sheetOption].written,
+                          rest.takeAt(sheetWord)};
+        result.given.append(sheet);
     }
     return true;
 }

@@ -55,9 +55,10 @@ struct Options
     QString script;       // edits, one a line
     QString manualFolder; // where the manual pages go
     bool sample = false;
-    bool richSheets = false; // workbooks with typed cells, widths and groups
-    QString before;          // the task that a branch is copied above
-    QString under;           // the task that it is copied below, as its last children
+    bool sheetsGiven = false;
+    bool richSheets = true; // workbooks with typed cells, widths and groups
+    QString before;         // the task that a branch is copied above
+    QString under;          // the task that it is copied below, as its last children
 
     // What is drawn, and on what; empty and 0: as the plan says.
     struct Drawing

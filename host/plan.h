@@ -1,7 +1,8 @@
 #pragma once
+#include "datetext.h"
+#include "exchange/csvtext.h"
+#include "exchange/importedplan.h"
 #include "model/kwdocument.h"
-#include "planrows.h"
-#include "workingtime.h"
 #include <functional>
 #include <memory>
 #include <vector>
@@ -9,7 +10,7 @@
 class Findings;
 class KWTaskInfo;
 
-// A loaded plan: the library's document, and beside it what only the file says.
+// A loaded plan: the library's document, where it came from, and what only the file says.
 struct Plan
 {
     using Progress = std::function<void(const QString &work, qint64 done, qint64 total)>;
@@ -26,10 +27,10 @@ struct Plan
 
     std::unique_ptr<KWDocument> document = std::make_unique<KWDocument>();
     QString name;        // of the project, for people
+    QString projectName; // where the calendar file names it
     QString file;        // as the user wrote it
-    csv::Table table;    // the file's cells
-    planrows::Rows rows; // by list position
-    WorkingTime workingTime;
+    csv::Table table;    // the file's cells, where they are to be written again
+    ImportedPlan imported;
     unsigned int slackUnit = 4; // 4 day, 5 hour, 6 minute
     quint32 start = 0;          // of the project; seconds on the day clock
     int withoutStart = 0;       // tasks that the file gives no start
@@ -51,9 +52,6 @@ struct Plan
 
 namespace plan {
 
-// Fills the document from `rows` and `workingTime`: tasks, outline, dates as they are given, links. What is
-// refused or changed is added to `findings`. False with a sentence in `error` when nothing can be scheduled.
-bool build(Plan &plan, Findings &findings, QString &error, const Plan::Progress &progress);
 // A typed moment on the day clock, off the days off: as a start, and as a finish (a date alone means its
 // end).
 quint32 startSecs(KWDocument &document, const datetext::Moment &moment);

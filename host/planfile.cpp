@@ -1,14 +1,16 @@
 #include "planfile.h"
 #include "console.h"
+#include "exchange/CSVDataEngine.h"
+#include "exchange/csvplan.h"
 #include "kwpxfile.h"
 #include "model/kwtaskinfo.h"
 #include "projectfile.h"
 #include "resources/resourceinfodata.h"
-#include "sheetfile.h"
 #include "shown.h"
 #include "support/findings.h"
 #include "texts.h"
 #include "workbookfile.h"
+#include "workingtime.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -17,17 +19,19 @@ namespace planfile {
 
 namespace {
 
+constexpr qint64 largestSideBytes = 128 * 1024 * 1024;
+
 // The calendar file may name the project, and so does a single task at the top; else "site-move.csv" is "Site
 // move".
 QString projectName(const Plan &plan)
 {
-    if (!plan.workingTime.projectName.isEmpty())
-        return plan.workingTime.projectName;
+    if (!plan.projectName.isEmpty())
+        return plan.projectName;
     int tops = 0;
     QString name;
-    for (const planrows::Row &row : plan.rows.rows) {
-        if (row.level == 1 && tops++ == 0)
-            name = row.name.simplified();
+    for (const KWTaskInfo *task : plan.document->taskList()) {
+        if (task->Level == 1 && tops++ == 0)
+            name = task->Name.simplified();
     }
     if (tops == 1 && plan.taskCount() > 1 && !name.isEmpty())
         return name;
@@ -62,30 +66,43 @@ int wrongOption(Console &console, const char *option, const QString &value, cons
     return Console::WrongUse;
 }
 
-int readCalendar(const QString &planPath, Console &console, Plan &plan, Findings &findings)
+// Into the document, with the project's name and start beside it.
+int readCalendar(const QString &planPath, Console &console, Plan &plan, ProjectStart &start,
+                 Findings &findings)
 {
     const Options &options = console.options();
+    WorkingTime time;
     const QString path = sidePath(planPath, options.calendarFile, "calendar.json");
     if (!path.isEmpty()) {
         QByteArray json;
         QString error;
         if (!readBytes(path, workingtime::largestFileBytes, json, error) ||
-            !workingtime::read(json, plan.workingTime, findings, error)) {
+            !workingtime::read(json, time, findings, error)) {
             console.error(path + QLatin1String(": ") + error, t("--calendar FILE names another calendar"));
             return Console::CannotRead;
         }
     }
-    if (!options.days.isEmpty() && !workingtime::parseDays(options.days, plan.workingTime))
+    if (!options.days.isEmpty() && !workingtime::parseDays(options.days, time))
         return wrongOption(console, "--days", options.days, t("write it as Mon-Fri or Mon-Thu,Sat"));
-    if (!options.hours.isEmpty() && !workingtime::parseHours(options.hours, plan.workingTime))
+    if (!options.hours.isEmpty() && !workingtime::parseHours(options.hours, time))
         return wrongOption(console, "--hours", options.hours, t("write it as 08:00-12:00,13:00-17:00"));
     for (const QString &holiday : options.holidays)
-        if (!workingtime::parseHoliday(holiday, plan.workingTime))
+        if (!workingtime::parseHoliday(holiday, time))
             return wrongOption(console, "--holiday", holiday,
                                t("write it as 2026-12-25 or 2026-12-24..2026-12-31"));
-    if (!options.start.isEmpty() && !datetext::parseMoment(options.start, plan.workingTime.start))
+    if (!options.start.isEmpty() && !datetext::parseMoment(options.start, time.start))
         return wrongOption(console, "--start", options.start,
                            t("write it as 2026-02-28 or 2026-02-28T08:00"));
+    if (!time.hasWorkday() || time.hoursPerDay() == 0) {
+        console.error(planPath + QLatin1String(": ") +
+                          (time.hasWorkday() ? t("no working hour in the day: nothing can be scheduled")
+                                             : t("no working day in the week: nothing can be scheduled")),
+                      t("--days, --hours and --calendar give the working time"));
+        return Console::CannotSchedule;
+    }
+    planimport::setCalendar(*plan.document, time);
+    plan.projectName = time.projectName;
+    start = {time.start.date, time.start.hasTime ? time.start.secs : -1};
     return Console::Done;
 }
 
@@ -109,76 +126,66 @@ int readTable(const QString &path, Console &console, csv::Table &table)
     return Console::CannotRead;
 }
 
-int readRows(const QString &path, Console &console, Plan &plan, Findings &findings)
+int readTables(const QString &path, Console &console, Plan &plan, const ProjectStart &start,
+               Findings &findings)
 {
+    const Options &options = console.options();
     if (const int code = readTable(path, console, plan.table))
         return code;
-    Findings errors;
-    if (!planrows::read(plan.table, plan.rows, errors, findings)) {
-        console.list(path, errors);
+    const QString resources = sidePath(path, options.resourcesFile, "resources.csv");
+    const QString assignments =
+        resources.isEmpty() ? QString() : sidePath(path, options.assignmentsFile, "assignments.csv");
+    csv::Table resourceTable, assignmentTable;
+    if (!resources.isEmpty()) {
+        if (const int code = readTable(resources, console, resourceTable))
+            return code;
+    }
+    if (!assignments.isEmpty()) {
+        if (const int code = readTable(assignments, console, assignmentTable))
+            return code;
+    }
+    console.progress(t("building the tasks"), 0, 0);
+    CSVDataEngine engine(plan.document.get());
+    engine.setStart(start);
+    // Scheduling tells what it moves; what has no dates is moved by it, too.
+    engine.setPlacesBehind(false);
+    const bool isRead =
+        engine.importTables(plan.table, resources.isEmpty() ? nullptr : &resourceTable,
+                            assignments.isEmpty() ? nullptr : &assignmentTable, options.inPlace);
+    if (!isRead) {
+        console.list(path, engine.findings());
         return Console::CannotRead;
     }
+    for (const Finding &finding : engine.findings().list())
+        findings.add(finding.place, finding.what, finding.hint);
+    plan.imported = engine.imported();
     // Only writing into the file needs its cells again.
-    if (!console.options().inPlace)
+    if (!options.inPlace)
         plan.table = csv::Table();
     return Console::Done;
 }
 
-// The resource sheet and the assignments, where the plan has any.
-int readSheet(const QString &planPath, Console &console, Plan &plan, Findings &findings)
-{
-    const Options &options = console.options();
-    const QString resources = sidePath(planPath, options.resourcesFile, "resources.csv");
-    if (resources.isEmpty())
-        return Console::Done;
-    const QString assignments = sidePath(planPath, options.assignmentsFile, "assignments.csv");
-    csv::Table table;
-    QString error;
-    if (const int code = readTable(resources, console, table))
-        return code;
-    if (!sheetfile::readResources(table, plan, findings, error)) {
-        console.error(resources + QLatin1String(": ") + error, t("--resources FILE names another sheet"));
-        return Console::CannotRead;
-    }
-    if (assignments.isEmpty()) {
-        sheetfile::assignFromColumn(plan, findings);
-        return Console::Done;
-    }
-    if (const int code = readTable(assignments, console, table))
-        return code;
-    if (!sheetfile::readAssignments(table, plan, findings, error)) {
-        console.error(assignments + QLatin1String(": ") + error, t("--assignments FILE names another file"));
-        return Console::CannotRead;
-    }
-    return Console::Done;
-}
-
-int columnOf(csv::Table &table, planrows::Rows &rows, planrows::Field field, const char *title)
-{
-    int &column = rows.columns[field];
-    if (column < 0) {
-        column = table.rows.front().cells.size();
-        table.rows.front().cells.append(QLatin1String(title));
-    }
-    return column;
-}
-
 // Whether the file's text still means that moment; a date alone means `secsOfDate`.
-bool stillSays(const datetext::Moment &given, const shown::Clock &now, int secsOfDate)
+bool stillSays(const QString &cell, const shown::Clock &now, int secsOfDate)
 {
-    const int secs = given.hasTime ? given.when.time().msecsSinceStartOfDay() / 1000 : secsOfDate;
-    return given.when.isValid() && given.when.date() == now.date && secs == now.secs;
+    datetext::Moment given;
+    return datetext::parseMoment(cell, given) && given.date == now.date &&
+           (given.hasTime ? given.secs : secsOfDate) == now.secs;
 }
 
 // A file that writes dates alone goes on with them.
-bool writesTimes(const std::vector<planrows::Row> &rows)
+bool writesTimes(const csv::Table &table, std::initializer_list<int> columns)
 {
     bool anyDate = false;
-    for (const planrows::Row &row : rows) {
-        anyDate = anyDate || row.start.when.isValid() || row.finish.when.isValid();
-        if ((row.start.when.isValid() && row.start.hasTime) ||
-            (row.finish.when.isValid() && row.finish.hasTime))
-            return true;
+    for (std::size_t row = 1; row < table.rows.size(); ++row) {
+        for (const int column : columns) {
+            datetext::Moment given;
+            if (!datetext::parseMoment(table.rows[row].cells.value(column), given))
+                continue;
+            anyDate = true;
+            if (given.hasTime)
+                return true;
+        }
     }
     return !anyDate;
 }
@@ -205,20 +212,31 @@ void setCell(QStringList &cells, int column, const QString &text)
 
 namespace {
 
-// The calendar comes from beside the workbook: dates are read by it.
-int loadWorkbook(const QString &path, Console &console, Plan &plan, Findings &findings)
+// A plan without a calendar of its own: that stands beside it, and dates are read by it.
+int loadWithCalendar(const QString &path, Console &console, Plan &plan, Findings &findings)
 {
-    if (const int code = readCalendar(path, console, plan, findings))
+    ProjectStart start;
+    if (const int code = readCalendar(path, console, plan, start, findings))
         return code;
-    if (!plan.workingTime.hasWorkday() || plan.workingTime.hoursPerDay() == 0) {
-        console.error(t("%1: no working time: nothing can be scheduled").arg(path),
+    plan::countSlackIn(plan, plan.slackUnit);
+    const bool isTable = console.options().inputFormat == QLatin1String("csv");
+    const int code = !isTable && workbookfile::kindOf(path) != workbookfile::None
+                         ? workbookfile::load(path, console, plan, start, findings)
+                         : readTables(path, console, plan, start, findings);
+    if (code != Console::Done)
+        return code;
+    plan.start = plan.imported.start;
+    plan.links = plan.imported.links;
+    plan.refusedLinks = plan.imported.refusedLinks;
+    plan.withoutStart = plan.imported.withoutStart.size();
+    const QDateTime first = QDateTime::fromSecsSinceEpoch(plan.start);
+    if (!KWTaskInfo::isWorkday(plan.document.get(), first)) {
+        console.error(path + QLatin1String(": ") +
+                          t("no working day from %1 on: nothing can be scheduled")
+                              .arg(datetext::dateText(first.date(), datetext::Year)),
                       t("--days, --hours and --calendar give the working time"));
         return Console::CannotSchedule;
     }
-    workingtime::apply(plan.workingTime, *plan.document);
-    plan::countSlackIn(plan, plan.slackUnit);
-    if (const int code = workbookfile::load(path, console, plan, findings))
-        return code;
     plan.name = projectName(plan);
     return Console::Done;
 }
@@ -258,8 +276,8 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
     plan.file = path;
     plan.slackUnit = console.options().slackUnit;
     const QString &from = console.options().inputFormat;
-    const bool isXml = from == QLatin1String("mspdi") ||
-                       (from.isEmpty() && projectfile::kindOf(path) != projectfile::None);
+    const bool isXml =
+        from == QLatin1String("mspdi") || (from.isEmpty() && projectfile::kindOf(path) != projectfile::None);
     if (isXml) {
         const int code = projectfile::load(path, console, plan, findings);
         if (plan.name.isEmpty())
@@ -273,24 +291,38 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
         plan.name = projectName(plan);
         return Console::Done;
     }
-    if (from != QLatin1String("csv") && workbookfile::kindOf(path) != workbookfile::None)
-        return loadWorkbook(path, console, plan, findings);
-    int code = readRows(path, console, plan, findings);
-    if (code == Console::Done)
-        code = readCalendar(path, console, plan, findings);
-    if (code != Console::Done)
-        return code;
-    QString error;
-    const auto progress = [&console](const QString &work, qint64 done, qint64 total) {
-        console.progress(work, done, total);
-    };
-    if (!plan::build(plan, findings, error, progress)) {
-        console.error(path + QLatin1String(": ") + error,
-                      t("--days, --hours and --calendar give the working time"));
-        return Console::CannotSchedule;
+    return loadWithCalendar(path, console, plan, findings);
+}
+
+namespace {
+
+// What the calendar file beside a plan is to say.
+WorkingTime calendarOf(const Plan &plan)
+{
+    WorkingTime time = workingtime::of(*plan.document);
+    time.projectName = plan.projectName;
+    if (plan.imported.isStartGiven) {
+        const shown::Clock start = shown::startOf(plan, plan.start);
+        const int dayStart = int(KWTaskInfo::startOrFinishHour(plan.document.get(), true)) * 3600;
+        time.start = {start.date, start.secs == dayStart ? 0 : start.secs, start.secs != dayStart};
     }
-    plan.name = projectName(plan);
-    return readSheet(path, console, plan, findings);
+    return time;
+}
+
+// Whether a file says the same already, so that it may stay as it is.
+bool saysTheSame(const QString &path, const Plan &plan, const WorkingTime &calendar)
+{
+    WorkingTime time;
+    QByteArray json;
+    QString error;
+    Findings findings;
+    if (!readBytes(path, workingtime::largestFileBytes, json, error) ||
+        !workingtime::read(json, time, findings, error) || time.start.isGiven() != calendar.start.isGiven())
+        return false;
+    if (time.start.isGiven() && plan::startSecs(*plan.document, time.start) == plan.start)
+        time.start = calendar.start;
+    return workingtime::toJson(time) == workingtime::toJson(calendar);
+}
 }
 
 std::vector<Side> sidesOf(const Plan &plan, const QString &path)
@@ -300,44 +332,61 @@ std::vector<Side> sidesOf(const Plan &plan, const QString &path)
     const bool isWorkbook = path.endsWith(QLatin1String(".xlsx")) || path.endsWith(QLatin1String(".xls"));
     if (!(isTable || isWorkbook) || (info.exists() && !info.isFile()))
         return {};
-    const WorkingTime usual;
     const bool hasSheet = !plan.document->resourceInfoData()->infos.isEmpty();
-    const QByteArray calendar = workingtime::toJson(plan.workingTime);
+    const WorkingTime calendar = calendarOf(plan);
+    const QByteArray json = workingtime::toJson(calendar);
     std::vector<Side> sides;
-    // Where nothing is to be said, an older file beside the plan must not say it.
-    const auto add = [&](const char *name, bool needed, const QByteArray &bytes) {
-        if (needed || !sidePath(path, QString(), name).isEmpty())
-            sides.push_back({path.left(path.lastIndexOf(QLatin1Char('.')) + 1) + QLatin1String(name), bytes});
+    // Where nothing is to be said, an older file beside the plan must not say it. One that says the same
+    // stays.
+    const auto add = [&](const char *name, bool needed, const QByteArray &bytes, bool isCalendar = false) {
+        const QString found = sidePath(path, QString(), name);
+        if (!needed && found.isEmpty())
+            return;
+        QByteArray old;
+        QString error;
+        if (!found.isEmpty() && (isCalendar ? saysTheSame(found, plan, calendar)
+                                            : readBytes(found, largestSideBytes, old, error) && old == bytes))
+            return;
+        sides.push_back({path.left(path.lastIndexOf(QLatin1Char('.')) + 1) + QLatin1String(name), bytes});
     };
-    add("calendar.json", calendar != workingtime::toJson(usual), calendar);
+    add("calendar.json", json != workingtime::toJson(WorkingTime()), json, true);
     if (isWorkbook)
         return sides;
-    add("resources.csv", hasSheet, sheetfile::resources(plan));
-    add("assignments.csv", hasSheet, sheetfile::assignments(plan));
+    add("resources.csv", hasSheet, csvplan::resources(*plan.document));
+    add("assignments.csv", hasSheet, csvplan::assignments(*plan.document));
     return sides;
 }
 
 QByteArray rewritten(const Plan &plan)
 {
     csv::Table table = plan.table;
-    planrows::Rows rows;
-    rows.columns = plan.rows.columns;
-    const int startColumn = columnOf(table, rows, planrows::Start, "Start");
-    const int finishColumn = columnOf(table, rows, planrows::Finish, "Finish");
+    QStringList &titles = table.rows.front().cells;
+    const csvplan::Places given = csvplan::placesIn(titles);
+    csvplan::Places places = given;
+    const auto atEnd = [&titles](int &place, const char *title) {
+        if (place >= 0)
+            return;
+        place = titles.size();
+        titles.append(QLatin1String(title));
+    };
+    atEnd(places.start, "Start");
+    atEnd(places.finish, "Finish");
+    QHash<int, std::size_t> rowOfLine;
+    for (std::size_t row = 1; row < table.rows.size(); ++row)
+        rowOfLine.insert(table.rows[row].line, row);
     const shown::Times times(plan);
     const int dayStartSecs = int(KWTaskInfo::startOrFinishHour(plan.document.get(), true)) * 3600;
     const int dayFinishSecs = int(KWTaskInfo::startOrFinishHour(plan.document.get(), false)) * 3600;
-    const bool withTimes = writesTimes(plan.rows.rows);
+    const bool withTimes = writesTimes(plan.table, {given.start, given.finish});
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
-        QStringList &cells = table.rows[std::size_t(pos) + 1].cells;
-        const planrows::Row &row = plan.rows.rows[std::size_t(pos)];
+        QStringList &cells = table.rows[rowOfLine.value(plan.imported.rows.value(pos))].cells;
         // What still holds keeps the way it was written.
-        if (!stillSays(row.start, times.start(pos), dayStartSecs))
-            setCell(cells, startColumn, writtenMoment(times.start(pos), dayStartSecs, withTimes));
-        if (!stillSays(row.finish, times.finish(pos), dayFinishSecs))
-            setCell(cells, finishColumn, writtenMoment(times.finish(pos), dayFinishSecs, withTimes));
-        if (plan.task(pos)->isParent() && row.hasDuration)
-            setCell(cells, rows.columns[planrows::Length], durationOf(plan, pos));
+        if (!stillSays(cells.value(places.start), times.start(pos), dayStartSecs))
+            setCell(cells, places.start, writtenMoment(times.start(pos), dayStartSecs, withTimes));
+        if (!stillSays(cells.value(places.finish), times.finish(pos), dayFinishSecs))
+            setCell(cells, places.finish, writtenMoment(times.finish(pos), dayFinishSecs, withTimes));
+        if (plan.task(pos)->isParent() && !cells.value(places.length).trimmed().isEmpty())
+            setCell(cells, places.length, durationOf(plan, pos));
     }
     return csv::toBytes(table);
 }

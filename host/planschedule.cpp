@@ -1,13 +1,33 @@
 // Scheduling a loaded plan through the library, and what is measured on it.
+#include "datetext.h"
 #include "edits/planreasons.h"
 #include "edits/settle.h"
 #include "edits/starttogether.h"
+#include "engine/time/shownmoment.h"
 #include "model/kwtaskinfo.h"
 #include "plan.h"
 #include "texts.h"
 #include <QHash>
 
 namespace plan {
+
+void countSlackIn(Plan &plan, unsigned int unit)
+{
+    // The stored form of a minor unit below the week.
+    constexpr quint32 week = 3;
+    plan.document->MajorUnit = week;
+    plan.document->MinorUnit = unit - week - 1;
+}
+
+quint32 startSecs(KWDocument &document, const datetext::Moment &moment)
+{
+    return shownmoment::start(document.workCalendar(), moment.shown());
+}
+
+quint32 finishSecs(KWDocument &document, const datetext::Moment &moment)
+{
+    return shownmoment::finish(document.workCalendar(), moment.shown());
+}
 
 void schedule(Plan &plan, Beginning beginning, const Plan::Progress &progress)
 {
@@ -31,7 +51,8 @@ void schedule(Plan &plan, Beginning beginning, const Plan::Progress &progress)
         const KWTaskInfo *task = plan.task(pos);
         const auto [oldStart, oldFinish] = before[std::size_t(pos)];
         // From the end of a morning to the beginning of the afternoon is no move.
-        if (workingMinutes(plan, oldStart, task->Start) != 0 || workingMinutes(plan, oldFinish, task->Finish) != 0)
+        if (workingMinutes(plan, oldStart, task->Start) != 0 ||
+            workingMinutes(plan, oldFinish, task->Finish) != 0)
             plan.moves.push_back({pos, oldStart, oldFinish, pushedBy.value(task->ID)});
     }
 }

@@ -4,7 +4,6 @@
 #include "kwpxfile.h"
 #include "model/kwtaskinfo.h"
 #include "planfile.h"
-#include "shown.h"
 #include "support/findings.h"
 #include "texts.h"
 #include <QBuffer>
@@ -22,20 +21,6 @@ void collect(const Findings &found, const QString &path, Findings &findings)
 {
     for (const Finding &finding : found.list())
         findings.add(finding.place == path ? QString() : finding.place, finding.what, finding.hint);
-}
-
-// The milestones that are shown when work ends.
-QSet<quint32> evenings(const Plan &plan)
-{
-    constexpr int secsPerHour = 3600;
-    const int finishSecs = int(KWTaskInfo::startOrFinishHour(plan.document.get(), false)) * secsPerHour;
-    const shown::Times times(plan);
-    QSet<quint32> ids;
-    for (int pos = 0; pos < plan.taskCount(); ++pos) {
-        if (plan.task(pos)->Milestone && times.start(pos).secs == finishSecs)
-            ids.insert(plan.task(pos)->ID);
-    }
-    return ids;
 }
 
 // Standard input is read as a whole.
@@ -93,7 +78,7 @@ int save(Console &console, Plan &plan, const QString &path)
     MSPDIDataEngine engine(plan.document.get());
     engine.setProjectName(plan.name);
     engine.setProjectStart(plan.start);
-    engine.setEvenings(evenings(plan));
+    engine.setEvenings(plan.imported.evenings);
     Findings findings;
     if (path.isEmpty()) {
         QBuffer bytes;

@@ -93,8 +93,8 @@ bool chooseDates(Console &console, KWExportOptions &drawn)
     if ((!first.isEmpty() && !datetext::parseMoment(first, from)) ||
         (!last.isEmpty() && !datetext::parseMoment(last, to)))
         return failValue(console, options.range, "--range", t("write it as 2026-02-01..2026-03-31"));
-    drawn.from = from.when.date();
-    drawn.to = to.when.date();
+    drawn.from = from.date;
+    drawn.to = to.date;
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include "sheettext.h"
 #include "texts.h"
 #include "textwidth.h"
+#include "workingtime.h"
 #include <QTimeZone>
 #include <algorithm>
 
@@ -51,9 +52,9 @@ bool parseRange(const QString &text, Range &range)
     const int dots = text.indexOf(QLatin1String(".."));
     datetext::Moment first, last;
     if (dots < 0 || !datetext::parseMoment(text.left(dots), first) ||
-        !datetext::parseMoment(text.mid(dots + 2), last) || last.when.date() < first.when.date())
+        !datetext::parseMoment(text.mid(dots + 2), last) || last.date < first.date)
         return false;
-    range = {first.when.date(), last.when.date()};
+    range = {first.date, last.date};
     return true;
 }
 
@@ -271,7 +272,7 @@ void countExceptions(const Plan &plan, const Range &range, int &holidays, int &e
 {
     holidays = extraDays = 0;
     for (QDate date = range.first; date.isValid() && date <= range.last; date = date.addDays(1)) {
-        const bool usual = plan.workingTime.week[std::size_t(date.dayOfWeek() - 1)];
+        const bool usual = plan.document->WorkDay[date.dayOfWeek() - 1];
         const bool works = KWTaskInfo::isWorkday(plan.document.get(), date.startOfDay());
         holidays += usual && !works;
         extraDays += works && !usual;
@@ -300,7 +301,7 @@ QString title(const Plan &plan, const shown::Times &times, const Style &style)
                       counted(plan.taskCount(), "%1 task", "%1 tasks")};
     const Range range = rangeOf(plan, times);
     QStringList second{t("time zone %1").arg(QString::fromLatin1(QTimeZone::systemTimeZoneId())),
-                       workingtime::describe(plan.workingTime)};
+                       workingtime::describe(workingtime::of(*plan.document))};
     if (range.first.isValid()) {
         const bool sameYear = range.first.year() == range.last.year();
         first.append(datetext::dateText(range.first, datetext::Weekday | (sameYear ? 0 : datetext::Year)) +

@@ -55,7 +55,7 @@ double partOfDay(const Plan &plan, quint32 from, quint32 to, const QDate &date)
     };
     const quint32 begin = qMax(from, secsAt(date));
     const quint32 end = qMin(to, secsAt(date.addDays(1)));
-    const double minutesPerDay = plan.workingTime.hoursPerDay() * 60.0;
+    const double minutesPerDay = plan.document->workCalendar().hoursPerDay() * 60.0;
     return begin >= end || minutesPerDay <= 0
                ? 0
                : double(plan::workingMinutes(plan, begin, end)) / minutesPerDay;

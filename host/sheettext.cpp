@@ -1,4 +1,6 @@
 #include "sheettext.h"
+#include "exchange/cellvalues.h"
+#include "exchange/csvplan.h"
 #include "format/dataformat.h"
 #include <cmath>
 
@@ -6,55 +8,53 @@ namespace sheettext {
 
 namespace {
 
-constexpr const char *unitTexts[] = {"min", "h", "d", "w", "m"};
 constexpr double mostMoney = 1e15;
+
+cellvalues::Cell cellOf(const QString &text)
+{
+    cellvalues::Cell cell;
+    cell.text = text;
+    return cell;
+}
+
+bool take(std::optional<double> read, double least, double most, double &value)
+{
+    value = read.value_or(0);
+    return read && value >= least && value <= most;
+}
 }
 
 bool parseMoney(const QString &text, double &amount)
 {
-    bool ok = false;
-    amount = text.trimmed().toDouble(&ok);
-    return ok && std::isfinite(amount) && std::abs(amount) <= mostMoney;
+    return take(cellvalues::number(cellOf(text), cellvalues::Comma::Decimal), -mostMoney, mostMoney, amount);
 }
 
 bool parseRate(const QString &text, Rate &rate)
 {
-    rate.unit = 1;
-    const int slash = text.indexOf(QLatin1Char('/'));
-    if (slash >= 0) {
-        QString unit = text.mid(slash + 1).trimmed().toLower();
-        if (unit == QLatin1String("mon"))
-            unit = QStringLiteral("m");
-        rate.unit = -1;
-        for (int i = 0; i < int(std::size(unitTexts)); ++i)
-            if (unit == QLatin1String(unitTexts[i]))
-                rate.unit = i;
-    }
-    return rate.unit >= 0 && parseMoney(text.left(slash), rate.amount);
+    const auto read = cellvalues::rate(cellOf(text), cellvalues::Comma::Decimal);
+    const auto unit = read && !read->unit.isEmpty()
+                          ? cellvalues::costUnitCalled(read->unit.mid(1))
+                          : std::optional<cellvalues::CostUnit>(cellvalues::CostUnit());
+    if (!read || !unit)
+        return false;
+    rate.unit = unit->unit;
+    return take(read->money / unit->parts, -mostMoney, mostMoney, rate.amount);
 }
 
 bool parseUnits(const QString &text, double &units)
 {
-    QString number = text.trimmed();
-    const bool percent = number.endsWith(QLatin1Char('%'));
-    if (percent)
-        number.chop(1);
-    bool ok = false;
-    units = number.toDouble(&ok) / (percent ? 100 : 1);
-    return ok && units >= 0 && units <= largestUnits;
+    return take(cellvalues::fraction(cellOf(text), cellvalues::Comma::Decimal), 0, largestUnits, units);
 }
 
 bool parseType(const QString &text, int &type)
 {
-    const QString word = text.trimmed().toLower();
-    type = word == QLatin1String("material") ? 1 : 0;
-    return type == 1 || word == QLatin1String("work");
+    type = cellvalues::resourceTypeCalled(text);
+    return type >= 0;
 }
 
 QString numberText(double number)
 {
-    constexpr int digits = 12;
-    return QString::number(std::isfinite(number) ? number : 0, 'g', digits);
+    return csvplan::numberText(number);
 }
 
 QString moneyText(double amount)
@@ -64,9 +64,7 @@ QString moneyText(double amount)
 
 QString rateText(const Rate &rate)
 {
-    const bool known = rate.unit >= 0 && rate.unit < int(std::size(unitTexts));
-    return numberText(rate.amount) +
-           (known ? QLatin1Char('/') + QLatin1String(unitTexts[rate.unit]) : QString());
+    return csvplan::rateText(rate.amount, rate.unit);
 }
 
 QString unitsText(double units)

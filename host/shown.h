@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/text/showndates.h"
 #include "plan.h"
 #include <QDate>
 #include <vector>
@@ -22,31 +23,24 @@ struct Clock
     QString text() const; // "13 Mar 2026 17:00"
 };
 
+Clock clockOf(const ShownDates::Moment &moment);
 // A start never stands in a break, a finish belongs to the day that it ends.
 Clock startOf(const Plan &plan, quint32 secs);
 Clock finishOf(const Plan &plan, quint32 secs);
 // An end that the library gives as the beginning of the next working day or half day.
 Clock endOf(const Plan &plan, quint32 secs);
-// The shown starts and finishes of all tasks as they stand.
-//
-// A milestone is one moment, and the end of one working day is the beginning of the next: it is shown where
-// the task that it waits for ends, or where its file put it.
+// The shown starts and finishes of all tasks as they stand, see ShownDates.
 class Times
 {
 public:
     explicit Times(const Plan &plan);
-    const Clock &start(int pos) const { return m_starts[std::size_t(pos)]; }
-    const Clock &finish(int pos) const { return m_finishes[std::size_t(pos)]; }
-
+    Clock start(int pos) const { return clockOf(m_dates.start(pos)); }
+    Clock finish(int pos) const { return clockOf(m_dates.finish(pos)); }
     // Where nothing is to spare they are the dates themselves.
-    Clock lateStart(int pos) const;
-    Clock lateFinish(int pos) const;
+    Clock lateStart(int pos) const { return clockOf(m_dates.lateStart(pos)); }
+    Clock lateFinish(int pos) const { return clockOf(m_dates.lateFinish(pos)); }
 
 private:
-    void showSummaries();
-
-    const Plan &m_plan;
-    std::vector<Clock> m_starts;
-    std::vector<Clock> m_finishes;
+    const ShownDates m_dates;
 };
 }

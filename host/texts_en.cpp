@@ -127,8 +127,8 @@ found again.
 A workbook has a sheet each of tasks, resources and assignments, its columns told by their titles; the calendar
 is written beside it, too. What a workbook's cells could not give is listed on standard error.
 
-  --sheets rich    an .xlsx workbook with dates and numbers as values, widths, filters and outline groups
-                   (plain: every cell is a text)
+  --sheets plain   an .xlsx workbook in which every cell is a text (rich, the default: dates and numbers as
+                   values, widths, filters and outline groups)
   --force          replaces OUT
 
 Examples:

@@ -3,7 +3,6 @@
 #include "exchange/XLSDataEngine.h"
 #include "exchange/XLSXDataEngine.h"
 #include "exchange/exceltitles.h"
-#include "kwpxfile.h"
 #include "support/findings.h"
 #include "table/rowcolumndata.h"
 #include "texts.h"
@@ -47,11 +46,13 @@ void collect(const Findings &found, const QString &path, Findings &findings)
 }
 
 template <typename Engine>
-bool readWith(KWDocument &document, const QString &path, Findings &findings)
+bool readWith(Plan &plan, const ProjectStart &start, const QString &path, Findings &findings)
 {
-    Engine engine(&document);
-    const bool read = engine.initExcelTitles(path) && engine.importData(path);
+    Engine engine(plan.document.get());
+    engine.setStart(start);
+    const bool read = engine.importFile(path);
     collect(engine.findings(), path, findings);
+    plan.imported = engine.imported();
     return read;
 }
 }
@@ -68,12 +69,11 @@ Kind kindOf(const QString &path)
     return mark == "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1" ? Xls : None;
 }
 
-int load(const QString &path, Console &console, Plan &plan, Findings &findings)
+int load(const QString &path, Console &console, Plan &plan, const ProjectStart &start, Findings &findings)
 {
     Findings own;
-    KWDocument &document = *plan.document;
-    if (!(kindOf(path) == Xlsx ? readWith<XLSXDataEngine>(document, path, own)
-                               : readWith<XLSDataEngine>(document, path, own))) {
+    if (!(kindOf(path) == Xlsx ? readWith<XLSXDataEngine>(plan, start, path, own)
+                               : readWith<XLSDataEngine>(plan, start, path, own))) {
         if (own.isEmpty())
             console.error(t("%1: not a plan: no title of the task sheet is known").arg(path),
                           t("the first row holds titles such as %1")
@@ -84,7 +84,6 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
     }
     for (const Finding &finding : own.list())
         findings.add(finding.place, finding.what, finding.hint);
-    kwpxfile::describe(plan);
     return Console::Done;
 }
 
@@ -102,13 +101,15 @@ bool save(Console &console, Plan &plan, const QString &path, Kind kind)
     if (kind == Xlsx) {
         XLSXDataEngine engine(plan.document.get());
         engine.setRich(console.options().richSheets);
+        engine.setImported(plan.imported);
         written = engine.exportFile(path);
         collect(engine.findings(), path, findings);
     } else {
         XLSDataEngine engine(plan.document.get());
-        written = engine.exportData(path);
+        engine.setImported(plan.imported);
+        written = engine.exportFile(path);
         collect(engine.findings(), path, findings);
-        if (written && console.options().richSheets)
+        if (written && console.options().sheetsGiven && console.options().richSheets)
             findings.add(QString(), t("an .xls workbook is written with texts alone"),
                          t("--sheets rich makes a difference to .xlsx"));
     }

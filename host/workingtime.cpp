@@ -17,7 +17,7 @@ int WorkingTime::hoursPerDay() const
 {
     int total = 0;
     for (const Interval &interval : hours)
-        total += qMax(0, interval.finishSecs / 3600 - interval.startSecs / 3600);
+        total += qMax(0, int(interval.finishSecs / 3600) - int(interval.startSecs / 3600));
     return total;
 }
 
@@ -47,11 +47,15 @@ bool parseInterval(const QString &text, WorkingTime::Interval &interval)
     const QStringList ends = text.split(QLatin1Char('-'));
     if (ends.size() != 2)
         return false;
-    interval = {datetext::parseTimeOfDay(ends.at(0)), datetext::parseTimeOfDay(ends.at(1))};
+    const int start = datetext::parseTimeOfDay(ends.at(0));
+    int finish = datetext::parseTimeOfDay(ends.at(1));
     // A day that ends at midnight is written either way.
-    if (interval.finishSecs == 0)
-        interval.finishSecs = 86400;
-    return interval.startSecs >= 0 && interval.finishSecs > interval.startSecs;
+    if (finish == 0)
+        finish = 86400;
+    if (start < 0 || finish <= start)
+        return false;
+    interval = {quint32(start), quint32(finish)};
+    return true;
 }
 
 bool inOrder(const std::vector<WorkingTime::Interval> &hours)
@@ -100,8 +104,8 @@ QString hoursText(const std::vector<WorkingTime::Interval> &hours)
 {
     QStringList parts;
     for (const WorkingTime::Interval &interval : hours)
-        parts.append(datetext::timeText(interval.startSecs) + QLatin1Char('-') +
-                     datetext::timeText(interval.finishSecs));
+        parts.append(datetext::timeText(int(interval.startSecs)) + QLatin1Char('-') +
+                     datetext::timeText(int(interval.finishSecs)));
     return parts.isEmpty() ? t("no hours") : parts.join(QLatin1Char(' '));
 }
 
@@ -131,6 +135,21 @@ void chooseHours(const std::array<Day, 7> &days, WorkingTime &result, Findings &
                          t("every working day has the same hours"));
 }
 
+bool readHours(const QString &text, std::vector<WorkingTime::Interval> &result)
+{
+    std::vector<WorkingTime::Interval> hours;
+    for (const QString &part : text.split(QLatin1Char(','))) {
+        WorkingTime::Interval interval;
+        if (!parseInterval(part, interval))
+            return false;
+        hours.push_back(interval);
+    }
+    if (!inOrder(hours))
+        return false;
+    result = hours;
+    return true;
+}
+
 bool readExceptions(const QJsonArray &list, WorkingTime &result, QString &error)
 {
     if (list.size() > mostExceptions) {
@@ -141,6 +160,7 @@ bool readExceptions(const QJsonArray &list, WorkingTime &result, QString &error)
         const QJsonValue entry = list.at(i);
         QString from, to, name;
         bool works = false;
+        std::vector<WorkingTime::Interval> hours;
         if (entry.isArray()) {
             const QJsonArray fields = entry.toArray();
             from = fields.at(0).toString();
@@ -152,16 +172,21 @@ bool readExceptions(const QJsonArray &list, WorkingTime &result, QString &error)
             to = fields.value(QLatin1String("to")).toString(from);
             works = fields.value(QLatin1String("works")).toBool();
             name = fields.value(QLatin1String("name")).toString();
+            const QString written = fields.value(QLatin1String("hours")).toString();
+            if (!written.isEmpty() && !readHours(written, hours)) {
+                error = t("exception %1: '%2' are not working hours").arg(i + 1).arg(written);
+                return false;
+            }
         } else {
             from = to = entry.toString();
         }
         datetext::Moment first, last;
         if (!datetext::parseMoment(from, first) || !datetext::parseMoment(to, last) ||
-            last.when.date() < first.when.date()) {
+            last.date < first.date) {
             error = t("exception %1: '%2' to '%3' are not two dates in order").arg(i + 1).arg(from, to);
             return false;
         }
-        result.exceptions.push_back({first.when.date(), last.when.date(), works, name});
+        result.exceptions.push_back({name, first.date, last.date, works, hours});
     }
     return true;
 }
@@ -235,26 +260,53 @@ bool read(const QByteArray &json, WorkingTime &result, Findings &warnings, QStri
     return true;
 }
 
+namespace {
+
+// A document may hold intervals that are none.
+void insertHours(QJsonObject &object, const std::vector<WorkingTime::Interval> &hours)
+{
+    QStringList texts;
+    for (const WorkingTime::Interval &interval : hours)
+        texts.append(datetext::timeText(int(interval.startSecs)) + QLatin1Char('-') +
+                     datetext::timeText(int(interval.finishSecs)));
+    std::vector<WorkingTime::Interval> check;
+    if (readHours(texts.join(QLatin1Char(',')), check))
+        object.insert(QStringLiteral("hours"), texts.join(QLatin1Char(',')));
+}
+
+std::vector<WorkingTime::Interval> intervalsOf(const QList<KWDayTime *> &from)
+{
+    std::vector<WorkingTime::Interval> intervals;
+    for (const KWDayTime *interval : from)
+        intervals.push_back({interval->start, interval->finish});
+    return intervals;
+}
+}
+
 QByteArray toJson(const WorkingTime &workingTime)
 {
     QJsonObject week;
     for (int day = 0; day < 7; ++day)
         week.insert(QLatin1String(weekdays[day]), workingTime.week[std::size_t(day)]);
-    QStringList hours;
-    for (const WorkingTime::Interval &interval : workingTime.hours)
-        hours.append(datetext::timeText(interval.startSecs) + QLatin1Char('-') +
-                     datetext::timeText(interval.finishSecs));
     QJsonArray exceptions;
-    for (const WorkingTime::Exception &exception : workingTime.exceptions)
-        exceptions.append(QJsonObject{{QStringLiteral("from"), exception.from.toString(Qt::ISODate)},
-                                      {QStringLiteral("to"), exception.to.toString(Qt::ISODate)},
-                                      {QStringLiteral("works"), exception.works},
-                                      {QStringLiteral("name"), exception.name}});
+    for (const WorkingTime::Exception &exception : workingTime.exceptions) {
+        QJsonObject entry{{QStringLiteral("from"), exception.from.toString(Qt::ISODate)},
+                          {QStringLiteral("to"), exception.to.toString(Qt::ISODate)},
+                          {QStringLiteral("works"), exception.works},
+                          {QStringLiteral("name"), exception.name}};
+        insertHours(entry, exception.hours);
+        exceptions.append(entry);
+    }
     QJsonObject root{{QStringLiteral("days"), week}, {QStringLiteral("exceptions"), exceptions}};
-    WorkingTime check;
-    // A package may hold intervals that are none.
-    if (parseHours(hours.join(QLatin1Char(',')), check))
-        root.insert(QStringLiteral("hours"), hours.join(QLatin1Char(',')));
+    insertHours(root, workingTime.hours);
+    if (!workingTime.projectName.isEmpty())
+        root.insert(QStringLiteral("name"), workingTime.projectName);
+    if (workingTime.start.isGiven())
+        root.insert(QStringLiteral("start"),
+                    workingTime.start.date.toString(Qt::ISODate) +
+                        (workingTime.start.hasTime
+                             ? QLatin1Char('T') + datetext::timeText(workingTime.start.secs)
+                             : QString()));
     return QJsonDocument(root).toJson();
 }
 
@@ -282,17 +334,7 @@ bool parseDays(const QString &text, WorkingTime &result)
 
 bool parseHours(const QString &text, WorkingTime &result)
 {
-    std::vector<WorkingTime::Interval> hours;
-    for (const QString &part : text.split(QLatin1Char(','))) {
-        WorkingTime::Interval interval;
-        if (!parseInterval(part, interval))
-            return false;
-        hours.push_back(interval);
-    }
-    if (!inOrder(hours))
-        return false;
-    result.hours = hours;
-    return true;
+    return readHours(text, result.hours);
 }
 
 bool parseHoliday(const QString &text, WorkingTime &result)
@@ -300,32 +342,24 @@ bool parseHoliday(const QString &text, WorkingTime &result)
     const int dots = text.indexOf(QLatin1String(".."));
     datetext::Moment first, last;
     if (!datetext::parseMoment(dots < 0 ? text : text.left(dots), first) ||
-        !datetext::parseMoment(dots < 0 ? text : text.mid(dots + 2), last) ||
-        last.when.date() < first.when.date())
+        !datetext::parseMoment(dots < 0 ? text : text.mid(dots + 2), last) || last.date < first.date)
         return false;
     // What is asked for here wins over the exceptions of a file.
-    result.exceptions.insert(result.exceptions.begin(),
-                             {first.when.date(), last.when.date(), false, QString()});
+    result.exceptions.insert(result.exceptions.begin(), {QString(), first.date, last.date, false, {}});
     return true;
 }
 
-void apply(const WorkingTime &workingTime, KWDocument &document)
+WorkingTime of(const KWDocument &document)
 {
-    std::copy(workingTime.week.begin(), workingTime.week.end(), document.WorkDay);
-    qDeleteAll(document.workTimes);
-    document.workTimes.clear();
-    for (const WorkingTime::Interval &interval : workingTime.hours)
-        document.workTimes.append(new KWDayTime(quint32(interval.startSecs), quint32(interval.finishSecs)));
-    document.clearCalendar();
-    for (const WorkingTime::Exception &exception : workingTime.exceptions) {
-        auto *calendar = new KWCalendar;
-        calendar->name = exception.name;
-        calendar->startDate = exception.from;
-        calendar->finishDate = exception.to;
-        calendar->isException = true;
-        calendar->isWork = exception.works;
-        document.calendars.append(calendar);
+    WorkingTime time;
+    std::copy(std::begin(document.WorkDay), std::end(document.WorkDay), time.week.begin());
+    time.hours = intervalsOf(document.workTimes);
+    for (const KWCalendar *calendar : document.calendars) {
+        if (calendar->isException)
+            time.exceptions.push_back({calendar->name, calendar->startDate, calendar->finishDate,
+                                       calendar->isWork, intervalsOf(calendar->dayTimes)});
     }
+    return time;
 }
 
 QString describe(const WorkingTime &workingTime)

@@ -1,39 +1,22 @@
 #pragma once
 #include "datetext.h"
+#include "exchange/stagedplan.h"
 #include <QByteArray>
-#include <QDate>
 #include <QString>
-#include <array>
-#include <vector>
 
 class Findings;
 class KWDocument;
 
 // A plan's working time as the user gives it, in a calendar file or by options.
-struct WorkingTime
+struct WorkingTime : staged::Calendar
 {
-    struct Interval
-    {
-        int startSecs;  // since midnight
-        int finishSecs; // up to 86400
-        bool operator==(const Interval &other) const
-        {
-            return startSecs == other.startSecs && finishSecs == other.finishSecs;
-        }
-    };
-    struct Exception
-    {
-        QDate from;
-        QDate to; // inclusive
-        bool works;
-        QString name;
-    };
+    using Interval = staged::Interval;
+    using Exception = staged::CalendarException;
 
-    std::array<bool, 7> week{{true, true, true, true, true, false, false}}; // Monday first
-    std::vector<Interval> hours{{8 * 3600, 12 * 3600}, {13 * 3600, 17 * 3600}};
-    std::vector<Exception> exceptions; // the first one that covers a date decides
-    QString projectName;               // empty: not given
-    datetext::Moment start;            // of the project; invalid: not given
+    WorkingTime() { hours = {{8 * 3600, 12 * 3600}, {13 * 3600, 17 * 3600}}; }
+
+    QString projectName;    // empty: not given
+    datetext::Moment start; // of the project; invalid: not given
 
     bool hasWorkday() const;
     // Whole hours of a working day, as the library counts them.
@@ -57,7 +40,9 @@ bool parseDays(const QString &text, WorkingTime &result);
 bool parseHours(const QString &text, WorkingTime &result);
 bool parseHoliday(const QString &text, WorkingTime &result);
 
-void apply(const WorkingTime &workingTime, KWDocument &document);
+// A document's working time; the names and the start of the project are not part of it.
+// planimport::setCalendar puts it back.
+WorkingTime of(const KWDocument &document);
 // "Mon-Fri 08:00-12:00 13:00-17:00".
 QString describe(const WorkingTime &workingTime);
 }

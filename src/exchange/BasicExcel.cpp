@@ -348,8 +348,10 @@ bool BasicExcel::load(CompoundFile &file)
         const auto next = std::upper_bound(offsets.begin(), offsets.end(), bound.offset);
         const quint32 end = next == offsets.end() ? quint32(stream.size()) : *next;
         const auto ownOffset = std::lower_bound(offsets.begin(), offsets.end(), bound.offset);
-        const auto put = [&sheet](int row, int column, biff::Value &&value) {
-            sheet->Cell(row, column)->set(std::move(value));
+        const auto put = [&](int row, int column, biff::Value &&value, quint16 format) {
+            BasicExcelCell &cell = *sheet->Cell(row, column);
+            cell.set(std::move(value));
+            cell.m_isPercent = workbook.showsPercent(format);
         };
         if (next - ownOffset > 1)
             return fail(QStringLiteral("the sheet \"%1\" lies where another does").arg(sheet->m_name));

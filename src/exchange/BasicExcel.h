@@ -43,6 +43,9 @@ public:
     // The text without a copy that stays; null when there is none.
     QString GetText() const { return isText() ? asText().toString() : QString(); }
 
+    // Whether a workbook that was read shows the number as a percentage.
+    bool IsPercent() const { return m_isPercent; }
+
     bool SetInteger(int number) { return set(ofInteger(number)); }
     // What is not finite is written as the error #NUM!.
     bool SetDouble(double number) { return set(ofReal(number)); }
@@ -59,6 +62,7 @@ private:
     bool setText(biff::Text text, Kind kind);
 
     quint8 m_column = 0;
+    bool m_isPercent = false;
     quint16 m_row = 0;
     BasicExcelWorksheet *m_sheet = nullptr;
 };

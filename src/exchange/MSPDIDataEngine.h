@@ -1,7 +1,7 @@
 #pragma once
 #include "kwgantt_export.h"
 #include "support/findings.h"
-#include <QSet>
+#include <QHash>
 #include <QString>
 
 class KWDocument;
@@ -39,9 +39,10 @@ public:
     // where no task begins before it.
     quint32 projectStart() const { return m_projectStart; }
     void setProjectStart(quint32 secs) { m_projectStart = secs; }
-    // IDs of milestones that an export dates when work ends. The end of one working day and the beginning of
-    // the next are one moment: without, only those stand there whose predecessors end then.
-    void setEvenings(const QSet<quint32> &ids) { m_evenings = ids; }
+    // The milestones that an export dates when work ends, as ImportedPlan has them. The end of one working
+    // day and the beginning of the next are one moment: without, only those stand there whose predecessors
+    // end then.
+    void setEvenings(const QHash<quint32, quint32> &starts) { m_evenings = starts; }
     // Values of custom fields and outline codes that the last import passed over; nothing here has room for
     // them.
     int customValues() const { return m_customValues; }
@@ -53,6 +54,6 @@ private:
     Findings m_findings;
     QString m_projectName;
     quint32 m_projectStart = 0;
-    QSet<quint32> m_evenings;
+    QHash<quint32, quint32> m_evenings;
     int m_customValues = 0;
 };

@@ -1,4 +1,5 @@
 #pragma once
+#include "exchange/importedplan.h"
 #include "kwgantt_export.h"
 #include "support/findings.h"
 #include <QString>
@@ -34,6 +35,8 @@ public:
     // a document, with more rows than a sheet has, or when the file cannot be written. What does not fit
     // otherwise is left out or cut, with a finding for each.
     bool exportData(const QString &path);
+    // The same, as all engines have it.
+    bool exportFile(const QString &path) { return exportData(path); }
     // Writes a text; null writes nothing, and neither does one for which the sheet has no cell or that is
     // longer than a cell holds.
     static void setCellCont(int row, int column, YExcel::BasicExcelWorksheet *sheet, const QString &text);
@@ -53,6 +56,12 @@ public:
     // Replaces the document's tasks, and its resources and assignments where the workbook has these sheets.
     // False leaves the document as it was: no workbook, or no title of the task sheet is known.
     bool importData(const QString &path);
+    // The same from what a person may have typed, see XLSXDataEngine.
+    bool importFile(const QString &path);
+    void setStart(const ProjectStart &start) { m_start = start; }
+    const ImportedPlan &imported() const { return m_imported; }
+    // For an export: which milestones stand on an evening.
+    void setImported(const ImportedPlan &imported) { m_imported = imported; }
     // The text of a column's title: numbers with six significant digits, "" for what is neither number nor
     // text.
     static QString getColNameByColumn(int column, const YExcel::BasicExcelWorksheet *sheet);
@@ -72,4 +81,6 @@ private:
 
     KWDocument *m_document;
     Findings m_findings;
+    ProjectStart m_start;
+    ImportedPlan m_imported;
 };

@@ -75,7 +75,7 @@ bool XLSDataEngine::exportData(const QString &path)
     m_findings.clear();
     if (!m_document)
         return fail(path, QStringLiteral("there is no document"));
-    const planexport::Rows rows(*m_document);
+    const planexport::Rows rows(*m_document, m_imported.evenings);
     const QStringList names = XLSXDataBase::sheetNames();
     for (const Sheet sheet : allSheets) {
         if (titleRows + rows.count(sheet, biff::rowLimit) > biff::rowLimit)
@@ -90,6 +90,12 @@ bool XLSDataEngine::exportData(const QString &path)
             names[exceltitles::TaskSheet],
             QStringLiteral("%1 tasks belong to no summary and are not written").arg(rows.unreachedTasks()));
 
+    if (const int shared = rows.sharedNames())
+        m_findings.add(names[exceltitles::AssignmentSheet],
+                       QStringLiteral("%1 tasks share a name: a workbook cannot tell their assignments apart")
+                           .arg(shared),
+                       QStringLiteral("give them different names"));
+
     BasicExcel book;
     book.New(int(std::size(allSheets)));
     // A host may name its own sheets as new ones are named.
@@ -100,7 +106,7 @@ bool XLSDataEngine::exportData(const QString &path)
         book.AddWorksheet(name.c_str(), -1);
         if (BasicExcelWorksheet *added = book.GetWorksheet(name.c_str())) {
             CellWriter writer(added, &m_findings);
-            rows.write(sheet, writer, biff::rowLimit);
+            rows.write(sheet, writer, biff::rowLimit, false, &m_findings, names[sheet]);
         }
     }
     for (std::size_t i = 0; i < std::size(allSheets); ++i)

@@ -59,6 +59,7 @@ private:
         } else {
             cell.text = from.GetText();
         }
+        cell.isPercent = cell.isNumber && from.IsPercent();
         return cell;
     }
 
@@ -124,6 +125,14 @@ bool XLSDataEngine::importData(const QString &path)
 {
     BasicExcel book;
     return load(&book, path) && planimport::importBook(*m_document, Sheets(book).all(), &m_findings);
+}
+
+bool XLSDataEngine::importFile(const QString &path)
+{
+    BasicExcel book;
+    return load(&book, path) && planimport::importBook(*m_document, Sheets(book).all(),
+                                                       sheetrows::workbookReading(book.IsDate1904()),
+                                                       &m_findings, &m_imported, m_start);
 }
 
 void XLSDataEngine::readSheet(int which, int rows, int columns, const BasicExcelWorksheet *sheet)

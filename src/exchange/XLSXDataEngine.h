@@ -1,9 +1,11 @@
 #pragma once
 #include "exchange/XLSXDataBase.h"
+#include "exchange/importedplan.h"
 #include <QDomDocument>
 #include <QDomElement>
 #include <QDomNodeList>
 #include <QMap>
+#include <functional>
 
 class KWTaskInfo;
 namespace planexport {
@@ -20,8 +22,9 @@ public:
     ~XLSXDataEngine() override;
 
     // Readable sheets: dates and numbers as values, column widths, a frozen header with filters, outline
-    // groups. Off, every cell is a text and carries no style.
-    void setRich(bool rich) { m_isRich = rich; }
+    // groups; else every cell is a text and carries no style. Unless told, exportFile writes readable sheets
+    // and exportData does not.
+    void setRich(bool rich) { m_isRich = m_isFileRich = rich; }
     bool isRich() const { return m_isRich; }
 
     // ---- Export (exchange/XLSXDataEngine_export.cpp) ------------------------------------------------------
@@ -51,6 +54,16 @@ public:
     // False leaves the document as it was: no archive, or no title of the task sheet is known.
     bool importData(const QString &path);
 
+    // The same from what a person may have typed: titles in any case and in other words, IDs and names as
+    // they stand, percentages as they are shown; tasks without dates are placed behind their predecessors.
+    bool importFile(const QString &path);
+    // Where tasks without dates begin, for importFile.
+    void setStart(const ProjectStart &start) { m_start = start; }
+    // What the last importFile found that the document has no field for.
+    const ImportedPlan &imported() const { return m_imported; }
+    // For an export: which milestones stand on an evening.
+    void setImported(const ImportedPlan &imported) { m_imported = imported; }
+
     // Passes the number formats of an unpacked package to parseFormatType. False when the part cannot be
     // read.
     bool parseStylesXml(const QString &folder);
@@ -77,7 +90,13 @@ private:
     int titleStyle() const;
     int greatestRow(const QDomElement &sheetData);
 
+    // What both imports do: the sheets of a packed workbook, read by `read`.
+    bool importSheets(const QString &path, const std::function<bool(const QString &folder)> &read);
+
     bool m_isRich = false;
+    bool m_isFileRich = true; // of exportFile
+    ProjectStart m_start;
+    ImportedPlan m_imported;
     QMap<int, QString> m_dateFormats;
     int m_titleCount = 0;    // of the sheet being written
     QDomElement m_sheetData; // that cells were put into last

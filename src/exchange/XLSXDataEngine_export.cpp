@@ -65,7 +65,7 @@ void XLSXDataEngine::createMindmapSheet()
 {
     if (!m_document)
         return;
-    const planexport::Rows rows(*m_document);
+    const planexport::Rows rows(*m_document, m_imported.evenings);
     const QStringList names = sheetNames();
     for (const Sheet sheet : allSheets()) {
         SheetLook look;
@@ -81,7 +81,7 @@ void XLSXDataEngine::createMindmapSheet()
             SheetWriter writer(
                 part, [this](const QString &text) { return sharedStringIndex(text); },
                 m_isRich ? &look : nullptr, isSelected);
-            isComplete = rows.write(sheet, writer, maxRows, m_isRich);
+            isComplete = rows.write(sheet, writer, maxRows, m_isRich, &m_findings, names.at(sheet));
             writer.end();
             m_stringCells += writer.stringCells();
         });
@@ -217,7 +217,26 @@ bool XLSXDataEngine::exportFile(const QString &path)
         fail(path, QStringLiteral("no temporary folder"));
         return false;
     }
+    const bool wasRich = m_isRich;
+    m_isRich = m_isFileRich;
+    const int sharedNames = planexport::Rows(*m_document).sharedNames();
+    // One column more tells tasks of one name apart; other readers know no such title.
+    QList<ExcelData *> &titles = exceltitles::workbookTitles(exceltitles::AssignmentSheet);
+    const QString idTitle = RowColumnData::s_columnNames.value(0);
+    const bool hasIds = std::any_of(titles.begin(), titles.end(),
+                                    [&idTitle](const ExcelData *title) { return title->name == idTitle; });
+    const bool addsIds = sharedNames > 0 && m_isRich && !hasIds && !titles.isEmpty() && !idTitle.isEmpty();
+    if (addsIds)
+        titles.append(new ExcelData{0, titles.size(), idTitle});
     exportData(folder);
+    if (addsIds)
+        delete titles.takeLast();
+    if (sharedNames > 0 && !addsIds && !hasIds)
+        m_findings.add(sheetNames().at(exceltitles::AssignmentSheet),
+                       QStringLiteral("%1 tasks share a name: a workbook cannot tell their assignments apart")
+                           .arg(sharedNames),
+                       QStringLiteral("give them different names, or write readable sheets"));
+    m_isRich = wasRich;
     if (isWhole() && !KWZip::zip(path, folder))
         fail(path, KWZip::lastError());
     return isWhole();

@@ -23,14 +23,12 @@ public:
     {
     }
     QString path() const { return (m_fallback ? m_fallback->path() : m_folder.path()) + QLatin1Char('/'); }
-    // Without a folder of its own nothing is unpacked: an empty path would be the root of all files.
-    bool unpack(const QString &archive, QString *error)
+    // Without any temporary folder the archive would go into the root of the file system.
+    QString unpack(const QString &archive)
     {
-        const bool hasFolder = !m_fallback || m_fallback->isValid();
-        if (hasFolder && KWZip::unZip(archive, path()))
-            return true;
-        *error = hasFolder ? KWZip::lastError() : QStringLiteral("no temporary folder");
-        return false;
+        if ((m_fallback ? m_fallback->path() : m_folder.path()).isEmpty())
+            return QStringLiteral("there is no temporary folder to unpack it into");
+        return KWZip::unZip(archive, path()) ? QString() : KWZip::lastError();
     }
 
 private:
@@ -50,6 +48,7 @@ public:
         // One folder up, which is there also where the folder of the sheets is not.
         const QString parts = QDir::cleanPath(folder + QLatin1String("..")) + QLatin1Char('/');
         const QByteArray workbook = xlsx::readPart(parts + QLatin1String("workbook.xml"), nullptr);
+        m_percentStyles = xlsx::percentStyles(xlsx::readPart(parts + QLatin1String("styles.xml"), nullptr));
         for (const QString &file : xlsx::sheetFiles(folder))
             open(folder, file, strings, findings);
         if (m_sources.empty()) {
@@ -79,7 +78,8 @@ private:
         if (m_sources.size() == std::size_t(exceltitles::SheetCount))
             return;
         QString error;
-        auto source = std::make_unique<xlsx::SheetSource>(xlsx::readPart(folder + file, &error), strings);
+        auto source = std::make_unique<xlsx::SheetSource>(xlsx::readPart(folder + file, &error), strings,
+                                                          &m_percentStyles);
         if (!error.isEmpty())
             findings.add(file, error, QStringLiteral("not read"));
         // Other XML among the sheets is none, a sheet that is spoilt is one all the same.
@@ -89,6 +89,7 @@ private:
         m_files.append(file);
     }
 
+    std::vector<bool> m_percentStyles;
     std::vector<std::unique_ptr<xlsx::SheetSource>> m_sources;
     QStringList m_files;
     planimport::Book m_book;
@@ -109,8 +110,8 @@ bool XLSXDataEngine::initExcelTitles(const QString &path)
 {
     UnpackedBook unpacked;
     m_findings.clear();
-    QString error;
-    if (!unpacked.unpack(path, &error)) {
+    const QString error = unpacked.unpack(path);
+    if (!error.isEmpty()) {
         m_findings.add(path, error);
         return false;
     }
@@ -121,12 +122,12 @@ bool XLSXDataEngine::initExcelTitles(const QString &path)
     return true;
 }
 
-bool XLSXDataEngine::importData(const QString &path)
+bool XLSXDataEngine::importSheets(const QString &path, const std::function<bool(const QString &folder)> &read)
 {
     UnpackedBook unpacked;
     m_findings.clear();
-    QString error;
-    if (!unpacked.unpack(path, &error)) {
+    const QString error = unpacked.unpack(path);
+    if (!error.isEmpty()) {
         m_findings.add(path, error, QStringLiteral("nothing imported"));
         return false;
     }
@@ -134,7 +135,27 @@ bool XLSXDataEngine::importData(const QString &path)
     if (!praserShareStrXml(unpacked.path()))
         return false;
     parseStylesXml(unpacked.path());
-    return praserSheetXml(unpacked.path() + worksheets, m_sharedStrings);
+    return read(unpacked.path() + worksheets);
+}
+
+bool XLSXDataEngine::importData(const QString &path)
+{
+    return importSheets(path,
+                        [this](const QString &folder) { return praserSheetXml(folder, m_sharedStrings); });
+}
+
+bool XLSXDataEngine::importFile(const QString &path)
+{
+    if (!m_document)
+        return false;
+    return importSheets(path, [this](const QString &folder) {
+        const OpenSheets sheets(folder, m_sharedStrings, m_findings);
+        const bool isImported = planimport::importBook(*m_document, sheets.book(),
+                                                       sheetrows::workbookReading(sheets.book().is1904),
+                                                       &m_findings, &m_imported, m_start);
+        sheets.tellDoubts(m_findings);
+        return isImported;
+    });
 }
 
 bool XLSXDataEngine::praserSheetXml(const QString &folder, const QStringList &sharedStrings)

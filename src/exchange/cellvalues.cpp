@@ -2,6 +2,7 @@
 #include "engine/time/duration.h"
 #include "format/dataformat.h"
 #include <QRegularExpression>
+#include <QStringList>
 #include <cmath>
 #include <limits>
 
@@ -136,6 +137,21 @@ std::optional<double> fraction(const Cell &cell, Comma comma)
     return read ? std::optional<double>(*read / 100) : std::nullopt;
 }
 
+bool showsPercent(const QString &formatCode)
+{
+    bool isQuoted = false;
+    for (int at = 0; at < formatCode.size(); ++at) {
+        const QChar sign = formatCode.at(at);
+        if (sign == QLatin1Char('"'))
+            isQuoted = !isQuoted;
+        else if (sign == QLatin1Char('\\') && !isQuoted)
+            ++at;
+        else if (sign == QLatin1Char('%') && !isQuoted)
+            return true;
+    }
+    return false;
+}
+
 bool hasOddComma(const Cell &cell)
 {
     if (cell.isNumber || cell.text.size() > maxUnits)
@@ -163,6 +179,41 @@ std::optional<Rate> rate(const Cell &cell, Comma comma)
     return Rate{*money, slash < 0 ? QString()
                                   : QLatin1Char('/') +
                                         cell.text.mid(slash + 1).simplified().remove(QLatin1Char(' '))};
+}
+
+namespace {
+
+constexpr const char *costUnits[] = {"min", "h", "d", "w", "m"};
+}
+
+std::optional<CostUnit> costUnitCalled(const QString &word)
+{
+    const QString lower = word.trimmed().toLower();
+    for (int unit = 0; unit < int(std::size(costUnits)); ++unit) {
+        if (lower == QLatin1String(costUnits[unit]))
+            return CostUnit{unit, 1};
+    }
+    const std::optional<unsigned int> called = unitCalled(word);
+    if (!called)
+        return std::nullopt;
+    constexpr int month = 4;
+    constexpr double months[] = {12, 3, 1}; // by duration::Unit
+    return *called <= duration::Month ? CostUnit{month, months[*called]}
+                                      : CostUnit{int(duration::Minute - *called), 1};
+}
+
+QString costUnitText(int unit)
+{
+    return unit >= 0 && unit < int(std::size(costUnits)) ? QLatin1String(costUnits[unit]) : QString();
+}
+
+int resourceTypeCalled(const QString &word)
+{
+    static const QStringList types[] = {
+        {QStringLiteral("work"), QStringLiteral("arbeit"), QString::fromUtf8("工时")},
+        {QStringLiteral("material"), QString::fromUtf8("材料")}};
+    const QString lower = word.trimmed().toLower();
+    return types[0].contains(lower) ? 0 : types[1].contains(lower) ? 1 : -1;
 }
 
 // ---- Lengths of time --------------------------------------------------------------------------------------

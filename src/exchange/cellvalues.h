@@ -28,12 +28,14 @@ enum class Comma {
 KWGANTT_EXPORT QString withPlainDigits(const QString &text);
 // A finite number. Commas that group: the first one of the text, whatever stands around it; else the whole
 // text.
-std::optional<double> number(const Cell &cell, Comma comma = Comma::Groups);
+KWGANTT_EXPORT std::optional<double> number(const Cell &cell, Comma comma = Comma::Groups);
 // The same, cut to a whole number.
 std::optional<qint64> whole(const Cell &cell, Comma comma = Comma::Groups);
 // "50%" is 0.5; a number without the sign is itself, as programs store typed percentages.
-std::optional<double> fraction(const Cell &cell, Comma comma = Comma::Groups);
+KWGANTT_EXPORT std::optional<double> fraction(const Cell &cell, Comma comma = Comma::Groups);
 bool hasPercentSign(const Cell &cell);
+// Whether a spreadsheet's code of a number format shows percentages: a sign that is not quoted.
+bool showsPercent(const QString &formatCode);
 // Whether a comma in the text does not stand before three digits, so that it may have been a decimal point.
 bool hasOddComma(const Cell &cell);
 
@@ -43,7 +45,19 @@ struct Rate
     double money = 0;
     QString unit; // "/h", without blanks; empty without one
 };
-std::optional<Rate> rate(const Cell &cell, Comma comma = Comma::Groups);
+KWGANTT_EXPORT std::optional<Rate> rate(const Cell &cell, Comma comma = Comma::Groups);
+
+// What rates count in: 0 minute, 1 hour, 2 day, 3 week, 4 month.
+struct CostUnit
+{
+    int unit = 1;
+    double parts = 1; // of the unit that was called, which may be longer than a month
+};
+// "min", "h", "d", "w" and "m", else as unitCalled().
+KWGANTT_EXPORT std::optional<CostUnit> costUnitCalled(const QString &word);
+KWGANTT_EXPORT QString costUnitText(int unit); // empty for one that there is not
+// 0 work, 1 material, in English, German or Chinese; -1 for any other word.
+KWGANTT_EXPORT int resourceTypeCalled(const QString &word);
 
 // ---- Lengths of time --------------------------------------------------------------------------------------
 

@@ -4,14 +4,19 @@
 #include "engine/text/celltext.h"
 #include "engine/text/columntypes.h"
 #include "engine/time/duration.h"
+#include "exchange/titletable.h"
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
+#include "support/findings.h"
 #include "support/xmlguard.h"
 #include "table/documenttexts.h"
 #include "table/resourcetext.h"
+#include <QHash>
+#include <QLocale>
 #include <algorithm>
+#include <cmath>
 
 using columntypes::Kind;
 using exceltitles::Sheet;
@@ -24,16 +29,42 @@ enum AssignmentKey { TaskName, ResourceName, Complete, Work, Units, assignmentKe
 
 constexpr int groupSize = 3;
 
+constexpr int percentDecimals = 1;
+constexpr int amountDecimals = 2;
+
 QString percentText(double fraction)
 {
-    constexpr int decimals = 1;
-    return DataFormat::formatNumber(fraction * 100, groupSize, decimals, 1) + QLatin1Char('%');
+    return DataFormat::formatNumber(fraction * 100, groupSize, percentDecimals, 1) + QLatin1Char('%');
 }
 
-QString amountText(double value, int group)
+// Whether the digits of a value go beyond its decimals.
+bool isRounded(double value, int decimals)
 {
-    constexpr int decimals = 2;
-    return DataFormat::formatNumber(value, group, decimals, 1);
+    const double scaled = value * std::pow(10, decimals);
+    return std::isfinite(scaled) &&
+           std::fabs(scaled - std::round(scaled)) > 1e-7 * std::max(1.0, std::fabs(value));
+}
+
+QString exactText(double value)
+{
+    return QString::number(value, 'f', QLocale::FloatingPointShortest);
+}
+
+// With all its digits.
+QString rateText(double value)
+{
+    QString text = exactText(value);
+    const int point = text.indexOf(QLatin1Char('.'));
+    for (int at = (point < 0 ? text.size() : point) - groupSize; at > (value < 0 ? 1 : 0); at -= groupSize)
+        text.insert(at, QLatin1Char(','));
+    return DataFormat::currencyText(text);
+}
+
+// To the second even where a month or a year is its unit.
+QString workText(double amount)
+{
+    constexpr int decimals = 6;
+    return DataFormat::formatNumber(amount, groupSize, decimals, 1);
 }
 
 QString nameOfUnit(duration::Unit unit)
@@ -111,6 +142,10 @@ std::vector<int> fieldsOf(Sheet sheet)
     for (const ExcelData *title : titles)
         fields.push_back(sheet == exceltitles::TaskSheet ? exceltitles::columnType(*title)
                                                          : names.key(title->name, -1));
+    for (std::size_t column = 0; sheet == exceltitles::AssignmentSheet && column < fields.size(); ++column) {
+        if (fields[column] < 0)
+            fields[column] = titletable::find(sheet, titles[int(column)]->name, true).field;
+    }
     // Titles that the host has not told us: the assignment sheet has a usual order.
     const bool isUnknown = std::all_of(fields.begin(), fields.end(), [](int field) { return field < 0; });
     if (sheet == exceltitles::AssignmentSheet && isUnknown) {
@@ -136,9 +171,10 @@ std::vector<Value> valuesOfTitles()
 
 // ---- Which rows there are ---------------------------------------------------------------------------------
 
-Rows::Rows(KWDocument &document)
+Rows::Rows(KWDocument &document, const QHash<quint32, quint32> &evenings)
     : m_document(document)
     , m_measures(cost::measuresOf(document.workCalendar()))
+    , m_dates(document.workCalendar(), document.outline().list, document.outline().index, evenings)
     , m_dateFormat(DataFormat::dateFormat() + QLatin1String(" hh:mm"))
 {
     collectTasks();
@@ -197,6 +233,16 @@ void Rows::collectAssignments()
 int Rows::unreachedTasks() const
 {
     return m_document.taskCount() - int(m_tasks.size());
+}
+
+int Rows::sharedNames() const
+{
+    QHash<QString, int> counts;
+    for (const KWTaskInfo *task : m_tasks)
+        ++counts[task->Name.trimmed()];
+    return int(std::count_if(m_tasks.begin(), m_tasks.end(), [&counts](const KWTaskInfo *task) {
+        return !task->resourceList.isEmpty() && counts.value(task->Name.trimmed()) > 1;
+    }));
 }
 
 int Rows::deepest() const
@@ -269,11 +315,40 @@ QString Rows::predecessorText(const KWTaskInfo &task) const
     return text;
 }
 
+// As people see it. What a column of moments has no rule for of its own is shown as the task table does: all
+// but the dates of summaries and milestones, which are stored as the next working morning when they stand on
+// an evening, where nobody would look for them.
+QDateTime Rows::shownMoment(const KWTaskInfo &task, int type) const
+{
+    constexpr int startType = 2;
+    constexpr int finishType = 3;
+    const columntypes::ColumnType &column = *columntypes::find(type);
+    const worktime::WorkCalendar &calendar = m_measures.calendar;
+    const bool isOwn = type == startType || type == finishType;
+    const bool isMoment = ShownDates::isMoment(task);
+    const int pos = isOwn && (isMoment || task.isParent()) ? m_document.getPosByID(task.ID) : -1;
+    if (pos < 0 || m_document.getTaskInfoAt(pos) != &task || !m_dates.isDated(pos))
+        return celltext::shownMoment(calendar, columntypes::secs(task, column.field),
+                                     column.kind == Kind::StartDate);
+    const bool isFinish = type == finishType && !isMoment;
+    ShownDates::Moment shown = type == startType ? m_dates.start(pos) : m_dates.finish(pos);
+    // The end of a day is no time of a cell: as a finish 00:00 of its date means that.
+    if (shown.secs >= LocalClock::secsPerDay) {
+        shown.day += isFinish ? 0 : 1;
+        shown.secs = 0;
+    }
+    return QDateTime(LocalClock::dateOf(shown.day), QTime::fromMSecsSinceStartOfDay(shown.secs * 1000),
+                     Qt::UTC);
+}
+
 QString Rows::taskText(const KWTaskInfo &task, int type) const
 {
     const columntypes::ColumnType *column = columntypes::find(type);
     if (column && column->kind == Kind::Predecessors)
         return predecessorText(task);
+    if (column && (column->kind == Kind::StartDate || column->kind == Kind::FinishDate) &&
+        columntypes::secs(task, column->field) != 0)
+        return QLocale::c().toString(shownMoment(task, type), m_dateFormat);
     // By address, since that is what an import takes each part of the text for.
     constexpr bool linkAddresses = true;
     return celltext::ofType(DocumentTexts(m_document, &m_measures.calendar), task, type,
@@ -282,15 +357,22 @@ QString Rows::taskText(const KWTaskInfo &task, int type) const
 
 QString Rows::resourceText(const ResourceInfo &resource, int key) const
 {
-    return resourcetext::ofField(*m_document.resourceInfoData(), resource, key);
+    const ResourceInfoData &sheet = *m_document.resourceInfoData();
+    // A rate for a minute is small, and two decimals are not enough for it.
+    if (key == resourcetext::Rate)
+        return rateText(resource.cost) + sheet.getCostUintText(resource.costUnit);
+    if (key == resourcetext::OvertimeRate)
+        return rateText(resource.overtimeCost) + sheet.getCostUintText(resource.overtimeUnit);
+    return resourcetext::ofField(sheet, resource, key);
 }
 
 QString Rows::assignmentText(const Assignment &assignment, int key) const
 {
-    constexpr int ungrouped = 0;
     const KWTaskInfo &owner = *assignment.owner;
     const Resource &resource = *assignment.resource;
     switch (key) {
+    case titletable::TaskId:
+        return QString::number(quint32(assignment.task->ID));
     case TaskName:
         return assignment.task->Name;
     case ResourceName:
@@ -299,15 +381,14 @@ QString Rows::assignmentText(const Assignment &assignment, int key) const
         return percentText(assignment.task->Percent);
     case Work: {
         if (isMaterial(resource))
-            return amountText(resource.percent, ungrouped);
+            return exactText(resource.percent);
         const double work = cost::work(m_measures, owner, resource);
         const bool inMinutes = owner.DurationUnits == duration::Minute;
-        return amountText(inMinutes ? work : cost::toHours(m_measures, work, owner.DurationUnits),
-                          groupSize) +
+        return workText(inMinutes ? work : cost::toHours(m_measures, work, owner.DurationUnits)) +
                QLatin1Char(' ') + nameOfUnit(inMinutes ? duration::Minute : duration::Hour);
     }
     case Units:
-        return isMaterial(resource) ? amountText(resource.percent, ungrouped) : percentText(resource.percent);
+        return isMaterial(resource) ? exactText(resource.percent) : percentText(resource.percent);
     default:
         return QString();
     }
@@ -325,8 +406,7 @@ Cell Rows::taskCell(const KWTaskInfo &task, int type, bool withValue) const
         return cell;
     const columntypes::ColumnType &column = *columntypes::find(type);
     if (cell.value == Value::Moment)
-        cell.number = dayNumber(celltext::shownMoment(
-            m_measures.calendar, columntypes::secs(task, column.field), column.kind == Kind::StartDate));
+        cell.number = dayNumber(shownMoment(task, type));
     else if (column.kind == Kind::NumberText)
         cell.number = columntypes::text(task, column.field).toDouble();
     else
@@ -367,7 +447,32 @@ Cell Rows::assignmentCell(const Assignment &assignment, int key, bool withValue)
 
 // ---- Rows -------------------------------------------------------------------------------------------------
 
-bool Rows::write(Sheet sheet, RowSink &sink, int maxRows, bool withValues) const
+// Only what an import reads back, and only what the cell does not hold as a value.
+bool Rows::isCut(const KWTaskInfo &task, int type) const
+{
+    const columntypes::ColumnType *column = columntypes::find(type);
+    if (!column || task.isParent())
+        return false;
+    if (column->kind == Kind::Percent)
+        return isRounded(columntypes::number(task, column->field) * 100, percentDecimals);
+    return column->kind == Kind::NumberText &&
+           isRounded(columntypes::text(task, column->field).toDouble(), amountDecimals);
+}
+
+bool Rows::isCut(const ResourceInfo &resource, int key) const
+{
+    return (key == resourcetext::MaxUnits && isRounded(resource.unit * 100, percentDecimals)) ||
+           (key == resourcetext::CostPerUse && isRounded(resource.costPer, amountDecimals));
+}
+
+bool Rows::isCut(const Assignment &assignment, int key) const
+{
+    return key == Units && !assignment.task->isParent() && !isMaterial(*assignment.resource) &&
+           isRounded(assignment.resource->percent * 100, percentDecimals);
+}
+
+bool Rows::write(Sheet sheet, RowSink &sink, int maxRows, bool withValues, Findings *findings,
+                 const QString &place) const
 {
     const std::vector<int> fields = fieldsOf(sheet);
     if (fields.empty() || maxRows < 1) {
@@ -380,33 +485,45 @@ bool Rows::write(Sheet sheet, RowSink &sink, int maxRows, bool withValues) const
 
     std::vector<Cell> cells(fields.size());
     int row = 1;
-    const auto fill = [&](int depth, auto &&cellOf) {
-        for (std::size_t column = 0; column < fields.size(); ++column)
+    int cut = 0;
+    const auto fill = [&](int depth, auto &&cellOf, auto &&isCutAt) {
+        for (std::size_t column = 0; column < fields.size(); ++column) {
             cells[column] = cellOf(int(column));
+            if (cells[column].value == Value::None && isCutAt(fields[column]))
+                ++cut;
+        }
         sink.row(row++, depth, cells);
     };
     const QList<ExcelData *> &titles = exceltitles::workbookTitles(sheet);
-    fill(0, [&](int column) { return Cell{titles[column]->name}; });
+    fill(
+        0, [&](int column) { return Cell{titles[column]->name}; }, [](int) { return false; });
     if (sheet == exceltitles::TaskSheet) {
         for (std::size_t i = 0; i < std::size_t(rows); ++i)
-            fill(m_depths[i],
-                 [&](int column) { return taskCell(*m_tasks[i], fields[std::size_t(column)], withValues); });
+            fill(
+                m_depths[i],
+                [&](int column) { return taskCell(*m_tasks[i], fields[std::size_t(column)], withValues); },
+                [&](int field) { return isCut(*m_tasks[i], field); });
     } else if (sheet == exceltitles::ResourceSheet) {
-        for (int i = 0; i < rows; ++i)
-            fill(0, [&](int column) {
-                return resourceCell(*m_document.resourceInfoData()->infos[i], fields[std::size_t(column)],
-                                    withValues);
-            });
+        for (const ResourceInfo *info : m_document.resourceInfoData()->infos.mid(0, rows))
+            fill(
+                0, [&](int column) { return resourceCell(*info, fields[std::size_t(column)], withValues); },
+                [&](int field) { return isCut(*info, field); });
     } else {
         forEachAssignment([&](const Assignment &assignment) {
             if (row > rows + 1)
                 return false;
-            fill(0, [&](int column) {
-                return assignmentCell(assignment, fields[std::size_t(column)], withValues);
-            });
+            fill(
+                0,
+                [&](int column) {
+                    return assignmentCell(assignment, fields[std::size_t(column)], withValues);
+                },
+                [&](int field) { return isCut(assignment, field); });
             return true;
         });
     }
+    if (cut > 0 && findings)
+        findings->add(place, QStringLiteral("%1 numbers have more digits than their texts").arg(cut),
+                      QStringLiteral("rounded"));
     return needed == rows;
 }
 }

@@ -1,11 +1,15 @@
 #pragma once
 #include "engine/cost/cost.h"
 #include "engine/record/taskindex.h"
+#include "engine/text/showndates.h"
 #include "exchange/exceltitles.h"
+#include <QDateTime>
+#include <QHash>
 #include <QString>
 #include <functional>
 #include <vector>
 
+class Findings;
 class KWDocument;
 class KWTaskInfo;
 class Resource;
@@ -59,7 +63,8 @@ struct Assignment
 class Rows
 {
 public:
-    explicit Rows(KWDocument &document);
+    // Evenings: see ImportedPlan.
+    explicit Rows(KWDocument &document, const QHash<quint32, quint32> &evenings = {});
 
     // Tasks in the order they are written: depth-first along the lists of children.
     const std::vector<const KWTaskInfo *> &tasks() const { return m_tasks; }
@@ -68,6 +73,8 @@ public:
     // Those that no list of children leads to from the top; they are not written.
     int unreachedTasks() const;
     int deepest() const; // depth of the outline; 0 for a flat one
+    // Tasks with assignments whose names others have, too: by name alone nobody can tell them apart.
+    int sharedNames() const;
 
     // Texts of one field: a column type, a key of a resource or of an assignment. Null for a field that there
     // is not.
@@ -76,20 +83,27 @@ public:
     QString assignmentText(const Assignment &assignment, int key) const;
 
     // At most `maxRows` rows, the titles included; true when that was enough. The columns are those of the
-    // workbook's titles, see ExcelTitles. Values are made only when asked for.
-    bool write(exceltitles::Sheet sheet, RowSink &sink, int maxRows, bool withValues = false) const;
+    // workbook's titles, see ExcelTitles. Values are made only when asked for. Numbers that lose digits are
+    // told, with the sheet's name as the place.
+    bool write(exceltitles::Sheet sheet, RowSink &sink, int maxRows, bool withValues = false,
+               Findings *findings = nullptr, const QString &place = QString()) const;
 
 private:
     void collectTasks();
     void collectAssignments();
     bool forEachAssignment(const std::function<bool(const Assignment &)> &visit) const;
     QString predecessorText(const KWTaskInfo &task) const;
+    QDateTime shownMoment(const KWTaskInfo &task, int type) const;
+    bool isCut(const KWTaskInfo &task, int type) const;
+    bool isCut(const ResourceInfo &resource, int key) const;
+    bool isCut(const Assignment &assignment, int key) const;
     Cell taskCell(const KWTaskInfo &task, int type, bool withValue) const;
     Cell resourceCell(const ResourceInfo &resource, int key, bool withValue) const;
     Cell assignmentCell(const Assignment &assignment, int key, bool withValue) const;
 
     KWDocument &m_document;
     cost::Measures m_measures;
+    ShownDates m_dates;
     QString m_dateFormat;
     std::vector<const KWTaskInfo *> m_tasks;
     // Of m_tasks, one entry each, one more for the assignments.

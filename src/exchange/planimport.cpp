@@ -38,6 +38,16 @@ void setTitles(Sheet sheet, const std::vector<Cell> &titles)
         exceltitles::addWorkbookTitle(sheet, cell.column, cell.text);
 }
 
+// Those that the sheet has a column for, however it is called.
+void showColumns(RowColumnData &table, const sheetrows::Reader &tasks)
+{
+    table.setAllColDataHide();
+    for (RowColumnData::ColumnData *column : table.columns()) {
+        if (tasks.hasField(RowColumnData::typeOfTitle(column->title)))
+            column->isHide = false;
+    }
+}
+
 void showTitledColumns(RowColumnData &table)
 {
     table.setAllColDataHide();
@@ -148,7 +158,8 @@ public:
         outline::LevelBuilder builder;
         for (const staged::Task &staged : m_tasks)
             builder.add(*staged.task);
-        replaceCalendar();
+        if (m_plan.calendar)
+            setCalendar(m_document, *m_plan.calendar);
         chooseStart();
         setDates();
         setSummaryDates();
@@ -206,30 +217,6 @@ private:
         }
     }
 
-    void replaceCalendar()
-    {
-        if (!m_plan.calendar)
-            return;
-        const staged::Calendar &from = *m_plan.calendar;
-        std::copy(from.week.begin(), from.week.end(), m_document.WorkDay);
-        qDeleteAll(m_document.workTimes);
-        m_document.workTimes.clear();
-        for (const staged::Interval &interval : from.hours)
-            m_document.workTimes.append(new KWDayTime(interval.startSecs, interval.finishSecs));
-        m_document.clearCalendar();
-        for (const staged::CalendarException &exception : from.exceptions) {
-            auto *calendar = new KWCalendar;
-            calendar->name = exception.name;
-            calendar->startDate = exception.from;
-            calendar->finishDate = exception.to;
-            calendar->isException = true;
-            calendar->isWork = exception.works;
-            for (const staged::Interval &interval : exception.hours)
-                calendar->dayTimes.append(new KWDayTime(interval.startSecs, interval.finishSecs));
-            m_document.calendars.append(calendar);
-        }
-    }
-
     void chooseStart()
     {
         m_imported.isStartGiven = m_plan.start.isGiven();
@@ -245,6 +232,8 @@ private:
         if (earliest == std::numeric_limits<quint32>::max())
             earliest = shownmoment::start(calendar(), {LocalClock::dayOf(KWClock::now().date()), 0, false});
         m_imported.start = earliest;
+        if (m_imported.isStartGiven)
+            m_document.StartDate = earliest;
     }
 
     void setDates()
@@ -270,7 +259,7 @@ private:
                 continue;
             }
             const taskdates::Dates dates =
-                taskdates::of(calendar(), staged, m_imported.start, m_rules.lengthDecides);
+                taskdates::of(calendar(), staged, m_imported.start, m_rules.length);
             task.Start = dates.start;
             task.Finish = dates.finish;
             task.Milestone = dates.isMilestone;
@@ -278,7 +267,7 @@ private:
             if (!staged.moments[staged::Start].isGiven())
                 m_imported.withoutStart.insert(task.ID);
             if (dates.isEvening)
-                m_imported.evenings.insert(task.ID);
+                m_imported.evenings.insert(task.ID, task.Start);
             tell(staged, dates.remark);
         }
     }
@@ -365,8 +354,10 @@ private:
     {
         m_document.clearTaskInfoList();
         m_ids.reserve(m_tasks.size());
+        m_imported.rows.reserve(int(m_tasks.size()));
         for (staged::Task &staged : m_tasks) {
             m_ids.push_back(staged.task->ID);
+            m_imported.rows.append(staged.row);
             m_document.appendTaskInfoList(staged.task.release());
         }
         RowColumnData &table = *m_document.rowColumnData();
@@ -402,8 +393,9 @@ private:
         ++m_imported.refusedLinks;
         const bool isLoop = link.refusal == LinkRefusal::Loop || link.refusal == LinkRefusal::Self;
         report(m_tasks[std::size_t(wanted.successor)],
-               (isLoop ? text("it would wait for itself through row ")
-                       : text("it cannot wait for its own summary or subtask in row ")) +
+               (isLoop ? text("it would wait for itself through ")
+                       : text("it cannot wait for its own summary or subtask in ")) +
+                   m_rules.place.section(QLatin1Char(' '), -1) + QLatin1Char(' ') +
                    QString::number(m_tasks[std::size_t(wanted.predecessor)].row),
                text("no predecessor"));
     }
@@ -493,6 +485,14 @@ public:
         if (task->isParent()) {
             if (m_rules.comparesWork)
                 report(row, text("a summary takes no resources"), text("left out"));
+            return;
+        }
+        if (m_rules.assignsOnce && !m_infos.contains(row.resource)) {
+            report(row, text("there is no resource ") + row.resource, text("left out"));
+            return;
+        }
+        if (m_rules.assignsOnce && find(*task, row.resource)) {
+            report(row, row.resource + text(" is assigned to this task already"), text("left out"));
             return;
         }
         Resource &resource = assigned(*task, row);
@@ -610,6 +610,29 @@ void Replacer::assign()
 }
 }
 
+void setCalendar(KWDocument &document, const staged::Calendar &calendar)
+{
+    const auto setIntervals = [](const std::vector<staged::Interval> &from, QList<KWDayTime *> &to) {
+        qDeleteAll(to);
+        to.clear();
+        for (const staged::Interval &interval : from)
+            to.append(new KWDayTime(interval.startSecs, interval.finishSecs));
+    };
+    std::copy(calendar.week.begin(), calendar.week.end(), document.WorkDay);
+    setIntervals(calendar.hours, document.workTimes);
+    document.clearCalendar();
+    for (const staged::CalendarException &from : calendar.exceptions) {
+        auto *exception = new KWCalendar;
+        exception->name = from.name;
+        exception->startDate = from.from;
+        exception->finishDate = from.to;
+        exception->isException = true;
+        exception->isWork = from.works;
+        setIntervals(from.hours, exception->dayTimes);
+        document.calendars.append(exception);
+    }
+}
+
 ImportedPlan replace(KWDocument &document, staged::Plan &plan, const Rules &rules, Findings *findings)
 {
     return Replacer(document, plan, rules, findings).run();
@@ -633,8 +656,9 @@ Rules rulesOf(const sheetrows::Reading &reading, const sheetrows::Reader &tasks,
 {
     Rules rules;
     rules.uniqueNames = reading.isExact;
-    rules.lengthDecides = reading.lengthDecides;
+    rules.length = reading.length;
     rules.comparesWork = reading.comparesWork;
+    rules.assignsOnce = reading.comparesWork;
     rules.placesBehind = !reading.isExact && reading.placesBehind;
     rules.place = tasks.place();
     rules.assignmentPlace = assignments.place();
@@ -653,6 +677,21 @@ QSet<QString> summaryNames(const staged::Plan &plan)
         lastOfLevel.insert(task.Level, &task);
     }
     return names;
+}
+
+// Any file of text has rows; a plan's have names and times.
+bool isPlan(const TaskSheet &tasks, Findings *findings)
+{
+    constexpr int idType = 0;
+    constexpr int nameType = 1;
+    const bool hasNames = tasks.hasField(nameType) || tasks.hasField(idType);
+    if (hasNames && tasks.hasTimes())
+        return true;
+    if (findings)
+        findings->add(tasks.place() + text(" 1"),
+                      text(hasNames ? "not a plan: no title 'Duration'" : "not a plan: no title 'Name'"),
+                      text("the first row holds the titles: Name, Duration, Start, Predecessors, ..."));
+    return false;
 }
 
 // What a column of resources' names says, "Ann[50%];Crane", where no sheet of assignments does.
@@ -686,7 +725,7 @@ void assignFromColumn(staged::Plan &plan)
 }
 
 bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading &reading, Findings *findings,
-                ImportedPlan *imported, const staged::Moment &start)
+                ImportedPlan *imported, const ProjectStart &start)
 {
     TaskSheet tasks(reading, findings, book.names[exceltitles::TaskSheet]);
     ResourceSheet resources(*document.resourceInfoData(), reading, findings,
@@ -696,7 +735,9 @@ bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading
 
     ExcelTitles::initImportMapList(&document);
     staged::Plan plan;
-    plan.start = start;
+    if (start.date.isValid())
+        plan.start = shownmoment::Moment{LocalClock::dayOf(start.date), std::max(0, start.secsOfDay),
+                                         start.secsOfDay >= 0};
     for (int sheet = 0; sheet < exceltitles::SheetCount; ++sheet) {
         sheetrows::Reader &reader = *readers[sheet];
         Source *source = book.sheets[std::size_t(sheet)];
@@ -712,6 +753,8 @@ bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading
                                   text("nothing imported"));
                 return false;
             }
+            if (reading.isStrict && !isPlan(tasks, findings))
+                return false;
             tasks.finish(plan);
             // Workbooks repeat the assignments below a summary for the summary.
             assignments.leaveOut(summaryNames(plan));
@@ -727,6 +770,8 @@ bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading
     if (tasks.isRefused() || resources.isRefused() || assignments.isRefused())
         return false;
     ImportedPlan result = replace(document, plan, rulesOf(reading, tasks, assignments), findings);
+    if (reading.showsColumns)
+        showColumns(*document.rowColumnData(), tasks);
     if (imported)
         *imported = std::move(result);
     return true;

@@ -33,7 +33,7 @@ void readTitles(KWDocument &document, const Book &book);
 // has no title that is known, or a cell cannot be read where that refuses the file. `start` is the project's,
 // where the caller knows it. The findings may be null.
 bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading &reading, Findings *findings,
-                ImportedPlan *imported = nullptr, const staged::Moment &start = staged::Moment());
+                ImportedPlan *imported = nullptr, const ProjectStart &start = ProjectStart());
 // By the rules of importData; shows those columns of the task table that the task sheet has, and hides the
 // others.
 bool importBook(KWDocument &document, const Book &book, Findings *findings);

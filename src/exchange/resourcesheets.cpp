@@ -132,11 +132,7 @@ int ResourceSheet::typeOf(const QString &written) const
     const int type = m_texts.getTypeIndex(written);
     if (type >= 0 || reading().isExact)
         return type;
-    static const QStringList work = {QStringLiteral("work"), QStringLiteral("arbeit"),
-                                     QString::fromUtf8("工时")};
-    static const QStringList material = {QStringLiteral("material"), QString::fromUtf8("材料")};
-    const QString word = written.trimmed().toLower();
-    return work.contains(word) ? 0 : material.contains(word) ? 1 : -1;
+    return cellvalues::resourceTypeCalled(written);
 }
 
 void ResourceSheet::readRate(int row, const Cell &cell, double &money, qint32 &unit)
@@ -155,20 +151,18 @@ void ResourceSheet::readRate(int row, const Cell &cell, double &money, qint32 &u
         unit = read;
         return;
     }
-    // The rates that there are count in minutes to months.
-    constexpr int costUnits[] = {-1, -1, 4, 3, 2, 1, 0}; // by duration::Unit
-    constexpr double monthsOf[] = {12, 3};
-    const std::optional<unsigned int> called = cellvalues::unitCalled(rate->unit.mid(1));
+    const std::optional<cellvalues::CostUnit> called = cellvalues::costUnitCalled(rate->unit.mid(1));
     if (!called) {
         report(row, &cell, text("has no known unit of time"), text("money for an hour"));
-    } else if (*called <= duration::Quarter) {
-        unit = costUnits[duration::Month];
-        money /= monthsOf[*called];
-        report(row, &cell, text("is no rate for a month or less"),
-               text("read as ") + QString::number(money, 'g', 12) + text("/m"));
-    } else {
-        unit = costUnits[*called];
+        return;
     }
+    unit = called->unit;
+    if (called->parts == 1)
+        return;
+    money /= called->parts;
+    report(row, &cell, text("is no rate for a month or less"),
+           text("read as ") + QString::number(money, 'g', 12) + QLatin1Char('/') +
+               cellvalues::costUnitText(unit));
 }
 
 void ResourceSheet::readMaxUnits(int row, const KnownCell &known, double &units)
@@ -181,10 +175,9 @@ void ResourceSheet::readMaxUnits(int row, const KnownCell &known, double &units)
         return;
     }
     reportComma(row, cell, isSigned ? *read * 100 : *read);
-    // A percentage even without its sign; one that the file shows as such is what it shows.
-    const bool isFraction = isSigned || (cell.isPercent && !reading().isExact);
-    units = isFraction ? *read : *read / 100;
-    if (!isFraction && !known.title->isPercent && *read > 0 && *read <= 1)
+    // A percentage even without its sign.
+    units = isSigned ? *read : *read / 100;
+    if (!isSigned && !known.title->isPercent && *read > 0 && *read <= 1)
         report(row, &cell, text("is taken as a percentage"), QString::number(units * 100) + QLatin1Char('%'));
 }
 

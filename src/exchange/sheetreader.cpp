@@ -1,4 +1,5 @@
 #include "exchange/sheetreader.h"
+#include <QLocale>
 #include <algorithm>
 
 namespace sheetrows {
@@ -11,6 +12,17 @@ QString shown(const QString &text)
     constexpr int shownUnits = 40;
     return QLatin1Char('\'') + (text.size() > shownUnits ? text.left(shownUnits) + QChar(0x2026) : text) +
            QLatin1Char('\'');
+}
+
+// Without what the multiplication leaves behind, where the text still is that fraction.
+QString textOfPercent(double fraction)
+{
+    constexpr double whole = 100;
+    constexpr int digits = 15;
+    const QString text = QString::number(fraction * whole, 'g', digits);
+    return text.toDouble() / whole == fraction
+               ? text
+               : QString::number(fraction * whole, 'g', QLocale::FloatingPointShortest);
 }
 }
 
@@ -29,6 +41,8 @@ bool Reader::read(Source &source)
     Row row;
     while (source.next(row)) {
         row.line = row.line > 0 ? row.line : row.number;
+        if (!m_reading.isExact)
+            showPercentages(row);
         if (row.number == 1 && !m_hasTitles)
             readTitles(row);
         else if (m_hasTitles)
@@ -87,7 +101,9 @@ void Reader::readTitles(const Row &row)
         m_hasTitle[column] = true;
         titletable::Known known = titletable::find(m_kind, cell.text, m_reading.isExact);
         m_isKnown = m_isKnown || known.field >= 0;
-        if (known.field >= 0 && !m_reading.isExact && hasField(known.field)) {
+        const bool isIgnored =
+            known.field == titletable::Ignored || known.field == titletable::IgnoredAssignment;
+        if (known.field >= 0 && !isIgnored && !m_reading.isExact && hasField(known.field)) {
             report(row.line, cell.text, QStringLiteral("it is a second ") + shown(titleOfField(known.field)),
                    QStringLiteral("not read"));
             known.field = -1;
@@ -100,6 +116,17 @@ void Reader::readTitles(const Row &row)
                        : QStringLiteral("not read; did you mean ") + shown(nearest) + QLatin1Char('?'));
         }
         m_fieldOfColumn[column] = known;
+    }
+}
+
+// What a spreadsheet shows as "50%" it holds as 0.5.
+void Reader::showPercentages(Row &row) const
+{
+    for (Cell &cell : row.cells) {
+        if (!cell.isPercent)
+            continue;
+        cell.text = textOfPercent(cell.text.toDouble()) + QLatin1Char('%');
+        cell.isNumber = false;
     }
 }
 

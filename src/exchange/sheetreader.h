@@ -1,6 +1,7 @@
 #pragma once
 #include "exchange/cellvalues.h"
 #include "exchange/sheetrows.h"
+#include "exchange/stagedplan.h"
 #include "exchange/titletable.h"
 #include "support/findings.h"
 #include <vector>
@@ -18,15 +19,27 @@ struct Reading
     bool isStrict = false; // a cell that cannot be read refuses the file
     bool linksById =
         false; // a plain number among predecessors is an ID, where there are IDs; else the row's place
-    bool lengthDecides = false; // where a length contradicts the finish
-    bool is1904 = false;        // day numbers count from 1 January 1904
+    planimport::LengthRule length = planimport::LengthRule::Measured;
+    bool is1904 = false; // day numbers count from 1 January 1904
     // A number without its sign in the column of what is done: a percentage; else as the whole column says.
     bool plainPercent = false;
     bool comparesWork = false; // see planimport::Rules
     bool placesBehind = true;
+    bool showsColumns = false; // of the task table those that the sheet has, and no others
     cellvalues::Comma comma = cellvalues::Comma::Groups;
     QString word = QStringLiteral("row"); // for a row in findings
 };
+
+// How the engines' importFile reads a workbook.
+inline Reading workbookReading(bool is1904)
+{
+    Reading reading;
+    reading.isExact = false;
+    reading.length = planimport::LengthRule::OnItsDate;
+    reading.is1904 = is1904;
+    reading.showsColumns = true;
+    return reading;
+}
 
 // A cell that is not empty, in a column whose title is known.
 struct KnownCell
@@ -76,6 +89,7 @@ protected:
 private:
     void readTitles(const Row &row);
     void readRow(const Row &row);
+    void showPercentages(Row &row) const;
     void reportUntitled() const;
     bool isCounting() const;
 

@@ -10,7 +10,7 @@ struct Cell
     int column = 0; // from 1
     QString text;
     bool isNumber = false;  // the text is a finite number that the file holds as one
-    bool isPercent = false; // such a number is shown as a percentage
+    bool isPercent = false; // such a number is a fraction that the file shows as a percentage
 };
 
 struct Row

@@ -90,6 +90,11 @@ struct Interval
 {
     quint32 startSecs = 0; // since midnight
     quint32 finishSecs = 0;
+
+    bool operator==(const Interval &other) const
+    {
+        return startSecs == other.startSecs && finishSecs == other.finishSecs;
+    }
 };
 
 struct CalendarException
@@ -124,16 +129,26 @@ struct Plan
 
 namespace planimport {
 
+// What a length says beside a start and a finish.
+enum class LengthRule : quint8 {
+    Measured,  // its unit; how long the task is follows from the dates, of which a finish is the end of its
+               // date
+    OnItsDate, // also when on its date a task ends whose finish has no time
+    Decides,   // the finish, where they contradict each other
+};
+
 // How a file is meant where the formats differ.
 struct Rules
 {
-    // Where a length contradicts the finish: the length counts, else the finish.
-    bool lengthDecides = false;
+    LengthRule length = LengthRule::OnItsDate;
     // IDs that are taken are replaced and names made unique one row after the other; else all IDs that stand
     // in the file are kept before others are given, and names may repeat.
     bool uniqueNames = false;
     // Tasks without dates are placed behind their predecessors; else at the project's start.
     bool placesBehind = true;
+    // A resource that the sheet does not have is not assigned, and nobody twice to a task; else the last row
+    // counts.
+    bool assignsOnce = false;
     // Work follows from the task's length and the units, and what the file says of it is only compared.
     bool comparesWork = false;
     QString place =
@@ -141,6 +156,8 @@ struct Rules
     QString assignmentPlace = QStringLiteral("assignment sheet, row");
 };
 
+// Replaces the document's working time.
+KWGANTT_EXPORT void setCalendar(KWDocument &document, const staged::Calendar &calendar);
 // Replaces the document's tasks, and its working time, resources and assignments where the plan has them. The
 // plan is used up. What is changed or left out is added to the findings, which may be null.
 ImportedPlan replace(KWDocument &document, staged::Plan &plan, const Rules &rules, Findings *findings);

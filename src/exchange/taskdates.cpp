@@ -3,6 +3,7 @@
 #include "engine/time/walk.h"
 #include <cmath>
 
+using planimport::LengthRule;
 using shownmoment::DaysOff;
 using staged::Moment;
 using worktime::WorkCalendar;
@@ -87,7 +88,7 @@ quint32 stored(const WorkCalendar &calendar, const staged::Task &task, staged::M
     }
 }
 
-Dates of(const WorkCalendar &calendar, const staged::Task &task, quint32 projectStart, bool lengthDecides)
+Dates of(const WorkCalendar &calendar, const staged::Task &task, quint32 projectStart, LengthRule lengthRule)
 {
     const Moment &start = task.moments[staged::Start];
     const Moment &finish = task.moments[staged::Finish];
@@ -122,12 +123,15 @@ Dates of(const WorkCalendar &calendar, const staged::Task &task, quint32 project
         if (!hasLength)
             return dates;
         const quint32 walked = byLength();
-        if (shownmoment::isSame(calendar, walked, dates.finish)) {
-            if (lengthDecides)
-                dates.finish = walked;
+        if (shownmoment::isSame(calendar, walked, dates.finish))
+            return dates;
+        // A date alone does not say when on that date.
+        if (lengthRule != LengthRule::Measured && !hasTime(finish) &&
+            shownmoment::ofFinish(calendar, walked).day == finish.shown.day) {
+            dates.finish = walked;
             return dates;
         }
-        if (lengthDecides) {
+        if (lengthRule == LengthRule::Decides) {
             dates.finish = walked;
             dates.remark = Remark::FinishContradicts;
         } else if (std::fabs(length - task.length->value) > shownLength(unit)) {

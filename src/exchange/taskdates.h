@@ -32,7 +32,7 @@ struct Dates
 };
 
 Dates of(const worktime::WorkCalendar &calendar, const staged::Task &task, quint32 projectStart,
-         bool lengthDecides);
+         planimport::LengthRule lengthRule);
 // The moment that a field of the task stores; 0 for one that is not given.
 quint32 stored(const worktime::WorkCalendar &calendar, const staged::Task &task, staged::MomentField field);
 }

@@ -4,6 +4,7 @@
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
 #include "support/kwclock.h"
+#include <QSet>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -225,7 +226,7 @@ void TaskSheet::readPercent(const Cell &cell, staged::Task &staged)
         refuse(staged.row, &cell, text("is no percentage"), text("left out"));
         return;
     }
-    const bool isPlain = !cellvalues::hasPercentSign(cell) && !cell.isPercent;
+    const bool isPlain = !cellvalues::hasPercentSign(cell);
     if (isPlain && (!reading().isExact || reading().plainPercent)) {
         m_plainPercents.push_back({placeOfNewTask(), *value});
         return;
@@ -363,17 +364,18 @@ void TaskSheet::readPredecessors(const Cell &cell, staged::Task &staged)
             ++m_refusedLinks;
         }
     }
-    // Named once, however often.
-    const auto by = [](const Wanted &a, const Wanted &b) {
-        return a.isId != b.isId ? a.isId < b.isId : a.number < b.number;
+    // Named once, however often; in the order of the file.
+    QSet<quint64> named;
+    const auto isRepeated = [&named](const Wanted &wanted) {
+        const quint64 key = quint64(wanted.number) * 2 + (wanted.isId ? 1 : 0);
+        const bool isKnown = named.contains(key);
+        named.insert(key);
+        return isKnown;
     };
-    const auto from = m_wanted.begin() + std::ptrdiff_t(first);
-    std::sort(from, m_wanted.end(), by);
-    m_wanted.erase(std::unique(from, m_wanted.end(),
-                               [](const Wanted &a, const Wanted &b) {
-                                   return a.isId == b.isId && a.number == b.number;
-                               }),
-                   m_wanted.end());
+    constexpr std::size_t several = 2;
+    if (m_wanted.size() - first >= several)
+        m_wanted.erase(std::remove_if(m_wanted.begin() + std::ptrdiff_t(first), m_wanted.end(), isRepeated),
+                       m_wanted.end());
 }
 
 // ---- Moments ----------------------------------------------------------------------------------------------
@@ -581,6 +583,11 @@ void TaskSheet::findLinks(staged::Plan &plan)
     plan.refusedLinks = m_refusedLinks;
 }
 
+bool TaskSheet::hasTimes() const
+{
+    return hasField(startType) || hasField(finishType) || hasField(lengthType);
+}
+
 void TaskSheet::finish(staged::Plan &plan)
 {
     settleDates();
@@ -588,10 +595,9 @@ void TaskSheet::finish(staged::Plan &plan)
     sortRows();
     settleLevels();
     findLinks(plan);
-    const bool hasDates = hasField(startType) || hasField(finishType) || hasField(lengthType);
-    if (!hasDates && !m_tasks.empty())
+    if (!hasTimes() && !m_tasks.empty())
         report(1, QString(), text("there are neither dates nor lengths"), text("all tasks are one day long"));
-    plan.hasDates = hasDates;
+    plan.hasDates = hasTimes();
     plan.tasks.reserve(m_tasks.size());
     for (Staged &staged : m_tasks)
         plan.tasks.push_back(std::move(staged.task));

@@ -17,6 +17,8 @@ public:
     TaskSheet(const sheetrows::Reading &reading, Findings *findings, const QString &name);
     ~TaskSheet() override;
 
+    // Whether there is a column of starts, finishes or lengths.
+    bool hasTimes() const;
     // After reading, once: what only the whole sheet decides - the order of the rows, levels or outline
     // codes, day or month first, fractions or percentages, links - then the tasks and links go to the plan.
     void finish(staged::Plan &plan);

@@ -84,7 +84,9 @@ const Words table[] = {
     {tasks, BaseFinish, "baselinefinish basefinish geplantesende 基线完成时间 比较基准完成时间"},
     {tasks, BaseCost, "baselinecost basecost geplantekosten 基线成本 比较基准成本"},
     {tasks, MilestoneFlag, "milestone ismilestone meilenstein 里程碑"},
-    {tasks, Ignored, "summary startmin finishmin latestartmin latefinishmin slackmin sammelvorgang 摘要"},
+    {tasks, Ignored,
+     "summary critical latestart latefinish startslack finishslack startmin finishmin latestartmin "
+     "latefinishmin slackmin sammelvorgang 摘要"},
     {resources, ResourceId, "id no nr 标识号"},
     {resources, ResourceName, "name resource resourcename ressource ressourcenname 名称 资源名称 资源"},
     {resources, Kind, "type art typ 类型"},

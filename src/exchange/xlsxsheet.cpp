@@ -1,4 +1,5 @@
 #include "exchange/xlsxsheet.h"
+#include "exchange/cellvalues.h"
 #include "support/kwlimits.h"
 #include "support/xmlguard.h"
 #include <QDir>
@@ -6,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QSet>
 #include <algorithm>
 #include <charconv>
 
@@ -214,6 +216,28 @@ bool readNumberFormats(const QByteArray &part, QList<QPair<int, QString>> &forma
     return token == XmlPull::Finished;
 }
 
+std::vector<bool> percentStyles(const QByteArray &part)
+{
+    QSet<int> percentFormats{9, 10}; // those that every program knows
+    QList<QPair<int, QString>> codes;
+    readNumberFormats(part, codes);
+    for (const auto &[id, code] : qAsConst(codes)) {
+        if (cellvalues::showsPercent(code))
+            percentFormats.insert(id);
+    }
+    std::vector<bool> styles;
+    bool isCells = false;
+    XmlPull xml(part);
+    for (XmlPull::Token token = xml.next(); token != XmlPull::Finished && token != XmlPull::Failed;
+         token = xml.next()) {
+        if (xml.is("cellXfs"))
+            isCells = token == XmlPull::Begin;
+        else if (isCells && token == XmlPull::Begin && xml.is("xf"))
+            styles.push_back(percentFormats.contains(xml.attribute("numFmtId").toInt()));
+    }
+    return styles;
+}
+
 QStringList sheetFiles(const QString &folder)
 {
     std::vector<NumberedName> names;
@@ -336,8 +360,10 @@ void Doubts::addTo(Findings &findings, const QString &sheet) const
 
 // ---- A worksheet as text ----------------------------------------------------------------------------------
 
-SheetSource::SheetSource(const QByteArray &part, const QStringList &strings)
+SheetSource::SheetSource(const QByteArray &part, const QStringList &strings,
+                         const std::vector<bool> *percentStyles)
     : m_strings(strings)
+    , m_percentStyles(percentStyles)
     , m_xml(part)
 {
     m_isWorksheet = m_xml.next() == XmlPull::Begin && m_xml.is("worksheet");
@@ -370,6 +396,9 @@ void SheetSource::readCell(Row &row)
     const int cellDepth = m_xml.depth();
     const std::string_view reference = m_xml.rawAttribute("r");
     const CellKind kind = CellKind::of(m_xml.rawAttribute("t"));
+    const std::string_view styleText = m_xml.rawAttribute("s");
+    int style = -1;
+    std::from_chars(styleText.data(), styleText.data() + styleText.size(), style);
     const int column = reference.data() ? columnWithDoubts(reference, row.number, m_doubts) : m_column + 1;
     if (column > 0)
         m_column = column;
@@ -407,6 +436,11 @@ void SheetSource::readCell(Row &row)
         row.cells.push_back({column, m_strings.value(index), false});
     else if (column > 0 && hasValue)
         row.cells.push_back(cellOf(column, kind, value, m_strings));
+    else
+        return;
+    Cell &cell = row.cells.back();
+    cell.isPercent = cell.isNumber && style >= 0 && m_percentStyles && style < int(m_percentStyles->size()) &&
+                     (*m_percentStyles)[std::size_t(style)];
 }
 
 QString SheetSource::readInlineText()

@@ -5,6 +5,7 @@
 #include <QDomNodeList>
 #include <QString>
 #include <QStringList>
+#include <vector>
 
 // The parts of a spreadsheet package that hold cells, read the way its many writers write them.
 namespace xlsx {
@@ -22,6 +23,8 @@ bool readSharedStrings(const QByteArray &part, QStringList &strings, QString *er
 bool is1904(const QByteArray &part);
 // The codes of the number formats by their id.
 bool readNumberFormats(const QByteArray &part, QList<QPair<int, QString>> &formats);
+// Whether cells of a style are shown as percentages, by the numbers of the styles.
+std::vector<bool> percentStyles(const QByteArray &part);
 // The worksheet files of a folder in the order of the numbers in their names.
 QStringList sheetFiles(const QString &folder);
 // The worksheets that the workbook part of an unpacked package names, in its order: paths relative to the
@@ -56,8 +59,9 @@ struct Doubts
 class SheetSource : public sheetrows::Source
 {
 public:
-    // The strings must outlive the source.
-    SheetSource(const QByteArray &part, const QStringList &strings);
+    // Strings and styles must outlive the source.
+    SheetSource(const QByteArray &part, const QStringList &strings,
+                const std::vector<bool> *percentStyles = nullptr);
 
     // False for a part that is no worksheet.
     bool isWorksheet() const { return m_isWorksheet; }
@@ -70,6 +74,7 @@ private:
     QString readInlineText();
 
     const QStringList &m_strings;
+    const std::vector<bool> *m_percentStyles;
     Doubts m_doubts;
     XmlPull m_xml;
     bool m_isWorksheet = false;

@@ -101,13 +101,13 @@ TEST_F(PlanImport, BuildsOutlineAndLinksFromLevelsAndRows)
               "task sheet, row 5, 'After': 'x' is no task; no predecessor\n"
               "task sheet, row 7, 'After': '4.0' is no task; no predecessor\n"
               "task sheet, row 7: the level is below 1; level 1\n"
-              "task sheet, row 5: there is no task in row 4; no predecessor\n"
               "task sheet, row 5: there is no task in row 10; no predecessor\n"
+              "task sheet, row 5: there is no task in row 4; no predecessor\n"
               "task sheet, row 1: there are neither dates nor lengths; all tasks are one day long\n"
               "task sheet, row 6: 5 is the ID of another task; ID 8\n"
               "task sheet, row 7: A is the name of another task; named A5\n"
-              "task sheet, row 5: it cannot wait for its own summary or subtask in row 2; no predecessor\n"
               "task sheet, row 5: it would wait for itself through row 3; no predecessor\n"
+              "task sheet, row 5: it cannot wait for its own summary or subtask in row 2; no predecessor\n"
               "task sheet, row 5: it would wait for itself through row 5; no predecessor\n"
               "task sheet, row 8: it would wait for itself through row 7; no predecessor\n");
     EXPECT_EQ(document->rowColumnData()->rowHeights(), QList<double>({30, 30, 30, 30, 30, 30}));

@@ -18,8 +18,8 @@ std::string picture(const char *json)
         text += QStringLiteral("; %1..%2 %3")
                     .arg(exception.from.toString(Qt::ISODate), exception.to.toString(Qt::ISODate),
                          exception.works ? QStringLiteral("works") : QStringLiteral("off"));
-    if (workingTime.start.when.isValid())
-        text += QLatin1String("; from ") + workingTime.start.when.date().toString(Qt::ISODate);
+    if (workingTime.start.isGiven())
+        text += QLatin1String("; from ") + workingTime.start.date.toString(Qt::ISODate);
     for (const Finding &warning : warnings.list())
         text += QLatin1String("; ") + warning.place + QLatin1String(": ") + warning.what;
     return text.toStdString();

@@ -1,4 +1,5 @@
 #pragma once
+#include "kwgantt_export.h"
 #include <QByteArray>
 #include <QDate>
 #include <QtGlobal>
@@ -10,7 +11,7 @@
 //
 // QDateTime costs hundreds of nanoseconds a conversion; the scheduling rules make millions of them. This
 // table holds the zone's offsets from 1970 to 2106 as QDateTime tells them, and answers in a few nanoseconds.
-class LocalClock
+class KWGANTT_EXPORT LocalClock
 {
 public:
     // A wall-clock moment: a local date as days since 1970-01-01 and seconds since that date's 00:00 on the

@@ -61,7 +61,11 @@ quint32 finish(const WorkCalendar &calendar, const Moment &shown, DaysOff daysOf
     }
     if (daysOff == MoveOn)
         stored = dayoff::finishForward(calendar, stored, hourClock);
-    return worktime::clampSecs(nextExisting(calendar.clock(), stored));
+    const LocalClock &clock = calendar.clock();
+    const qint64 moment = nextExisting(clock, stored);
+    // What is shown is the second before, which must not lie in front of a gap.
+    const bool isBehindGap = stored.secs > 0 && clock.wall(moment - 1).secs + 1 != clock.wall(moment).secs;
+    return worktime::clampSecs(moment + (isBehindGap ? 1 : 0));
 }
 
 Moment ofStart(const WorkCalendar &calendar, quint32 secs)

@@ -21,7 +21,7 @@ constexpr quint16 bof = 0x0809, eof = 0x000A, window1 = 0x003D, font = 0x0031, x
                   formula = 0x0006, formulaOfBiff3 = 0x0206, formulaOfBiff4 = 0x0406, array = 0x0221,
                   sharedFormula = 0x00BC, table = 0x0036, string = 0x0207, dbCell = 0x00D7,
                   continued = 0x003C, filePass = 0x002F, date1904 = 0x0022, label = 0x0204,
-                  richLabel = 0x00D6;
+                  richLabel = 0x00D6, numberFormat = 0x041E;
 }
 
 struct RecordKind

@@ -1,4 +1,5 @@
 #include "exchange/biff/workbook.h"
+#include "exchange/cellvalues.h"
 
 using namespace YExcel;
 
@@ -102,6 +103,7 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
     formats.clear();
     styles.clear();
     sheets.clear();
+    m_percentFormats = {9, 10}; // those that have no record
     // A record that only concerns the looks may be damaged: it is left out.
     const auto append = [&](auto &list) {
         list.emplace_back();
@@ -142,6 +144,14 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
         case biff::code::style:
             append(styles);
             break;
+        case biff::code::numberFormat: {
+            biff::ContinuedBytes data(records);
+            const quint16 number = data.u16();
+            LargeString text;
+            if (text.Read(data) && cellvalues::showsPercent(text.Value().toString()))
+                m_percentFormats.insert(number);
+            break;
+        }
         default:
             break;
         }

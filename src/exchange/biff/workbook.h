@@ -3,6 +3,7 @@
 #include "exchange/biff/recordstream.h"
 #include "exchange/biff/strings.h"
 #include "kwgantt_export.h"
+#include <QSet>
 #include <QString>
 #include <vector>
 
@@ -164,9 +165,15 @@ public:
     std::vector<Style> styles;
     std::vector<BoundSheet> sheets;
     SharedStringTable strings;
+    // Whether cells of that format are shown as percentages.
+    bool showsPercent(quint16 format) const
+    {
+        return format < formats.size() && m_percentFormats.contains(formats[format].numberFormat);
+    }
     bool is1904 = false; // days count from 1904-01-01, not from 1899-12-31
 
 private:
+    QSet<quint16> m_percentFormats;      // of numbers
     std::vector<quint32> m_sheetRecords; // where they were written
 };
 }

@@ -61,6 +61,7 @@ public:
                 place.row = cells.row;
                 for (size_t i = 0; i < cells.numbers.size(); ++i) {
                     place.column = quint16(qMin(cells.firstColumn + i, size_t(0xFFFF)));
+                    place.format = cells.numbers[i].format;
                     if (!give(place, biff::unpackRk(cells.numbers[i].packed)))
                         return false;
                 }
@@ -145,7 +146,7 @@ private:
             return false;
         value = checked(std::move(value));
         if (value.kind() != biff::Value::undefined)
-            m_take(place.row, place.column, std::move(value));
+            m_take(place.row, place.column, std::move(value), place.format);
         return true;
     }
 

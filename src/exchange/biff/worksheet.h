@@ -343,7 +343,8 @@ public:
     // Where the only sheet of a workbook begins, whatever the workbook says; nothing when there are others.
     static std::optional<quint32> OnlyBegin(const QByteArray &stream);
 
-    using Taker = std::function<void(int row, int column, biff::Value &&value)>;
+    // The format is the place in the workbook's list of them.
+    using Taker = std::function<void(int row, int column, biff::Value &&value, quint16 format)>;
     // Hands every value between the two offsets of the stream to `take`, blank cells excepted. False with an
     // error text when the sheet is damaged; then some cells may have been handed over.
     static bool Read(const QByteArray &stream, quint32 begin, quint32 end,

@@ -2,9 +2,8 @@
 #include "engine/cost/cost.h"
 #include "engine/record/outline.h"
 #include "engine/record/resource.h"
-#include "engine/time/dayoff.h"
+#include "engine/text/showndates.h"
 #include "engine/time/duration.h"
-#include "engine/time/shownmoment.h"
 #include "exchange/mspdi/elements.h"
 #include "exchange/partwriter.h"
 #include "model/kwdocument.h"
@@ -13,6 +12,7 @@
 #include "schedule/kwcalendar.h"
 #include "support/xmlguard.h"
 #include <QHash>
+#include <QSet>
 #include <algorithm>
 #include <cmath>
 #include <deque>
@@ -179,12 +179,7 @@ private:
             fill(row);
             m_plan.tasks.push_back(std::move(row));
         }
-        for (TaskRow &row : m_plan.tasks) {
-            if (row.task)
-                shownDates(row);
-        }
-        showMilestones();
-        showSummaries();
+        showDates();
         for (TaskRow &row : m_plan.tasks) {
             if (row.task)
                 measure(row);
@@ -241,7 +236,7 @@ private:
         // A summary that lasts may have been a milestone before it had subtasks.
         const bool isMoment = task.Finish <= task.Start || task.Finish - task.Start == 1;
         row.isMilestone = task.Milestone && (isMoment || !row.isSummary);
-        row.isMoment = task.Milestone && isMoment && !row.isSummary;
+        row.isMoment = ShownDates::isMoment(task);
         row.format = formatOfUnit(task.DurationUnits);
         if (task.DurationUnits <= duration::Month && !row.isSummary)
             m_findings.add(Kind::UnitWritten, placeOf(task, Kind::UnitWritten, row.number));
@@ -287,95 +282,25 @@ private:
 
     static LocalClock::Wall wall(const shownmoment::Moment &moment) { return {moment.day, moment.secs}; }
 
-    // As hosts show them: no start in a break, no end of a summary in a morning that only its last subtask's
-    // evening made.
-    void shownDates(TaskRow &row)
+    // As hosts show them.
+    void showDates()
     {
-        const KWTaskInfo &task = *row.task;
-        row.hasDates = task.Start != 0 && task.Finish > task.Start;
-        if (!row.hasDates) {
-            m_findings.add(Kind::NoMoments, placeOf(task, Kind::NoMoments, row.number));
-            return;
+        const outline::Tasks all = m_document.outline();
+        const ShownDates dates(m_calendar, all.list, all.index, m_heading.evenings);
+        for (std::size_t i = 1; i < m_plan.tasks.size(); ++i) {
+            TaskRow &row = m_plan.tasks[i];
+            row.hasDates = dates.isDated(int(i) - 1);
+            if (!row.hasDates) {
+                m_findings.add(Kind::NoMoments, placeOf(*row.task, Kind::NoMoments, row.number));
+                continue;
+            }
+            row.start = wall(dates.start(int(i) - 1));
+            row.finish = wall(dates.finish(int(i) - 1));
         }
-        constexpr bool hourClock = true;
-        row.start = wall(shownmoment::ofStart(m_calendar, task.Start));
-        // Nothing that works begins on a day off or when work ends: what is stored there was put there.
-        const bool isEvening = row.start.secs == m_calendar.finishHour() * worktime::secsPerHour;
-        if (!isEvening && (m_calendar.isWorkday(row.start.day) || !m_calendar.hasWorkday()))
-            row.start = wall(
-                shownmoment::ofStart(m_calendar, dayoff::startForward(m_calendar, task.Start, hourClock)));
-        row.finish = wall(shownmoment::ofFinish(m_calendar, task.Finish));
-        if (isBefore(row.finish, row.start))
-            row.finish = row.start;
     }
     static bool isBefore(LocalClock::Wall a, LocalClock::Wall b)
     {
         return a.day != b.day ? a.day < b.day : a.secs < b.secs;
-    }
-
-    // A milestone is one moment: that in which what it waits for ends, a task rather than another milestone.
-    void showMilestones()
-    {
-        constexpr std::size_t nobody = 0; // the project itself
-        const auto driverOf = [this](const TaskRow &row) {
-            std::size_t driver = nobody;
-            for (const quint32 id : row.task->Predecessors) {
-                const std::size_t at = std::size_t(m_rowOfId.value(id, 0));
-                if (at == nobody ||
-                    !shownmoment::isSame(m_calendar, m_plan.tasks[at].task->Finish, row.task->Start))
-                    continue;
-                if (driver == nobody || !m_plan.tasks[at].isMoment)
-                    driver = at;
-            }
-            return driver;
-        };
-        std::vector<bool> isKnown(m_plan.tasks.size(), true);
-        for (std::size_t i = 1; i < m_plan.tasks.size(); ++i)
-            isKnown[i] = !m_plan.tasks[i].isMoment || !m_plan.tasks[i].hasDates;
-        std::vector<std::size_t> chain;
-        for (std::size_t i = 1; i < m_plan.tasks.size(); ++i) {
-            chain.clear();
-            std::size_t at = i;
-            while (at != nobody && !isKnown[at]) {
-                isKnown[at] = true;
-                chain.push_back(at);
-                at = driverOf(m_plan.tasks[at]);
-            }
-            for (auto link = chain.rbegin(); link != chain.rend(); ++link) {
-                TaskRow &row = m_plan.tasks[*link];
-                if (at != nobody)
-                    row.start = m_plan.tasks[at].finish;
-                else if (m_heading.evenings.contains(row.task->ID))
-                    row.start = eveningBefore(row.task->Start);
-                row.finish = row.start;
-                at = *link;
-            }
-        }
-    }
-
-    LocalClock::Wall eveningBefore(quint32 secs) const
-    {
-        constexpr bool hourClock = false;
-        return wall(shownmoment::ofFinish(m_calendar, dayoff::finishBack(m_calendar, secs, hourClock)));
-    }
-
-    // A summary begins and ends as its subtasks are shown to, which stand below it.
-    void showSummaries()
-    {
-        std::vector<bool> hasSubtask(m_plan.tasks.size(), false);
-        for (std::size_t i = m_plan.tasks.size() - 1; i > 0; --i) {
-            const TaskRow &row = m_plan.tasks[i];
-            const std::size_t above = std::size_t(m_rowOfId.value(row.task->ParentID, 0));
-            if (above == 0 || above >= i || !row.hasDates)
-                continue;
-            TaskRow &summary = m_plan.tasks[above];
-            if (!hasSubtask[above] || isBefore(row.start, summary.start))
-                summary.start = row.start;
-            if (!hasSubtask[above] || isBefore(summary.finish, row.finish))
-                summary.finish = row.finish;
-            summary.hasDates = true;
-            hasSubtask[above] = true;
-        }
     }
 
     // From the leaves up; who is only named works all the time.

@@ -1,6 +1,6 @@
 #pragma once
 #include "exchange/mspdi/findinglist.h"
-#include <QSet>
+#include <QHash>
 #include <QString>
 
 class KWDocument;
@@ -12,9 +12,9 @@ namespace mspdi {
 // What the document has no field for.
 struct Heading
 {
-    QString name;           // of the project
-    quint32 start = 0;      // of the project, where it lies before all tasks; 0: with the first of them
-    QSet<quint32> evenings; // IDs of milestones to be shown when work ends instead of the next morning
+    QString name;      // of the project
+    quint32 start = 0; // of the project, where it lies before all tasks; 0: with the first of them
+    QHash<quint32, quint32> evenings; // see ImportedPlan
 };
 
 // False when the device did not take all of it.

@@ -1,4 +1,5 @@
 #pragma once
+#include "kwgantt_export.h"
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -41,11 +42,12 @@ struct Fault
 };
 
 // `progress` hears the bytes read so far. False and a fault when the text is not such a file.
-bool parse(const QByteArray &bytes, Table &table, Fault &fault, const Limits &limits = Limits(),
-           const std::function<void(qint64)> &progress = nullptr);
+KWGANTT_EXPORT bool parse(const QByteArray &bytes, Table &table, Fault &fault,
+                          const Limits &limits = Limits(),
+                          const std::function<void(qint64)> &progress = nullptr);
 
 // One cell as it is written: quoted when it must be.
-QString quoted(const QString &text, QChar delimiter = QLatin1Char(','));
+KWGANTT_EXPORT QString quoted(const QString &text, QChar delimiter = QLatin1Char(','));
 // Rows as a file's bytes, with the table's delimiter, mark and line ends.
-QByteArray toBytes(const Table &table);
+KWGANTT_EXPORT QByteArray toBytes(const Table &table);
 }

@@ -1,5 +1,5 @@
 // Delimited text: cells, lines and refusals.
-#include "csv.h"
+#include "exchange/csvtext.h"
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 

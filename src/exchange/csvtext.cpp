@@ -1,9 +1,13 @@
-#include "csv.h"
-#include "texts.h"
+#include "exchange/csvtext.h"
 
 namespace csv {
 
 namespace {
+
+QString t(const char *text)
+{
+    return QString::fromLatin1(text);
+}
 
 constexpr char byteOrderMarkText[] = "\xEF\xBB\xBF";
 constexpr qint64 progressStepBytes = 1024 * 1024;
