@@ -94,9 +94,11 @@ bool XLSXDataBase::praserShareStrXml(const QString &folder)
         return true;
     QString error;
     const QByteArray part = xlsx::readPart(parts + name, &error);
-    if (!error.isEmpty() || !xlsx::readSharedStrings(part, m_sharedStrings, &error)) {
+    int oddReferences = 0;
+    if (!error.isEmpty() || !xlsx::readSharedStrings(part, m_sharedStrings, &error, &oddReferences)) {
         m_findings.add(name, error, QStringLiteral("not read"));
         return false;
     }
+    xlsx::tellOddReferences(m_findings, name, oddReferences);
     return true;
 }

@@ -6,6 +6,7 @@
 #include "kwzip.h"
 #include "model/kwdocument.h"
 #include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <memory>
@@ -76,6 +77,8 @@ private:
     void open(const QString &folder, const QString &file, const QStringList &strings, Findings &findings)
     {
         if (m_sources.size() == std::size_t(exceltitles::SheetCount))
+            return;
+        if (!QFileInfo(folder + file).isFile())
             return;
         QString error;
         auto source = std::make_unique<xlsx::SheetSource>(xlsx::readPart(folder + file, &error), strings,

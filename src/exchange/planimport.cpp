@@ -224,7 +224,7 @@ private:
         if (m_plan.start.isGiven())
             earliest = m_plan.start.kind == staged::Moment::Stored
                            ? m_plan.start.secs
-                           : shownmoment::start(calendar(), m_plan.start.shown);
+                           : shownmoment::start(calendar(), m_plan.start.shown());
         for (const staged::Task &staged : m_tasks) {
             if (!m_plan.start.isGiven() && staged.moments[staged::Start].isGiven())
                 earliest = std::min(earliest, taskdates::stored(calendar(), staged, staged::Start));
@@ -314,7 +314,7 @@ private:
         if (written.kind != staged::Moment::Shown || finish == 0)
             return false;
         const shownmoment::Moment shown = shownmoment::ofFinish(calendar(), finish);
-        return shown.day == written.shown.day && shown.secs == written.shown.secs;
+        return shown.day == written.day && shown.secs == int(written.secs);
     }
 
     // What a summary's file does not say, its subtasks do. The same moment has two forms, an evening and the
@@ -523,7 +523,7 @@ public:
             places.append(
                 QStringLiteral("%1 (%2 %3)").arg(name.key(), m_rules.assignmentPlace).arg(name.value()));
         m_findings->add(QString(),
-                        QStringLiteral("%1 names of assigned tasks stand for several tasks: %2")
+                        QStringLiteral("assignments name tasks by names that several have, %1 in all: %2")
                             .arg(m_uncertain.size())
                             .arg(places.join(QLatin1String(", "))),
                         text("the first task of the name has the assignments"));

@@ -27,7 +27,9 @@ struct Moment
     Moment() = default;
     Moment(const shownmoment::Moment &moment)
         : kind(Shown)
-        , shown(moment)
+        , hasTime(moment.hasTime)
+        , day(moment.day)
+        , secs(quint32(moment.secs))
     {
     }
     static Moment ofStored(quint32 secs)
@@ -38,10 +40,12 @@ struct Moment
         return moment;
     }
     bool isGiven() const { return kind != None; }
+    shownmoment::Moment shown() const { return {day, int(secs), hasTime}; }
 
     Kind kind = None;
-    shownmoment::Moment shown;
-    quint32 secs = 0; // of a stored one
+    bool hasTime = false; // of a shown one
+    int day = 0;
+    quint32 secs = 0; // of the day, or since 1970 of a stored one
 };
 
 struct Length
@@ -55,6 +59,7 @@ enum MomentField { Start, Finish, LateStart, LateFinish, BaseStart, BaseFinish, 
 
 struct Task
 {
+    int number = 0; // of its row, as links count rows
     int row = 0; // where findings place it: a row of the sheet, a line of the file, the number of an element
     quint32 id = 0; // as the file has it; 0: none
     QString code;   // its number in the outline as the file writes it, "1.2"; kept for those who show it

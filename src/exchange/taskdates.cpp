@@ -25,31 +25,31 @@ bool isMoment(const Moment &start, const Moment &finish)
         return false;
     return start.kind == Moment::Stored
                ? finish.secs == start.secs || finish.secs == start.secs + milestoneSecs
-               : start.shown == finish.shown;
+               : start.shown() == finish.shown();
 }
 
 bool hasTime(const Moment &moment)
 {
-    return moment.kind == Moment::Stored || moment.shown.hasTime;
+    return moment.kind == Moment::Stored || moment.hasTime;
 }
 
 // A finish without a time is the end of its date.
 Moment endOf(const WorkCalendar &calendar, Moment finish)
 {
-    if (finish.kind == Moment::Shown && !finish.shown.hasTime)
-        finish.shown = {finish.shown.day, calendar.finishHour() * worktime::secsPerHour, true};
+    if (finish.kind == Moment::Shown && !finish.hasTime)
+        finish = shownmoment::Moment{finish.day, calendar.finishHour() * worktime::secsPerHour, true};
     return finish;
 }
 
 quint32 asStart(const WorkCalendar &calendar, const Moment &moment)
 {
-    return moment.kind == Moment::Stored ? moment.secs : shownmoment::start(calendar, moment.shown);
+    return moment.kind == Moment::Stored ? moment.secs : shownmoment::start(calendar, moment.shown());
 }
 
 bool isEvening(const WorkCalendar &calendar, const Moment &moment)
 {
-    return moment.kind == Moment::Shown && moment.shown.hasTime && calendar.finishHour() > 0 &&
-           moment.shown.secs >= calendar.finishHour() * worktime::secsPerHour;
+    return moment.kind == Moment::Shown && moment.hasTime && calendar.finishHour() > 0 &&
+           int(moment.secs) >= calendar.finishHour() * worktime::secsPerHour;
 }
 
 quint32 after(const WorkCalendar &calendar, quint32 start, double value, unsigned int unit)
@@ -78,13 +78,13 @@ quint32 stored(const WorkCalendar &calendar, const staged::Task &task, staged::M
     const bool isElapsed = duration::calendarDays(task.task->DurationUnits) > 0;
     switch (field) {
     case staged::Finish:
-        return shownmoment::finish(calendar, moment.shown, isElapsed ? DaysOff::StayOn : DaysOff::MoveOn);
+        return shownmoment::finish(calendar, moment.shown(), isElapsed ? DaysOff::StayOn : DaysOff::MoveOn);
     case staged::LateFinish:
-        return shownmoment::finish(calendar, moment.shown);
+        return shownmoment::finish(calendar, moment.shown());
     case staged::BaseStart:
-        return shownmoment::start(calendar, moment.shown, DaysOff::StayOn);
+        return shownmoment::start(calendar, moment.shown(), DaysOff::StayOn);
     default:
-        return shownmoment::start(calendar, moment.shown);
+        return shownmoment::start(calendar, moment.shown());
     }
 }
 
@@ -127,7 +127,7 @@ Dates of(const WorkCalendar &calendar, const staged::Task &task, quint32 project
             return dates;
         // A date alone does not say when on that date.
         if (lengthRule != LengthRule::Measured && !hasTime(finish) &&
-            shownmoment::ofFinish(calendar, walked).day == finish.shown.day) {
+            shownmoment::ofFinish(calendar, walked).day == finish.day) {
             dates.finish = walked;
             return dates;
         }

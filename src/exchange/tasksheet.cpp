@@ -108,13 +108,13 @@ TaskSheet::~TaskSheet() = default;
 
 void TaskSheet::addRow(const sheetrows::Row &row, const std::vector<KnownCell> &cells)
 {
-    Staged staged;
+    staged::Task staged;
     staged.number = row.number;
-    staged.task.row = row.line;
-    staged.task.task = std::make_unique<KWTaskInfo>();
+    staged.row = row.line;
+    staged.task = std::make_unique<KWTaskInfo>();
     for (const KnownCell &known : cells)
-        apply(known, staged.task);
-    KWTaskInfo &task = *staged.task.task;
+        apply(known, staged);
+    KWTaskInfo &task = *staged.task;
     const bool isOwnLevel = hasField(levelType) && task.Level < 1;
     m_hasLevelZero = m_hasLevelZero || (isOwnLevel && task.Level == 0);
     if (isOwnLevel && (reading().isExact || task.Level < 0)) {
@@ -122,8 +122,8 @@ void TaskSheet::addRow(const sheetrows::Row &row, const std::vector<KnownCell> &
         task.Level = 1;
     }
     task.Progress = KWTaskInfo::indexFromPercent(task.Percent);
-    staged.task.hasPlace = !hasField(idType) || !hasField(startType) || staged.task.id != 0 ||
-                           staged.task.moments[staged::Start].isGiven() || !staged.task.length;
+    staged.hasPlace = !hasField(idType) || !hasField(startType) || staged.id != 0 ||
+                      staged.moments[staged::Start].isGiven() || !staged.length;
     m_tasks.push_back(std::move(staged));
 }
 
@@ -420,7 +420,7 @@ void TaskSheet::settleDates()
                 undecided = &date;
         }
         if (undecided && isDayFirst == isMonthFirst)
-            report(m_tasks[std::size_t(undecided->task)].task.row, titleOfDate(field),
+            report(m_tasks[std::size_t(undecided->task)].row, titleOfDate(field),
                    isDayFirst ? text("some of its dates have the day first, others the month")
                               : text("nothing says whether day or month stand first in its dates"),
                    text("the month first wherever that is a date"));
@@ -428,7 +428,7 @@ void TaskSheet::settleDates()
             continue;
         for (const EitherDate &date : m_eitherDates) {
             if (date.field == field)
-                m_tasks[std::size_t(date.task)].task.moments[std::size_t(field)] =
+                m_tasks[std::size_t(date.task)].moments[std::size_t(field)] =
                     cellvalues::withDayFirst(date.moment)->shown;
         }
     }
@@ -456,10 +456,10 @@ void TaskSheet::settlePercent()
     constexpr int percentType = 5;
     const bool arePercentages = isAnyAbove || reading().plainPercent;
     if (reading().plainPercent && !isAnyAbove && between != m_plainPercents.end() && between->value < 1)
-        report(m_tasks[std::size_t(between->task)].task.row, titleOfField(percentType),
+        report(m_tasks[std::size_t(between->task)].row, titleOfField(percentType),
                text("its numbers may be fractions"), text("read as percentages"));
     for (const PlainPercent &percent : m_plainPercents) {
-        const staged::Task &staged = m_tasks[std::size_t(percent.task)].task;
+        const staged::Task &staged = m_tasks[std::size_t(percent.task)];
         const double value = arePercentages ? percent.value / 100 : percent.value;
         staged.task->setPercent(value);
         staged.task->Progress = KWTaskInfo::indexFromPercent(staged.task->Percent);
@@ -474,19 +474,19 @@ void TaskSheet::settlePercent()
 void TaskSheet::settleLevels()
 {
     const bool isByCode = hasField(titletable::OutlineCode) &&
-                          std::all_of(m_tasks.begin(), m_tasks.end(), [](const Staged &staged) {
-                              const int level = levelOfCode(staged.task.code);
+                          std::all_of(m_tasks.begin(), m_tasks.end(), [](const staged::Task &staged) {
+                              const int level = levelOfCode(staged.code);
                               return level > 0 && level <= deepestLevel;
                           });
     int before = 0;
-    for (Staged &staged : m_tasks) {
-        KWTaskInfo &task = *staged.task.task;
+    for (const staged::Task &staged : m_tasks) {
+        KWTaskInfo &task = *staged.task;
         if (isByCode)
-            task.Level = levelOfCode(staged.task.code);
+            task.Level = levelOfCode(staged.code);
         else if (m_hasLevelZero && !reading().isExact)
             ++task.Level;
         if (task.Level > before + 1 && !reading().isExact)
-            report(staged.task.row, QString(),
+            report(staged.row, QString(),
                    text("level ") + QString::number(task.Level) + text(" follows level ") +
                        QString::number(before),
                    text("a task is one level below its summary"));
@@ -497,7 +497,7 @@ void TaskSheet::settleLevels()
 // Files may hold their rows in any order.
 void TaskSheet::sortRows()
 {
-    const auto by = [](const Staged &a, const Staged &b) { return a.number < b.number; };
+    const auto by = [](const staged::Task &a, const staged::Task &b) { return a.number < b.number; };
     if (std::is_sorted(m_tasks.begin(), m_tasks.end(), by))
         return;
     std::vector<int> order(m_tasks.size());
@@ -506,7 +506,7 @@ void TaskSheet::sortRows()
     std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
         return m_tasks[std::size_t(a)].number < m_tasks[std::size_t(b)].number;
     });
-    std::vector<Staged> sorted;
+    std::vector<staged::Task> sorted;
     std::vector<int> placeOf(m_tasks.size());
     for (const int from : order) {
         placeOf[std::size_t(from)] = int(sorted.size());
@@ -536,16 +536,16 @@ void TaskSheet::findLinks(staged::Plan &plan)
     const bool hasIds =
         std::any_of(m_wanted.begin(), m_wanted.end(), [](const Wanted &wanted) { return wanted.isId; });
     for (std::size_t i = m_tasks.size(); i-- > 0;) {
-        if (hasIds && m_tasks[i].task.id != 0)
-            placeOfId.insert(m_tasks[i].task.id, int(i)); // the first of an ID that stands twice
+        if (hasIds && m_tasks[i].id != 0)
+            placeOfId.insert(m_tasks[i].id, int(i)); // the first of an ID that stands twice
         if (!m_wantedTexts.empty()) {
-            QString code = m_tasks[i].task.code;
+            QString code = m_tasks[i].code;
             add(placeOfCode, code.endsWith(QLatin1Char('.')) ? code.chopped(1) : code, int(i));
-            add(placeOfName, m_tasks[i].task.task->Name.trimmed(), int(i));
+            add(placeOfName, m_tasks[i].task->Name.trimmed(), int(i));
         }
     }
     const auto refuse = [&](int task, const QString &what) {
-        report(m_tasks[std::size_t(task)].task.row, QString(), what, text("no predecessor"));
+        report(m_tasks[std::size_t(task)].row, QString(), what, text("no predecessor"));
         ++m_refusedLinks;
     };
     for (const Wanted &wanted : m_wanted) {
@@ -555,9 +555,9 @@ void TaskSheet::findLinks(staged::Plan &plan)
         if (wanted.isId) {
             place = placeOfId.value(wanted.number, -1);
         } else {
-            const auto found =
-                std::lower_bound(m_tasks.begin(), m_tasks.end(), row,
-                                 [](const Staged &staged, qint64 number) { return staged.number < number; });
+            const auto found = std::lower_bound(
+                m_tasks.begin(), m_tasks.end(), row,
+                [](const staged::Task &staged, qint64 number) { return staged.number < number; });
             if (found != m_tasks.end() && found->number == row)
                 place = int(found - m_tasks.begin());
         }
@@ -598,9 +598,8 @@ void TaskSheet::finish(staged::Plan &plan)
     if (!hasTimes() && !m_tasks.empty())
         report(1, QString(), text("there are neither dates nor lengths"), text("all tasks are one day long"));
     plan.hasDates = hasTimes();
-    plan.tasks.reserve(m_tasks.size());
-    for (Staged &staged : m_tasks)
-        plan.tasks.push_back(std::move(staged.task));
-    m_tasks.clear();
+    m_moments[0].clear();
+    m_moments[1].clear();
+    plan.tasks = std::move(m_tasks);
 }
 }

@@ -27,11 +27,6 @@ protected:
     void addRow(const sheetrows::Row &row, const std::vector<sheetrows::KnownCell> &cells) override;
 
 private:
-    struct Staged
-    {
-        staged::Task task;
-        int number = 0; // of the row, as links count them
-    };
     // A predecessor by a number: the place of its row below the titles, or its ID.
     struct Wanted
     {
@@ -78,7 +73,7 @@ private:
     QString titleOfDate(int field) const;
 
     const cellvalues::UnitNames m_unitNames;
-    std::vector<Staged> m_tasks;
+    std::vector<staged::Task> m_tasks;
     std::vector<Wanted> m_wanted;
     std::vector<WantedText> m_wantedTexts;
     std::vector<EitherDate> m_eitherDates;

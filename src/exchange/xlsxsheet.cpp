@@ -162,7 +162,7 @@ QString withEscapes(const QString &text)
     return escaped;
 }
 
-bool readSharedStrings(const QByteArray &part, QStringList &strings, QString *error)
+bool readSharedStrings(const QByteArray &part, QStringList &strings, QString *error, int *oddReferences)
 {
     constexpr int entryDepth = 2;
     XmlPull xml(part);
@@ -187,6 +187,8 @@ bool readSharedStrings(const QByteArray &part, QStringList &strings, QString *er
             strings.append(withoutEscapes(entry));
         }
     }
+    if (oddReferences)
+        *oddReferences = xml.oddReferences();
     return true;
 }
 
@@ -336,8 +338,16 @@ int columnWithDoubts(std::string_view reference, int row, Doubts &doubts)
 }
 }
 
+void tellOddReferences(Findings &findings, const QString &part, int references)
+{
+    if (references > 0)
+        findings.add(part, QStringLiteral("%1 references in texts stand for no character").arg(references),
+                     QStringLiteral("control characters left out, unknown names as they are written"));
+}
+
 void Doubts::addTo(Findings &findings, const QString &sheet) const
 {
+    tellOddReferences(findings, sheet, oddReferences);
     if (references > 0)
         findings.add(sheet,
                      QStringLiteral("the places of %1 cells are not understood, the first is %2")
@@ -367,6 +377,13 @@ SheetSource::SheetSource(const QByteArray &part, const QStringList &strings,
     , m_xml(part)
 {
     m_isWorksheet = m_xml.next() == XmlPull::Begin && m_xml.is("worksheet");
+}
+
+Doubts SheetSource::doubts() const
+{
+    Doubts doubts = m_doubts;
+    doubts.oddReferences = m_xml.oddReferences();
+    return doubts;
 }
 
 bool SheetSource::next(Row &row)
@@ -428,7 +445,9 @@ void SheetSource::readCell(Row &row)
             m_xml.skip();
         }
     }
-    if (hasFormula && !hasValue && !hasInlineText && m_doubts.emptyFormulas++ == 0)
+    // An empty text may be what a formula gives, an empty number is not.
+    const bool isEmpty = !hasValue || (kind.type == CellKind::Number && value.isEmpty());
+    if (hasFormula && isEmpty && !hasInlineText && m_doubts.emptyFormulas++ == 0)
         m_doubts.firstFormula = QString::number(row.number);
     if (column > 0 && hasInlineText)
         row.cells.push_back({column, withoutEscapes(inlineText), false});

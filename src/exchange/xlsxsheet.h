@@ -18,7 +18,10 @@ int columnOf(std::string_view reference);
 QByteArray readPart(const QString &path, QString *error);
 // One text for each entry: its runs joined, phonetic hints left out. False, with what was read, when the part
 // is no sound XML.
-bool readSharedStrings(const QByteArray &part, QStringList &strings, QString *error);
+bool readSharedStrings(const QByteArray &part, QStringList &strings, QString *error,
+                       int *oddReferences = nullptr);
+// Tells of references in a part that stand for no character, if there are any.
+void tellOddReferences(Findings &findings, const QString &part, int references);
 // Whether the workbook part says that days count from 1904.
 bool is1904(const QByteArray &part);
 // The codes of the number formats by their id.
@@ -50,6 +53,7 @@ struct Doubts
     int references = 0;     // cells left out, since their place is not understood
     int rowReferences = 0;  // taken by their column, though the row in them is none
     int emptyFormulas = 0;  // without the value that a program has calculated
+    int oddReferences = 0;  // in texts, see XmlPull
     QString firstReference; // of either kind, with its row's number
     QString firstFormula;
     void addTo(Findings &findings, const QString &sheet) const;
@@ -67,7 +71,7 @@ public:
     bool isWorksheet() const { return m_isWorksheet; }
     bool next(sheetrows::Row &row) override;
     QString error() const override { return m_xml.error(); }
-    const Doubts &doubts() const { return m_doubts; }
+    Doubts doubts() const;
 
 private:
     void readCell(sheetrows::Row &row);

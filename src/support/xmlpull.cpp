@@ -24,8 +24,9 @@ struct Entity
 };
 constexpr Entity entities[] = {{"amp;", '&'}, {"lt;", '<'}, {"gt;", '>'}, {"quot;", '"'}, {"apos;", '\''}};
 
-// Reads what follows an "&"; null for what is no entity of XML.
-const char *readEntity(const char *at, const char *end, QString &text)
+// Reads what follows an "&"; null for what is no entity of XML. Counts what stands for no character of a
+// text.
+const char *readEntity(const char *at, const char *end, QString &text, int &odd)
 {
     for (const Entity &entity : entities) {
         const std::size_t length = std::strlen(entity.name);
@@ -48,12 +49,16 @@ const char *readEntity(const char *at, const char *end, QString &text)
     if (!isNumber)
         return nullptr;
     constexpr uint lastCode = 0x10ffff;
-    if (code <= lastCode)
+    const bool isControl = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
+    const bool isHalfPair = code >= 0xd800 && code < 0xe000;
+    if (isControl || isHalfPair || code > lastCode)
+        ++odd;
+    else
         text += QString::fromUcs4(&code, 1);
     return semicolon + 1;
 }
 
-QString decoded(const char *at, const char *end, bool isCharacterData)
+QString decoded(const char *at, const char *end, bool isCharacterData, int &odd)
 {
     QString text;
     for (const char *plain = at;; ++at) {
@@ -68,11 +73,12 @@ QString decoded(const char *at, const char *end, bool isCharacterData)
         if (isReturn) {
             if (plain == end || *plain != '\n')
                 text += QLatin1Char('\n');
-        } else if (const char *const after = readEntity(plain, end, text)) {
+        } else if (const char *const after = readEntity(plain, end, text, odd)) {
             plain = after;
             at = after - 1;
         } else {
             text += QLatin1Char('&');
+            ++odd;
         }
     }
 }
@@ -83,17 +89,22 @@ bool isPlain(const char *at, const char *end)
     return std::all_of(at, end, [](char c) { return c != '&' && uchar(c) >= 0x20; });
 }
 
-QString toText(std::string_view text, bool isCharacterData)
+QString toText(std::string_view text, bool isCharacterData, int &odd)
 {
     const char *const begin = text.data();
     const char *const end = begin + text.size();
     return isPlain(begin, end) ? QString::fromUtf8(begin, int(text.size()))
-                               : xmlguard::clean(decoded(begin, end, isCharacterData));
+                               : xmlguard::clean(decoded(begin, end, isCharacterData, odd));
 }
 
 std::string_view view(const char *begin, const char *end)
 {
     return std::string_view(begin, std::size_t(end - begin));
+}
+
+bool isNoName(char c)
+{
+    return c == '&' || c == ';' || c == '"' || c == '\'' || c == '=';
 }
 }
 
@@ -190,6 +201,8 @@ XmlPull::Token XmlPull::beginTag()
     for (; at != m_end && *at != '>' && *at != '/' && *at != '<' && !isBlank(*at); ++at) {
         if (*at == ':')
             prefixEnd = at + 1;
+        if (isNoName(*at))
+            return fail();
     }
     if (at == begin || at == m_end)
         return fail();
@@ -232,7 +245,7 @@ bool XmlPull::readAttributes()
             ++at;
         const std::string_view name = view(begin, at);
         at = skipBlanks(at, m_end);
-        if (name.empty() || at == m_end || *at != '=')
+        if (name.empty() || at == m_end || *at != '=' || std::any_of(name.begin(), name.end(), isNoName))
             break;
         at = skipBlanks(at + 1, m_end);
         if (at == m_end || (*at != '"' && *at != '\''))
@@ -272,12 +285,12 @@ XmlPull::Token XmlPull::endTag()
 QString XmlPull::attribute(std::string_view name) const
 {
     const std::string_view raw = rawAttribute(name);
-    return raw.data() ? toText(raw, false) : QString();
+    return raw.data() ? toText(raw, false, m_oddReferences) : QString();
 }
 
 QString XmlPull::text() const
 {
-    return toText(m_text, m_isCharacterData);
+    return toText(m_text, m_isCharacterData, m_oddReferences);
 }
 
 bool XmlPull::skip()

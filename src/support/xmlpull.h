@@ -19,6 +19,9 @@ public:
     explicit XmlPull(const QByteArray &utf8);
 
     Token next();
+    // References in the texts that were asked for which stand for no character: unknown entities, which stay
+    // as they are written, and control characters, which are left out.
+    int oddReferences() const { return m_oddReferences; }
     QString error() const { return m_error; } // why it failed; empty when it did not
     // ---- At Begin and End ---------------------------------------------------------------------------------
     bool is(std::string_view name) const { return m_name == name; }
@@ -42,8 +45,8 @@ public:
     bool skip();
     // The texts up to the end of the element that has begun, those of its children left out.
     QString textOfElement();
-    // The same in UTF-8: a view of the text itself where nothing in it is encoded, else of `buffer`. Good until
-    // the next call.
+    // The same in UTF-8: a view of the text itself where nothing in it is encoded, else of `buffer`. Good
+    // until the next call.
     std::string_view utf8OfElement(QByteArray &buffer);
     // The same as a number, where the element holds nothing but digits; -1 and nothing read otherwise.
     int numberOfElement();
@@ -72,6 +75,7 @@ private:
     QString m_error;
     std::string_view m_name;
     std::string_view m_text;
+    mutable int m_oddReferences = 0;
     bool m_isCharacterData = false;
     bool m_closesAtOnce = false; // an empty element has begun
     bool m_popsOnNext = false;   // an element has ended

@@ -128,6 +128,9 @@ TEST_F(PlanFiles, AreReadAsAPersonTypesThem)
          "not read"},
         {"percentages", "Name|Duration|Done\nA|1d|=50\nB|1d|=1",
          "A 03-02T08:00 03-02T17:00 1d 50%\nB 03-02T08:00 03-02T17:00 1d 1%"},
+        {"shownAsPercentages", "Name|Duration|Done\nA|1d|=0.07%\nB|1d|=1%\nC|1d|=50",
+         "A 03-02T08:00 03-02T17:00 1d 7%\nB 03-02T08:00 03-02T17:00 1d 100%\n"
+         "C 03-02T08:00 03-02T17:00 1d 50%"},
         {"fractions", "Name|Duration|Done\nA|1d|=0.5\nB|1d|=1",
          "A 03-02T08:00 03-02T17:00 1d 50%\nB 03-02T08:00 03-02T17:00 1d 100%"},
         {"dayFirstByTheColumn", "Name|Start|Duration\nA|3/4/2026|1d\nB|13/4/2026|1d",
@@ -185,7 +188,7 @@ std::string said(KWDocument &plan, const ImportedPlan &imported = ImportedPlan()
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
         const KWTaskInfo &task = *plan.getTaskInfoAt(pos);
         QStringList cells;
-        for (const std::size_t column : {0, 2, 3, 4, 5, 8, 10, 11, 12})
+        for (const std::size_t column : {0, 2, 3, 4, 5, 7, 8, 10, 11, 12})
             cells.append(rows.text(pos, column));
         cells.append(QString::number(task.DurationUnits) + QLatin1Char(' ') + QString::number(task.ParentID));
         for (const Resource *resource : task.resourceList)
@@ -193,7 +196,8 @@ std::string said(KWDocument &plan, const ImportedPlan &imported = ImportedPlan()
                          csvplan::numberText(resource->percent));
         lines.append(cells.join(QLatin1Char('|')));
     }
-    return lines.join(QLatin1Char('\n')).toStdString();
+    return (lines.join(QLatin1Char('\n')) + QLatin1Char('\n') + QString::fromUtf8(csvplan::resources(plan)))
+        .toStdString();
 }
 
 std::unique_ptr<KWDocument> randomPlan(std::mt19937 &random)
@@ -209,6 +213,8 @@ std::unique_ptr<KWDocument> randomPlan(std::mt19937 &random)
         info->ID = i;
         info->name = QStringLiteral("R%1").arg(i);
         info->cost = between(random, 0, 99999) / 1000.0;
+        info->costUnit = between(random, 0, 4);
+        info->unit = between(random, 1, 40) / 8.0;
         plan->resourceInfoData()->appendResourceInfo(info);
     }
     for (KWTaskInfo *task : plan->taskList()) {
@@ -216,6 +222,7 @@ std::unique_ptr<KWDocument> randomPlan(std::mt19937 &random)
             KWTaskInfo::durationSecs(plan.get(), task->Start, task->Finish, task->DurationUnits);
         task->Name = QStringLiteral("Wall, \"%1\" ").arg(between(random, 1, 12)); // some share theirs
         task->Notes = QStringLiteral("a\nb;%1").arg(task->ID);
+        task->setPercent(between(random, 0, 8) / 8.0);
         if (!task->isParent() && between(random, 0, 1))
             task->addOrDelResourceByName(plan.get(), QStringLiteral("R%1").arg(between(random, 1, 3)), true);
     }
@@ -236,7 +243,7 @@ TEST_F(PlanFiles, MeanTheSameInEveryKind)
     const int seed = qEnvironmentVariableIntValue("KW_SEED");
     const QString csv = folder.filePath("plan.csv"), resources = folder.filePath("resources.csv"),
                   assignments = folder.filePath("assignments.csv"), xlsx = folder.filePath("plan.xlsx"),
-                  xls = folder.filePath("plan.xls");
+                  xls = folder.filePath("plan.xls"), package = folder.filePath("plan.kwpx");
     for (int i = seed; i < seed + plans; ++i) {
         std::mt19937 random{unsigned(i)};
         const std::unique_ptr<KWDocument> plan = randomPlan(random);
@@ -257,6 +264,9 @@ TEST_F(PlanFiles, MeanTheSameInEveryKind)
                 << (findings.list().value(0).place + ": " + findings.list().value(0).what).toStdString();
             return !testing::Test::HasFailure();
         };
+        KWDocument loaded;
+        ASSERT_TRUE(plan->save(package) && loaded.loadFromKWGT(package));
+        ASSERT_EQ(said(loaded), before) << "package KW_SEED=" << i;
         const auto imported = [](auto &&engine, const QString &file) {
             EXPECT_TRUE(engine.importFile(file));
             return engine.findings();
@@ -297,6 +307,26 @@ TEST_F(PlanFiles, MeanTheSameInEveryKind)
                 "XLS", [&] { ASSERT_TRUE(XLSDataEngine(plan.get()).exportFile(xls)); },
                 [&](KWDocument &back) { return imported(XLSDataEngine(&back), xls); }))
             return;
+    }
+}
+
+// Readable sheets hold numbers where plain ones hold their texts.
+TEST_F(PlanFiles, TellWhichNumbersLoseDigits)
+{
+    KWDocument plan;
+    auto *task = new KWTaskInfo;
+    task->ID = 1;
+    task->setPercent(1.0 / 3);
+    plan.appendTaskInfoList(task);
+    auto *info = new ResourceInfo;
+    info->costPer = 0.125;
+    info->cost = 0.344; // written with all of them
+    plan.resourceInfoData()->appendResourceInfo(info);
+    for (const bool isRich : {true, false}) {
+        XLSXDataEngine engine(&plan);
+        engine.setRich(isRich);
+        ASSERT_TRUE(engine.exportFile(folder.filePath("plan.xlsx")));
+        EXPECT_EQ(engine.findings().count(), isRich ? 0 : 2);
     }
 }
 

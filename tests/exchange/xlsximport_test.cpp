@@ -103,8 +103,10 @@ TEST(Worksheet, TellsWhatItLeavesOut)
          "the places of 3 cells are not understood, the first is \"a3\" in row 3\n"},
         {"rows", "<row r='3'><c r='A0'><v>1</v></c><c r='B'><v>1</v></c></row>",
          "the places of 2 cells name no row, the first is \"A0\" in row 3\n"},
-        {"formulas", "<row r='2'><c r='A2'><f>B2</f></c></row><row><c><f>1</f></c></row>",
-         "2 formulas have no value, the first in row 2\n"}};
+        {"formulas", "<row r='2'><c r='A2'><f>B2</f></c></row><row><c><f>1</f><v/></c></row>",
+         "2 formulas have no value, the first in row 2\n"},
+        {"noCharacters", "<row><c t='str'><v>&#7;a&foo;&amp;&#xd800;</v></c></row>",
+         "3 references in texts stand for no character\n"}};
     for (const SheetCase &row : cases) {
         xlsx::SheetSource source(worksheet(row.data), {});
         shown(source);

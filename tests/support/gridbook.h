@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-// A sheet of a workbook written as lines, cells joined by "|". A cell that begins with "=" is a number; a
-// line "@7" gives the next line that row number.
+// A sheet of a workbook written as lines, cells joined by "|". A cell that begins with "=" is a number, one
+// that also ends with "%" is shown as a percentage; a line "@7" gives the next line that row number.
 class GridSheet : public sheetrows::Source
 {
 public:
@@ -24,7 +24,10 @@ public:
         for (const QString &cell : m_lines.takeFirst().split('|')) {
             const QString text = cell.trimmed();
             const bool isNumber = text.startsWith('=');
-            row.cells.push_back({int(row.cells.size()) + 1, isNumber ? text.mid(1) : text, isNumber});
+            const bool isPercent = isNumber && text.endsWith('%');
+            row.cells.push_back({int(row.cells.size()) + 1,
+                                 isNumber ? text.mid(1).chopped(isPercent ? 1 : 0) : text, isNumber,
+                                 isPercent});
         }
         return true;
     }
