@@ -122,6 +122,7 @@ bool ClipbdManager::putOnClipboard(QList<quint32> &ids, QList<int> &rows)
 {
     if (!isReady() || rows.isEmpty())
         return false;
+    m_sourceDocument = m_document;
     topTaskListByMultiRow(rows);
     return putOnClipboard(branches(m_topTasks, ids));
 }
@@ -163,6 +164,7 @@ bool ClipbdManager::copyBranches(const QList<quint32> &ids)
 {
     if (!isReady() || !putOnClipboard(branches(ids)))
         return false;
+    m_sourceDocument = m_document;
     m_topTasks = ids;
     return true;
 }

@@ -28,6 +28,8 @@ public:
 
     void setDocument(KWDocument *document) { m_document = document; }
     KWDocument *document() const { return m_document; }
+    // Where the last copy or cut came from; null before the first. May be gone by now.
+    KWDocument *sourceDocument() const { return m_sourceDocument; }
 
     // ---- The three operations -----------------------------------------------------------------------------
     // The tasks at the rows, each with all that is below it.
@@ -59,6 +61,7 @@ public:
     // Adds the task's ID unless it is there, or an ancestor of it is at one of the rows.
     void appendTopTaskList(KWTaskInfo *task, QList<int> &rows);
     bool isTopTask(KWTaskInfo *task) const; // whether its ID is in the list
+    const QList<quint32> &topTaskList() const { return m_topTasks; }
 
     // ---- Steps of pasting ---------------------------------------------------------------------------------
     // They go by the IDs as they stand; of several tasks with one ID the first counts.
@@ -87,7 +90,8 @@ private:
     static void joinParent(const std::vector<KWTaskInfo *> &tops, const Place &place);
     void updateSummaries(const std::vector<TaskRecord *> &changed);
 
-    KWDocument *m_document = nullptr; // not owned; holds this manager by value
+    KWDocument *m_document = nullptr;       // not owned; holds this manager by value
+    KWDocument *m_sourceDocument = nullptr; // not owned
     QList<quint32> m_topTasks;
     QByteArray m_written; // the digest of what was put on the clipboard last
 };

@@ -18,6 +18,7 @@ public:
     virtual bool unExecute() = 0;
 
     QString name() const { return m_name; } // as the user reads it
+    void setName(const QString &name) { m_name = name; }
     KWDocument *document() const { return m_document; }
 
 private:
