@@ -1,33 +1,58 @@
-// A host of one page: makes a plan, links it, schedules it, changes it with undo, prints it and saves it.
+// A host of one page: makes a plan, changes it, tells what followed, takes it back, prints it and saves it.
 //     makeplan PLAN.kwpx
 #include <QGuiApplication>
 #include <QTextStream>
 #include <kwgantt/editing/actionmanager.h>
+#include <kwgantt/edits/planedits.h>
 #include <kwgantt/model/kwdocument.h>
 #include <kwgantt/model/kwtaskinfo.h>
-#include <kwgantt/schedule/kwtaskcollection.h>
 
 namespace {
 
-constexpr unsigned int dayUnit = 4;
-enum UndoType { TakeLonger = 1 };
+QTextStream out(stdout);
 
-// Working days from a moment of the day clock on.
-void setDates(KWDocument &document, KWTaskInfo &task, quint32 start, double days)
+quint32 addTask(PlanEdits &edits, const char *name, quint32 start, double days)
 {
-    task.Start = KWTaskCollection::moveForwarstartOnDayOff(&document, start, false);
-    task.Finish = KWTaskInfo::backwardsDateTime(&document, task.Start, days, dayUnit);
-    document.taskCollection()->refreshTask(&task); // its length, its work and its bar follow
+    TaskValues values;
+    values.name = QString::fromUtf8(name);
+    values.start = start;
+    values.length = TaskLength{days, duration::Day};
+    return edits.add(values).tasks.value(0);
+}
+
+QString shown(KWDocument &document, quint32 secs, bool isStart)
+{
+    return KWTaskInfo::showDateTime(&document, secs, isStart).toString("yyyy-MM-dd hh:mm");
 }
 
 void print(KWDocument &document, const QString &heading)
 {
-    QTextStream out(stdout);
     out << heading << '\n';
-    for (KWTaskInfo *task : document.taskList())
+    for (const KWTaskInfo *task : document.taskList())
         out << "  " << (task->CriticalPath ? '!' : ' ') << ' ' << task->Name.leftJustified(10)
-            << KWTaskInfo::showDateTime(&document, task->Start, true).toString("yyyy-MM-dd hh:mm") << "  "
-            << KWTaskInfo::showDateTime(&document, task->Finish, false).toString("yyyy-MM-dd hh:mm") << '\n';
+            << shown(document, task->Start, true) << "  " << shown(document, task->Finish, false) << '\n';
+}
+
+void showRefusal(const EditAnswer &answer)
+{
+    out << "Refused: " << answer.sentence() << '\n';
+}
+
+void tell(const EditLoss &loss)
+{
+    out << "Lost: " << loss.name << '\n';
+}
+
+void repaint(KWDocument &document, const QVector<EditMove> &moves)
+{
+    for (const EditMove &move : moves) {
+        const KWTaskInfo *task = document.getTaskInfoByID(move.task);
+        const KWTaskInfo *pusher =
+            document.getTaskInfoByID(move.pushedBy); // null unless a predecessor pushed it
+        out << "  " << task->Name << " finishes " << shown(document, move.finish, false) << " instead of "
+            << shown(document, move.oldFinish, false) << (pusher ? ", behind " + pusher->Name : QString())
+            << '\n';
+    }
 }
 }
 
@@ -39,41 +64,31 @@ int main(int argc, char **argv)
 
     KWDocument document; // works Monday to Friday, 08:00-12:00 and 13:00-17:00
     const quint32 monday = quint32(QDateTime(QDate(2026, 3, 2), QTime(0, 0)).toSecsSinceEpoch());
-    const struct
-    {
-        const char *name;
-        double days;
-    } work[] = {{"Design", 3}, {"Order", 1}, {"Build", 5}};
-    for (const auto &piece : work) {
-        KWTaskInfo *task = document.addTaskInfo(); // the document owns it
-        task->Name = QString::fromUtf8(piece.name);
-        setDates(document, *task, monday, piece.days);
-    }
 
     // Design, then Build; Order, then Build.
-    KWTaskCollection &schedule = *document.taskCollection();
-    KWTaskInfo *design = document.getTaskInfoByName("Design");
-    KWTaskInfo *build = document.getTaskInfoByName("Build");
-    schedule.taskDependTask(design, build);
-    schedule.taskDependTask(document.getTaskInfoByName("Order"), build);
-    schedule.pushAllSuccessors();
-    document.updateAllTaskEarlyLate(); // late dates, slack, the critical path
-    print(document, "Scheduled");
+    PlanEdits making(document, "Make the plan");
+    const quint32 design = addTask(making, "Design", monday, 3);
+    const quint32 order = addTask(making, "Order", monday, 1);
+    const quint32 build = addTask(making, "Build", monday, 5);
+    making.link({design, build});
+    making.link({order, build});
+    making.finish();
+    print(document, "Planned");
 
-    // An edit keeps what it is going to change first; here also the tasks that it can push.
-    ActionManager::s_undoString.insert(TakeLonger, "Take longer");
-    ActionManager::preUndoAction(&document, TakeLonger, 0);
-    ActionManager::backupAffected(design);
-    setDates(document, *design, design->Start, 5);
-    schedule.pushAllSuccessors();
-    ActionManager::addUndoAction();
-    document.updateAllTaskEarlyLate();
+    PlanEdits edits(document, "Take longer"); // one step of the undo menu, under this name
+    TaskValues values;
+    values.length = TaskLength{5, duration::Day};
+    const EditAnswer answer = edits.set({design}, values);
+    if (!answer.isDone())
+        showRefusal(answer); // nothing has changed
+    for (const EditLoss &loss : answer.losses)
+        tell(loss); // what a task had to give up, such as the assignments of one that became a summary
+    repaint(document, answer.moves); // every task that moved, from where to where, because of whom
+    edits.finish();
     print(document, "Design takes longer");
 
+    showRefusal(edits.link({build, design})); // changes nothing
     document.actionManager().undo(1);
-    document.updateAllTaskEarlyLate();
     print(document, "Taken back");
-
-    schedule.updateRageAndTaskPoint(); // the chart's range and bars, which the file holds too
     return document.save(QString::fromLocal8Bit(argv[1])) ? 0 : 1;
 }
