@@ -67,6 +67,8 @@ QString OneEdit::nameOf(const TaskRecord &task) const
 
 void OneEdit::begin(unsigned backups, Reach reach)
 {
+    if (m_step.records.empty())
+        m_step.wasModified = document().isModified();
     m_record = std::make_unique<EditRecord>(document(), m_step.name);
     m_hasAllTasks = backups & AllTasks;
     TaskAction &action = m_record->action();

@@ -15,6 +15,7 @@ struct EditStep
     KWDocument &document;
     QString name;
     std::vector<std::unique_ptr<EditRecord>> records;
+    bool wasModified = false; // the document, before the first of them
 };
 
 // One call at work: it judges, then begins, changes and finishes.

@@ -35,7 +35,8 @@ public:
             checkHidden(task);
             checkLinks(task.Predecessors, task, m_successors,
                        {UnknownPredecessor, OwnPredecessor, OneSidedPredecessor});
-            checkLinks(task.Depends, task, m_predecessors, {UnknownSuccessor, OwnSuccessor, OneSidedSuccessor});
+            checkLinks(task.Depends, task, m_predecessors,
+                       {UnknownSuccessor, OwnSuccessor, OneSidedSuccessor});
             checkAssignments(task);
         }
         for (const QList<quint32> &ring : m_document.taskCollection()->linkRings())

@@ -5,7 +5,7 @@
 #include "model/kwdocument.h"
 
 PlanEdits::PlanEdits(KWDocument &document, const QString &stepName)
-    : m_step(new EditStep{document, stepName, {}})
+    : m_step(new EditStep{document, stepName, {}, false})
 {
 }
 
@@ -28,7 +28,9 @@ bool PlanEdits::finish()
 
 void PlanEdits::cancel()
 {
-    if (!m_step->records.empty())
-        StepAction(&m_step->document, m_step->name, std::move(m_step->records)).unExecute();
+    if (m_step->records.empty())
+        return;
+    StepAction(&m_step->document, m_step->name, std::move(m_step->records)).unExecute();
     m_step->records.clear();
+    m_step->document.setModified(m_step->wasModified);
 }

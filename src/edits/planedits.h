@@ -30,7 +30,7 @@ struct EditStep;
 // undone; then everything that follows is settled (see settling::settle), and the answer tells which tasks
 // moved and because of whom, and what was lost. All calls of one object are one step of the document's undo
 // stack, handed over under the given name when the object is finished or destroyed; no step when nothing was
-// done. While it lives nothing else may edit, undo or load the document.
+// done. While it lives nothing else may edit, undo, load or save the document.
 //
 // Tasks are named by ID, hidden ones like any other. Moments are seconds since 1970 on the day clock, a
 // finish is exclusive. The scale that the user has chosen for the chart stays: nothing here zooms.
@@ -134,7 +134,8 @@ public:
     // Hands the step to the undo stack; the next call begins another one. Whether there was something to hand
     // over.
     bool finish();
-    // Takes back everything since the last finish; nothing goes on the undo stack.
+    // Takes back everything since the last finish; nothing goes on the undo stack, and the document is
+    // modified only if it was before.
     void cancel();
 
     // ---- The outline -------------------------------------------------------------------------------------

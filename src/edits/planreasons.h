@@ -46,8 +46,8 @@ struct Reasons
 
 // `longestChain` tasks at most in the chain. Without such a task nothing is set.
 KWGANTT_EXPORT Reasons of(const KWDocument &document, quint32 id, int longestChain = 6);
-// For each task of the list the place of the one with the least slack at or below it: a summary is as urgent as its
-// most urgent leaf.
+// For each task of the list the place of the one with the least slack at or below it: a summary is as urgent
+// as its most urgent leaf.
 KWGANTT_EXPORT std::vector<int> tightest(const KWDocument &document);
 // How many tasks begin before a predecessor of their own ends.
 KWGANTT_EXPORT int earlyTaskCount(const KWDocument &document);

@@ -15,17 +15,17 @@ namespace settling {
 
 // What changed, one bit each.
 enum What : unsigned {
-    Dates = 1,       // start or finish of tasks, or whether they have any
-    Length = 2,      // the duration or its unit, at the same start
-    Progress = 4,    // the percent of tasks
-    Assignments = 8, // who works on tasks, how much, and at which rates
-    Outline = 16,    // tasks came or changed places; their old and their new summaries are named beside them
-    Links = 32,      // links between tasks: the successors
-    Calendar = 64,   // the working time: the tasks have their new dates already
-    Baseline = 128,  // baselines of tasks
+    Dates = 1,        // start or finish of tasks, or whether they have any
+    Length = 2,       // the duration or its unit, at the same start
+    Progress = 4,     // the percent of tasks
+    Assignments = 8,  // who works on tasks, how much, and at which rates
+    Outline = 16,     // tasks came or changed places; their old and their new summaries are named beside them
+    Links = 32,       // links between tasks: the successors
+    Calendar = 64,    // the working time: the tasks have their new dates already
+    Baseline = 128,   // baselines of tasks
     Everything = 256, // whatever it was: all tasks, whichever are named
-    // Nothing: the plan was read. Dates and percents of summaries, late dates and the chart follow from the tasks as
-    // they stand; nothing is pushed, money stays as it was read, and so does the modified flag.
+    // Nothing: the plan was read. Dates and percents of summaries, late dates and the chart follow from the
+    // tasks as they stand; nothing is pushed, money stays as it was read, and so does the modified flag.
     AsItStands = 512
 };
 

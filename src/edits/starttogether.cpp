@@ -27,7 +27,8 @@ quint32 projectStart(const KWDocument &document)
 void startTogether(KWDocument &document, quint32 start)
 {
     constexpr bool hourClock = false;
-    start = dayoff::startForward(document.workCalendar(), start != 0 ? start : projectStart(document), hourClock);
+    start =
+        dayoff::startForward(document.workCalendar(), start != 0 ? start : projectStart(document), hourClock);
     for (KWTaskInfo *task : document.taskList()) {
         if (task->isParent())
             continue;

@@ -6,10 +6,10 @@ class KWDocument;
 
 namespace settling {
 
-// Puts all tasks but summaries to one start, each with its own length. Settling everything afterwards gives the plan
-// that is done as soon as possible.
+// Puts all tasks but summaries to one start, each with its own length. Settling everything afterwards gives
+// the plan that is done as soon as possible.
 //
-// The start is a moment on the day clock, and moves off time that is not worked. 0: the first start of all tasks, the
-// document's start where no task has one, today where there is neither.
+// The start is a moment on the day clock, and moves off time that is not worked. 0: the first start of all
+// tasks, the document's start where no task has one, today where there is neither.
 KWGANTT_EXPORT void startTogether(KWDocument &document, quint32 start);
 }

@@ -59,9 +59,19 @@ public:
         bool isDone = false;
         std::string found;
         {
+            const std::string before = savedText(m_document);
+            m_document.setModified(false);
             PlanEdits edits(m_document, QStringLiteral("Edit"));
             for (int calls = any(6) == 0 ? 2 : 1; calls > 0; --calls)
                 isDone = call(edits, found) || isDone;
+            if (any(12) == 0) {
+                note("cancel");
+                isDone = false;
+                edits.cancel();
+                if (savedText(m_document) != before)
+                    found +=
+                        "cancelled, and changed nevertheless: " + difference(before, savedText(m_document));
+            }
         }
         const bool isStep = m_document.actionManager().undoActions().size() > undoable;
         if ((isStep && !isDone) || m_document.actionManager().redoActions().size() != (isStep ? 0 : redoable))
@@ -382,7 +392,7 @@ private:
 
     EditAnswer plan(PlanEdits &edits, const QVector<quint32> &ids)
     {
-        const int kind = any(7);
+        const int kind = any(8);
         note("plan", kind, ids);
         switch (kind) {
         case 0:
@@ -399,8 +409,15 @@ private:
             return edits.setColumn(
                 RowColumnData::s_columnNames.value(1 + any(5)),
                 {chance(50) ? std::optional<bool>(chance(50)) : std::nullopt, 50.0 + any(90)});
-        default:
+        case 6:
             return edits.moveColumn(any(4), any(4));
+        default: {
+            PlanOptions options;
+            options.minorUnit = quint32(any(8));
+            options.unitWidth = any(200);
+            options.autoProgress = chance(50);
+            return edits.setOptions(options);
+        }
         }
     }
 
