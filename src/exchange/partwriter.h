@@ -1,21 +1,14 @@
 #pragma once
-#include <QByteArray>
-#include <QString>
-#include <cstring>
-#include <string_view>
-#include <vector>
-
-class QIODevice;
+#include "support/xmlsink.h"
+#include <initializer_list>
 
 // Writes one XML part of a package straight to a device, without blanks between the elements.
 //
 // Names are literals that outlive the writer. Texts lose the characters that XML cannot carry.
-class PartWriter
+class PartWriter : public XmlStream
 {
 public:
     explicit PartWriter(QIODevice &device); // begins with the XML declaration
-    PartWriter(const PartWriter &) = delete;
-    PartWriter &operator=(const PartWriter &) = delete;
 
     PartWriter &open(const char *element);
     PartWriter &attribute(const char *name, const char *latin1);
@@ -37,38 +30,12 @@ public:
         return *this;
     }
 
-    // Hands everything to the device; false when the device did not take all of it.
-    bool finish();
-
 private:
-    char *room(int bytes) // at least that many bytes to write to
-    {
-        if (m_size + bytes > m_buffer.size())
-            flush();
-        return m_buffer.data() + m_size;
-    }
-    void used(const char *end) { m_size = int(end - m_buffer.constData()); }
-    void put(std::string_view text)
-    {
-        std::memcpy(room(int(text.size())), text.data(), text.size());
-        m_size += int(text.size());
-    }
     void endTag()
     {
         if (m_isTagOpen)
             put(">");
         m_isTagOpen = false;
     }
-    void encode(const QString &value);
-    void number(int value);
     void number(double value);
-    void startAttribute(const char *name);
-    void flush();
-
-    QIODevice &m_device;
-    QByteArray m_buffer;
-    int m_size = 0;
-    std::vector<const char *> m_open;
-    bool m_isTagOpen = false;
-    bool m_isSound = true;
 };

@@ -1,14 +1,11 @@
 #include "support/xmlsink.h"
 #include "support/xmlencode.h"
 #include "support/xmlguard.h"
-#include <charconv>
 #include <cmath>
-#include <cstring>
 
 namespace {
 
-constexpr int flushBytes = 256 << 10;
-constexpr int bufferBytes = flushBytes + (64 << 10);
+constexpr int bufferBytes = 256 << 10; // larger than any piece that is put at once
 constexpr int maxNumberBytes = 32;
 
 // Seventeen significant digits, which read back as the same number, in at most maxNumberBytes.
@@ -76,72 +73,27 @@ void DomSink::attribute(const char *name, const QList<quint32> &value)
 
 // ---- Text -------------------------------------------------------------------------------------------------
 
-StreamSink::StreamSink(QIODevice &device, int blanksPerLevel)
+XmlStream::XmlStream(QIODevice &device, std::string_view declaration)
     : m_device(device)
-    , m_blanksPerLevel(blanksPerLevel)
     , m_buffer(bufferBytes, Qt::Uninitialized)
 {
-    const char head[] = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n";
-    put(head, int(sizeof head) - 1);
+    put(declaration);
 }
 
-void StreamSink::flush()
+void XmlStream::flush()
 {
     if (m_isSound && m_device.write(m_buffer.constData(), m_size) != m_size)
         m_isSound = false;
     m_size = 0;
 }
 
-char *StreamSink::room(int bytes)
+bool XmlStream::finish()
 {
-    if (m_size + bytes > m_buffer.size())
-        flush();
-    return m_buffer.data() + m_size;
+    flush();
+    return m_isSound;
 }
 
-void StreamSink::put(const char *text, int size)
-{
-    char *to = room(size);
-    std::memcpy(to, text, size_t(size));
-    used(to + size);
-}
-
-void StreamSink::startLine(int level)
-{
-    const int blanks = level * m_blanksPerLevel;
-    char *to = room(blanks);
-    std::memset(to, ' ', size_t(blanks));
-    used(to + blanks);
-}
-
-void StreamSink::open(const char *element)
-{
-    if (m_isTagOpen)
-        put(">\n", 2);
-    if (m_size > flushBytes)
-        flush();
-    startLine(m_open.size());
-    put("<", 1);
-    put(element, int(std::strlen(element)));
-    m_open.append(element);
-    m_isTagOpen = true;
-}
-
-void StreamSink::close()
-{
-    const char *const element = m_open.takeLast();
-    if (m_isTagOpen) {
-        put("/>\n", 3);
-    } else {
-        startLine(m_open.size());
-        put("</", 2);
-        put(element, int(std::strlen(element)));
-        put(">\n", 2);
-    }
-    m_isTagOpen = false;
-}
-
-void StreamSink::startAttribute(const char *name)
+void XmlStream::startAttribute(const char *name)
 {
     const int length = int(std::strlen(name));
     char *to = room(length + 3);
@@ -153,39 +105,89 @@ void StreamSink::startAttribute(const char *name)
     used(to);
 }
 
-void StreamSink::attribute(const char *name, const QString &value)
+template <bool encodesGreater>
+void XmlStream::encode(const QString &value)
 {
     constexpr int piece = 4096;
-    startAttribute(name);
     const ushort *at = value.utf16();
     const ushort *const end = at + value.size();
     while (at != end) {
         // A pair of units makes fewer bytes than two single ones, so a pair across the border has room too.
         const ushort *const stop = at + qMin<qint64>(piece, end - at);
         char *to = room((piece + 1) * xmlencode::maxUnitBytes);
-        while (at < stop)
-            to = xmlencode::character(to, at, end);
+        while (at < stop) {
+            if (encodesGreater && *at == '>') {
+                to = xmlencode::append(to, "&gt;");
+                ++at;
+            } else {
+                to = xmlencode::character(to, at, end);
+            }
+        }
         used(to);
     }
-    put("\"", 1);
+}
+template void XmlStream::encode<false>(const QString &value);
+template void XmlStream::encode<true>(const QString &value);
+
+StreamSink::StreamSink(QIODevice &device, int blanksPerLevel)
+    : XmlStream(device, "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n")
+    , m_blanksPerLevel(blanksPerLevel)
+{
+}
+
+void StreamSink::startLine()
+{
+    const int blanks = int(m_open.size()) * m_blanksPerLevel;
+    char *to = room(blanks);
+    std::memset(to, ' ', size_t(blanks));
+    used(to + blanks);
+}
+
+void StreamSink::open(const char *element)
+{
+    if (m_isTagOpen)
+        put(">\n");
+    startLine();
+    put("<");
+    put(element);
+    m_open.push_back(element);
+    m_isTagOpen = true;
+}
+
+void StreamSink::close()
+{
+    const char *const element = m_open.back();
+    m_open.pop_back();
+    if (m_isTagOpen) {
+        put("/>\n");
+    } else {
+        startLine();
+        put("</");
+        put(element);
+        put(">\n");
+    }
+    m_isTagOpen = false;
+}
+
+void StreamSink::attribute(const char *name, const QString &value)
+{
+    startAttribute(name);
+    encode<false>(value);
+    put("\"");
 }
 
 void StreamSink::attribute(const char *name, qint32 value)
 {
     startAttribute(name);
-    char *to = room(maxNumberBytes);
-    to = std::to_chars(to, to + maxNumberBytes, value).ptr;
-    *to++ = '"';
-    used(to);
+    putNumber(value);
+    put("\"");
 }
 
 void StreamSink::attribute(const char *name, quint32 value)
 {
     startAttribute(name);
-    char *to = room(maxNumberBytes);
-    to = std::to_chars(to, to + maxNumberBytes, value).ptr;
-    *to++ = '"';
-    used(to);
+    putNumber(value);
+    put("\"");
 }
 
 void StreamSink::attribute(const char *name, bool value)
@@ -196,25 +198,17 @@ void StreamSink::attribute(const char *name, bool value)
 void StreamSink::attribute(const char *name, double value)
 {
     startAttribute(name);
-    char *to = appendNumber(room(maxNumberBytes + 1), value);
-    *to++ = '"';
-    used(to);
+    used(appendNumber(room(maxNumberBytes), value));
+    put("\"");
 }
 
 void StreamSink::attribute(const char *name, const QList<quint32> &value)
 {
     startAttribute(name);
     for (int i = 0; i < value.size(); ++i) {
-        char *to = room(maxNumberBytes);
         if (i > 0)
-            *to++ = ';';
-        used(std::to_chars(to, to + maxNumberBytes - 1, value[i]).ptr);
+            put(";");
+        putNumber(value[i]);
     }
-    put("\"", 1);
-}
-
-bool StreamSink::finish()
-{
-    flush();
-    return m_isSound;
+    put("\"");
 }
