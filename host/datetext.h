@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/record/codes.h"
 #include "engine/time/shownmoment.h"
 #include <QDateTime>
 #include <QString>
@@ -23,7 +24,7 @@ struct Moment
 struct Duration
 {
     double value = 0;
-    unsigned int unit = 4; // 0 year .. 6 minute
+    unsigned int unit = duration::Day;
 };
 
 constexpr double longestDurationDays = 40000; // past the library's range of dates
@@ -32,7 +33,7 @@ constexpr double longestDurationDays = 40000; // past the library's range of dat
 // 1970..2105.
 bool parseMoment(const QString &text, Moment &moment);
 // "3d", "1.5 weeks", "30min", "2mon"; a bare number counts in `bareUnit`. False for anything else.
-bool parseDuration(const QString &text, Duration &duration, unsigned int bareUnit = 4);
+bool parseDuration(const QString &text, Duration &duration, unsigned int bareUnit = duration::Day);
 // "08:00" and "8" give seconds since midnight, up to 24:00; -1 when the text is no time of day.
 int parseTimeOfDay(const QString &text);
 

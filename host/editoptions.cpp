@@ -63,14 +63,13 @@ bool readDate(KWDocument &document, const QString &text, PlanOptions &options)
 bool readScale(KWDocument &, const QString &text, PlanOptions &options)
 {
     constexpr const char *names[] = {"year", "quarter", "month", "week", "day", "hour", "minute"};
-    constexpr int greatestMajor = 3;
     int units[2] = {-1, -1};
     const QStringList parts = text.split(QLatin1Char('/'));
     for (int part = 0; part < 2; ++part)
         for (int unit = 0; unit < int(std::size(names)); ++unit)
             if (parts.value(part) == QLatin1String(names[unit]))
                 units[part] = unit;
-    if (units[0] < 0 || units[0] > greatestMajor || units[1] <= units[0])
+    if (units[0] < 0 || units[0] > int(duration::smallestMajorUnit) || units[1] <= units[0])
         return false;
     options.majorUnit = quint32(units[0]);
     options.minorUnit = quint32(units[1]);

@@ -11,7 +11,6 @@ namespace explain {
 
 namespace {
 
-constexpr unsigned int day = 4;
 constexpr int mostListed = 3;   // of things that a sentence counts up
 constexpr int longestChain = 6; // tasks in "holds up"
 
@@ -60,7 +59,7 @@ private:
     // Working time in days, or in hours when it is a part of one.
     QString length(quint32 from, quint32 to) const
     {
-        const double days = m_plan.document->getDurationValue(from, to, day, true);
+        const double days = m_plan.document->getDurationValue(from, to, duration::Day, true);
         if (days != 0)
             return QString::number(days) + QLatin1String(" d");
         return QString::number(qAbs(plan::workingMinutes(m_plan, from, to))) + QLatin1String(" min");

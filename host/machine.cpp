@@ -40,7 +40,6 @@ QByteArray member(const char *name, const QByteArray &value)
 // The members that describe the whole plan.
 QByteArray planMembers(const Plan &plan)
 {
-    constexpr unsigned int day = 4;
     const shown::Times times(plan);
     shown::Clock first, last;
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
@@ -50,7 +49,7 @@ QByteArray planMembers(const Plan &plan)
             last = times.finish(pos);
     }
     const double days =
-        plan.document->getDurationValue(plan::firstStart(plan), plan::lastFinish(plan), day, true);
+        plan.document->getDurationValue(plan::firstStart(plan), plan::lastFinish(plan), duration::Day, true);
     QByteArrayList members{
         member("name", jsonText(plan.name)),
         member("timeZone", jsonText(QString::fromLatin1(QTimeZone::systemTimeZoneId()))),

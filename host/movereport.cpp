@@ -11,7 +11,6 @@ namespace report {
 namespace {
 
 constexpr int longestName = 30;
-constexpr unsigned int day = 4;
 
 // "12 Jan → 13 Jan"; a time stands where it is not the day's beginning or end.
 QString change(const Plan &plan, const shown::Clock &before, const shown::Clock &after, bool isStart,
@@ -34,7 +33,8 @@ QString change(const Plan &plan, const shown::Clock &before, const shown::Clock 
 QString lengthOf(const Plan &plan, quint32 from, quint32 to)
 {
     const bool later = from <= to;
-    const double days = plan.document->getDurationValue(later ? from : to, later ? to : from, day, true);
+    const double days =
+        plan.document->getDurationValue(later ? from : to, later ? to : from, duration::Day, true);
     if (days == 0) {
         const qint64 minutes = qAbs(plan::workingMinutes(plan, from, to));
         return (later ? QLatin1String("+") : QLatin1String("-")) + QString::number(minutes) +

@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/record/codes.h"
 #include <QString>
 #include <QStringList>
 #include <QVector>
@@ -87,7 +88,7 @@ struct Options
     bool dryRun = false;
     bool check = false;
     bool asSoonAsPossible = false;
-    unsigned int slackUnit = 4; // 4 day, 5 hour, 6 minute
+    unsigned int slackUnit = duration::Day; // or a smaller one
 };
 
 namespace options {

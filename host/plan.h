@@ -31,9 +31,9 @@ struct Plan
     QString file;        // as the user wrote it
     csv::Table table;    // the file's cells, where they are to be written again
     ImportedPlan imported;
-    unsigned int slackUnit = 4; // 4 day, 5 hour, 6 minute
-    quint32 start = 0;          // of the project; seconds on the day clock
-    int withoutStart = 0;       // tasks that the file gives no start
+    unsigned int slackUnit = duration::Day; // or a smaller one
+    quint32 start = 0;                      // of the project; seconds on the day clock
+    int withoutStart = 0;                   // tasks that the file gives no start
     int links = 0;
     int refusedLinks = 0;
     std::vector<int> tightest; // for each task the one below it, or itself, with the least slack

@@ -27,14 +27,32 @@ struct ColumnKey
     const char *key;
     int type;
 };
-constexpr ColumnKey columnKeys[] = {
-    {"number", 0},     {"id", 0},        {"name", 1},         {"start", 2},        {"finish", 3},
-    {"duration", 4},   {"done", 5},      {"resources", 7},    {"links", 8},        {"cost", 9},
-    {"remaining", 10}, {"work", 11},     {"late-start", 14},  {"late-finish", 15}, {"start-slack", 16},
-    {"slack", 17},     {"critical", 18}, {"notes", 19},       {"base-start", 20},  {"base-finish", 21},
-    {"base-cost", 22}, {"level", 23},    {"predecessors", 24}};
+constexpr ColumnKey columnKeys[] = {{"number", columntypes::Id},
+                                    {"id", columntypes::Id},
+                                    {"name", columntypes::Name},
+                                    {"start", columntypes::Start},
+                                    {"finish", columntypes::Finish},
+                                    {"duration", columntypes::Duration},
+                                    {"done", columntypes::Percent},
+                                    {"resources", columntypes::ResourceNames},
+                                    {"links", columntypes::Hyperlinks},
+                                    {"cost", columntypes::Cost},
+                                    {"remaining", columntypes::RemainingCost},
+                                    {"work", columntypes::Work},
+                                    {"late-start", columntypes::LateStart},
+                                    {"late-finish", columntypes::LateFinish},
+                                    {"start-slack", columntypes::StartSlack},
+                                    {"slack", columntypes::FinishSlack},
+                                    {"critical", columntypes::Critical},
+                                    {"notes", columntypes::Notes},
+                                    {"base-start", columntypes::BaselineStart},
+                                    {"base-finish", columntypes::BaselineFinish},
+                                    {"base-cost", columntypes::BaselineCost},
+                                    {"level", columntypes::Level},
+                                    {"predecessors", columntypes::Predecessors}};
 // Of a plan that has no table of its own.
-const std::vector<int> standardTypes{0, 1, 2, 3, 4, 5};
+const std::vector<int> standardTypes{columntypes::Id,     columntypes::Name,     columntypes::Start,
+                                     columntypes::Finish, columntypes::Duration, columntypes::Percent};
 
 bool fail(Console &console, const QString &what, const QString &hint = QString())
 {

@@ -288,8 +288,8 @@ QString criticalLength(const Plan &plan)
         if (task->CriticalPath && !task->isParent() && (first == 0 || task->Start < first))
             first = task->Start;
     }
-    constexpr unsigned int day = 4;
-    const double days = first ? plan.document->getDurationValue(first, plan::lastFinish(plan), day, true) : 0;
+    const double days =
+        first ? plan.document->getDurationValue(first, plan::lastFinish(plan), duration::Day, true) : 0;
     return QString::number(days) + QLatin1String(" d");
 }
 }

@@ -26,7 +26,7 @@ QHash<QString, Assignments> assignmentsByName(const Plan &plan)
     for (const KWTaskInfo *task : plan.document->taskList()) {
         for (const Resource *assigned : task->resourceList) {
             Assignments &list = byName[assigned->name.trimmed()];
-            if (assigned->type == 0 && (list.empty() || list.back().first != task))
+            if (resourcetypes::isWork(assigned->type) && (list.empty() || list.back().first != task))
                 list.emplace_back(task, assigned->percent);
         }
     }
@@ -133,7 +133,7 @@ std::vector<Overload> overloads(const Plan &plan, const ResourceInfo &entry,
 {
     constexpr double nothing = 1e-6;
     std::vector<Overload> found;
-    if (entry.type != 0)
+    if (!resourcetypes::isWork(entry.type))
         return found;
     Load load;
     for (const auto &[task, units] : assignments)
@@ -176,7 +176,7 @@ QString text(Plan &plan, const Style &style)
     int number = 0;
     for (const Row &row : rowsOf(plan)) {
         const ResourceInfo &entry = *row.entry;
-        const bool material = entry.type != 0;
+        const bool material = !resourcetypes::isWork(entry.type);
         const QString name = textwidth::oneLine(entry.name.trimmed(), style.ascii);
         const auto work = [&](double amount) {
             return sheettext::moneyText(amount) + (material ? QString() : QStringLiteral("h"));
@@ -219,8 +219,9 @@ QByteArray json(Plan &plan)
         bytes += first ? "\n    {" : ",\n    {";
         first = false;
         bytes += "\"id\": " + QByteArray::number(entry.ID) + ", \"name\": " + machine::jsonText(entry.name);
-        bytes += ", \"type\": " +
-                 machine::jsonText(entry.type == 0 ? QStringLiteral("work") : QStringLiteral("material"));
+        bytes += ", \"type\": " + machine::jsonText(resourcetypes::isWork(entry.type)
+                                                        ? QStringLiteral("work")
+                                                        : QStringLiteral("material"));
         bytes += ", \"maxUnits\": " + number(entry.unit) + ", \"rate\": " + number(entry.cost) +
                  ", \"rateUnit\": " +
                  machine::jsonText(plan.document->resourceInfoData()->getCostUintText(entry.costUnit)) +

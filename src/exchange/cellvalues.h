@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/record/codes.h"
 #include "engine/time/shownmoment.h"
 #include "exchange/sheetrows.h"
 #include "kwgantt_export.h"
@@ -75,7 +76,7 @@ KWGANTT_EXPORT std::optional<unsigned int> unitCalled(const QString &word);
 struct Length
 {
     double value = 0;
-    unsigned int unit = 4; // see duration::Unit
+    unsigned int unit = duration::Day;
     bool isUnitKnown = true;
 };
 // "3d", "1.5 weeks", "1,5 w", "30min", "2mon?"; a bare number counts in `bareUnit`, one with a word that is

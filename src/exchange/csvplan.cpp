@@ -1,5 +1,6 @@
 #include "exchange/csvplan.h"
 #include "engine/cost/cost.h"
+#include "engine/record/codes.h"
 #include "engine/record/outline.h"
 #include "engine/record/resource.h"
 #include "engine/time/duration.h"
@@ -109,8 +110,9 @@ QByteArray line(const QStringList &texts)
 
 double hoursOf(KWDocument &document, const KWTaskInfo &task, const Resource &assigned)
 {
-    return assigned.type == 0 ? task.transforHourWork(&document, task.resourceWork(&document, &assigned))
-                              : assigned.percent;
+    return resourcetypes::isWork(assigned.type)
+               ? task.transforHourWork(&document, task.resourceWork(&document, &assigned))
+               : assigned.percent;
 }
 }
 
@@ -192,18 +194,15 @@ QHash<quint32, QString> outlineCodes(const KWDocument &document)
 
 Places placesIn(const QStringList &titles)
 {
-    constexpr int startType = 2;
-    constexpr int finishType = 3;
-    constexpr int lengthType = 4;
     constexpr bool isExact = false;
     Places places;
     for (int column = titles.size() - 1; column >= 0; --column) {
         const int field = titletable::find(exceltitles::TaskSheet, titles.at(column), isExact).field;
-        if (field == startType)
+        if (field == columntypes::Start)
             places.start = column;
-        else if (field == finishType)
+        else if (field == columntypes::Finish)
             places.finish = column;
-        else if (field == lengthType)
+        else if (field == columntypes::Duration)
             places.length = column;
     }
     return places;
@@ -244,11 +243,12 @@ QByteArray resources(KWDocument &document)
 {
     QByteArray bytes = "ID,Name,Type,MaxUnitsPercent,Rate,OvertimeRate,CostPerUse,Group,Email,Notes\n";
     for (const ResourceInfo *entry : qAsConst(document.resourceInfoData()->infos))
-        bytes += line({QString::number(entry->ID), entry->name,
-                       entry->type == 0 ? QStringLiteral("WORK") : QStringLiteral("MATERIAL"),
-                       numberText(entry->unit * 100), rateText(entry->cost, entry->costUnit),
-                       rateText(entry->overtimeCost, entry->overtimeUnit), numberText(entry->costPer),
-                       entry->group, entry->email, entry->notes});
+        bytes +=
+            line({QString::number(entry->ID), entry->name,
+                  resourcetypes::isWork(entry->type) ? QStringLiteral("WORK") : QStringLiteral("MATERIAL"),
+                  numberText(entry->unit * 100), rateText(entry->cost, entry->costUnit),
+                  rateText(entry->overtimeCost, entry->overtimeUnit), numberText(entry->costPer),
+                  entry->group, entry->email, entry->notes});
     return bytes;
 }
 

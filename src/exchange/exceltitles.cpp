@@ -1,4 +1,5 @@
 #include "exchange/exceltitles.h"
+#include "engine/record/codes.h"
 #include "model/kwdocument.h"
 #include <algorithm>
 
@@ -15,9 +16,6 @@ QStringList ExcelTitles::s_strWorkAssignList;
 qint32 ExcelTitles::s_nType = 0;
 
 namespace {
-
-constexpr int levelType = 23;
-constexpr int predecessorsType = 24;
 
 // Stands behind the lists, so it goes before them.
 struct EmptyAtExit
@@ -66,13 +64,13 @@ void ExcelTitles::initImportMapList(KWDocument *document)
 {
     if (!document || !document->rowColumnData())
         return;
-    const QString levelTitle = RowColumnData::s_columnNames.value(levelType);
+    const QString levelTitle = RowColumnData::s_columnNames.value(columntypes::Level);
     clearExcelTitles(s_projectTaskTitles);
     for (const RowColumnData::ColumnData *column : document->rowColumnData()->columns()) {
         const QString title = column->title;
         append(s_projectTaskTitles, title == levelTitle ? 0 : RowColumnData::typeOfTitle(title), title);
     }
-    append(s_projectTaskTitles, 0, RowColumnData::s_columnNames.value(predecessorsType));
+    append(s_projectTaskTitles, 0, RowColumnData::s_columnNames.value(columntypes::Predecessors));
     replaceByNames(s_projectResTitles, s_strResourceList);
     replaceByNames(s_projectWorkTitls, s_strWorkAssignList);
 }

@@ -83,7 +83,7 @@ double dayNumber(const QDateTime &shown)
 
 bool isMaterial(const Resource &resource)
 {
-    return resource.type != 0;
+    return !resourcetypes::isWork(resource.type);
 }
 
 // What a column shows besides texts. Not durations, work, rates and maximum units: an import reads them
@@ -320,18 +320,16 @@ QString Rows::predecessorText(const KWTaskInfo &task) const
 // an evening, where nobody would look for them.
 QDateTime Rows::shownMoment(const KWTaskInfo &task, int type) const
 {
-    constexpr int startType = 2;
-    constexpr int finishType = 3;
     const columntypes::ColumnType &column = *columntypes::find(type);
     const worktime::WorkCalendar &calendar = m_measures.calendar;
-    const bool isOwn = type == startType || type == finishType;
+    const bool isOwn = type == columntypes::Start || type == columntypes::Finish;
     const bool isMoment = ShownDates::isMoment(task);
     const int pos = isOwn && (isMoment || task.isParent()) ? m_document.getPosByID(task.ID) : -1;
     if (pos < 0 || m_document.getTaskInfoAt(pos) != &task || !m_dates.isDated(pos))
         return celltext::shownMoment(calendar, columntypes::secs(task, column.field),
                                      column.kind == Kind::StartDate);
-    const bool isFinish = type == finishType && !isMoment;
-    ShownDates::Moment shown = type == startType ? m_dates.start(pos) : m_dates.finish(pos);
+    const bool isFinish = type == columntypes::Finish && !isMoment;
+    ShownDates::Moment shown = type == columntypes::Start ? m_dates.start(pos) : m_dates.finish(pos);
     // The end of a day is no time of a cell: as a finish 00:00 of its date means that.
     if (shown.secs >= LocalClock::secsPerDay) {
         shown.day += isFinish ? 0 : 1;

@@ -496,7 +496,7 @@ public:
             return;
         }
         Resource &resource = assigned(*task, row);
-        const bool isMaterial = resource.type != 0;
+        const bool isMaterial = !resourcetypes::isWork(resource.type);
         if (row.units)
             resource.percent = *row.units;
         if (m_rules.comparesWork && row.work) {
@@ -534,7 +534,7 @@ private:
     void compareWork(const KWTaskInfo &task, Resource &resource, const staged::Assignment &row)
     {
         constexpr double sameHours = 0.02; // a minute, and what rounding leaves
-        const bool isMaterial = resource.type != 0;
+        const bool isMaterial = !resourcetypes::isWork(resource.type);
         if (!isMaterial)
             resource.workSecs = cost::workSecs(task, resource);
         const double counted = isMaterial ? resource.percent
@@ -682,9 +682,7 @@ QSet<QString> summaryNames(const staged::Plan &plan)
 // Any file of text has rows; a plan's have names and times.
 bool isPlan(const TaskSheet &tasks, Findings *findings)
 {
-    constexpr int idType = 0;
-    constexpr int nameType = 1;
-    const bool hasNames = tasks.hasField(nameType) || tasks.hasField(idType);
+    const bool hasNames = tasks.hasField(columntypes::Name) || tasks.hasField(columntypes::Id);
     if (hasNames && tasks.hasTimes())
         return true;
     if (findings)

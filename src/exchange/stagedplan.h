@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/record/codes.h"
 #include "engine/time/shownmoment.h"
 #include "exchange/importedplan.h"
 #include "model/kwtaskinfo.h"
@@ -51,7 +52,7 @@ struct Moment
 struct Length
 {
     double value = 0;
-    unsigned int unit = 4; // see duration::Unit
+    unsigned int unit = duration::Day;
 };
 
 // The moments of a task, in the order of their rules: which the file shows as a start, which as a finish.

@@ -22,11 +22,6 @@ constexpr qint64 maxLinkUnits = 32 << 20;
 constexpr std::size_t maxLinks = 1000000;
 constexpr int maxHyperlinks = 1000000;
 constexpr int deepestLevel = 1000;
-constexpr int idType = 0;
-constexpr int startType = 2;
-constexpr int finishType = 3;
-constexpr int lengthType = 4;
-constexpr int levelType = 23;
 
 QString text(const char *latin1)
 {
@@ -68,9 +63,9 @@ bool isYes(const Cell &cell)
 std::optional<staged::MomentField> momentField(int type)
 {
     switch (type) {
-    case startType:
+    case columntypes::Start:
         return staged::Start;
-    case finishType:
+    case columntypes::Finish:
         return staged::Finish;
     case 14:
         return staged::LateStart;
@@ -115,14 +110,14 @@ void TaskSheet::addRow(const sheetrows::Row &row, const std::vector<KnownCell> &
     for (const KnownCell &known : cells)
         apply(known, staged);
     KWTaskInfo &task = *staged.task;
-    const bool isOwnLevel = hasField(levelType) && task.Level < 1;
+    const bool isOwnLevel = hasField(columntypes::Level) && task.Level < 1;
     m_hasLevelZero = m_hasLevelZero || (isOwnLevel && task.Level == 0);
     if (isOwnLevel && (reading().isExact || task.Level < 0)) {
         report(row.line, QString(), text("the level is below 1"), text("level 1"));
         task.Level = 1;
     }
     task.Progress = KWTaskInfo::indexFromPercent(task.Percent);
-    staged.hasPlace = !hasField(idType) || !hasField(startType) || staged.id != 0 ||
+    staged.hasPlace = !hasField(columntypes::Id) || !hasField(columntypes::Start) || staged.id != 0 ||
                       staged.moments[staged::Start].isGiven() || !staged.length;
     m_tasks.push_back(std::move(staged));
 }
@@ -200,7 +195,8 @@ void TaskSheet::readNumber(const KnownCell &known, staged::Task &staged)
     if (cell.text.trimmed().isEmpty())
         return;
     const std::optional<double> value = cellvalues::number(cell, reading().comma);
-    const bool isOutside = known.field == levelType && value && !reading().isExact && *value > deepestLevel;
+    const bool isOutside =
+        known.field == columntypes::Level && value && !reading().isExact && *value > deepestLevel;
     if (!value || isOutside) {
         refuse(staged.row, &cell, isOutside ? text("is no level from 1 to 1000") : text("is no number"),
                text("left out"));
@@ -324,7 +320,7 @@ bool TaskSheet::readPredecessor(const QString &part, QString &refusal)
         refusal = text("is no task");
         return false;
     }
-    m_wanted.push_back({task, value, isId || (reading().linksById && hasField(idType))});
+    m_wanted.push_back({task, value, isId || (reading().linksById && hasField(columntypes::Id))});
     return true;
 }
 
@@ -453,10 +449,9 @@ void TaskSheet::settlePercent()
     const auto between =
         std::find_if(m_plainPercents.begin(), m_plainPercents.end(),
                      [](const PlainPercent &percent) { return percent.value > 0 && percent.value <= 1; });
-    constexpr int percentType = 5;
     const bool arePercentages = isAnyAbove || reading().plainPercent;
     if (reading().plainPercent && !isAnyAbove && between != m_plainPercents.end() && between->value < 1)
-        report(m_tasks[std::size_t(between->task)].row, titleOfField(percentType),
+        report(m_tasks[std::size_t(between->task)].row, titleOfField(columntypes::Percent),
                text("its numbers may be fractions"), text("read as percentages"));
     for (const PlainPercent &percent : m_plainPercents) {
         const staged::Task &staged = m_tasks[std::size_t(percent.task)];
@@ -464,7 +459,7 @@ void TaskSheet::settlePercent()
         staged.task->setPercent(value);
         staged.task->Progress = KWTaskInfo::indexFromPercent(staged.task->Percent);
         if (value < 0 || value > 1)
-            report(staged.row, titleOfField(percentType),
+            report(staged.row, titleOfField(columntypes::Percent),
                    QString::number(percent.value) + text(" is no percentage from 0 to 100"),
                    text("read as ") + QString::number(staged.task->Percent * 100) + QLatin1Char('%'));
     }
@@ -585,7 +580,7 @@ void TaskSheet::findLinks(staged::Plan &plan)
 
 bool TaskSheet::hasTimes() const
 {
-    return hasField(startType) || hasField(finishType) || hasField(lengthType);
+    return hasField(columntypes::Start) || hasField(columntypes::Finish) || hasField(columntypes::Duration);
 }
 
 void TaskSheet::finish(staged::Plan &plan)

@@ -1,4 +1,5 @@
 #include "exchange/titletable.h"
+#include "engine/record/codes.h"
 #include "engine/text/columntypes.h"
 #include "engine/time/duration.h"
 #include <QHash>
@@ -12,24 +13,6 @@ using exceltitles::Sheet;
 namespace titletable {
 namespace {
 
-// Column types of the task table.
-enum Type {
-    Id = 0,
-    Name = 1,
-    Start = 2,
-    Finish = 3,
-    Length = 4,
-    Percent = 5,
-    Priority = 6,
-    Resources = 7,
-    Links = 8,
-    Notes = 19,
-    BaseStart = 20,
-    BaseFinish = 21,
-    BaseCost = 22,
-    Level = 23,
-    Predecessors = 24
-};
 enum ResourceKey {
     ResourceId,
     ResourceName,
@@ -58,31 +41,35 @@ constexpr Sheet resources = exceltitles::ResourceSheet;
 constexpr Sheet assignments = exceltitles::AssignmentSheet;
 
 const Words table[] = {
-    {tasks, Id, "id taskid tag no number uniqueid nr nummer vorgangsnr vorgangsnummer 标识号 编号 序号"},
+    {tasks, columntypes::Id,
+     "id taskid tag no number uniqueid nr nummer vorgangsnr vorgangsnummer 标识号 编号 序号"},
     {tasks, OutlineCode, "wbs wbscode outlinenumber psp pspcode gliederungsnummer 大纲编号"},
-    {tasks, Level, "level outlinelevel ebene gliederungsebene 级别 大纲级别 层级"},
-    {tasks, Name,
+    {tasks, columntypes::Level, "level outlinelevel ebene gliederungsebene 级别 大纲级别 层级"},
+    {tasks, columntypes::Name,
      "name taskname task title vorgang vorgangsname aufgabe bezeichnung titel 名称 任务 任务名称"},
-    {tasks, Start,
+    {tasks, columntypes::Start,
      "start startdate begin begins starts anfang beginn startdatum anfangstermin 开始 开始时间 开始日期"},
-    {tasks, Finish,
+    {tasks, columntypes::Finish,
      "finish finishdate end enddate ends due duedate ende enddatum endtermin fertigstellung 完成时间 "
      "完成日期 结束 结束时间 结束日期"},
-    {tasks, Length, "duration durationdays dauer dauertage 工期 持续时间"},
-    {tasks, Length, "durationhours dauerstunden", duration::Hour},
-    {tasks, Length, "durationminutes dauerminuten", duration::Minute},
-    {tasks, Percent,
+    {tasks, columntypes::Duration, "duration durationdays dauer dauertage 工期 持续时间"},
+    {tasks, columntypes::Duration, "durationhours dauerstunden", duration::Hour},
+    {tasks, columntypes::Duration, "durationminutes dauerminuten", duration::Minute},
+    {tasks, columntypes::Percent,
      "percent percentcomplete complete done progress abgeschlossen prozentabgeschlossen fortschritt "
      "erledigt 完成百分比 进度 完成 完成率"},
-    {tasks, Priority, "priority priorität 优先级"},
-    {tasks, Predecessors,
+    {tasks, columntypes::Priority, "priority priorität 优先级"},
+    {tasks, columntypes::Predecessors,
      "predecessors predecessor dependson dependencies after vorgänger 前置任务 前置 前导任务"},
-    {tasks, Resources, "resources resource resourcenames ressourcen ressource ressourcennamen 资源 资源名称"},
-    {tasks, Links, "hyperlinks hyperlink links 超链接"},
-    {tasks, Notes, "notes note notizen notiz bemerkung bemerkungen comment comments 备注"},
-    {tasks, BaseStart, "baselinestart basestart geplanteranfang 基线开始时间 比较基准开始时间"},
-    {tasks, BaseFinish, "baselinefinish basefinish geplantesende 基线完成时间 比较基准完成时间"},
-    {tasks, BaseCost, "baselinecost basecost geplantekosten 基线成本 比较基准成本"},
+    {tasks, columntypes::ResourceNames,
+     "resources resource resourcenames ressourcen ressource ressourcennamen 资源 资源名称"},
+    {tasks, columntypes::Hyperlinks, "hyperlinks hyperlink links 超链接"},
+    {tasks, columntypes::Notes, "notes note notizen notiz bemerkung bemerkungen comment comments 备注"},
+    {tasks, columntypes::BaselineStart,
+     "baselinestart basestart geplanteranfang 基线开始时间 比较基准开始时间"},
+    {tasks, columntypes::BaselineFinish,
+     "baselinefinish basefinish geplantesende 基线完成时间 比较基准完成时间"},
+    {tasks, columntypes::BaselineCost, "baselinecost basecost geplantekosten 基线成本 比较基准成本"},
     {tasks, MilestoneFlag, "milestone ismilestone meilenstein 里程碑"},
     {tasks, Ignored,
      "summary critical latestart latefinish startslack finishslack startmin finishmin latestartmin "
@@ -174,7 +161,8 @@ Known find(Sheet sheet, const QString &title, bool isExact)
     // Of the program's own titles the first key counts.
     known.field = own.key(title, -1);
     // What tells tasks of one name apart, as the task sheet calls it.
-    if (known.field < 0 && sheet == assignments && title == RowColumnData::s_columnNames.value(Id))
+    if (known.field < 0 && sheet == assignments &&
+        title == RowColumnData::s_columnNames.value(columntypes::Id))
         known.field = TaskId;
     if (known.field >= 0 || isExact)
         return known;

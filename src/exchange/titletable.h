@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/record/codes.h"
 #include "exchange/exceltitles.h"
 #include <QString>
 
@@ -15,8 +16,8 @@ enum AssignmentField { TaskId = 100, IgnoredAssignment };
 struct Known
 {
     int field = -1; // a column type, a key of a resource or an assignment, or one of those above; -1: unknown
-    unsigned int bareUnit = 4; // of a length without a unit, see duration::Unit
-    bool isPercent = false;    // a number without a sign is a percentage
+    unsigned int bareUnit = duration::Day; // of a length without a unit
+    bool isPercent = false;                // a number without a sign is a percentage
 };
 
 // `isExact` finds the program's own titles alone, letter for letter.

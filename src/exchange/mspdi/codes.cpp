@@ -31,7 +31,8 @@ struct RateFormat
     int costUnit;
 };
 constexpr int formatYearRate = 7;
-constexpr RateFormat rateFormats[] = {{1, 0}, {2, 1}, {3, 2}, {4, 3}, {5, 4}};
+constexpr RateFormat rateFormats[] = {
+    {1, cost::PerMinute}, {2, cost::PerHour}, {3, cost::PerDay}, {4, cost::PerWeek}, {5, cost::PerMonth}};
 
 // A rate of 50 a day is written as 6.25 an hour, and one of 53 as a number that never ends.
 double withoutRoundingError(double money)
@@ -120,7 +121,7 @@ Rate rateOf(double perHour, int format, const WorkTerms &terms)
 {
     Rate rate;
     if (format == formatYearRate) {
-        rate.costUnit = 4;
+        rate.costUnit = cost::PerMonth;
         rate.money = withoutRoundingError(perHour / minutesPerHour * terms.minutesPerWeek * weeksPerYear /
                                           monthsPerYear);
         rate.isApproximate = true;
@@ -130,7 +131,7 @@ Rate rateOf(double perHour, int format, const WorkTerms &terms)
         if (each.code == format)
             rate.costUnit = each.costUnit;
     }
-    rate.money = rate.costUnit == 1
+    rate.money = rate.costUnit == cost::PerHour
                      ? perHour
                      : withoutRoundingError(perHour / minutesPerHour * minutesOf(rate.costUnit, terms));
     return rate;
@@ -138,7 +139,7 @@ Rate rateOf(double perHour, int format, const WorkTerms &terms)
 
 double perHour(double money, int costUnit, const WorkTerms &terms)
 {
-    return costUnit == 1 ? money : money * minutesPerHour / minutesOf(costUnit, terms);
+    return costUnit == cost::PerHour ? money : money * minutesPerHour / minutesOf(costUnit, terms);
 }
 
 int formatOfRate(int costUnit)

@@ -297,7 +297,7 @@ const Column<TaskRow> taskColumns[] = {
 
 constexpr bool isWork(const ResourceInfo &info)
 {
-    return info.type == 0;
+    return resourcetypes::isWork(info.type);
 }
 
 const Column<ResourceRow> resourceColumns[] = {

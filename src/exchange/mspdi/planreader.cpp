@@ -606,7 +606,7 @@ private:
             info->ID = hasId ? qint32(from.uid) : nextId;
             ids.insert(info->ID);
             fill(from, *info);
-            m_resources.insert(from.uid, {info->name, info->type != 0,
+            m_resources.insert(from.uid, {info->name, !resourcetypes::isWork(info->type),
                                           from.calendar != noUid && m_calendars.differs(from.calendar)});
             infos.push_back(std::move(info));
         }
@@ -621,7 +621,7 @@ private:
         info.type = from.type == work && !isCost ? 0 : 1;
         info.unit = from.maxUnits.value_or(1);
         const auto rate = [&](const std::optional<double> &perHour, int format, double &money, qint32 &unit) {
-            if (info.type != 0) {
+            if (!resourcetypes::isWork(info.type)) {
                 money = perHour.value_or(0);
                 return;
             }

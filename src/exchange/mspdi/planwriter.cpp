@@ -509,7 +509,7 @@ private:
         row.resourceUid = uid;
         if (!resource) {
             row.minutes = uid == noResource ? 0 : task.minutes;
-        } else if (resource->type != 0) {
+        } else if (!resourcetypes::isWork(resource->type)) {
             row.minutes = resource->percent * secsPerMinute;
         } else {
             row.minutes = cost::toHours(m_measures, cost::work(m_measures, *task.task, *resource),
