@@ -271,11 +271,6 @@ INSTANTIATE_TEST_SUITE_P(
         EditCase{"assignmentsInPlaceWithTheList", recordAll,
                  [](KWDocument &document) { document.getTaskInfoAt(2)->getResourceAt(0)->percent = 0.5; },
                  true},
-        EditCase{"columns", [](KWDocument &) { ActionManager::backupAllColData(); },
-                 [](KWDocument &document) {
-                     document.rowColumnData()->moveColumnDataList(0, 3);
-                     document.rowColumnData()->setAllColDataHide();
-                 }},
         EditCase{"fewerColumns", [](KWDocument &) { ActionManager::backupAllColData(); },
                  [](KWDocument &document) { document.rowColumnData()->clearColDataList(); }},
         EditCase{"ratesOfAnEntry", recordAnn,
@@ -364,16 +359,6 @@ INSTANTIATE_TEST_SUITE_P(
                      document.getTaskInfoAt(4)->resourceList.append(new Resource);
                      for (const int pos : {2, 4})
                          document.getTaskInfoAt(pos)->updateCostAndWork(&document);
-                 }},
-        EditCase{"calendarsAndOptions", [](KWDocument &) { ActionManager::backupAllOption(); },
-                 [](KWDocument &document) {
-                     document.WorkDay[5] = true;
-                     document.workTimes.last()->finish = 64800;
-                     document.calendars.first()->dayTimes.append(new KWDayTime(7200, 10800));
-                     document.calendars.append(new KWCalendar);
-                     document.BaselineCost = 0.1;
-                     document.UnitWidth = 55;
-                     document.Auto = true;
                  }}),
     caseName<EditCase>);
 
