@@ -14,9 +14,8 @@ namespace plan {
 void countSlackIn(Plan &plan, unsigned int unit)
 {
     // The stored form of a minor unit below the week.
-    constexpr quint32 week = 3;
-    plan.document->MajorUnit = week;
-    plan.document->MinorUnit = unit - week - 1;
+    plan.document->MajorUnit = duration::Week;
+    plan.document->MinorUnit = unit - duration::Week - 1;
 }
 
 quint32 startSecs(KWDocument &document, const datetext::Moment &moment)
