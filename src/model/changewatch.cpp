@@ -6,6 +6,7 @@
 #include "engine/record/taskfields.h"
 #include "engine/record/taskrecord.h"
 #include "model/kwdocument.h"
+#include "model/kwtaskinfo.h"
 #include <QHash>
 #include <cstring>
 
@@ -104,7 +105,7 @@ quint64 ChangeWatch::digest() const
 {
     Digest digest;
     if (m_document && m_isWhole) {
-        for (const TaskRecord *task : m_document->outline().list)
+        for (const TaskRecord *task : m_document->taskList())
             digest.add(*task);
     } else if (m_document) {
         for (const TaskRecord *task : m_tasks)

@@ -13,6 +13,7 @@ struct KWDocument::Caches
     // By ID.
     TaskIndex index;
     QList<TaskRecord *> records; // the tasks that are indexed, in list order
+    int indexed = 0;             // how many these are
     quint64 indexedAt = 0;
     quint32 maxId = 0;
     quint32 lowestFreeId = 1; // every smaller ID is taken

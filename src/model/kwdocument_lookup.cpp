@@ -14,13 +14,14 @@ KWDocument::Caches &KWDocument::withIndex() const
     if (caches.indexedAt != m_idRevision) {
         caches.index.clear();
         caches.records.clear();
+        caches.indexed = 0;
         caches.maxId = 0;
         caches.lowestFreeId = 1;
         caches.indexedAt = m_idRevision;
     }
-    for (int pos = caches.records.size(); pos < m_tasks.size(); ++pos) {
-        KWTaskInfo *task = m_tasks[pos];
-        caches.index.add(task->ID, pos);
+    for (; caches.indexed < m_tasks.size(); ++caches.indexed) {
+        KWTaskInfo *task = m_tasks[caches.indexed];
+        caches.index.add(task->ID, caches.indexed);
         caches.records.append(task);
         caches.maxId = qMax(caches.maxId, task->ID.value());
         // Only an ID that the table knows can make it wrong.

@@ -214,7 +214,7 @@ void KWTaskCollection::updateTaskPoint()
         return;
     const timescale::Scale scale = this->scale();
     const std::vector<double> rowYs = m_document->rowYs(true);
-    const QList<TaskRecord *> &tasks = m_document->outline().list;
+    const QList<KWTaskInfo *> &tasks = m_document->taskList(); // no index is needed
     for (int pos = 0; pos < tasks.size(); ++pos) {
         fetchTaskAhead(tasks, pos + tasksAhead);
         TaskRecord &task = *tasks[pos];

@@ -6,7 +6,8 @@
 //
 // A record is larger than a cache line and the walks do little with each, so on a large project they would
 // wait for most of them. Changes nothing but the time.
-inline void fetchTaskAhead(const QList<TaskRecord *> &tasks, int pos)
+template <typename Task>
+void fetchTaskAhead(const QList<Task *> &tasks, int pos)
 {
     if (pos < 0 || pos >= tasks.size())
         return;
