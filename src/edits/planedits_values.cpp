@@ -305,9 +305,10 @@ EditAnswer PlanEdits::setOptions(const PlanOptions &options)
     OneEdit edit(step());
     KWDocument &document = edit.document();
     const EditRefusal refusal = refusalOf(document, options);
+    if (refusal == EditRefusal::BadAmount)
+        return edit.refuse(refusal, {QString::number(*options.baselineCost)});
     if (refusal != EditRefusal::None)
-        return edit.refuse(refusal,
-                           {options.baselineCost ? QString::number(*options.baselineCost) : QString()});
+        return edit.refuse(refusal);
     edit.begin(OneEdit::Options, OneEdit::MovesNothing);
     take(options.projectUnit, document.ProjectUnit);
     take(options.startDate, document.StartDate);
