@@ -1,11 +1,11 @@
 #include "exchange/MSPDIDataEngine.h"
+#include "edits/settle.h"
 #include "engine/time/shownmoment.h"
 #include "exchange/mspdi/planreader.h"
 #include "exchange/mspdi/planwriter.h"
 #include "exchange/mspdi/recordreader.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "schedule/kwtaskcollection.h"
 #include "support/atomicfile.h"
 #include "support/kwlimits.h"
 #include <QFile>
@@ -62,24 +62,22 @@ void keepMarks(KWDocument &document, const mspdi::PlanOfFile &plan)
 void followSubtasks(KWDocument &document, const mspdi::PlanOfFile &plan, mspdi::FindingList &findings)
 {
     using mspdi::Kind;
-    KWTaskCollection &collection = *document.taskCollection();
+    struct Span
+    {
+        quint32 start;
+        quint32 finish;
+    };
+    std::vector<Span> before;
+    before.reserve(std::size_t(document.taskCount()));
+    for (const KWTaskInfo *task : document.taskList())
+        before.push_back({task->Start, task->Finish});
+    settling::settle(document, {settling::AsItStands, {}, {}});
     const worktime::WorkCalendar &calendar = document.workCalendar();
-    std::vector<bool> hasOtherDates(std::size_t(document.taskCount()), false);
-    for (int pos = document.taskCount() - 1; pos >= 0; --pos) {
-        KWTaskInfo &task = *document.getTaskInfoAt(pos);
-        if (!task.isParent())
-            continue;
-        const quint32 start = task.Start;
-        const quint32 finish = task.Finish;
-        constexpr bool pushSuccessors = false;
-        collection.updateTaskTimeToChildsTask(&task, pushSuccessors);
-        hasOtherDates[std::size_t(pos)] = !shownmoment::isSame(calendar, start, task.Start) ||
-                                          !shownmoment::isSame(calendar, finish, task.Finish);
-    }
-    document.updateAllParentPercent();
     for (int pos = 0; pos < document.taskCount(); ++pos) {
         const KWTaskInfo &task = *document.getTaskInfoAt(pos);
-        if (hasOtherDates[std::size_t(pos)])
+        const Span &span = before[std::size_t(pos)];
+        if (task.isParent() && (!shownmoment::isSame(calendar, span.start, task.Start) ||
+                                !shownmoment::isSame(calendar, span.finish, task.Finish)))
             findings.add(Kind::SummaryDates, placeOf(task, pos));
         constexpr double whole = 100;
         constexpr double rounding = 1.01; // the file has whole numbers, cut or rounded
@@ -156,8 +154,6 @@ bool MSPDIDataEngine::importBytes(const QByteArray &bytes, const QString &place)
         m_projectStart = imported.start;
     keepMarks(*m_document, plan);
     followSubtasks(*m_document, plan, list);
-    m_document->updateAllTaskEarlyLate();
-    m_document->taskCollection()->updateRageAndTaskPoint();
 
     list.tell(m_findings);
     const double ours = m_document->getToltalCost();

@@ -1,6 +1,8 @@
 // Project XML: what files of other planners become, what is told of them, and that plans of ours come back.
 //
-// KW_MSPDI_PLANS says how many random plans are tried, KW_MSPDI_SEED where they begin.
+// KW_MSPDI_PLANS says how many random plans are tried, KW_MSPDI_SEED where they begin, KW_MSPDI_FOLDER where
+// their files stay for other programs. mspdi_check.py compares what becomes of whole files with another
+// reader.
 #include "engine/record/resource.h"
 #include "engine/time/shownmoment.h"
 #include "exchange/MSPDIDataEngine.h"
@@ -12,6 +14,7 @@
 #include "schedule/randomplan.h"
 #include "support/savedtext.h"
 #include <QBuffer>
+#include <QFile>
 #include <gtest/gtest.h>
 
 namespace {
@@ -193,6 +196,31 @@ const Case cases[] = {
      "1 A 01-05 08:00 01-06 17:00 2day\n2 B 01-05 08:00 01-06 17:00 2day Ann*1.00=16h Sand*3.00=0h\n",
      "task 1 \"A\": an assignment on a summary\ntask 2 \"B\": a resource is assigned\n: the file's costs of "
      "610.00 are 560.00\n"},
+    {"other writers: dates alone, lengths with days, codes for levels, hours without a flag, nobody as "
+     "another number",
+     "<CalendarUID>1</CalendarUID><Calendars><Calendar><UID>1</"
+     "UID><Exceptions><Exception><TimePeriod><FromDate>2026-01-10"
+     "</FromDate><ToDate>2026-01-10</ToDate></TimePeriod><WorkingTimes><WorkingTime><FromTime>08:00</"
+     "FromTime><ToTime>12:00"
+     "</ToTime></WorkingTime></WorkingTimes></Exception></Exceptions></Calendar></"
+     "Calendars><Tasks><Task><UID>1</UID><Name>A"
+     "</Name><WBS>1</WBS><Start>2026-01-09</Start><Finish>2026-01-10</Finish><Duration>P0Y0M0DT12H</"
+     "Duration></Task><Task>"
+     "<UID>2</UID><Name>B</Name><WBS>1.1</WBS><Start>2026-01-09</Start><Finish>2026-01-10</"
+     "Finish><Duration>PT12H0M0.0S"
+     "</Duration><Deadline>0001-01-01T00:00:00</Deadline><PercentComplete>120</PercentComplete></"
+     "Task><Task><Name>C</Name>"
+     "<WBS>2</WBS><Start>2026-01-09</Start><Finish>2026-01-09</Finish><Milestone>true</Milestone></Task></"
+     "Tasks><Resources>"
+     "<Resource><Name>P</Name></Resource><Resource><Name>Q</Name></Resource><Resource><UID>-65535</"
+     "UID><Name>Nobody</Name>"
+     "</Resource></Resources><Assignments><Assignment><TaskUID>2</TaskUID><ResourceUID>-65535</ResourceUID></"
+     "Assignment>"
+     "<Assignment><TaskUID>2</TaskUID><ResourceUID>-3</ResourceUID></Assignment></Assignments>",
+     "1 A 01-09 08:00 01-10 17:00 2day 100%\n2 B 01-09 08:00 01-10 17:00 2day 100%\n1 C 01-09 08:00 01-09 "
+     "08:00 0day "
+     "milestone\n",
+     "task 2 \"B\", 120 %: a percentage\n"},
     {"a level that is not said comes from the outline number; levels from 0 count from 1",
      "<Tasks>" + task(1, "2026-01-05T08:00", "2026-01-05T17:00", "<OutlineLevel>0</OutlineLevel>") +
          task(2, "2026-01-05T08:00", "2026-01-05T17:00", "<OutlineNumber>1</OutlineNumber>") + "</Tasks>",
@@ -384,6 +412,10 @@ TEST(ProjectXml, plansComeBackAndAreWrittenTheSame)
         EXPECT_TRUE(engine.findings().isEmpty()) << engine.findings().list().value(0).place.toStdString()
                                                  << engine.findings().list().value(0).what.toStdString();
         EXPECT_EQ(written(read), file);
+        if (qEnvironmentVariableIsSet("KW_MSPDI_FOLDER")) {
+            QFile kept(qEnvironmentVariable("KW_MSPDI_FOLDER") + QStringLiteral("/plan%1.xml").arg(i));
+            EXPECT_TRUE(kept.open(QIODevice::WriteOnly) && kept.write(file.data(), qint64(file.size())) > 0);
+        }
         EXPECT_NEAR(read.getToltalCost(), plan->getToltalCost(), 0.01 * plan->taskCount());
         for (int pos = 0; pos < plan->taskCount(); ++pos) {
             const KWTaskInfo &before = *plan->getTaskInfoAt(pos);

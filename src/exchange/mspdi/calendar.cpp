@@ -95,13 +95,13 @@ Hours commonest(const Week &week)
 
 bool isSameDay(const WeekDay &a, const WeekDay &b)
 {
-    return a.dayType == b.dayType && a.isWorking == b.isWorking && a.hours == b.hours && a.from == b.from &&
-           a.to == b.to;
+    return a.dayType == b.dayType && a.isWorking() == b.isWorking() && a.hours == b.hours &&
+           a.from == b.from && a.to == b.to;
 }
 
 bool isSameException(const Exception &a, const Exception &b)
 {
-    return a.type == b.type && a.from == b.from && a.to == b.to && a.isWorking == b.isWorking &&
+    return a.type == b.type && a.from == b.from && a.to == b.to && a.isWorking() == b.isWorking() &&
            a.hours == b.hours && a.occurrences == b.occurrences && a.period == b.period &&
            a.daysOfWeek == b.daysOfWeek && a.month == b.month && a.monthDay == b.monthDay &&
            a.monthItem == b.monthItem && a.monthPosition == b.monthPosition;
@@ -183,10 +183,10 @@ Week Calendars::weekOf(const Calendar &calendar, bool *runsOverMidnight) const
             const std::size_t weekday = std::size_t(weekdayOfType(day.dayType));
             if (std::exchange(isSaid[weekday], true))
                 continue;
-            week[weekday].isWorking = day.isWorking;
-            if (day.isWorking)
+            week[weekday].isWorking = day.isWorking();
+            if (day.isWorking())
                 week[weekday].hours = soundHours(day.hours, overMidnight);
-            if (day.isWorking && week[weekday].hours.empty())
+            if (day.isWorking() && week[weekday].hours.empty())
                 week[weekday].hours = officeHours();
         }
     }
@@ -248,7 +248,7 @@ WorkingTime Calendars::workingTime(const Dates &span) const
                 break;
             }
             recurringDates += std::size_t(each.last - each.first + 1);
-            add(each, exception.name, exception.isWorking, exception.hours);
+            add(each, exception.name, exception.isWorking(), exception.hours);
         }
         result.cutRecurring += isCut;
     };
@@ -269,7 +269,7 @@ WorkingTime Calendars::workingTime(const Dates &span) const
             else if (dates.empty())
                 ++result.spoilt;
             else if (dated++ < maxDated)
-                add(dates.front(), exception.name, exception.isWorking, exception.hours);
+                add(dates.front(), exception.name, exception.isWorking(), exception.hours);
             else
                 ++result.dropped;
         }
@@ -283,7 +283,7 @@ WorkingTime Calendars::workingTime(const Dates &span) const
             if (!each->exceptions.empty() && taken.hasAll(dates))
                 continue;
             if (dated++ < maxDated)
-                add(dates, QString(), day.isWorking, day.hours);
+                add(dates, QString(), day.isWorking(), day.hours);
             else
                 ++result.dropped;
         }

@@ -13,6 +13,7 @@ enum class Kind {
     // ---- Reading ------------------------------------------------------------------------------------------
     RepeatedList,
     SpoiltValue,
+    PercentOutside,
     RepeatedUid,
     UnknownCalendar,
     OtherHours,
@@ -41,6 +42,7 @@ enum class Kind {
     OtherLink,
     AcrossLink,
     LostLink,
+    RepeatedLink,
     Baselines,
     SummaryDates,
     SummaryPercent,

@@ -30,6 +30,11 @@ QString placeOf(const Task &task)
     return QStringLiteral("task %1 %2").arg(task.id >= 0 ? task.id : task.uid).arg(quoted(task.name));
 }
 
+int depthOf(const Task &task)
+{
+    return task.outlineDepth >= 0 ? task.outlineDepth : task.wbsDepth;
+}
+
 // The project itself stands among the tasks as the first of them, above their levels.
 bool isProjectItself(const Task &task)
 {
@@ -37,7 +42,7 @@ bool isProjectItself(const Task &task)
         return false;
     if (task.level)
         return *task.level <= 0;
-    return task.outlineDepth >= 0 ? task.outlineDepth == 0 : task.isSummary || task.isNull;
+    return depthOf(task) >= 0 ? depthOf(task) == 0 : task.isSummary || task.isNull;
 }
 
 bool isBlankRow(const Task &task)
@@ -132,6 +137,9 @@ public:
     {
     }
 
+    // A start without a time is that of its working day, a finish without one its end.
+    void completeStart(Moment &start) const { complete(start, m_first); }
+    void completeFinish(Moment &finish) const { complete(finish, m_last); }
     bool isEvening(const Moment &moment) const { return moment.minute == m_last && m_last > m_first; }
     bool isOutside(const Moment &start, bool isStart) const
     {
@@ -167,6 +175,14 @@ public:
     }
 
 private:
+    static void complete(Moment &moment, int minute)
+    {
+        constexpr int minutesPerDay = 24 * minutesPerHour;
+        if (!moment.isSet() || !moment.isDate)
+            return;
+        moment.day += minute / minutesPerDay;
+        moment.minute = minute % minutesPerDay;
+    }
     quint32 secs(LocalClock::Wall wall) const
     {
         return worktime::clampSecs(m_calendar.clock().moment(wall.day, wall.secs));
@@ -212,9 +228,11 @@ public:
             task(m_file.tasks[std::size_t(place)]);
         for (std::size_t i = 0; i < m_rows.size(); ++i)
             links(m_file.tasks[std::size_t(m_rows[i])], int(i));
+        m_findings.add(Kind::RepeatedLink, m_repeatedLinks);
         endWithPredecessors();
         if (!m_result.cost)
             m_result.cost = m_leafCost ? m_leafCost : m_assignedCost;
+        m_moments.completeStart(m_file.start);
         if (m_file.start.isSet())
             m_result.plan.start = staged::Moment::ofStored(m_moments.start(m_file.start));
         if (!m_calendars.isEmpty())
@@ -300,12 +318,12 @@ private:
         m_placeOfUid.reserve(int(m_rows.size()));
         for (std::size_t i = 0; i < m_rows.size(); ++i) {
             const Task &task = tasks[std::size_t(m_rows[i])];
-            if (m_placeOfUid.contains(task.uid)) {
-                if (task.uid != noUid)
-                    m_findings.add(Kind::RepeatedUid, placeOf(task));
+            if (task.uid == noUid)
                 continue;
-            }
-            m_placeOfUid.insert(task.uid, int(i));
+            if (m_placeOfUid.contains(task.uid))
+                m_findings.add(Kind::RepeatedUid, placeOf(task));
+            else
+                m_placeOfUid.insert(task.uid, int(i));
         }
         const int rows = int(m_rows.size());
         m_isSummary.assign(std::size_t(rows), false);
@@ -320,7 +338,7 @@ private:
     static int levelOf(const Task &task)
     {
         constexpr int deepest = 1000000;
-        return task.level ? std::clamp(*task.level, -deepest, deepest) : std::max(1, task.outlineDepth);
+        return task.level ? std::clamp(*task.level, -deepest, deepest) : std::max(1, depthOf(task));
     }
 
     // ---- Tasks --------------------------------------------------------------------------------------------
@@ -342,12 +360,17 @@ private:
         constexpr int whole = 100;
         info.setPercent(std::clamp(from.percent.value_or(0), 0, whole) / double(whole));
         if (from.percent && (*from.percent < 0 || *from.percent > whole))
-            m_findings.add(Kind::SpoiltValue,
-                           QStringLiteral("%1, PercentComplete '%2'").arg(placeOf(from)).arg(*from.percent));
+            m_findings.add(Kind::PercentOutside,
+                           QStringLiteral("%1, %2 %").arg(placeOf(from)).arg(*from.percent));
         const DurationFormat format =
             durationFormat(from.durationFormat > 0 ? from.durationFormat : m_file.durationFormat);
         info.DurationUnits = format.unit;
         to.hasUnit = true;
+        const bool isOneDate = from.start.isDate && from.finish.isDate && from.start == from.finish;
+        m_moments.completeStart(from.start);
+        m_moments.completeFinish(from.finish);
+        if (isOneDate && (from.isMilestone.value_or(false) || from.minutes.value_or(1) == 0))
+            from.finish = from.start;
         hyperlink(from, info);
         byHand(from, info);
         if (from.baseline)
@@ -395,8 +418,10 @@ private:
         note("Duration: ", from.durationText);
     }
 
-    void baseline(const Baseline &from, staged::Task &to)
+    void baseline(Baseline &from, staged::Task &to)
     {
+        m_moments.completeStart(from.start);
+        m_moments.completeFinish(from.finish);
         if (from.start.isSet() && from.finish.isSet()) {
             to.moments[staged::BaseStart] = staged::Moment::ofStored(m_moments.start(from.start));
             to.moments[staged::BaseFinish] = staged::Moment::ofStored(m_moments.finish(from.finish));
@@ -449,7 +474,9 @@ private:
         to.isMilestone = kept.isMilestone;
         if (from.start.isSet() && hasFinish)
             return;
-        if (from.start.state == Moment::None && from.finish.state == Moment::None)
+        // One of them and the length say both.
+        const bool hasOne = (from.start.isSet() || from.finish.isSet()) && from.minutes;
+        if (!hasOne && from.start.state != Moment::Spoilt && from.finish.state != Moment::Spoilt)
             m_findings.add(Kind::NoDates, placeOf(from));
         const auto unit = duration::Unit(to.task->DurationUnits);
         if (durationFormat(from.durationFormat).isElapsed && from.minutes && from.start.isSet())
@@ -558,8 +585,10 @@ private:
             }
             if (link.lag > 0)
                 say(Kind::LagKept);
-            if (made.contains(predecessor))
+            if (made.contains(predecessor)) {
+                ++m_repeatedLinks;
                 continue;
+            }
             made.insert(predecessor);
             m_result.plan.links.push_back({predecessor, place});
         }
@@ -584,21 +613,26 @@ private:
     void resources()
     {
         std::vector<std::unique_ptr<ResourceInfo>> infos;
-        QSet<QString> names;
+        QHash<QString, int> names; // with the number that the next one of the name gets
         QSet<qint32> ids;
         qint32 nextId = 1;
         for (const Resource &from : m_file.resources) {
             const QString given = from.name.trimmed();
-            if (from.isNull || (from.uid <= 0 && given.isEmpty()) || m_resources.contains(from.uid))
+            if (from.isNull || isNobody(from.uid) || (from.uid <= 0 && given.isEmpty()))
                 continue;
             auto info = std::make_unique<ResourceInfo>();
-            info->name = given.isEmpty() ? QStringLiteral("Resource %1").arg(from.uid) : given;
-            for (int number = 2; names.contains(info->name); ++number)
-                info->name = (given.isEmpty() ? QStringLiteral("Resource") : given) +
-                             QStringLiteral(" %1").arg(number);
-            names.insert(info->name);
+            const QString wanted = given.isEmpty() ? QStringLiteral("Resource %1").arg(from.uid) : given;
+            info->name = wanted;
+            for (int number = names.value(wanted, 1); names.contains(info->name);) {
+                info->name = wanted + QStringLiteral(" %1").arg(++number);
+                names[wanted] = number;
+            }
+            names.insert(info->name, 1);
             if (info->name != given)
                 m_findings.add(Kind::RenamedResource, quoted(info->name));
+            const bool isTaken = from.uid != noUid && m_resources.contains(from.uid);
+            if (isTaken)
+                m_findings.add(Kind::RepeatedUid, QStringLiteral("resource ") + quoted(info->name));
             const bool hasId = from.uid > 0 && from.uid < std::numeric_limits<qint32>::max() &&
                                !ids.contains(qint32(from.uid));
             while (!hasId && ids.contains(nextId))
@@ -606,8 +640,9 @@ private:
             info->ID = hasId ? qint32(from.uid) : nextId;
             ids.insert(info->ID);
             fill(from, *info);
-            m_resources.insert(from.uid, {info->name, !resourcetypes::isWork(info->type),
-                                          from.calendar != noUid && m_calendars.differs(from.calendar)});
+            if (from.uid != noUid && !isTaken)
+                m_resources.insert(from.uid, {info->name, !resourcetypes::isWork(info->type),
+                                              from.calendar != noUid && m_calendars.differs(from.calendar)});
             infos.push_back(std::move(info));
         }
         m_result.plan.resources = std::move(infos);
@@ -649,45 +684,74 @@ private:
     }
 
     // ---- Assignments --------------------------------------------------------------------------------------
+    static bool isNobody(qint64 resource) { return resource == noResource || resource == noResourceOld; }
+    static const char *spreadBy(const Assignment &assignment)
+    {
+        return assignment.contour != 0       ? "a contour"
+               : assignment.delay != 0       ? "a delay"
+               : assignment.overtimeWork > 0 ? "overtime"
+               : assignment.hasTimephased    ? "day by day"
+                                             : nullptr;
+    }
+    // Once for each task.
+    void tellOfSpread()
+    {
+        QHash<qint64, const char *> spread;
+        const auto add = [&spread](qint64 task, const char *by) {
+            const char *&known = spread[task];
+            known = known ? known : by;
+        };
+        for (const Assignment &assignment : m_file.assignments) {
+            const char *const by = spreadBy(assignment);
+            if (by && assignment.task >= 0)
+                add(assignment.task, by);
+        }
+        for (const Task &task : m_file.tasks) {
+            if (task.hasTimephased)
+                add(task.uid, "day by day");
+            const char *const by = spread.value(task.uid, nullptr);
+            if (by)
+                m_findings.add(Kind::Spread,
+                               m_findings.wantsPlace(Kind::Spread)
+                                   ? QStringLiteral("%1 (%2)").arg(placeOf(task), QLatin1String(by))
+                                   : QString());
+        }
+    }
     void assignments()
     {
+        tellOfSpread();
         QHash<QPair<int, qint64>, std::size_t> known;
-        QSet<qint64> spread; // tasks that are told of
         std::vector<staged::Assignment> &list = m_result.plan.assignments;
         for (const Assignment &from : m_file.assignments) {
             const int place = m_placeOfUid.value(from.task, -1);
-            const QString at = place < 0 ? QStringLiteral("assignment %1").arg(from.uid)
-                                         : placeOf(m_file.tasks[std::size_t(m_rows[std::size_t(place)])]);
-            const bool isSpread =
-                from.hasTimephased || from.contour != 0 || from.delay != 0 || from.overtimeWork > 0;
-            if (isSpread && !spread.contains(from.task)) {
-                m_findings.add(Kind::Spread, at);
-                spread.insert(from.task);
-            }
+            const auto say = [&](Kind kind) {
+                const QString at = place < 0 ? QStringLiteral("assignment %1").arg(from.uid)
+                                             : placeOf(m_file.tasks[std::size_t(m_rows[std::size_t(place)])]);
+                m_findings.add(kind, m_findings.wantsPlace(kind) ? at : QString());
+            };
             if (from.cost)
                 m_assignedCost = m_assignedCost.value_or(0) + *from.cost;
             const auto resource = m_resources.constFind(from.resource);
-            const bool isNobody =
-                from.resource < 0 || (from.resource == 0 && resource == m_resources.constEnd());
-            if (isNobody)
+            // Some write nobody as another number that no resource has.
+            if (resource == m_resources.constEnd() && from.resource <= 0)
                 continue;
             if (place < 0 || resource == m_resources.constEnd()) {
-                // The project itself and blank rows have rows of assignments, too.
+                // The project itself has rows of assignments, too.
                 if (from.task != 0 || resource == m_resources.constEnd())
-                    m_findings.add(Kind::LostAssignment, at);
+                    say(Kind::LostAssignment);
                 continue;
             }
             if (m_isSummary[std::size_t(place)]) {
-                m_findings.add(Kind::OnSummary, at);
+                say(Kind::OnSummary);
                 continue;
             }
             if (from.rateTable != 0)
-                m_findings.add(Kind::MoreRates, at);
+                say(Kind::MoreRates);
             m_hasOtherWorkers[std::size_t(place)] =
                 m_hasOtherWorkers[std::size_t(place)] || resource->hasOwnTime;
             const auto twin = known.constFind({place, from.resource});
             if (twin != known.constEnd()) {
-                m_findings.add(Kind::JoinedAssignment, at);
+                say(Kind::JoinedAssignment);
                 join(list[*twin], from);
                 continue;
             }
@@ -732,6 +796,7 @@ private:
     QSet<qint64> m_externals; // UIDs
     QHash<qint64, KnownResource> m_resources;
     int m_levelShift = 0;
+    int m_repeatedLinks = 0;
     std::optional<double> m_leafCost;
     std::optional<double> m_assignedCost;
     PlanOfFile m_result;

@@ -438,7 +438,7 @@ private:
     {
         const QVector<const ResourceInfo *> infos = allResources();
         QSet<qint64> taken;
-        QSet<QString> names;
+        QHash<QString, int> names; // with the number that the next one of the name gets
         const auto isGood = [](const ResourceInfo &info) { return info.ID > 0 && info.ID < uidLimit; };
         for (const ResourceInfo *info : infos) {
             if (isGood(*info))
@@ -460,10 +460,13 @@ private:
             }
             used.insert(row.uid);
             const QString clean = cleanName(info->name, QStringLiteral("[],"), maxNameUnits);
-            row.name = clean.isEmpty() ? QStringLiteral("Resource %1").arg(row.number) : clean;
-            for (int number = 2; names.contains(row.name); ++number)
-                row.name = clean + QStringLiteral(" %1").arg(number);
-            names.insert(row.name);
+            const QString wanted = clean.isEmpty() ? QStringLiteral("Resource %1").arg(row.number) : clean;
+            row.name = wanted;
+            for (int number = names.value(wanted, 1); names.contains(row.name);) {
+                row.name = wanted + QStringLiteral(" %1").arg(++number);
+                names[wanted] = number;
+            }
+            names.insert(row.name, 1);
             if (row.name != info->name.trimmed())
                 m_findings.add(Kind::NameChanged,
                                QStringLiteral("resource \"%1\"").arg(info->name.simplified()));

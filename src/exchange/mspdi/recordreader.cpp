@@ -195,8 +195,8 @@ private:
     {
         to = value(minutes);
         constexpr double most = 136.0 * 366 * 24 * 60; // all time that there is
-        if (to && *to > most) {
-            spoil("a length beyond all dates");
+        if (to && (*to > most || *to < 0)) {
+            spoil(*to < 0 ? "a negative length" : "a length beyond all dates");
             to.reset();
         }
     }
@@ -266,7 +266,7 @@ private:
     {
         static const Elements<WeekDay> elements = sorted<WeekDay>({
             {"DayType", field<&WeekDay::dayType>},
-            {"DayWorking", field<&WeekDay::isWorking>},
+            {"DayWorking", field<&WeekDay::works>},
             {"TimePeriod", period<WeekDay>},
             {"WorkingTimes", workingTimes<WeekDay>},
         });
@@ -294,7 +294,7 @@ private:
     static void exceptions(RecordReader &reader, Calendar &calendar)
     {
         static const Elements<Exception> elements = sorted<Exception>({
-            {"DayWorking", field<&Exception::isWorking>},
+            {"DayWorking", field<&Exception::works>},
             {"DaysOfWeek", field<&Exception::daysOfWeek>},
             {"EnteredByOccurrences", field<&Exception::countsOccurrences>},
             {"Month", field<&Exception::month>},
@@ -352,13 +352,15 @@ private:
     }
 
     // ---- Tasks --------------------------------------------------------------------------------------------
+    // Codes of one's own may stand in place of numbers, and tell no depth.
+    template <int Task::*depth>
     static void outlineNumber(RecordReader &reader, Task &task)
     {
         const std::string_view found = reader.text();
-        if (isEmpty(found))
+        if (isEmpty(found) || found.find_first_not_of("0123456789. \t\r\n") != found.npos)
             return;
         constexpr int deepest = 1000000;
-        task.outlineDepth =
+        task.*depth =
             found == "0"
                 ? 0
                 : 1 + int(std::min<std::ptrdiff_t>(deepest, std::count(found.begin(), found.end(), '.')));
@@ -415,7 +417,6 @@ private:
             {"Active", field<&Task::isActive>},
             {"Baseline", baseline, true},
             {"CalendarUID", field<&Task::calendar>},
-            {"ConstraintDate", field<&Task::constraintDate>},
             {"ConstraintType", field<&Task::constraint>},
             {"Cost", field<&Task::cost>},
             {"Deadline", field<&Task::deadline>},
@@ -426,7 +427,6 @@ private:
             {"ExternalTask", field<&Task::isExternal>},
             {"Finish", field<&Task::finish>},
             {"FinishText", field<&Task::finishText>},
-            {"FixedCost", field<&Task::fixedCost>},
             {"Hyperlink", field<&Task::hyperlink>},
             {"HyperlinkAddress", field<&Task::hyperlinkAddress>},
             {"HyperlinkSubAddress", field<&Task::hyperlinkSubAddress>},
@@ -439,7 +439,7 @@ private:
             {"Notes", field<&Task::notes>},
             {"OutlineCode", custom<Task>, true},
             {"OutlineLevel", field<&Task::level>},
-            {"OutlineNumber", outlineNumber},
+            {"OutlineNumber", outlineNumber<&Task::outlineDepth>},
             {"PercentComplete", field<&Task::percent>},
             {"PredecessorLink", predecessor, true},
             {"Priority", field<&Task::priority>},
@@ -449,6 +449,7 @@ private:
             {"Summary", field<&Task::isSummary>},
             {"TimephasedData", timephased<Task>, true},
             {"UID", field<&Task::uid>},
+            {"WBS", outlineNumber<&Task::wbsDepth>},
         });
         return elements;
     }

@@ -27,7 +27,8 @@ using Hours = std::vector<Interval>;
 struct WeekDay
 {
     int dayType = -1; // 1 Sunday .. 7 Saturday, 0 dates
-    bool isWorking = false;
+    std::optional<bool> works;
+    bool isWorking() const { return works.value_or(!hours.empty()); }
     Hours hours;
     Moment from;
     Moment to;
@@ -40,7 +41,8 @@ struct Exception
     int type = 1; // 1 every day from first to last, 2 to 7 recurring, see recurrence.h
     Moment from;
     Moment to;
-    bool isWorking = false;
+    std::optional<bool> works;
+    bool isWorking() const { return works.value_or(!hours.empty()); }
     Hours hours;
     bool countsOccurrences = false; // ends after so many of them, else with `to`
     qint64 occurrences = 0;
@@ -90,6 +92,7 @@ struct Task
     bool isNull = false;
     std::optional<int> level;
     int outlineDepth = -1; // of the outline number: 0 for "0", 2 for "1.4"; -1 without one
+    int wbsDepth = -1;     // the same of a code that is a number like it
     Moment start;
     Moment finish;
     std::optional<double> minutes; // the length
@@ -103,12 +106,10 @@ struct Task
     bool isSubproject = false;
     bool isSummary = false;
     int constraint = AsSoonAsPossible;
-    Moment constraintDate;
     Moment deadline;
     qint64 calendar = noUid;
     std::optional<int> priority;
     std::optional<double> cost;
-    std::optional<double> fixedCost;
     QString notes;
     QString startText; // what a manual task shows in place of a date
     QString finishText;

@@ -71,6 +71,8 @@ Moment moment(std::string_view text)
     // The last years of the clock are left to tasks that are moved there.
     constexpr int firstYear = 1970;
     constexpr int lastYear = 2105;
+    if (year == 1 && month == 1 && dayOfMonth == 1)
+        result.state = Moment::None;
     if (!date.isValid() || year < firstYear || year > lastYear)
         return result;
     int minute = 0;
@@ -78,6 +80,8 @@ Moment moment(std::string_view text)
         minute = takeTime(text);
     else if (!text.empty() && text.front() != 'Z' && text.front() != '+')
         return result;
+    else
+        result.isDate = true;
     if (minute < 0)
         return result;
     const bool isEndOfDay = minute == minutesPerDay;
@@ -125,7 +129,7 @@ std::optional<double> real(std::string_view text)
 std::optional<bool> flag(std::string_view text)
 {
     text = trimmed(text);
-    if (text == "1" || text == "true" || text == "True" || text == "TRUE")
+    if (text == "1" || text == "-1" || text == "true" || text == "True" || text == "TRUE")
         return true;
     if (text == "0" || text == "false" || text == "False" || text == "FALSE")
         return false;
@@ -144,8 +148,8 @@ std::optional<double> minutes(std::string_view text)
         bool isTime;
         double minutes;
     };
-    static constexpr Unit units[] = {
-        {'D', false, minutesPerDay}, {'H', true, 60}, {'M', true, 1}, {'S', true, 1.0 / 60}};
+    static constexpr Unit units[] = {{'Y', false, 0}, {'M', false, 0}, {'D', false, minutesPerDay},
+                                     {'H', true, 60}, {'M', true, 1},  {'S', true, 1.0 / 60}};
     const Unit *next = units;
     bool isTime = false;
     bool hasAny = false;
@@ -165,6 +169,9 @@ std::optional<double> minutes(std::string_view text)
         if (next == std::end(units))
             return std::nullopt;
         text.remove_prefix(1);
+        // No number of days is that of every month.
+        if (next->minutes == 0 && amount != 0)
+            return std::nullopt;
         sum += amount * next->minutes;
         ++next;
         hasAny = true;
