@@ -6,7 +6,7 @@ usage: mspdi_check.py KWGANTT READER.py FILE.xml...
 READER.py prints a file as JSON (a module with read(path)). Every task, link, resource and assignment has to be
 there, and the findings have to be those that follow from the file: none is missing, none is more.
 """
-import datetime, importlib.util, json, re, subprocess, sys
+import datetime, importlib.util, json, re, subprocess, sys, tempfile
 
 D = datetime.datetime
 WEEK = ['Mon', 'Tue', 'Wed', 'Thu', 'Fri', 'Sat', 'Sun']
@@ -163,9 +163,10 @@ def check(program, reader, path):
     if shown.returncode != 0:
         return [shown.stderr]
     plan = json.loads(shown.stdout)
-    again = '/tmp/mspdi_check.xml'
-    subprocess.run([program, 'convert', '-q', '--force', path, again], check=True)
-    back = reader.read(again)
+    with tempfile.TemporaryDirectory() as folder:
+        again = folder + '/again.xml'
+        subprocess.run([program, 'convert', '-q', path, again], check=True)
+        back = reader.read(again)
     written = rows_of(back)
     same('tasks', len(plan['tasks']), len(rows))
     lowest = min(map(level, rows), default=1)

@@ -49,7 +49,12 @@ public:
         if (!text.isEmpty())
             put(text);
     }
-    void putMoney(double money) { put(std::round(money * hundredths * hundredths) / hundredths); }
+    // Sums that differ by what rounding left are the same amount, halves of the last digit, too.
+    void putMoney(double money)
+    {
+        constexpr double roundingError = 1e-6;
+        put(std::floor(money * hundredths * hundredths + 0.5 + roundingError) / hundredths);
+    }
     void putMoment(LocalClock::Wall wall)
     {
         // The last moment of a day of 24 hours is the first one of the next.
