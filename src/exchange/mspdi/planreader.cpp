@@ -389,13 +389,14 @@ private:
 
     void hyperlink(const Task &from, KWTaskInfo &info)
     {
-        if (from.hyperlinkAddress.isEmpty() && from.hyperlinkSubAddress.isEmpty())
+        if (from.hyperlinkAddress.trimmed().isEmpty() && from.hyperlinkSubAddress.trimmed().isEmpty())
             return;
         auto *link = new KWHyperlink;
         link->ID = 1;
-        link->name = from.hyperlink.isEmpty() ? QStringLiteral("Hyperlink1") : from.hyperlink;
-        link->address = from.hyperlinkAddress;
-        link->subAddress = from.hyperlinkSubAddress;
+        const QString title = from.hyperlink.trimmed();
+        link->name = title.isEmpty() ? QStringLiteral("Hyperlink1") : title;
+        link->address = from.hyperlinkAddress.trimmed();
+        link->subAddress = from.hyperlinkSubAddress.trimmed();
         link->type = KWHyperlink::hyperlinkType(link->address);
         info.hyperlinks.appendHyperlink(link);
     }
@@ -669,8 +670,8 @@ private:
         rate(from.standardRate, from.standardFormat, info.cost, info.costUnit);
         rate(from.overtimeRate, from.overtimeFormat, info.overtimeCost, info.overtimeUnit);
         info.costPer = from.costPerUse.value_or(0) / hundredths;
-        info.group = from.group;
-        info.email = from.email;
+        info.group = from.group.trimmed();
+        info.email = from.email.trimmed();
         info.notes = from.notes;
         const auto say = [&](bool isSo, Kind kind) {
             if (isSo)
