@@ -237,6 +237,10 @@ void CairoPainter::stroke(const KWLineFormat &line)
 {
     setColor(line.color.color());
     cairo_set_line_width(m_context, line.width);
+    // As in SVG. With cairo's own limit an outline might reach out of the clip that its fill keeps within,
+    // and the two would be written as two paths.
+    constexpr double miterLimit = 4;
+    cairo_set_miter_limit(m_context, miterLimit);
     cairo_set_line_cap(m_context, line.cap == KWLineFormat::RoundCap    ? CAIRO_LINE_CAP_ROUND
                                   : line.cap == KWLineFormat::SquareCap ? CAIRO_LINE_CAP_SQUARE
                                                                         : CAIRO_LINE_CAP_BUTT);

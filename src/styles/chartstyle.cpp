@@ -259,7 +259,6 @@ void Sheet::makeMarks(const Inks &inks)
 
     const auto link = [&](Role role, const QColor &color, double width) {
         KWLineFormat line(color, width);
-        line.join = KWLineFormat::RoundJoin;
         line.end.type = KWArrowHead::Triangle;
         line.end.length = line.end.width = arrowPixels / width;
         at(role).line = line;
