@@ -4,34 +4,31 @@
 namespace {
 constexpr const char *typeNames[] = {"none", "solid", "gradient", "hatch"};
 constexpr double maxSpacing = 1000; // pixels
+
+KWPaint paintOf(KWPaint::Type type, const KWColor &color, const KWColor &other, double angle)
+{
+    KWPaint paint;
+    paint.type = type;
+    paint.color = color;
+    paint.otherColor = other;
+    paint.angle = angle;
+    return paint;
+}
 }
 
 KWPaint KWPaint::solid(const KWColor &color)
 {
-    KWPaint paint;
-    paint.type = Solid;
-    paint.color = color;
-    return paint;
+    return paintOf(Solid, color, KWColor(), KWPaint().angle);
 }
 
 KWPaint KWPaint::gradient(const KWColor &from, const KWColor &to, double angle)
 {
-    KWPaint paint;
-    paint.type = Gradient;
-    paint.color = from;
-    paint.otherColor = to;
-    paint.angle = angle;
-    return paint;
+    return paintOf(Gradient, from, to, angle);
 }
 
 KWPaint KWPaint::hatch(const KWColor &lines, const KWColor &ground, double angle)
 {
-    KWPaint paint;
-    paint.type = Hatch;
-    paint.color = lines;
-    paint.otherColor = ground;
-    paint.angle = angle;
-    return paint;
+    return paintOf(Hatch, lines, ground, angle);
 }
 
 void KWPaint::saveTo(QDomElement &parent, const char *element) const

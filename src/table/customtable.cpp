@@ -178,15 +178,18 @@ int CustomTable::rowAtY(double y) const
     return std::min(int(std::ceil((y - headBottom()) / (resourceHeight * m_scale))), rowCount()) - 1;
 }
 
+RowPlace CustomTable::placeOf(int row) const
+{
+    return {row, rowTop(row), rowBottom(row)};
+}
+
 TableRow CustomTable::taskRow(int row) const
 {
     TableRow found;
     const KWTaskInfo *task = m_document && m_kind == Tasks ? m_document->getTaskInfoByRow(row) : nullptr;
     if (!task)
         return found;
-    found.row = row;
-    found.top = rowTop(row);
-    found.bottom = rowBottom(row);
+    static_cast<RowPlace &>(found) = placeOf(row);
     found.task = task;
     return found;
 }
@@ -198,9 +201,7 @@ ResourceTableRow CustomTable::resourceRow(int row) const
         m_document && m_kind == Resources ? m_document->resourceInfoData()->getResourceInfoAt(row) : nullptr;
     if (!resource)
         return found;
-    found.row = row;
-    found.top = rowTop(row);
-    found.bottom = rowBottom(row);
+    static_cast<RowPlace &>(found) = placeOf(row);
     found.resource = resource;
     return found;
 }
@@ -210,8 +211,7 @@ Cell CustomTable::cell(int row, int column) const
     return m_kind == Tasks ? cell(taskRow(row), column) : cell(resourceRow(row), column);
 }
 
-template <typename Row>
-Cell CustomTable::emptyCell(const Row &row, int column) const
+Cell CustomTable::emptyCell(const RowPlace &row, int column) const
 {
     const HeadItem &head = m_heads[std::size_t(column)];
     Cell cell;

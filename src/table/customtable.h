@@ -46,26 +46,27 @@ public:
     Fold fold = NoFold;
 };
 
-// One row of the table of tasks.
-class KWGANTT_EXPORT TableRow
+// Where a row stands.
+struct RowPlace
 {
-public:
-    int row = -1; // as RowColumnData counts them
+    int row = -1; // of tasks as RowColumnData counts them, of resources the place in the sheet
     double top = 0;
     double bottom = 0;
-    const KWTaskInfo *task = nullptr; // the document's
     double height() const { return bottom - top; }
 };
 
-// One row of the table of resources; `row` is the place in the sheet.
-class KWGANTT_EXPORT ResourceTableRow
+// One row of the table of tasks.
+class KWGANTT_EXPORT TableRow : public RowPlace
 {
 public:
-    int row = -1;
-    double top = 0;
-    double bottom = 0;
+    const KWTaskInfo *task = nullptr; // the document's
+};
+
+// One row of the table of resources.
+class KWGANTT_EXPORT ResourceTableRow : public RowPlace
+{
+public:
     const ResourceInfo *resource = nullptr; // the document's
-    double height() const { return bottom - top; }
 };
 
 // The geometry of a table as exports draw it: what is where, and what stands in it.
@@ -124,8 +125,8 @@ private:
     CustomTable(KWDocument *document, Kind kind);
     void addTaskColumn(int type, const QString &title, double width);
     void add(HeadItem head);
-    template <typename Row>
-    Cell emptyCell(const Row &row, int column) const;
+    RowPlace placeOf(int row) const;
+    Cell emptyCell(const RowPlace &row, int column) const;
 
     KWDocument *m_document; // not owned; may be null
     Kind m_kind;
