@@ -89,7 +89,7 @@ class Browser:
         self.call("Input.dispatchKeyEvent", type="keyUp", key=key)
 
     def media(self, **features):
-        medium = features.pop("medium", "screen")
+        medium = features.pop("medium", "")  # the browser's own: paper when it prints
         self.call("Emulation.setEmulatedMedia", media=medium,
                   features=[{"name": name.replace("_", "-"), "value": value} for name, value in features.items()])
 

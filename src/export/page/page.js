@@ -25,7 +25,7 @@ function labelOf(r) { // beside its bar
   if (r.start < 0 || plan.labels === 'none' || r.flags & SUMMARY) return '';
   const first = date(r.start), last = date(Math.max(r.finish - 1, r.start));
   if (r.flags & MILESTONE) return last;
-  if (plan.labels === 'resources') return r.cells[plan.resources];
+  if (plan.labels === 'resources') return r.cells[plan.resources].replace(/\s*;\s*/g, ', ');
   return first === last ? first : first + ' – ' + last;
 }
 rows.forEach(r => { r.label = labelOf(r); });
@@ -387,11 +387,11 @@ function measureColumns() {
   const step = Math.max(1, Math.floor(rows.length / 1000));
   plan.cols.forEach((c, at) => {
     let need = measure(c.title, BOLD);
-    for (let i = 0; i < rows.length; i += step) {
+    for (let i = rows.length - 1; i >= 0; i -= step) { // the last row has the longest number
       const r = rows[i], indent = at === plan.name ? 22 + Math.min(r.level - 1, 8) * 16 : 0;
       need = Math.max(need, measure(r.cells[at].slice(0, 200), r.flags & SUMMARY ? BOLD : TEXT) + indent);
     }
-    const column = {at, title: c.title, right: c.right, width: Math.ceil(Math.max(40, Math.min(c.width, need + 22)))};
+    const column = {at, title: c.title, right: c.right, width: Math.ceil(Math.max(40, Math.min(at ? c.width : 99, need + 22)))};
     if (at === plan.name) namesWidth = column.width;
     else if (c.shown && at < named && at === 0 && c.right) numbered.push(column);
     else if (c.shown) others.push(column);
