@@ -1,0 +1,389 @@
+#include "documents/session.h"
+#include "console.h"
+#include "editing/kwopeaction.h"
+#include "edits/planreasons.h"
+#include "edits/settle.h"
+#include "format/unitutil.h"
+#include "kwpxfile.h"
+#include "kwzip.h"
+#include "model/kwtaskinfo.h"
+#include "planfile.h"
+#include "schedule/kwtaskcollection.h"
+#include "support/kwclock.h"
+#include "table/rowcolumndata.h"
+#include <QDir>
+#include <QFileInfo>
+#include <QLockFile>
+
+namespace {
+
+constexpr unsigned int day = 4;
+
+// The words of a reader, without those that are meant for a terminal.
+QString plainError(const QByteArray &said)
+{
+    QStringList lines;
+    for (QString line : QString::fromUtf8(said).split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        line = line.trimmed();
+        if (line.startsWith(QLatin1String("kwgantt: ")))
+            line = line.mid(int(sizeof "kwgantt: ") - 1);
+        // An option of the command line is no help here.
+        if (line.startsWith(QLatin1String("hint: ")) && line.contains(QLatin1String("--")))
+            continue;
+        lines.append(line);
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+// A plan that brings no table of its own gets one that leaves room for the chart.
+void narrowColumns(KWDocument &document)
+{
+    const struct
+    {
+        int type;
+        double pixels; // at 96 dpi
+    } widths[] = {{1, 230}, {2, 92}, {3, 92}, {4, 72}, {5, 76}, {7, 150}};
+    for (const auto &[type, pixels] : widths)
+        if (RowColumnData::ColumnData *column =
+                document.rowColumnData()->getColumnDataByName(RowColumnData::s_columnNames.value(type)))
+            column->width = pixels * UnitUtil::dpiScale96();
+}
+}
+
+Session::Session(QObject *parent)
+    : QObject(parent)
+    , m_plan(std::make_unique<Plan>())
+{
+}
+
+Session::~Session()
+{
+    dropTrial();
+}
+
+// ---- Files ------------------------------------------------------------------------------------------------
+
+bool Session::open(const QString &path, QString &error)
+{
+    auto plan = std::make_unique<Plan>();
+    KWDocument &document = *plan->document;
+    Findings findings;
+    const bool isPackage = kwpxfile::isPackage(path);
+    if (isPackage) {
+        // Straight, without what the command line keeps beside a document.
+        if (!document.loadFromKWGT(path)) {
+            const QString why = KWZip::lastError();
+            error = tr("%1 is no plan: %2")
+                        .arg(QFileInfo(path).fileName(), why.isEmpty() ? tr("it cannot be read") : why);
+            return false;
+        }
+        for (const Finding &finding : document.loadFindings().list())
+            findings.add(finding.place, finding.what, finding.hint);
+        plan->file = path;
+        plan->isPackage = true;
+        plan->start = plan::firstStart(*plan);
+        for (const KWTaskInfo *task : document.taskList())
+            plan->withoutStart += task->Start == 0 && !task->isParent();
+    } else {
+        QByteArray out, said;
+        Console console(Console::Surroundings(), &out, &said);
+        console.follow(Options());
+        if (planfile::load(path, console, *plan, findings) != Console::Done) {
+            error = plainError(said);
+            return false;
+        }
+        plan->rows = planrows::Rows();
+        document.setFileName(QFileInfo(path).completeBaseName());
+    }
+    const int withoutStart = plan->withoutStart;
+    if (withoutStart > 0)
+        plan::schedule(*plan, plan::AsGiven, nullptr);
+    settling::settle(document, {settling::AsItStands, {}, {}});
+    if (!isPackage)
+        narrowColumns(document);
+    document.actionManager().prepareReplacement(); // opening is no step
+    document.setModified(withoutStart > 0);
+    m_findings = findings;
+    m_withoutStart = withoutStart;
+    m_source = QFileInfo(path).absoluteFilePath();
+    m_path = isPackage ? m_source : QString();
+    take(std::move(plan));
+    return true;
+}
+
+bool Session::openCopy(const recovery::Copy &copy, QString &error)
+{
+    if (!open(copy.file, error))
+        return false;
+    document().setFilePath(copy.original, QString());
+    document().setFileName(copy.name);
+    document().setModified(true);
+    m_path = m_source = copy.original;
+    take(std::move(m_plan));
+    // Only now that this session keeps a copy of its own.
+    keepCopy();
+    recovery::discard(copy);
+    return true;
+}
+
+void Session::startAnew()
+{
+    auto plan = std::make_unique<Plan>();
+    KWDocument &document = *plan->document;
+    document.setFileName(tr("Untitled"));
+    {
+        PlanEdits edits(document, tr("Begin"));
+        const QDate today = KWClock::now().date();
+        const QDateTime monday(today.addDays(8 - today.dayOfWeek()), QTime(0, 0));
+        QVector<quint32> chain;
+        const std::pair<QString, double> tasks[] = {
+            {tr("First task"), 3}, {tr("Next task"), 2}, {tr("Done"), 0}};
+        for (const auto &[name, days] : tasks) {
+            TaskValues values;
+            values.name = name;
+            values.start = quint32(monday.toSecsSinceEpoch());
+            values.length = TaskLength{days, day};
+            chain += edits.add(values).tasks;
+        }
+        edits.link(chain);
+    }
+    narrowColumns(document);
+    document.actionManager().prepareReplacement();
+    document.setModified(false);
+    m_findings.clear();
+    m_withoutStart = 0;
+    m_path.clear();
+    m_source.clear();
+    take(std::move(plan));
+}
+
+void Session::take(std::unique_ptr<Plan> plan)
+{
+    m_trial.reset();
+    m_lock.reset();
+    m_otherUser.clear();
+    m_barsAreOld = false;
+    m_plan.swap(plan);
+    if (m_plan->document->backupName().isEmpty())
+        m_plan->document->setFileName(name());
+    m_copy.own(*m_plan->document);
+    rememberFile();
+    lockFile();
+    Q_EMIT replaced();
+    Q_EMIT stateChanged();
+}
+
+// Others are told, not kept out: a file server may keep a lock of somebody who is long gone.
+void Session::lockFile()
+{
+    m_lock.reset();
+    m_otherUser.clear();
+    if (m_path.isEmpty())
+        return;
+    const QFileInfo info(m_path);
+    m_lock = std::make_unique<QLockFile>(
+        info.dir().filePath(QLatin1String(".~lock.") + info.fileName() + QLatin1Char('#')));
+    m_lock->setStaleLockTime(0);
+    if (m_lock->tryLock(0) || m_lock->error() != QLockFile::LockFailedError)
+        return;
+    qint64 process = 0;
+    QString host, program;
+    m_lock->getLockInfo(&process, &host, &program);
+    m_otherUser = tr("%1 on %2").arg(program.isEmpty() ? tr("another program") : program, host);
+}
+
+void Session::rememberFile()
+{
+    const QFileInfo info(m_path);
+    m_fileTime = m_path.isEmpty() ? QDateTime() : info.lastModified();
+    m_fileBytes = m_path.isEmpty() ? -1 : info.size();
+}
+
+bool Session::wasChangedMeanwhile() const
+{
+    if (m_path.isEmpty())
+        return false;
+    const QFileInfo info(m_path);
+    return info.exists() && (info.lastModified() != m_fileTime || info.size() != m_fileBytes);
+}
+
+QString Session::name() const
+{
+    if (!m_source.isEmpty())
+        return QFileInfo(m_source).fileName();
+    return tr("Untitled");
+}
+
+bool Session::save(const QString &path, QString &error)
+{
+    dropTrial();
+    settleBars();
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) {
+        error = tr("%1 is no plain file").arg(path);
+        return false;
+    }
+    if (!document().save(path)) {
+        const QString why = KWZip::lastError();
+        error = tr("%1 cannot be written: %2")
+                    .arg(QDir::toNativeSeparators(path),
+                         why.isEmpty() ? tr("the folder must exist and have room") : why);
+        return false;
+    }
+    const bool isElsewhere = QFileInfo(path).absoluteFilePath() != m_path;
+    m_path = m_source = QFileInfo(path).absoluteFilePath();
+    m_copy.release(); // the copy is older than the file now
+    m_copy.own(document());
+    rememberFile();
+    if (isElsewhere)
+        lockFile();
+    Q_EMIT stateChanged();
+    return true;
+}
+
+bool Session::keepCopy()
+{
+    if (isTrying())
+        return true; // what is tried out is not wanted yet
+    settleBars();
+    m_copy.own(document());
+    return recovery::keep(document(), m_path);
+}
+
+// ---- Edits ------------------------------------------------------------------------------------------------
+
+void Session::join(EditAnswer &all, const EditAnswer &part)
+{
+    if (!part.isDone()) {
+        all.refusal = part.refusal;
+        all.arguments = part.arguments;
+        all.ring = part.ring;
+        return;
+    }
+    all.tasks += part.tasks;
+    all.moves += part.moves;
+    all.losses += part.losses;
+}
+
+EditAnswer Session::edit(const QString &name, const Change &change)
+{
+    dropTrial();
+    const bool wasModified = isModified();
+    PlanEdits edits(document(), name);
+    const EditAnswer answer = change(edits);
+    if (answer.isDone()) {
+        edits.finish();
+        m_plan->moves.clear(); // what opening has moved is told no longer
+        Q_EMIT edited(answer);
+    } else {
+        edits.cancel();
+        document().setModified(wasModified);
+    }
+    Q_EMIT stateChanged();
+    return answer;
+}
+
+EditAnswer Session::tryOut(const QString &name, const Change &change)
+{
+    if (m_trial) {
+        m_trial->cancel();
+    } else {
+        m_wasModified = isModified();
+        m_trial = std::make_unique<PlanEdits>(document(), name);
+    }
+    const EditAnswer answer = change(*m_trial);
+    if (!answer.isDone()) {
+        m_trial->cancel();
+        document().setModified(m_wasModified);
+    }
+    Q_EMIT edited(answer);
+    return answer;
+}
+
+void Session::keepTrial()
+{
+    if (!m_trial)
+        return;
+    if (!m_trial->finish())
+        document().setModified(m_wasModified);
+    m_trial.reset();
+    Q_EMIT stateChanged();
+}
+
+void Session::dropTrial()
+{
+    if (!m_trial)
+        return;
+    m_trial->cancel();
+    m_trial.reset();
+    document().setModified(m_wasModified);
+    Q_EMIT edited(EditAnswer());
+    Q_EMIT stateChanged();
+}
+
+void Session::undo()
+{
+    dropTrial();
+    document().actionManager().undo(1);
+    Q_EMIT edited(EditAnswer());
+    Q_EMIT stateChanged();
+}
+
+void Session::redo()
+{
+    dropTrial();
+    document().actionManager().redo();
+    Q_EMIT edited(EditAnswer());
+    Q_EMIT stateChanged();
+}
+
+QString Session::undoName() const
+{
+    return document().actionManager().undoActionNames().value(0);
+}
+
+QString Session::redoName() const
+{
+    const QList<KWOpeAction *> &actions = document().actionManager().redoActions();
+    return actions.isEmpty() ? QString() : actions.last()->name();
+}
+
+// ---- The scale --------------------------------------------------------------------------------------------
+
+void Session::setScale(quint32 minorUnit, int unitWidth)
+{
+    const bool wasModified = isModified();
+    KWDocument &plan = document();
+    constexpr quint32 coarsestMajor = 0, finestMajor = 3;
+    plan.MajorUnit = minorUnit == 0 ? coarsestMajor : qMin(minorUnit - 1, finestMajor);
+    // Below the year the stored unit counts from the one after the major unit.
+    plan.MinorUnit = plan.MajorUnit == 0 ? minorUnit : minorUnit - plan.MajorUnit - 1;
+    plan.UnitWidth = unitWidth;
+    plan.taskCollection()->updateRange();
+    plan.taskCollection()->updateTotalWidth();
+    plan.setModified(wasModified);
+    m_barsAreOld = true;
+}
+
+void Session::beginChartAt(quint32 secs)
+{
+    KWTaskCollection &collection = *document().taskCollection();
+    if (secs == 0 || secs >= collection.minDateStart())
+        return;
+    const bool wasModified = isModified();
+    collection.updateRangeOf(secs, collection.getMaxTaskFinishSecs());
+    collection.updateTotalWidth();
+    document().setModified(wasModified);
+    m_barsAreOld = true;
+}
+
+void Session::settleBars()
+{
+    if (!m_barsAreOld)
+        return;
+    const bool wasModified = isModified();
+    settling::settleChart(document());
+    document().setModified(wasModified);
+    m_barsAreOld = false;
+    Q_EMIT rescaled();
+}

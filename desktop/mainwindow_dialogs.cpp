@@ -1,0 +1,203 @@
+// What the window asks for in windows of their own, and files of other formats.
+#include "actions/actiontable.h"
+#include "console.h"
+#include "dialogs/calendardialog.h"
+#include "dialogs/commandpalette.h"
+#include "dialogs/pagesetupdialog.h"
+#include "dialogs/previewdialog.h"
+#include "dialogs/resourcesdialog.h"
+#include "export/ganttpdfexport.h"
+#include "kwpxfile.h"
+#include "mainwindow.h"
+#include "projectfile.h"
+#include "views/notebar.h"
+#include "views/planchart.h"
+#include "views/plantable.h"
+#include "workbookfile.h"
+#include <QAction>
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QProgressDialog>
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+// The pictures by the suffix of their file.
+struct Drawing
+{
+    const char *suffix;
+    bool (*write)(GanttPdfExport &drawing, const QString &path);
+};
+constexpr Drawing drawings[] = {
+    {"pdf", [](GanttPdfExport &drawing, const QString &path) { return drawing.exportPdf(path); }},
+    {"png", [](GanttPdfExport &drawing, const QString &path) { return drawing.exportImage(path, 2); }},
+    {"svg", [](GanttPdfExport &drawing, const QString &path) { return drawing.exportSvg(path); }},
+    {"html", [](GanttPdfExport &drawing, const QString &path) { return drawing.exportHtml(path); }},
+};
+}
+
+void MainWindow::openAsk()
+{
+    if (!mayLeave())
+        return;
+    const QString path =
+        QFileDialog::getOpenFileName(this, tr("Open"), QFileInfo(m_session.source()).path(),
+                                     tr("Plans (*.kwpx *.csv *.xlsx *.xls *.xml);;All files (*)"));
+    if (!path.isEmpty())
+        openFile(path);
+}
+
+void MainWindow::saveAs()
+{
+    const QFileInfo source(m_session.source());
+    const QString suggested = m_session.source().isEmpty()
+                                  ? tr("Plan.kwpx")
+                                  : source.dir().filePath(source.completeBaseName() + QLatin1String(".kwpx"));
+    QString path = QFileDialog::getSaveFileName(this, tr("Save as"), suggested, tr("Packages (*.kwpx)"));
+    if (path.isEmpty())
+        return;
+    if (!path.endsWith(QLatin1String(".kwpx")))
+        path += QLatin1String(".kwpx");
+    saveTo(path);
+}
+
+void MainWindow::exportAsk()
+{
+    const QFileInfo source(m_session.source());
+    const QString base =
+        m_session.source().isEmpty() ? tr("Plan") : source.dir().filePath(source.completeBaseName());
+    const QString path = QFileDialog::getSaveFileName(
+        this, tr("Export"), base + QLatin1String(".pdf"),
+        tr("PDF (*.pdf);;PNG (*.png);;SVG (*.svg);;Page for a browser (*.html);;Workbook (*.xlsx *.xls);;"
+           "Project XML (*.xml)"));
+    if (!path.isEmpty())
+        exportTo(path);
+}
+
+bool MainWindow::exportTo(const QString &path)
+{
+    m_chart->leaveDrag();
+    m_session.settleBars();
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    const auto tellDone = [&](const QString &more) {
+        m_note->say(tr("%1 is written.").arg(QFileInfo(path).fileName()) + more, NoteBar::Told, tr("Open it"),
+                    [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
+    };
+    for (const Drawing &row : drawings) {
+        if (suffix != QLatin1String(row.suffix))
+            continue;
+        GanttPdfExport drawing(&m_session.document());
+        drawing.options = m_picture.options;
+        drawing.options.theme = KWExportOptions::Light;
+        drawing.options.highlight = false;
+        drawing.options.title = QFileInfo(m_session.name()).completeBaseName();
+        QProgressDialog progress(tr("Drawing…"), tr("Cancel"), 0, 0, this);
+        progress.setWindowModality(Qt::WindowModal);
+        drawing.progress = [&progress](int done, int total) {
+            progress.setMaximum(total);
+            progress.setValue(done);
+            return !progress.wasCanceled();
+        };
+        const bool isWritten = row.write(drawing, path);
+        progress.reset();
+        QStringList words;
+        for (const Finding &finding : drawing.findings().list())
+            words.append(finding.hint.isEmpty() ? finding.what
+                                                : finding.what + QLatin1String(": ") + finding.hint);
+        if (!isWritten)
+            tellRefusal(words.join(QLatin1String("; ")), QString());
+        else
+            tellDone(words.isEmpty() ? QString() : QLatin1Char(' ') + words.join(QLatin1String("; ")));
+        return isWritten;
+    }
+    // What other programs read goes through the writers of the command line, with their warnings.
+    QByteArray out, said;
+    Console console(Console::Surroundings(), &out, &said);
+    Options options;
+    options.force = true; // the file dialog has asked
+    options.richSheets = true;
+    console.follow(options);
+    Plan &plan = m_session.plan();
+    kwpxfile::describe(plan);
+    bool isWritten = false;
+    if (suffix == QLatin1String("xlsx") || suffix == QLatin1String("xls")) {
+        isWritten = workbookfile::save(
+            console, plan, path, suffix == QLatin1String("xlsx") ? workbookfile::Xlsx : workbookfile::Xls);
+    } else if (suffix == QLatin1String("xml")) {
+        isWritten = projectfile::save(console, plan, path) == Console::Done;
+    } else {
+        said = tr("a file of that name has no format: use pdf, png, svg, html, xlsx, xls or xml").toUtf8();
+    }
+    plan.rows = planrows::Rows();
+    const QString words = QString::fromUtf8(said).remove(QStringLiteral("kwgantt: ")).simplified();
+    if (isWritten)
+        tellDone(words.isEmpty() ? QString() : QLatin1Char(' ') + words);
+    else
+        tellRefusal(words, QString());
+    return isWritten;
+}
+
+void MainWindow::pageSetup()
+{
+    PageSetupDialog(m_session, this).exec();
+}
+
+void MainWindow::preview()
+{
+    PreviewDialog dialog(m_session, m_picture.options, this);
+    connect(&dialog, &PreviewDialog::exportWanted, this, &MainWindow::exportAsk);
+    connect(&dialog, &PreviewDialog::setupWanted, this, &MainWindow::pageSetup);
+    dialog.exec();
+}
+
+void MainWindow::calendar()
+{
+    CalendarDialog dialog(m_session, this);
+    if (dialog.exec() == QDialog::Accepted && dialog.answer().isDone() && !dialog.answer().moves.isEmpty())
+        tellAnswer(tr("The working time has changed: %1 tasks moved").arg(dialog.answer().moves.size()),
+                   dialog.answer(), true);
+}
+
+void MainWindow::resources()
+{
+    ResourcesDialog(m_session, this).exec();
+}
+
+void MainWindow::columns()
+{
+    m_table->askColumns(m_table->mapToGlobal(QPoint(40, 40)));
+}
+
+void MainWindow::commandPalette()
+{
+    QList<QAction *> actions;
+    for (const actiontable::Row &row : actiontable::rows())
+        if (row.run != &MainWindow::commandPalette)
+            actions.append(action(row.name));
+    CommandPalette dialog(actions, this);
+    dialog.move(mapToGlobal(QPoint((width() - dialog.width()) / 2, 80)));
+    if (dialog.exec() == QDialog::Accepted && dialog.chosen())
+        dialog.chosen()->trigger();
+}
+
+void MainWindow::keys()
+{
+    QDialog dialog(this);
+    dialog.setWindowTitle(tr("Keys"));
+    auto *text = new QTextBrowser;
+    text->setMarkdown(actiontable::asMarkdown());
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(text);
+    dialog.resize(720, 640);
+    dialog.exec();
+}
+
+void MainWindow::about()
+{
+    QMessageBox::about(this, tr("About kwgantt"),
+                       tr("kwgantt %1: plans projects in working time.").arg(QLatin1String(KWGANTT_VERSION)));
+}

@@ -1,0 +1,10 @@
+#pragma once
+#include "documents/session.h"
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPainter>
+#include <QTableWidget>

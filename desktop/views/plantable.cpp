@@ -1,0 +1,551 @@
+#include "views/plantable.h"
+#include "documents/session.h"
+#include "model/kwtaskinfo.h"
+#include "table/rowcolumndata.h"
+#include "views/celldelegate.h"
+#include "views/planmodel.h"
+#include "views/tablehead.h"
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QScrollBar>
+#include <cmath>
+
+namespace {
+
+constexpr int headHeight = int(CustomTable::headHeight);
+constexpr int rowGrip = 3; // pixels beside the border of a row
+constexpr int flashMilliseconds = 900;
+constexpr double leastHeight = 16; // of a row that is dragged
+}
+
+PlanTable::PlanTable(Session &session, PlanModel &model, Picture &picture, QWidget *parent)
+    : QAbstractItemView(parent)
+    , m_session(session)
+    , m_model(model)
+    , m_picture(picture)
+    , m_head(new TableHead(*this, model, picture))
+    , m_delegate(new CellDelegate(session, this))
+{
+    setAccessibleName(tr("Table of tasks"));
+    setFrameShape(QFrame::NoFrame);
+    setViewportMargins(0, headHeight, 0, 0);
+    setItemDelegate(m_delegate);
+    setModel(&model);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setTabKeyNavigation(true);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    viewport()->setMouseTracking(true);
+    connect(m_delegate, &CellDelegate::leftTowards, this, &PlanTable::leaveTowards);
+    connect(&session, &Session::edited, this, &PlanTable::edited);
+    connect(&session, &Session::replaced, this, &PlanTable::edited);
+}
+
+// ---- Geometry ---------------------------------------------------------------------------------------------
+
+double PlanTable::tableWidth() const
+{
+    return m_model.table().width();
+}
+
+void PlanTable::edited()
+{
+    updateGeometries();
+    viewport()->update();
+    m_head->update();
+}
+
+void PlanTable::updateGeometries()
+{
+    QAbstractItemView::updateGeometries();
+    const int height = viewport()->height(), width = viewport()->width();
+    const int bottom = int(std::ceil(m_model.rowBottom(m_model.taskRows())));
+    verticalScrollBar()->setRange(0, qMax(0, bottom - height));
+    verticalScrollBar()->setPageStep(height);
+    verticalScrollBar()->setSingleStep(int(RowColumnData::defaultRowHeight));
+    horizontalScrollBar()->setRange(0, qMax(0, int(std::ceil(tableWidth())) - width));
+    horizontalScrollBar()->setPageStep(width);
+    horizontalScrollBar()->setSingleStep(20);
+    m_head->setGeometry(viewport()->x(), viewport()->y() - headHeight, width, headHeight);
+}
+
+void PlanTable::resizeEvent(QResizeEvent *event)
+{
+    QAbstractItemView::resizeEvent(event);
+    updateGeometries();
+}
+
+int PlanTable::horizontalOffset() const
+{
+    return horizontalScrollBar()->value();
+}
+
+int PlanTable::verticalOffset() const
+{
+    return verticalScrollBar()->value();
+}
+
+void PlanTable::verticalScrollbarValueChanged(int)
+{
+    updateEditorGeometries();
+    viewport()->update();
+}
+
+void PlanTable::horizontalScrollbarValueChanged(int value)
+{
+    m_head->setOffset(value);
+    updateEditorGeometries();
+    viewport()->update();
+}
+
+QRectF PlanTable::cellRect(int row, int column) const
+{
+    const HeadItem &head = m_model.table().heads()[std::size_t(column)];
+    const double top = m_model.rowTop(row);
+    return QRectF(head.x - horizontalOffset(), top - verticalOffset(), head.width,
+                  m_model.rowBottom(row) - top);
+}
+
+QRect PlanTable::visualRect(const QModelIndex &index) const
+{
+    return index.isValid() && index.column() < m_model.columnCount()
+               ? cellRect(index.row(), index.column()).toAlignedRect()
+               : QRect();
+}
+
+QModelIndex PlanTable::indexAt(const QPoint &point) const
+{
+    const int row = m_model.rowAtY(point.y() + verticalOffset());
+    const int column = m_model.table().columnAtX(point.x() + horizontalOffset());
+    return row < 0 || column < 0 ? QModelIndex() : m_model.index(row, column);
+}
+
+void PlanTable::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    if (!index.isValid())
+        return;
+    const double top = m_model.rowTop(index.row()), bottom = m_model.rowBottom(index.row());
+    const int height = viewport()->height();
+    int y = verticalOffset();
+    if (hint == PositionAtCenter || hint == PositionAtTop) {
+        y = int(hint == PositionAtTop ? top : (top + bottom - height) / 2);
+    } else if (top < y) {
+        y = int(std::floor(top));
+    } else if (bottom > y + height) {
+        y = int(std::ceil(bottom)) - height;
+    }
+    verticalScrollBar()->setValue(y);
+    const HeadItem &head = m_model.table().heads()[std::size_t(index.column())];
+    if (head.right() > horizontalOffset() + viewport()->width())
+        horizontalScrollBar()->setValue(int(std::ceil(head.right())) - viewport()->width());
+    if (head.x < horizontalOffset())
+        horizontalScrollBar()->setValue(int(head.x));
+}
+
+bool PlanTable::isIndexHidden(const QModelIndex &) const
+{
+    return false;
+}
+
+// ---- Selection --------------------------------------------------------------------------------------------
+
+void PlanTable::setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command)
+{
+    const double y = verticalOffset();
+    int first = m_model.rowAtY(qMax(0.0, rect.top() + y)),
+        last = m_model.rowAtY(qMax(0.0, rect.bottom() + y));
+    if (first < 0)
+        return;
+    if (last < 0)
+        last = m_model.taskRows();
+    selectionModel()->select(
+        QItemSelection(m_model.index(first, 0), m_model.index(last, m_model.columnCount() - 1)), command);
+}
+
+QRegion PlanTable::visualRegionForSelection(const QItemSelection &) const
+{
+    return viewport()->rect();
+}
+
+void PlanTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QAbstractItemView::currentChanged(current, previous);
+    viewport()->update();
+}
+
+QVector<quint32> PlanTable::selectedTasks() const
+{
+    QVector<int> rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    QVector<quint32> ids;
+    for (const int row : qAsConst(rows))
+        if (const quint32 id = m_model.taskAt(row))
+            ids.append(id);
+    return ids;
+}
+
+quint32 PlanTable::currentTask() const
+{
+    return m_model.taskAt(currentIndex().row());
+}
+
+void PlanTable::selectRow(int row, int column)
+{
+    if (m_model.columnCount() == 0)
+        return;
+    if (column < 0)
+        column = currentIndex().isValid() ? currentIndex().column()
+                                          : qMax(0, m_model.columnOf(cellinput::nameType));
+    const QModelIndex index =
+        m_model.index(qBound(0, row, m_model.taskRows()), qBound(0, column, m_model.columnCount() - 1));
+    // Through the view, which remembers where Shift goes on from.
+    setCurrentIndex(index);
+    selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(index);
+}
+
+void PlanTable::select(const QVector<quint32> &ids, int column)
+{
+    QItemSelection selection;
+    int first = -1;
+    for (const quint32 id : ids) {
+        const int row = m_model.rowOf(id);
+        if (row < 0)
+            continue;
+        first = first < 0 ? row : first;
+        selection.select(m_model.index(row, 0), m_model.index(row, m_model.columnCount() - 1));
+    }
+    if (first < 0)
+        return;
+    selectRow(first, column);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+// ---- Keys -------------------------------------------------------------------------------------------------
+
+QModelIndex PlanTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const QModelIndex current = currentIndex();
+    const int columns = m_model.columnCount(), lastRow = m_model.taskRows();
+    if (columns == 0)
+        return QModelIndex();
+    int row = qMax(0, current.row()), column = qMax(0, current.column());
+    const bool isControl = modifiers & Qt::ControlModifier;
+    const auto page = [&](int direction) {
+        const double y =
+            m_model.rowTop(row) + direction * (viewport()->height() - RowColumnData::defaultRowHeight);
+        const int found = m_model.rowAtY(qMax(0.0, y));
+        return found < 0 ? lastRow : found;
+    };
+    switch (action) {
+    case MoveUp:
+        row = isControl ? 0 : row - 1;
+        break;
+    case MoveDown:
+        row = isControl ? lastRow : row + 1;
+        break;
+    case MovePageUp:
+        row = page(-1);
+        break;
+    case MovePageDown:
+        row = page(1);
+        break;
+    case MoveHome:
+        (isControl ? row : column) = 0;
+        break;
+    case MoveEnd:
+        isControl ? row = lastRow : column = columns - 1;
+        break;
+    case MoveLeft:
+        --column;
+        break;
+    case MoveRight:
+        ++column;
+        break;
+    case MoveNext:
+        if (++column == columns) {
+            column = 0;
+            ++row;
+        }
+        break;
+    case MovePrevious:
+        if (--column < 0) {
+            column = columns - 1;
+            --row;
+        }
+        break;
+    }
+    return m_model.index(qBound(0, row, lastRow), qBound(0, column, columns - 1));
+}
+
+void PlanTable::goDown()
+{
+    selectRow(currentIndex().row() + 1);
+}
+
+// After an editor was left: Tab passes the cells that take no text.
+void PlanTable::leaveTowards(int way)
+{
+    setFocus();
+    const QModelIndex current = currentIndex();
+    if (!current.isValid())
+        return;
+    if (way == CellDelegate::Down || way == CellDelegate::Up) {
+        selectRow(current.row() + (way == CellDelegate::Down ? 1 : -1), current.column());
+        return;
+    }
+    const int step = way == CellDelegate::Next ? 1 : -1, columns = m_model.columnCount();
+    int row = current.row(), column = current.column();
+    for (int tried = 0; tried < columns; ++tried) {
+        column += step;
+        if (column < 0 || column >= columns) {
+            row += step;
+            column = step > 0 ? 0 : columns - 1;
+        }
+        if (cellinput::isEditable(m_model.typeOf(column)))
+            break;
+    }
+    selectRow(row, column);
+}
+
+void PlanTable::keyPressEvent(QKeyEvent *event)
+{
+    const QModelIndex current = currentIndex();
+    const bool isPlain = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier;
+    const KWTaskInfo *task = m_session.document().getTaskInfoByID(currentTask());
+    const bool isName = current.isValid() && m_model.typeOf(current.column()) == cellinput::nameType;
+    if (isPlain && isName && task && task->isParent()) {
+        const bool folds = event->key() == Qt::Key_Left && !task->IsToggler;
+        const bool unfolds = event->key() == Qt::Key_Right && task->IsToggler;
+        if (folds || unfolds) {
+            Q_EMIT foldToggled(task->ID);
+            return;
+        }
+    }
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && isPlain) {
+        goDown();
+        return;
+    }
+    if ((event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) && current.isValid()) {
+        leaveTowards(event->key() == Qt::Key_Tab ? CellDelegate::Next : CellDelegate::Previous);
+        return;
+    }
+    // A blank alone would only wipe out what stands in a cell.
+    if (event->key() == Qt::Key_Space)
+        return;
+    QAbstractItemView::keyPressEvent(event);
+}
+
+// ---- Mouse ------------------------------------------------------------------------------------------------
+
+bool PlanTable::isOnFoldMark(const QPoint &point, quint32 &id) const
+{
+    const QModelIndex index = indexAt(point);
+    if (!index.isValid() || m_model.typeOf(index.column()) != cellinput::nameType)
+        return false;
+    const TableRow row = m_model.table().taskRow(index.row());
+    const Cell cell = m_model.table().cell(row, index.column());
+    if (cell.fold == Cell::NoFold)
+        return false;
+    id = m_model.taskAt(index.row());
+    const double text = cell.rect.left() + cell.indent - horizontalOffset();
+    constexpr double around = 4;
+    return point.x() >= text - CustomTable::foldMarkWidth - around && point.x() <= text + around;
+}
+
+int PlanTable::rowBorderAt(const QPoint &point) const
+{
+    if (m_model.typeOf(m_model.table().columnAtX(point.x() + horizontalOffset())) != 0)
+        return -1;
+    const double y = point.y() + verticalOffset();
+    const int row = m_model.rowAtY(qMax(0.0, y - rowGrip));
+    return row >= 0 && row < m_model.taskRows() && std::abs(m_model.rowBottom(row) - y) <= rowGrip ? row : -1;
+}
+
+void PlanTable::mousePressEvent(QMouseEvent *event)
+{
+    quint32 id = 0;
+    if (event->button() == Qt::LeftButton && isOnFoldMark(event->pos(), id)) {
+        Q_EMIT foldToggled(id);
+        return;
+    }
+    m_resizedRow = event->button() == Qt::LeftButton ? rowBorderAt(event->pos()) : -1;
+    if (m_resizedRow >= 0) {
+        m_resizedHeight = m_model.rowBottom(m_resizedRow) - m_model.rowTop(m_resizedRow);
+        return;
+    }
+    QAbstractItemView::mousePressEvent(event);
+}
+
+void PlanTable::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_resizedRow >= 0) {
+        m_resizedHeight =
+            qMax(leastHeight, event->pos().y() + verticalOffset() - m_model.rowTop(m_resizedRow));
+        viewport()->update();
+        return;
+    }
+    if (event->buttons() == Qt::NoButton) {
+        viewport()->setCursor(rowBorderAt(event->pos()) >= 0 ? Qt::SplitVCursor : Qt::ArrowCursor);
+        return;
+    }
+    QAbstractItemView::mouseMoveEvent(event);
+}
+
+void PlanTable::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (m_resizedRow >= 0) {
+        const quint32 id = m_model.taskAt(m_resizedRow);
+        const double before = m_model.rowBottom(m_resizedRow) - m_model.rowTop(m_resizedRow);
+        m_resizedRow = -1;
+        TaskValues values;
+        values.rowHeight = m_resizedHeight;
+        if (id != 0 && std::abs(before - m_resizedHeight) >= 1)
+            m_session.edit(tr("Change row height"),
+                           [&](PlanEdits &edits) { return edits.set({id}, values); });
+        viewport()->update();
+        return;
+    }
+    QAbstractItemView::mouseReleaseEvent(event);
+}
+
+void PlanTable::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    quint32 id = 0;
+    if (isOnFoldMark(event->pos(), id))
+        Q_EMIT foldToggled(id);
+    else
+        QAbstractItemView::mouseDoubleClickEvent(event);
+}
+
+void PlanTable::wheelEvent(QWheelEvent *event)
+{
+    // Beside the table's own bar, which is not shown, for the one that both views share.
+    const QPoint turn = event->angleDelta();
+    QScrollBar *bar =
+        turn.x() != 0 || event->modifiers() & Qt::ShiftModifier ? horizontalScrollBar() : verticalScrollBar();
+    constexpr int degreesOfStep = 120, rowsOfStep = 3;
+    const int delta = turn.x() != 0 ? turn.x() : turn.y();
+    bar->setValue(bar->value() - delta * rowsOfStep * bar->singleStep() / degreesOfStep);
+    event->accept();
+}
+
+// ---- Columns ----------------------------------------------------------------------------------------------
+
+void PlanTable::resizeColumn(int column, double width)
+{
+    ColumnValues values;
+    values.width = qMax(width, CustomTable::minimumWidth);
+    const QString title = m_model.table().heads()[std::size_t(column)].title;
+    m_session.edit(tr("Change column width"),
+                   [&](PlanEdits &edits) { return edits.setColumn(title, values); });
+}
+
+void PlanTable::moveColumn(int from, int to)
+{
+    m_session.edit(tr("Move column"), [&](PlanEdits &edits) { return edits.moveColumn(from, to); });
+}
+
+void PlanTable::askColumns(const QPoint &globalPos)
+{
+    QMenu menu(this);
+    const RowColumnData &columns = *m_session.document().rowColumnData();
+    for (int pos = 0; pos < columns.columns().size(); ++pos) {
+        const RowColumnData::ColumnData &column = *columns.columns().at(pos);
+        QAction *action = menu.addAction(column.title);
+        action->setCheckable(true);
+        action->setChecked(!column.isHide);
+        action->setEnabled(columns.isReplaceColumn(pos));
+    }
+    const QAction *chosen = menu.exec(globalPos);
+    if (!chosen)
+        return;
+    ColumnValues values;
+    values.isHidden = !chosen->isChecked();
+    const QString title = chosen->text();
+    m_session.edit(values.isHidden.value() ? tr("Hide column") : tr("Show column"),
+                   [&](PlanEdits &edits) { return edits.setColumn(title, values); });
+}
+
+// ---- Painting ---------------------------------------------------------------------------------------------
+
+void PlanTable::flash(const QSet<quint32> &ids)
+{
+    m_flashed = ids;
+    m_flashTime.start(flashMilliseconds, this);
+    viewport()->update();
+}
+
+void PlanTable::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_flashTime.timerId()) {
+        QAbstractItemView::timerEvent(event);
+        return;
+    }
+    m_flashTime.stop();
+    m_flashed.clear();
+    viewport()->update();
+}
+
+void PlanTable::paintEvent(QPaintEvent *)
+{
+    QPainter painter(viewport());
+    const QRect view = viewport()->rect();
+    const int shown = qBound(0, int(tableWidth()) - horizontalOffset(), view.width());
+    m_picture.paint(painter, QRect(0, 0, shown, view.height()),
+                    QPointF(horizontalOffset() - tableWidth(), verticalOffset() + headHeight),
+                    Picture::Table);
+    if (shown < view.width())
+        painter.fillRect(QRect(shown, 0, view.width() - shown, view.height()), palette().base());
+    if (m_model.columnCount() == 0)
+        return;
+
+    // What belongs to the window alone lies over the picture, and lets it shine through.
+    const QColor accent = palette().highlight().color();
+    const auto tint = [&](int row, const QColor &color, int alpha) {
+        QColor veil = color;
+        veil.setAlpha(alpha);
+        const double top = m_model.rowTop(row) - verticalOffset();
+        painter.fillRect(QRectF(0, top, shown, m_model.rowBottom(row) - m_model.rowTop(row) - 1), veil);
+    };
+    const int first = qMax(0, m_model.rowAtY(verticalOffset()));
+    const int atBottom = m_model.rowAtY(verticalOffset() + view.height());
+    const int last = atBottom < 0 ? m_model.taskRows() : atBottom;
+    constexpr int selectedAlpha = 44, flashAlpha = 70;
+    for (int row = first; row <= last; ++row) {
+        if (selectionModel()->isRowSelected(row, QModelIndex()))
+            tint(row, accent, selectedAlpha);
+        if (!m_flashed.isEmpty() && m_flashed.contains(m_model.taskAt(row)))
+            tint(row, QColor(255, 190, 60), flashAlpha);
+    }
+    if (last == m_model.taskRows() && m_model.columnOf(cellinput::nameType) >= 0) {
+        const QRectF cell = cellRect(last, m_model.columnOf(cellinput::nameType));
+        QColor quiet = palette().text().color();
+        quiet.setAlpha(120);
+        painter.setPen(quiet);
+        painter.drawText(cell.adjusted(CustomTable::foldMarkWidth + 4, 0, -4, 0),
+                         Qt::AlignVCenter | Qt::AlignLeft, tr("Type here for a new task"));
+    }
+    const QModelIndex current = currentIndex();
+    if (current.isValid() && state() != EditingState) {
+        painter.setPen(QPen(accent, 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(cellRect(current.row(), current.column()).adjusted(1, 1, -1, -2));
+    }
+    if (m_resizedRow >= 0) {
+        painter.setPen(QPen(accent, 2));
+        const double y = m_model.rowTop(m_resizedRow) + m_resizedHeight - verticalOffset();
+        painter.drawLine(QPointF(0, y), QPointF(shown, y));
+    }
+}
