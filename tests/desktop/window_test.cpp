@@ -1,0 +1,517 @@
+// What a user does with keys and mouse in the real window, on a screen that is not there.
+#include "actions/actiontable.h"
+#include "chart/layout.h"
+#include "desktop/hands.h"
+#include "dialogs/calendardialog.h"
+#include "dialogs/commandpalette.h"
+#include "dialogs/pagesetupdialog.h"
+#include "dialogs/previewdialog.h"
+#include "dialogs/resourcesdialog.h"
+#include "edit.h"
+#include "edits/planreasons.h"
+#include "explain.h"
+#include "export/ganttpdfexport.h"
+#include "export/planview.h"
+#include "kwfilepathmanager.h"
+#include "kwpxfile.h"
+#include "styles/chartstyle.h"
+#include "support/folder.h"
+#include "views/celldelegate.h"
+#include "views/findingspanel.h"
+#include "views/notebar.h"
+#include "views/reasonspanel.h"
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QMimeData>
+#include <QProcess>
+#include <QScrollBar>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int start = 2, finish = 3, length = 4, percent = 5, resources = 7, name = 1;
+
+// The program's own edits on a plan of its own.
+std::string programs(const QStringList &edits)
+{
+    Plan plan;
+    QStringList lost;
+    for (const QString &line : edits) {
+        QStringList words;
+        options::Fault fault;
+        editline::split(line, words, fault);
+        EXPECT_TRUE(editverbs::run(plan, words, fault, lost))
+            << line.toStdString() << fault.what.toStdString();
+        kwpxfile::describe(plan);
+    }
+    return outlineOf(*plan.document);
+}
+
+// Design, Build and Test, each waiting for the one before it.
+void makeChain(Hands &hands)
+{
+    hands.empty();
+    for (const char *each : {"Design", "Build", "Test"})
+        hands.enter(hands.window->model()->taskRows(), name, QLatin1String(each));
+    for (const int row : {0, 1, 2})
+        hands.enter(row, start, QStringLiteral("2026-01-05"));
+    hands.enter(0, length, QStringLiteral("3d"));
+    hands.enter(1, length, QStringLiteral("2d"));
+    hands.enter(2, length, QStringLiteral("4d"));
+    hands.key(Qt::Key_A, Qt::ControlModifier);
+    hands.key(Qt::Key_L, Qt::ControlModifier);
+    hands.window->chart()->fit();
+}
+}
+
+TEST(Window, keysMakeTheProgramsPlan)
+{
+    Hands hands;
+    hands.empty();
+    const char *const names[] = {"Design", "Requirements", "Sketch", "Order parts", "Build",
+                                 "Cut",    "Weld",         "Paint",  "Test",        "Handover"};
+    // Names one after the other: the row for a new task is always the next.
+    hands.go(0, name);
+    for (const char *each : names) {
+        hands.type(QLatin1String(each));
+        hands.key(Qt::Key_Return);
+    }
+    hands.enter(0, start, QStringLiteral("2026-01-05"));
+    hands.go(1, start); // across one row: start, past the finish, then duration and progress
+    hands.type(QStringLiteral("2026-01-05"));
+    hands.key(Qt::Key_Tab);
+    hands.key(Qt::Key_Tab);
+    hands.type(QStringLiteral("2d"));
+    hands.key(Qt::Key_Tab);
+    hands.type(QStringLiteral("100"));
+    hands.key(Qt::Key_Return);
+    hands.enter(2, length, QStringLiteral("3d"));
+    hands.enter(9, length, QStringLiteral("0"));
+    hands.enter(4, resources, QStringLiteral("Workshop[50%]; Crane"));
+    const auto choose = [&](int first, int last) {
+        hands.go(first, name);
+        for (int row = first; row < last; ++row)
+            hands.key(Qt::Key_Down, Qt::ShiftModifier);
+    };
+    choose(1, 2);
+    hands.key(Qt::Key_Right, Qt::AltModifier);
+    choose(5, 7);
+    hands.key(Qt::Key_Right, Qt::AltModifier);
+    choose(1, 3);
+    hands.key(Qt::Key_L, Qt::ControlModifier);
+    choose(8, 9);
+    hands.key(Qt::Key_L, Qt::ControlModifier);
+
+    QStringList edits;
+    for (const char *each : names)
+        edits.append(
+            QStringLiteral("add '%1'").arg(QLatin1String(each)).replace(QLatin1Char('\''), QLatin1Char('"')));
+    edits << QStringLiteral("set 1 start=2026-01-05") << QStringLiteral("set 2 start=2026-01-05")
+          << QStringLiteral("set 2 duration=2d") << QStringLiteral("set 2 percent=100")
+          << QStringLiteral("set 3 duration=3d") << QStringLiteral("set 10 duration=0")
+          << QStringLiteral("resource add Workshop") << QStringLiteral("assign 5 Workshop 50%")
+          << QStringLiteral("resource add Crane") << QStringLiteral("assign 5 Crane")
+          << QStringLiteral("indent 2 3") << QStringLiteral("indent 6 7 8") << QStringLiteral("link 2 3 4")
+          << QStringLiteral("link 9 10");
+    EXPECT_EQ(outlineOf(hands.document()), programs(edits));
+}
+
+TEST(Window, aWrongValueSaysWhatIsWrongAndKeepsTheText)
+{
+    Hands hands;
+    makeChain(hands);
+    const std::string before = hands.saved();
+    const struct
+    {
+        int type;
+        const char *text;
+        const char *complaint;
+    } cases[] = {{start, "soon", "is not a date"},
+                 {finish, "2025-01-01", "before the start"},
+                 {length, "3 blinks", "is not a duration"},
+                 {percent, "120", "percentage"},
+                 {resources, "Ann[lots]", "no resource"}};
+    for (const auto &each : cases) {
+        hands.enter(0, each.type, QLatin1String(each.text));
+        EXPECT_NE(hands.window->table()->cells()->complaint().indexOf(QLatin1String(each.complaint)), -1)
+            << each.text << hands.window->table()->cells()->complaint().toStdString();
+        const auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+        ASSERT_TRUE(editor) << each.text;
+        EXPECT_EQ(editor->text(), QLatin1String(each.text));
+        hands.key(Qt::Key_Escape);
+        EXPECT_EQ(hands.saved(), before) << each.text;
+    }
+}
+
+TEST(Window, pastedLinesMakeTasksAndCopiesComeBack)
+{
+    Hands hands;
+    makeChain(hands);
+    QGuiApplication::clipboard()->setText(QStringLiteral("Phase\n  One\t2026-02-02\t\t2d\n  Two\nEnd"));
+    hands.go(3, name);
+    hands.key(Qt::Key_V, Qt::ControlModifier);
+    ASSERT_EQ(hands.document().taskCount(), 7);
+    EXPECT_EQ(hands.task(4).Level, 2);
+    EXPECT_EQ(hands.task(3).Childs.size(), 2);
+    EXPECT_EQ(hands.task(6).Level, 1);
+    const int steps = hands.steps();
+    // A branch goes with what is below it, and once more; a spreadsheet gets its rows.
+    hands.go(3, name);
+    hands.key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QLatin1String("Phase\t")));
+    hands.go(0, name);
+    hands.key(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(hands.document().taskCount(), 10);
+    EXPECT_EQ(hands.task(0).Childs.size(), 2);
+    hands.key(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(hands.document().taskCount(), 13);
+    EXPECT_EQ(hands.steps(), steps + 2);
+    hands.key(Qt::Key_Z, Qt::ControlModifier);
+    hands.key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(hands.document().taskCount(), 7);
+}
+
+TEST(Window, everyDragIsOneStepThatUndoTakesBackWhole)
+{
+    Hands hands;
+    makeChain(hands);
+    PlanChart &chart = *hands.window->chart();
+    const double day = chart.pixelsOfDay();
+    const struct
+    {
+        const char *what;
+        std::function<std::pair<QPointF, QPointF>()> way;
+        const char *hint;
+        std::function<bool()> isRight;
+    } cases[] = {
+        {"move",
+         [&] {
+             const QPointF at = chart.barRect(hands.id(0)).center();
+             return std::make_pair(at, at + QPointF(2 * day, 1));
+         },
+         "pushes",
+         [&] {
+             return hands.task(0).Start == 1767571200u + 2 * 86400 &&
+                    hands.task(2).Start > hands.task(1).Start;
+         }},
+        {"move before the chart's beginning",
+         [&] {
+             const QPointF at = chart.barRect(hands.id(0)).center();
+             return std::make_pair(at, at - QPointF(14 * day, 1));
+         },
+         "Moved", [&] { return hands.task(0).Start == 1767571200u - 14 * 86400; }},
+        {"stretch",
+         [&] {
+             const QRectF bar = chart.barRect(hands.id(0));
+             const QPointF at(bar.right() - 1, bar.center().y());
+             return std::make_pair(at, at + QPointF(day, 0));
+         },
+         "lasts 4d", [&] { return hands.task(0).Finish == 1767571200u + 4 * 86400; }},
+        {"percent",
+         [&] {
+             const QRectF bar = chart.barRect(hands.id(2));
+             const QPointF at(bar.left() + 2, bar.bottom() - 2);
+             return std::make_pair(at, at + QPointF(bar.width() / 2 - 2, 0));
+         },
+         "50% done", [&] { return hands.task(2).Percent == 0.5; }},
+        {"link from the handle",
+         [&] {
+             hands.go(0, name);
+             return std::make_pair(chart.handleOf(hands.id(0)), chart.barRect(hands.id(2)).center());
+         },
+         "waits for", [&] { return hands.task(2).Predecessors.size() == 2; }},
+    };
+    ASSERT_EQ(hands.task(0).Start % 86400, (1767571200u % 86400)) << "the zone of the test";
+    for (const auto &each : cases) {
+        const std::string before = hands.saved();
+        const int steps = hands.steps();
+        const double scrolled = chart.xOf(hands.task(1).Start);
+        auto way = each.way();
+        hands.drag(way.first, way.second, false);
+        EXPECT_NE(chart.hint().indexOf(QLatin1String(each.hint)), -1)
+            << each.what << ": " << chart.hint().toStdString();
+        hands.key(Qt::Key_Escape);
+        EXPECT_EQ(hands.saved(), before) << "Esc after " << each.what;
+        EXPECT_EQ(hands.steps(), steps);
+        EXPECT_FALSE(chart.isDragging());
+
+        way = each.way();
+        hands.drag(way.first, way.second);
+        EXPECT_TRUE(each.isRight()) << each.what << '\n' << outlineOf(hands.document());
+        EXPECT_EQ(hands.steps(), steps + 1) << each.what;
+        EXPECT_FALSE(hands.window->note()->text().isEmpty()) << each.what;
+        hands.key(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(hands.saved(), before) << "undo of " << each.what;
+        EXPECT_NEAR(chart.xOf(hands.task(1).Start), scrolled, 1.5) << "the dates stay where they are";
+    }
+    // A ring is refused under the pointer, and again in the note.
+    const std::string before = hands.saved();
+    hands.drag(chart.handleOf(hands.id(2)), chart.barRect(hands.id(0)).center());
+    EXPECT_TRUE(hands.window->note()->isRefusal());
+    EXPECT_EQ(hands.saved(), before);
+}
+
+TEST(Window, outlineKeys)
+{
+    Hands hands;
+    makeChain(hands);
+    const struct
+    {
+        int row;
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        const char *after; // name and level of each row that is seen
+    } cases[] = {
+        {1, Qt::Key_Right, Qt::AltModifier, "Design1 Build2 Test1"},
+        {2, Qt::Key_Right, Qt::AltModifier, "Design1 Build2 Test2"},
+        {0, Qt::Key_Left, Qt::NoModifier, "Design1"},
+        {0, Qt::Key_Right, Qt::NoModifier, "Design1 Build2 Test2"},
+        {2, Qt::Key_Up, Qt::AltModifier, "Design1 Test2 Build2"},
+        {1, Qt::Key_Left, Qt::AltModifier, "Design1 Test1 Build2"},
+        {0, Qt::Key_Down, Qt::AltModifier, "Test1 Build2 Design1"},
+        {0, Qt::Key_Return, Qt::AltModifier, "Test1 Design1"},
+        {0, Qt::Key_Down, Qt::ControlModifier | Qt::AltModifier, "Test1 Build2 Design1"},
+    };
+    for (const auto &each : cases) {
+        hands.go(each.row, name);
+        hands.key(each.key, each.modifiers);
+        QStringList rows;
+        for (int row = 0; row < hands.window->model()->taskRows(); ++row)
+            rows.append(hands.task(row).Name + QString::number(hands.task(row).Level));
+        EXPECT_EQ(rows.join(QLatin1Char(' ')).toStdString(), each.after) << each.row;
+    }
+    // A new one above is named at once.
+    hands.go(0, name);
+    hands.key(Qt::Key_Insert);
+    hands.type(QStringLiteral("First"));
+    hands.key(Qt::Key_Return);
+    EXPECT_EQ(hands.task(0).Name, QLatin1String("First"));
+    EXPECT_EQ(hands.task(1).Name, QLatin1String("Test"));
+}
+
+TEST(Window, barsStandWhereThePictureHasThem)
+{
+    Hands hands;
+    makeChain(hands);
+    PlanChart &chart = *hands.window->chart();
+    for (const double pixels : {0.05, 0.4, 2.0, 9.0, 40.0, 160.0, 700.0}) {
+        chart.zoomAtCentre(pixels / chart.pixelsOfDay());
+        EXPECT_NEAR(chart.pixelsOfDay() / pixels, 1, 0.15) << pixels;
+        KWExportOptions options;
+        const chartstyle::Sheet style(chartstyle::Theme::Light, ThemePalette::builtIn().first());
+        TextShaper shaper(chart::standardFonts(style), QString());
+        PlanView view(hands.document(), options, shaper);
+        view.loadAll();
+        const chart::Layout layout(view.plan());
+        const QPointF origin(chart.horizontalScrollBar()->value(), chart.verticalScrollBar()->value() + 40);
+        for (int row = 0; row < 3; ++row) {
+            const QRectF drawn = layout.barRect(row).translated(-origin);
+            const QRectF grabbed = chart.barRect(hands.id(row));
+            EXPECT_NEAR(drawn.left(), grabbed.left(), 0.6) << pixels;
+            EXPECT_NEAR(drawn.right(), grabbed.right(), 0.6) << pixels;
+            EXPECT_NEAR(drawn.center().y(), grabbed.center().y(), 0.6) << pixels;
+        }
+        // The moment under the pointer stays there.
+        constexpr double at = 300;
+        const quint32 moment = chart.momentAt(at);
+        chart.zoom(1.4, at);
+        EXPECT_NEAR(chart.xOf(moment), chart.horizontalScrollBar()->value() > 0 ? at : chart.xOf(moment), 3);
+    }
+    chart.fit();
+    EXPECT_GT(chart.barRect(hands.id(0)).left(), 0);
+    EXPECT_LT(chart.barRect(hands.id(2)).right(), chart.viewport()->width());
+    // One bar moves both.
+    hands.window->resize(1200, 240);
+    QApplication::processEvents();
+    chart.verticalScrollBar()->setValue(20);
+    EXPECT_EQ(hands.window->table()->verticalScrollBar()->value(), chart.verticalScrollBar()->value());
+}
+
+TEST(Window, thePanelSaysWhatExplainSays)
+{
+    Hands hands;
+    makeChain(hands);
+    hands.go(1, name);
+    ReasonsPanel &panel = *hands.window->reasons();
+    panel.explainNow();
+    Plan &plan = hands.window->session().plan();
+    kwpxfile::describe(plan);
+    plan.tightest = planreasons::tightest(*plan.document);
+    for (const explain::Line &line : explain::task(plan, 1)) {
+        EXPECT_NE(panel.text().indexOf(line.text), -1) << line.text.toStdString();
+    }
+    Q_EMIT panel.jumped(hands.id(0));
+    EXPECT_EQ(hands.window->table()->currentTask(), hands.id(0));
+    hands.go(2, name);
+    hands.key(Qt::Key_J, Qt::ControlModifier);
+    EXPECT_EQ(hands.window->table()->currentTask(), hands.id(1));
+}
+
+TEST(Window, filesAreKeptSafe)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("plan.kwpx"));
+    Hands hands;
+    makeChain(hands);
+    const std::string before = hands.saved();
+    EXPECT_FALSE(hands.window->saveTo(dir.filePath(QStringLiteral("no/such/folder.kwpx"))));
+    EXPECT_TRUE(hands.window->note()->isRefusal());
+    ASSERT_TRUE(hands.window->saveTo(path));
+    EXPECT_FALSE(hands.window->session().isModified());
+    {
+        Hands others;
+        ASSERT_TRUE(others.window->openFile(path));
+        EXPECT_FALSE(others.window->session().otherUser().isEmpty()) << "somebody else has it";
+        EXPECT_EQ(outlineOf(others.document()), outlineOf(hands.document()));
+        others.enter(0, name, QStringLiteral("Plan it"));
+        ASSERT_TRUE(others.window->saveTo(path));
+    }
+    // Changed by another: asked, and Cancel leaves that file.
+    const QByteArray theirs = folder::get(path);
+    hands.enter(0, name, QStringLiteral("Draw it"));
+    EXPECT_TRUE(hands.window->session().wasChangedMeanwhile());
+    hands.answer = QMessageBox::Cancel;
+    hands.key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(folder::get(path), theirs);
+    hands.answer = QMessageBox::Save;
+    hands.key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_FALSE(hands.window->session().isModified());
+    // Opening is no step.
+    ASSERT_TRUE(hands.window->openFile(path));
+    EXPECT_EQ(hands.steps(), 0);
+    EXPECT_EQ(hands.task(0).Name, QLatin1String("Draw it"));
+    // What cannot be read leaves the plan that is open.
+    folder::put(dir.filePath(QStringLiteral("bad.kwpx")), "PK nothing");
+    EXPECT_FALSE(hands.window->openFile(dir.filePath(QStringLiteral("bad.kwpx"))));
+    EXPECT_EQ(hands.task(0).Name, QLatin1String("Draw it"));
+    for (const char *file : {"plan.pdf", "plan.svg", "plan.html", "plan.xlsx", "plan.xls", "plan.xml"})
+        EXPECT_TRUE(hands.window->exportTo(dir.filePath(QLatin1String(file))))
+            << file << hands.window->note()->text().toStdString();
+    EXPECT_FALSE(hands.window->exportTo(dir.filePath(QStringLiteral("plan.doc"))));
+}
+
+TEST(Window, findingsLeadToTheirRows)
+{
+    QTemporaryDir dir;
+    folder::put(dir.filePath(QStringLiteral("plan.csv")),
+                "Name,Start,Duration,Predecessors\nA,2026-01-05,2d,\nB,2026-01-05,1d,9\nC,,1d,A\n");
+    Hands hands;
+    ASSERT_TRUE(hands.window->openFile(dir.filePath(QStringLiteral("plan.csv"))));
+    ASSERT_GT(hands.window->findingsPanel()->count(), 0);
+    hands.window->findingsPanel()->activate(0);
+    EXPECT_EQ(hands.window->table()->currentTask(), hands.id(1));
+    EXPECT_TRUE(hands.window->session().path().isEmpty()) << "a CSV file is not overwritten with a package";
+}
+
+// The part of the next test that dies.
+TEST(Window, DISABLED_diesWhileEditing)
+{
+    Hands hands;
+    ASSERT_TRUE(hands.window->openFile(qEnvironmentVariable("KW_DESKTOP_PLAN")));
+    hands.enter(0, name, QStringLiteral("Unsaved"));
+    hands.window->session().keepCopy();
+    kill(getpid(), SIGKILL);
+}
+
+TEST(Window, whatAKilledProgramHadOpenIsOffered)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("plan.kwpx"));
+    Hands hands;
+    makeChain(hands);
+    ASSERT_TRUE(hands.window->saveTo(path));
+    hands.enter(1, name, QStringLiteral("Still alive"));
+    hands.window->session().keepCopy();
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("KW_DESKTOP_CONFIG"), KWFilePathManager::configDir());
+    environment.insert(QStringLiteral("KW_DESKTOP_PLAN"), path);
+    program.setProcessEnvironment(environment);
+    program.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--gtest_also_run_disabled_tests"),
+                                                            QStringLiteral("--gtest_filter=*diesWhile*")});
+    ASSERT_TRUE(program.waitForFinished(60000));
+    ASSERT_EQ(program.exitStatus(), QProcess::CrashExit) << program.readAll().toStdString();
+    ASSERT_EQ(recovery::abandoned().size(), 1) << "that of the window that lives is not offered";
+    hands.answer = QMessageBox::Open;
+    hands.window->offerCopies();
+    EXPECT_EQ(hands.task(0).Name, QLatin1String("Unsaved"));
+    EXPECT_TRUE(hands.window->session().isModified());
+    EXPECT_EQ(hands.window->session().path(), path);
+    EXPECT_TRUE(recovery::abandoned().isEmpty());
+}
+
+TEST(Window, dialogsMakeOneStep)
+{
+    Hands hands;
+    makeChain(hands);
+    Session &session = hands.window->session();
+    const std::string before = hands.saved();
+    const int steps = hands.steps();
+    {
+        CalendarDialog dialog(session);
+        dialog.day(4)->setChecked(false); // no Fridays
+        dialog.hours()->setText(QStringLiteral("08:00-"));
+        EXPECT_FALSE(dialog.apply());
+        EXPECT_FALSE(dialog.complaint().isEmpty());
+        dialog.hours()->setText(QStringLiteral("09:00-12:00, 13:00-16:00"));
+        dialog.addRow(
+            {QStringLiteral("Open day"), QDate(2026, 1, 9), QDate(2026, 1, 9), true, {{36000, 54000}}});
+        dialog.addRow({QStringLiteral("Holiday"), QDate(2026, 1, 6), QDate(2026, 1, 7), false, {}});
+        ASSERT_TRUE(dialog.apply()) << dialog.complaint().toStdString();
+    }
+    EXPECT_EQ(hands.steps(), steps + 1);
+    ASSERT_EQ(hands.document().calendars.size(), 2);
+    EXPECT_FALSE(CalendarDialog(session).day(4)->isChecked());
+    EXPECT_EQ(CalendarDialog(session).exceptions()->item(0, 3)->text(), QLatin1String("10:00-15:00"));
+    session.undo();
+    EXPECT_EQ(hands.saved(), before);
+
+    ResourcesDialog sheet(session);
+    sheet.addResource();
+    sheet.sheet()->item(0, 0)->setText(QStringLiteral("Ann"));
+    sheet.sheet()->item(0, 3)->setText(QStringLiteral("50/h"));
+    EXPECT_EQ(sheet.sheet()->item(0, 3)->text(), QLatin1String("50/h")) << sheet.complaint().toStdString();
+    sheet.sheet()->item(0, 3)->setText(QStringLiteral("dear"));
+    EXPECT_FALSE(sheet.complaint().isEmpty());
+    EXPECT_EQ(sheet.sheet()->item(0, 3)->text(), QLatin1String("50/h"));
+
+    KWPrintConfig config;
+    config.HSheet = 3;
+    config.VSheet = 2;
+    PageSetupDialog setup(session);
+    setup.fill(config);
+    setup.accept();
+    GanttPdfExport drawing(&hands.document());
+    EXPECT_EQ(hands.document().printConfig.HSheet, 3);
+    EXPECT_EQ(PreviewDialog(session, KWExportOptions()).pageCount(), drawing.pageCount());
+}
+
+TEST(Window, commandsAreFoundAndKeysAreTold)
+{
+    Hands hands;
+    QList<QAction *> actions;
+    QStringList keys;
+    for (const actiontable::Row &row : actiontable::rows()) {
+        ASSERT_TRUE(hands.window->action(row.name)) << row.name;
+        actions.append(hands.window->action(row.name));
+        for (const QKeySequence &key : actions.last()->shortcuts()) {
+            EXPECT_FALSE(keys.contains(key.toString()))
+                << key.toString().toStdString() << " means two things";
+            keys.append(key.toString());
+        }
+    }
+    CommandPalette palette(actions, hands.window.get());
+    palette.line()->setText(QStringLiteral("base set"));
+    EXPECT_EQ(palette.matches(), 1);
+    QTest::keyClick(palette.line(), Qt::Key_Return);
+    EXPECT_EQ(palette.chosen(), hands.window->action("set-baseline"));
+    const QByteArray page =
+        folder::get(QString::fromUtf8(qgetenv("KW_TEST_DATA")) + QLatin1String("/../../docs/desktop.md"));
+    EXPECT_NE(page.indexOf(actiontable::asMarkdown().trimmed().toUtf8()), -1)
+        << "docs/desktop.md is older than the table: kwgantt-desktop --keys prints it";
+}
