@@ -97,8 +97,10 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_reasons, &ReasonsPanel::jumped, this, &MainWindow::jumpTo);
     connect(m_reasons, &QDockWidget::visibilityChanged, this,
             [this] { action("show-reasons")->setChecked(!m_reasons->isHidden()); });
-    connect(m_findings, &FindingsPanel::jumped, this, [this](int pos) {
-        if (const KWTaskInfo *task = m_session.document().getTaskInfoAt(pos))
+    connect(m_findings, &FindingsPanel::jumped, this, [this](int number, bool isOfFile) {
+        // A file may have lines that are no task.
+        const int place = isOfFile ? m_session.plan().imported.rows.indexOf(number) : -1;
+        if (const KWTaskInfo *task = m_session.document().getTaskInfoAt(place < 0 ? number - 1 : place))
             jumpTo(task->ID);
     });
     connect(&m_session, &Session::edited, this, [this] { m_reasons->explain(m_table->currentTask()); });

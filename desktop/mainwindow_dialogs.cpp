@@ -8,7 +8,9 @@
 #include "dialogs/resourcesdialog.h"
 #include "export/ganttpdfexport.h"
 #include "kwpxfile.h"
+#include "machine.h"
 #include "mainwindow.h"
+#include "planfile.h"
 #include "projectfile.h"
 #include "views/notebar.h"
 #include "views/planchart.h"
@@ -73,7 +75,7 @@ void MainWindow::exportAsk()
     const QString path = QFileDialog::getSaveFileName(
         this, tr("Export"), base + QLatin1String(".pdf"),
         tr("PDF (*.pdf);;PNG (*.png);;SVG (*.svg);;Page for a browser (*.html);;Workbook (*.xlsx *.xls);;"
-           "Project XML (*.xml)"));
+           "Project XML (*.xml);;CSV, with files beside it (*.csv)"));
     if (!path.isEmpty())
         exportTo(path);
 }
@@ -129,10 +131,14 @@ bool MainWindow::exportTo(const QString &path)
             console, plan, path, suffix == QLatin1String("xlsx") ? workbookfile::Xlsx : workbookfile::Xls);
     } else if (suffix == QLatin1String("xml")) {
         isWritten = projectfile::save(console, plan, path) == Console::Done;
+    } else if (suffix == QLatin1String("csv")) {
+        isWritten = console.replaceFile(path, machine::csv(plan), true);
+        for (const planfile::Side &side : planfile::sidesOf(plan, path))
+            isWritten = isWritten && console.replaceFile(side.path, side.bytes, true);
     } else {
-        said = tr("a file of that name has no format: use pdf, png, svg, html, xlsx, xls or xml").toUtf8();
+        said =
+            tr("a file of that name has no format: use pdf, png, svg, html, xlsx, xls, xml or csv").toUtf8();
     }
-    plan.rows = planrows::Rows();
     const QString words = QString::fromUtf8(said).remove(QStringLiteral("kwgantt: ")).simplified();
     if (isWritten)
         tellDone(words.isEmpty() ? QString() : QLatin1Char(' ') + words);

@@ -17,7 +17,7 @@ const std::vector<Row> &rows()
          &W::save},
         {"save-as", File, T("Save &as…"), "Ctrl+Shift+S", 0, T("saves it under another name"), &W::saveAs},
         {"export", File, T("&Export…"), "Ctrl+E", 0,
-         T("writes the plan as PDF, PNG, SVG, HTML, XLSX, XLS or project XML"), &W::exportAsk},
+         T("writes the plan as PDF, PNG, SVG, HTML, XLSX, XLS, project XML or CSV"), &W::exportAsk},
         {"page-setup", File, T("Page set-&up…"), "Ctrl+Shift+G", BeginsGroup,
          T("paper, margins, number of sheets"), &W::pageSetup},
         {"preview", File, T("&Print preview…"), "Ctrl+P", 0, T("shows the sheets as they are printed"),

@@ -193,8 +193,8 @@ bool CalendarDialog::readRow(int row, DateException &exception, QString &fault) 
         return false;
     }
     exception = {text(Name),
-                 from.when.date(),
-                 to.when.date(),
+                 from.date,
+                 to.date,
                  static_cast<QComboBox *>(m_exceptions->cellWidget(row, Works))->currentIndex() == 1,
                  {}};
     if (!text(Hours).isEmpty() && !readHours(text(Hours), exception.hours)) {

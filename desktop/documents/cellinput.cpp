@@ -1,10 +1,10 @@
 #include "documents/cellinput.h"
 #include "documents/session.h"
 #include "edit.h"
+#include "exchange/csvplan.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
-#include "sheetfile.h"
 #include "sheettext.h"
 #include <QCoreApplication>
 #include <QRegularExpression>
@@ -169,7 +169,7 @@ QString text(Session &session, const KWTaskInfo &task, int type)
     case 6:
         return QString::number(task.Priority);
     case resourcesType:
-        return sheetfile::columnText(session.plan(), task);
+        return csvplan::resourceNames(session.document(), task);
     case 8: {
         QStringList addresses;
         for (int i = 0; i < task.hyperlinks.count(); ++i)

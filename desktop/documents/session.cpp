@@ -92,7 +92,6 @@ bool Session::open(const QString &path, QString &error)
             error = plainError(said);
             return false;
         }
-        plan->rows = planrows::Rows();
         document.setFileName(QFileInfo(path).completeBaseName());
     }
     const int withoutStart = plan->withoutStart;

@@ -17,13 +17,6 @@ FindingsPanel::FindingsPanel(QWidget *parent)
     connect(m_list, &QListWidget::itemClicked, this, [this] { activate(m_list->currentRow()); });
 }
 
-int FindingsPanel::rowOf(const QString &place)
-{
-    static const QRegularExpression form(QStringLiteral("\\b(?:row|task) (\\d+)\\b"));
-    const QRegularExpressionMatch match = form.match(place);
-    return match.hasMatch() ? match.captured(1).toInt() - 1 : -1;
-}
-
 void FindingsPanel::list(const Findings &findings)
 {
     m_list->clear();
@@ -33,7 +26,11 @@ void FindingsPanel::list(const Findings &findings)
         if (!finding.hint.isEmpty())
             text += QLatin1String("\n") + finding.hint;
         auto *item = new QListWidgetItem(text, m_list);
-        item->setData(Qt::UserRole, rowOf(finding.place));
+        // "row 17, 'Finish'", "line 17", "task 17"
+        static const QRegularExpression form(QStringLiteral("\\b(row|line|task) (\\d+)\\b"));
+        const QRegularExpressionMatch match = form.match(finding.place);
+        item->setData(Qt::UserRole, match.captured(2).toInt());
+        item->setData(Qt::UserRole + 1, match.captured(1) != QLatin1String("task"));
     }
     if (findings.count() > findings.list().size())
         new QListWidgetItem(tr("… and %1 more").arg(findings.count() - findings.list().size()), m_list);
@@ -49,7 +46,6 @@ int FindingsPanel::count() const
 void FindingsPanel::activate(int entry)
 {
     const QListWidgetItem *item = m_list->item(entry);
-    const int pos = item ? item->data(Qt::UserRole).toInt() : -1;
-    if (item && pos >= 0)
-        Q_EMIT jumped(pos);
+    if (item && item->data(Qt::UserRole).toInt() > 0)
+        Q_EMIT jumped(item->data(Qt::UserRole).toInt(), item->data(Qt::UserRole + 1).toBool());
 }

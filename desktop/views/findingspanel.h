@@ -13,11 +13,10 @@ public:
     void list(const Findings &findings); // hides itself when there are none
     int count() const;
     void activate(int entry);
-    // The row of the plan that a place such as "row 17, 'Finish'" names; -1: none.
-    static int rowOf(const QString &place);
 
 Q_SIGNALS:
-    void jumped(int pos);
+    // The number of a task, from 1; or where the file has it.
+    void jumped(int number, bool isOfFile);
 
 private:
     QListWidget *m_list;

@@ -2,7 +2,6 @@
 #include "documents/session.h"
 #include "edits/planreasons.h"
 #include "explain.h"
-#include "kwpxfile.h"
 #include "model/kwtaskinfo.h"
 #include <QRegularExpression>
 #include <QTextBrowser>
@@ -74,7 +73,8 @@ void ReasonsPanel::explainNow()
                "delay moves the end of the project.</p>"));
         return;
     }
-    kwpxfile::describe(plan);
+    if (!plan.imported.isStartGiven)
+        plan.start = plan::firstStart(plan);
     plan.tightest = planreasons::tightest(m_session.document());
     QString html;
     for (const explain::Line &line : explain::task(plan, pos)) {
@@ -85,8 +85,6 @@ void ReasonsPanel::explainNow()
             html += QStringLiteral("<p style='white-space:pre-wrap'><small>%1</small><br>%2</p>")
                         .arg(line.label.toHtmlEscaped(), withJumps(plan, line.text));
     }
-    // The rows are a second copy of the plan.
-    plan.rows = planrows::Rows();
     m_text->setHtml(html);
 }
 

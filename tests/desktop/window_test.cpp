@@ -389,7 +389,8 @@ TEST(Window, filesAreKeptSafe)
     folder::put(dir.filePath(QStringLiteral("bad.kwpx")), "PK nothing");
     EXPECT_FALSE(hands.window->openFile(dir.filePath(QStringLiteral("bad.kwpx"))));
     EXPECT_EQ(hands.task(0).Name, QLatin1String("Draw it"));
-    for (const char *file : {"plan.pdf", "plan.svg", "plan.html", "plan.xlsx", "plan.xls", "plan.xml"})
+    for (const char *file :
+         {"plan.pdf", "plan.svg", "plan.html", "plan.xlsx", "plan.xls", "plan.xml", "plan.csv"})
         EXPECT_TRUE(hands.window->exportTo(dir.filePath(QLatin1String(file))))
             << file << hands.window->note()->text().toStdString();
     EXPECT_FALSE(hands.window->exportTo(dir.filePath(QStringLiteral("plan.doc"))));
@@ -403,7 +404,7 @@ TEST(Window, findingsLeadToTheirRows)
     Hands hands;
     ASSERT_TRUE(hands.window->openFile(dir.filePath(QStringLiteral("plan.csv"))));
     ASSERT_GT(hands.window->findingsPanel()->count(), 0);
-    hands.window->findingsPanel()->activate(0);
+    hands.window->findingsPanel()->activate(1);
     EXPECT_EQ(hands.window->table()->currentTask(), hands.id(1));
     EXPECT_TRUE(hands.window->session().path().isEmpty()) << "a CSV file is not overwritten with a package";
 }
