@@ -295,6 +295,7 @@ void MainWindow::restoreSettings()
         action(name)->setChecked(settings.value(QLatin1String(name), true).toBool());
     m_picture.options.labels = KWExportOptions::Labels(
         qBound(0, settings.value(QStringLiteral("labels"), int(KWExportOptions::ResourceLabels)).toInt(), 3));
+    m_model->setShowsPredecessors(settings.value(QStringLiteral("predecessors"), true).toBool());
     applySwitches();
 }
 
@@ -304,6 +305,7 @@ void MainWindow::saveSettings()
     settings.setValue(QStringLiteral("geometry"), saveGeometry());
     settings.setValue(QStringLiteral("docks"), saveState());
     settings.setValue(QStringLiteral("splitter"), m_splitter->saveState());
+    settings.setValue(QStringLiteral("predecessors"), m_model->showsPredecessors());
     settings.setValue(QStringLiteral("labels"), int(m_picture.options.labels));
     for (const char *name : {"show-critical", "show-baseline", "show-slack", "show-links"})
         settings.setValue(QLatin1String(name), action(name)->isChecked());
@@ -924,6 +926,7 @@ void MainWindow::applySwitches()
     m_picture.options.baseline = action("show-baseline")->isChecked();
     m_picture.options.slack = action("show-slack")->isChecked();
     m_picture.options.links = action("show-links")->isChecked();
+    m_chart->showSheets(action("show-sheets")->isChecked());
     m_chart->viewport()->update();
 }
 

@@ -97,6 +97,8 @@ const std::vector<Row> &rows()
          &W::applySwitches},
         {"show-links", View, T("&Links"), "Ctrl+4", IsSwitch, T("shows what waits for what"),
          &W::applySwitches},
+        {"show-sheets", View, T("Sheet bo&rders"), "Ctrl+6", IsSwitch,
+         T("shows where the sheets of paper end"), &W::applySwitches},
         {"show-labels", View, T("L&abels"), "Ctrl+5", 0,
          T("texts beside bars: resources, names, dates, none"), &W::nextLabels},
         {"show-reasons", View, T("&Why is it when it is?"), "F4", IsSwitch | BeginsGroup,

@@ -33,6 +33,7 @@ constexpr Field fields[] = {
     {20, "base-start", QT_TRANSLATE_NOOP("cellinput", "Change baseline")},
     {21, "base-finish", QT_TRANSLATE_NOOP("cellinput", "Change baseline")},
     {22, "base-cost", QT_TRANSLATE_NOOP("cellinput", "Change baseline")},
+    {predecessorsType, "", QT_TRANSLATE_NOOP("cellinput", "Change predecessors")},
 };
 
 QString words(const char *text)
@@ -136,6 +137,38 @@ EditAnswer assign(Session &session, PlanEdits &edits, quint32 id, const QVector<
     return all;
 }
 
+// "3; 5", the numbers of tasks.
+bool readPredecessors(const KWDocument &document, const QString &text, QVector<quint32> &wanted,
+                      options::Fault &fault)
+{
+    static const QRegularExpression between(QStringLiteral("[;,\\s]+"));
+    for (const QString &part : text.split(between, Qt::SkipEmptyParts)) {
+        bool isNumber = false;
+        const KWTaskInfo *task = document.getTaskInfoAt(part.toInt(&isNumber) - 1);
+        if (!isNumber || !task) {
+            fault = {words("'%1' is no task").arg(part), words("write the numbers of tasks: 3; 5")};
+            return false;
+        }
+        wanted.append(task->ID);
+    }
+    return true;
+}
+
+EditAnswer waitFor(const KWDocument &document, PlanEdits &edits, quint32 id, const QVector<quint32> &wanted)
+{
+    EditAnswer all;
+    const QList<quint32> before = document.getTaskInfoByID(id)->Predecessors;
+    for (const quint32 predecessor : before) {
+        if (all.isDone() && !wanted.contains(predecessor))
+            Session::join(all, edits.unlink({predecessor, id}));
+    }
+    for (const quint32 predecessor : wanted) {
+        if (all.isDone() && !before.contains(predecessor))
+            Session::join(all, edits.link({predecessor, id}));
+    }
+    return all;
+}
+
 EditAnswer setValue(PlanEdits &edits, quint32 &id, const TaskValues &values)
 {
     if (id != 0)
@@ -184,6 +217,8 @@ QString text(Session &session, const KWTaskInfo &task, int type)
         return momentText(session, task.BaseFinish, false);
     case 22:
         return task.BaselineCost;
+    case predecessorsType:
+        return task.getDependOnListTagContent(&session.document(), true);
     default:
         return QString();
     }
@@ -211,6 +246,20 @@ Outcome enter(Session &session, quint32 id, int type, const QString &typed)
         return Outcome();
     options::Fault fault;
     const QString step = task ? words(field->step) : words(QT_TRANSLATE_NOOP("cellinput", "Add task"));
+    if (type == predecessorsType) {
+        QVector<quint32> wanted;
+        if (!readPredecessors(session.document(), entered, wanted, fault))
+            return refused(fault);
+        return outcomeOf(session.edit(step, [&](PlanEdits &edits) {
+            EditAnswer all;
+            quint32 at = id;
+            if (at == 0)
+                all = setValue(edits, at, TaskValues());
+            if (all.isDone())
+                Session::join(all, waitFor(session.document(), edits, at, wanted));
+            return all;
+        }));
+    }
     if (type == resourcesType) {
         QVector<Wanted> wanted;
         if (!readResources(entered, wanted, fault))
@@ -263,7 +312,8 @@ Outcome enterLines(Session &session, quint32 after, const QString &lines, const 
         for (int i = 0; i < cells.size() && i < types.size(); ++i) {
             const QString cell = cells.at(i).trimmed();
             const Field *field = fieldOf(types.at(i));
-            if (!field || cell.isEmpty())
+            // Numbers of rows mean others where they come from.
+            if (!field || cell.isEmpty() || types.at(i) == predecessorsType)
                 continue;
             const bool isRead = types.at(i) == resourcesType
                                     ? readResources(cell, next.resources, fault)

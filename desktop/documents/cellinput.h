@@ -20,6 +20,7 @@ struct Outcome
 
 constexpr int nameType = 1;
 constexpr int resourcesType = 7;
+constexpr int predecessorsType = 24;
 
 // Whether cells of that column type take a text; of a task that is not there yet too.
 bool isEditable(int type);

@@ -25,6 +25,7 @@ constexpr double handleSize = 8;
 constexpr qint64 secsOfDay = 86400;
 constexpr int flashMilliseconds = 900;
 constexpr int scrollMilliseconds = 40;
+constexpr int sheetMilliseconds = 250;
 
 KWTaskCollection &collectionOf(const Session &session)
 {
@@ -151,6 +152,25 @@ void PlanChart::rememberAnchor()
 }
 
 // The chart fills the view, so that bars can be dragged to where there is nothing yet.
+void PlanChart::showSheets(bool areShown)
+{
+    m_showsSheets = areShown;
+    findSheets();
+    viewport()->update();
+}
+
+void PlanChart::findSheets()
+{
+    m_sheetTime.stop();
+    m_sheets = GanttPdfExport::SheetBorders();
+    if (!m_showsSheets)
+        return;
+    GanttPdfExport drawing(&m_session.document());
+    drawing.options = m_picture.options;
+    m_sheets = drawing.sheetBorders();
+    viewport()->update();
+}
+
 void PlanChart::widen(int width)
 {
     const bool wasModified = m_session.isModified();
@@ -179,6 +199,10 @@ void PlanChart::scrollTo(double left)
 {
     widen(int(std::ceil(left)) + viewport()->width());
     updateBars();
+    if (m_showsSheets) {
+        m_sheets = GanttPdfExport::SheetBorders();
+        m_sheetTime.start(sheetMilliseconds, this);
+    }
     m_isAdjusting = true;
     horizontalScrollBar()->setValue(int(std::lround(left)));
     m_isAdjusting = false;
@@ -203,6 +227,7 @@ void PlanChart::restart()
     m_hovered = 0;
     m_anchor = 0;
     m_exactPixels = 0;
+    m_isFitted = false;
     scrollTo(0);
     rememberAnchor();
     m_head->update();
@@ -223,6 +248,7 @@ void PlanChart::zoom(double factor, double x)
 {
     if (isDragging() && m_drag.kind != Drag::Pan)
         return;
+    m_isFitted = false;
     const quint32 moment = momentAt(x);
     // Where the units are as the last step left them, it goes on from what was wanted.
     const double shown = pixelsOfDay();
@@ -242,6 +268,7 @@ void PlanChart::zoomAtCentre(double factor)
 
 void PlanChart::fit()
 {
+    m_isFitted = true;
     const KWTaskCollection &collection = collectionOf(m_session);
     const double days =
         qMax(1.0, double(collection.getMaxTaskFinishSecs() - collection.getMinTaskStartSecs()) / secsOfDay);
@@ -281,17 +308,22 @@ void PlanChart::showBar(quint32 id)
         int(horizontalScrollBar()->value() + bar.left() - viewport()->width() / 3.0));
 }
 
-void PlanChart::scrollContentsBy(int, int)
+void PlanChart::scrollContentsBy(int dx, int)
 {
     if (!m_isAdjusting)
         rememberAnchor();
-    m_head->update();
+    if (dx != 0)
+        m_head->update();
     viewport()->update();
 }
 
 void PlanChart::resizeEvent(QResizeEvent *event)
 {
     QAbstractScrollArea::resizeEvent(event);
+    if (m_isFitted && event->size().width() != event->oldSize().width()) {
+        fit();
+        return;
+    }
     scrollTo(horizontalScrollBar()->value());
     rememberAnchor();
 }
@@ -668,6 +700,10 @@ void PlanChart::timerEvent(QTimerEvent *event)
         viewport()->update();
         return;
     }
+    if (event->timerId() == m_sheetTime.timerId()) {
+        findSheets();
+        return;
+    }
     if (event->timerId() != m_scrollTime.timerId()) {
         QAbstractScrollArea::timerEvent(event);
         return;
@@ -724,22 +760,37 @@ void PlanChart::flash(const QSet<quint32> &ids)
     viewport()->update();
 }
 
-// Where the bars stood before the drag.
+QVector<quint32> PlanChart::tasksInView() const
+{
+    QVector<quint32> ids;
+    const double top = verticalScrollBar()->value();
+    const int first = qMax(0, m_model.rowAtY(top)), last = m_model.rowAtY(top + viewport()->height());
+    for (int row = first; row <= (last < 0 ? m_model.taskRows() - 1 : last); ++row)
+        ids.append(m_model.taskAt(row));
+    return ids;
+}
+
+// Where the bars stood before the drag. A drag may move thousands; those that are seen are few.
 void PlanChart::paintGhosts(QPainter &painter) const
 {
-    const QRect view = viewport()->rect();
-    const QColor ink = palette().text().color();
-    for (const EditMove &move : m_trial.moves) {
-        const QRectF now = barRect(move.task);
-        if (now.isNull() || now.bottom() < 0 || now.top() > view.height() || move.oldStart == 0)
+    if (m_trial.moves.isEmpty())
+        return;
+    QHash<quint32, const EditMove *> moves;
+    const QVector<quint32> seen = tasksInView();
+    const QSet<quint32> inView(seen.begin(), seen.end());
+    for (const EditMove &move : m_trial.moves)
+        if (inView.contains(move.task))
+            moves.insert(move.task, &move);
+    QColor line = palette().text().color();
+    line.setAlpha(150);
+    painter.setPen(QPen(line, 1, Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    for (const EditMove *move : qAsConst(moves)) {
+        const QRectF now = barRect(move->task);
+        if (now.isNull() || move->oldStart == 0)
             continue;
-        const bool isMilestone = task(move.task)->Milestone;
-        const double left = xOf(move.oldStart);
-        const double width = isMilestone ? barHeight : qMax(2.0, xOf(move.oldFinish) - left);
-        QColor line = ink;
-        line.setAlpha(150);
-        painter.setPen(QPen(line, 1, Qt::DashLine));
-        painter.setBrush(Qt::NoBrush);
+        const double left = xOf(move->oldStart);
+        const double width = task(move->task)->Milestone ? barHeight : qMax(2.0, xOf(move->oldFinish) - left);
         painter.drawRect(QRectF(left, now.top(), width, now.height()).adjusted(0.5, 0.5, -0.5, -0.5));
     }
 }
@@ -769,14 +820,29 @@ void PlanChart::paintEvent(QPaintEvent *)
                     Picture::Chart);
     painter.setRenderHint(QPainter::Antialiasing);
     constexpr int flashAlpha = 60;
-    for (const quint32 id : qAsConst(m_flashed)) {
-        const QRectF bar = barRect(id);
-        if (bar.isNull() || bar.bottom() < 0 || bar.top() > view.height())
+    for (const quint32 id : m_flashed.isEmpty() ? QVector<quint32>() : tasksInView()) {
+        const QRectF bar = m_flashed.contains(id) ? barRect(id) : QRectF();
+        if (bar.isNull())
             continue;
         painter.setPen(Qt::NoPen);
         painter.setBrush(QColor(255, 190, 60, flashAlpha));
         painter.drawRoundedRect(bar.adjusted(-5, -5, 5, 5), 5, 5);
     }
+    if (m_showsSheets)
+        paintSheets(painter);
     paintGhosts(painter);
     paintHover(painter);
+}
+
+void PlanChart::paintSheets(QPainter &painter) const
+{
+    painter.setPen(QPen(QColor(0x8e, 0x44, 0xad), 1.5, Qt::DashDotLine));
+    for (const double place : m_sheets.places) {
+        const double x = place - horizontalScrollBar()->value();
+        painter.drawLine(QPointF(x, 0), QPointF(x, viewport()->height()));
+    }
+    for (const int row : m_sheets.rows) {
+        const double y = m_model.rowTop(row) - verticalScrollBar()->value();
+        painter.drawLine(QPointF(0, y), QPointF(viewport()->width(), y));
+    }
 }

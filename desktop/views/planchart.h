@@ -1,5 +1,6 @@
 #pragma once
 #include "edits/editanswer.h"
+#include "export/ganttpdfexport.h"
 #include "views/picture.h"
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
@@ -39,6 +40,7 @@ public:
     void showBar(quint32 id); // across; the rows follow the table
     double pixelsOfDay() const;
     void flash(const QSet<quint32> &ids);
+    void showSheets(bool areShown); // where the sheets of paper end
 
     bool isDragging() const { return m_drag.kind != Drag::None; }
     QString hint() const; // what is said beside the pointer while dragging
@@ -101,8 +103,11 @@ private:
     QString spanText(quint32 start, quint32 finish) const;
     QString consequences(const EditAnswer &answer) const;
     const KWTaskInfo *task(quint32 id) const;
+    QVector<quint32> tasksInView() const;
     void paintGhosts(QPainter &painter) const;
     void paintHover(QPainter &painter) const;
+    void paintSheets(QPainter &painter) const;
+    void findSheets();
 
     Session &m_session;
     PlanModel &m_model;
@@ -119,6 +124,10 @@ private:
     double m_anchorPixels = 0;
     double m_exactPixels = 0; // of a day: small steps of the wheel add up
     bool m_isAdjusting = false;
+    bool m_isFitted = false; // until the user zooms, also when the window grows
+    bool m_showsSheets = false;
+    GanttPdfExport::SheetBorders m_sheets;
+    QBasicTimer m_sheetTime; // they are found when nothing has changed for a moment
     QSet<quint32> m_flashed;
     QBasicTimer m_flashTime;
     QBasicTimer m_scrollTime;

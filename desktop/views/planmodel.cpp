@@ -7,11 +7,39 @@
 PlanModel::PlanModel(Session &session, QObject *parent)
     : QAbstractTableModel(parent)
     , m_session(session)
-    , m_table(std::make_unique<CustomTable>(&session.document()))
+    , m_table(newTable())
     , m_ids(visibleIds())
 {
     connect(&session, &Session::replaced, this, &PlanModel::restart);
     connect(&session, &Session::edited, this, &PlanModel::follow);
+}
+
+std::unique_ptr<CustomTable> PlanModel::newTable() const
+{
+    KWDocument *document = &m_session.document();
+    auto table = std::make_unique<CustomTable>(document);
+    if (!m_showsPredecessors)
+        return table;
+    std::vector<int> types;
+    for (const HeadItem &head : table->heads())
+        types.push_back(head.type);
+    if (std::find(types.begin(), types.end(), cellinput::predecessorsType) == types.end())
+        types.push_back(cellinput::predecessorsType);
+    return std::make_unique<CustomTable>(document, types);
+}
+
+std::vector<int> PlanModel::columnTypes() const
+{
+    std::vector<int> types;
+    for (const HeadItem &head : m_table->heads())
+        types.push_back(head.type);
+    return types;
+}
+
+void PlanModel::setShowsPredecessors(bool isShown)
+{
+    m_showsPredecessors = isShown;
+    restart();
 }
 
 std::vector<quint32> PlanModel::visibleIds() const
@@ -27,14 +55,14 @@ std::vector<quint32> PlanModel::visibleIds() const
 void PlanModel::restart()
 {
     beginResetModel();
-    m_table = std::make_unique<CustomTable>(&m_session.document());
+    m_table = newTable();
     m_ids = visibleIds();
     endResetModel();
 }
 
 void PlanModel::follow()
 {
-    auto table = std::make_unique<CustomTable>(&m_session.document());
+    auto table = newTable();
     const auto isSameHead = [](const HeadItem &a, const HeadItem &b) { return a.type == b.type; };
     const bool sameColumns =
         table->columnCount() == m_table->columnCount() &&

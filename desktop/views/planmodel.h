@@ -28,6 +28,10 @@ public:
     quint32 taskAt(int row) const; // its ID; 0 for the last row
     int rowOf(quint32 id) const;   // -1: not visible
     const CustomTable &table() const { return *m_table; }
+    // What each task waits for, as a last column: no column of the document, so the window remembers it.
+    void setShowsPredecessors(bool isShown);
+    bool showsPredecessors() const { return m_showsPredecessors; }
+    std::vector<int> columnTypes() const;
     int typeOf(int column) const;
     int columnOf(int type) const; // -1: not shown
     double rowTop(int row) const; // pixels below the head, also of the row for a new task
@@ -43,9 +47,11 @@ private:
     void restart();
     void follow();
     std::vector<quint32> visibleIds() const;
+    std::unique_ptr<CustomTable> newTable() const;
 
     Session &m_session;
     std::unique_ptr<CustomTable> m_table;
     std::vector<quint32> m_ids;
     cellinput::Outcome m_outcome;
+    bool m_showsPredecessors = true;
 };

@@ -468,9 +468,21 @@ void PlanTable::askColumns(const QPoint &globalPos)
         action->setChecked(!column.isHide);
         action->setEnabled(columns.isReplaceColumn(pos));
     }
+    QAction *waits = nullptr;
+    const QString waitsTitle = RowColumnData::s_columnNames.value(cellinput::predecessorsType);
+    if (!columns.getColumnDataByName(waitsTitle)) {
+        waits = menu.addAction(waitsTitle);
+        waits->setCheckable(true);
+        waits->setChecked(m_model.showsPredecessors());
+    }
     const QAction *chosen = menu.exec(globalPos);
     if (!chosen)
         return;
+    if (chosen == waits) {
+        m_model.setShowsPredecessors(waits->isChecked());
+        edited();
+        return;
+    }
     ColumnValues values;
     values.isHidden = !chosen->isChecked();
     const QString title = chosen->text();
@@ -502,6 +514,7 @@ void PlanTable::paintEvent(QPaintEvent *)
 {
     QPainter painter(viewport());
     const QRect view = viewport()->rect();
+    m_picture.options.columns = m_model.columnTypes();
     const int shown = qBound(0, int(tableWidth()) - horizontalOffset(), view.width());
     m_picture.paint(painter, QRect(0, 0, shown, view.height()),
                     QPointF(horizontalOffset() - tableWidth(), verticalOffset() + headHeight),

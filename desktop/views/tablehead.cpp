@@ -48,6 +48,7 @@ int TableHead::columnAt(double x) const
 void TableHead::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    m_picture.options.columns = m_model.columnTypes();
     const int shown = qMin(width(), int(m_table.tableWidth()) - m_offset);
     m_picture.paint(painter, QRect(0, 0, shown, height()), QPointF(m_offset - m_table.tableWidth(), 0),
                     Picture::Table);

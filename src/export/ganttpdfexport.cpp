@@ -230,6 +230,19 @@ QSize GanttPdfExport::sheetCounts()
     return drawing ? QSize(drawing->sheets.across, drawing->sheets.down) : QSize();
 }
 
+GanttPdfExport::SheetBorders GanttPdfExport::sheetBorders()
+{
+    SheetBorders borders;
+    const std::unique_ptr<Drawing> drawing = prepareSheets();
+    if (!drawing)
+        return borders;
+    borders.places = drawing->sheets.edges;
+    for (const chart::SheetPart &part : drawing->sheets.parts)
+        if (part.across == 0 && part.firstRow > 0)
+            borders.rows.push_back(part.firstRow);
+    return borders;
+}
+
 QSizeF GanttPdfExport::pageSize()
 {
     m_findings.clear();

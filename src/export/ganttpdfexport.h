@@ -55,6 +55,14 @@ public:
     QSizeF pageSize();     // millimetres
     QSize sheetCounts();   // across and down
     double smallestText(); // points on paper; 0 without sheets
+    // Where the sheets end on the chart that paint() shows: places of the axis, and the rows that begin
+    // further sheets below the first ones.
+    struct SheetBorders
+    {
+        std::vector<double> places;
+        std::vector<int> rows;
+    };
+    SheetBorders sheetBorders();
     // How many sheets across and down make the smallest text at least so many points high; the document's own
     // numbers where it is as they stand.
     QSize sheetsForText(double points);

@@ -330,7 +330,8 @@ void PlanView::load(int first, int last)
     m_plan.firstRow = first;
     if (last < first)
         return;
-    int low = std::max(0, first - neighbourRows), high = std::min(m_plan.rowCount - 1, last + neighbourRows);
+    const int around = m_options.links ? neighbourRows : 0;
+    int low = std::max(0, first - around), high = std::min(m_plan.rowCount - 1, last + around);
     if (m_options.links) {
         for (int row = first; row <= last; ++row) {
             const KWTaskInfo &task = *this->task(row);

@@ -34,7 +34,7 @@
 
 namespace {
 
-constexpr int start = 2, finish = 3, length = 4, percent = 5, resources = 7, name = 1;
+constexpr int start = 2, finish = 3, length = 4, percent = 5, resources = 7, name = 1, waits = 24;
 
 // The program's own edits on a plan of its own.
 std::string programs(const QStringList &edits)
@@ -104,8 +104,7 @@ TEST(Window, keysMakeTheProgramsPlan)
     hands.key(Qt::Key_Right, Qt::AltModifier);
     choose(1, 3);
     hands.key(Qt::Key_L, Qt::ControlModifier);
-    choose(8, 9);
-    hands.key(Qt::Key_L, Qt::ControlModifier);
+    hands.enter(9, waits, QStringLiteral("9"));
 
     QStringList edits;
     for (const char *each : names)
@@ -131,11 +130,10 @@ TEST(Window, aWrongValueSaysWhatIsWrongAndKeepsTheText)
         int type;
         const char *text;
         const char *complaint;
-    } cases[] = {{start, "soon", "is not a date"},
-                 {finish, "2025-01-01", "before the start"},
-                 {length, "3 blinks", "is not a duration"},
-                 {percent, "120", "percentage"},
-                 {resources, "Ann[lots]", "no resource"}};
+    } cases[] = {{start, "soon", "is not a date"},          {finish, "2025-01-01", "before the start"},
+                 {length, "3 blinks", "is not a duration"}, {percent, "120", "percentage"},
+                 {resources, "Ann[lots]", "no resource"},   {waits, "2; 9", "'9' is no task"},
+                 {waits, "3", "wait for each other"}};
     for (const auto &each : cases) {
         hands.enter(0, each.type, QLatin1String(each.text));
         EXPECT_NE(hands.window->table()->cells()->complaint().indexOf(QLatin1String(each.complaint)), -1)

@@ -1,0 +1,207 @@
+// The window at plans of every size, beside what the library takes without one.
+#include "documents/session.h"
+#include "edits/settle.h"
+#include "export/ganttpdfexport.h"
+#include "generator.h"
+#include "kwfilepathmanager.h"
+#include "mainwindow.h"
+#include "model/kwtaskinfo.h"
+#include "report.h"
+#include "schedule/kwtaskcollection.h"
+#include "texts.h"
+#include "views/planchart.h"
+#include "views/planmodel.h"
+#include "views/plantable.h"
+#include <QApplication>
+#include <QFile>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <unistd.h>
+
+namespace {
+
+double megabytesNow()
+{
+    QFile file(QStringLiteral("/proc/self/statm"));
+    file.open(QIODevice::ReadOnly);
+    constexpr double megabyte = 1 << 20;
+    return file.readAll().split(' ').value(1).toDouble() * double(sysconf(_SC_PAGESIZE)) / megabyte;
+}
+
+QString packageOf(const QTemporaryDir &folder, int tasks)
+{
+    generator::Shape shape;
+    shape.tasks = tasks;
+    const auto document = generator::document(generator::plan(shape), shape);
+    settling::settle(*document, {settling::Everything, {}, {}});
+    const QString path = folder.filePath(QStringLiteral("plan.kwpx"));
+    document->save(path);
+    return path;
+}
+
+void show(MainWindow &window)
+{
+    window.table()->viewport()->repaint();
+    window.chart()->viewport()->repaint();
+}
+
+// The task in the first tenth of the plan whose delay moves the most.
+quint32 busyTask(Session &session)
+{
+    KWDocument &document = session.document();
+    quint32 best = 0;
+    int most = -1;
+    for (int i = 0; i < 12; ++i) {
+        const KWTaskInfo *task = document.getTaskInfoAt(document.taskCount() / 200 * (i + 1));
+        if (task->isParent())
+            continue;
+        TaskValues values;
+        values.finish = task->Finish + 5 * 86400;
+        PlanEdits edits(document, QStringLiteral("Measure"));
+        const int moves = edits.set({task->ID}, values).moves.size();
+        edits.cancel();
+        if (moves > most && moves <= 10000) {
+            most = moves;
+            best = task->ID;
+        }
+    }
+    std::printf("  the edit moves %d tasks\n", most);
+    return best;
+}
+
+void measure(Report &report, int tasks)
+{
+    const QTemporaryDir folder;
+    const QString path = packageOf(folder, tasks);
+    double alone = 0;
+    {
+        // What opening and editing take without a window; the document is gone before the window comes.
+        KWDocument document;
+        alone = secondsOf([&] {
+            document.loadFromKWGT(path);
+            settling::settle(document, {settling::AsItStands, {}, {}});
+        });
+    }
+    const double before = megabytesNow();
+    double withDocument = 0;
+    {
+        KWDocument document;
+        document.loadFromKWGT(path);
+        settling::settle(document, {settling::AsItStands, {}, {}});
+        withDocument = megabytesNow() - before;
+    }
+    MainWindow window;
+    window.setAttribute(Qt::WA_DeleteOnClose, false);
+    window.setAsker(
+        [](const QString &, const QString &, QMessageBox::StandardButtons) { return QMessageBox::Discard; });
+    window.resize(1200, 900);
+    const double empty = megabytesNow();
+    report.line("opened and shown", tasks, secondsOf([&] {
+                    window.openFile(path);
+                    window.show();
+                    QApplication::processEvents();
+                }),
+                alone);
+    std::printf("  %.0f MB for the document, %.0f MB with its window\n", withDocument,
+                megabytesNow() - empty);
+
+    Session &session = window.session();
+    PlanChart &chart = *window.chart();
+    KWDocument &document = session.document();
+    QImage image(1200, 900, QImage::Format_RGB32);
+    GanttPdfExport picture(&document);
+    constexpr int frames = 40;
+    const int bottom = chart.verticalScrollBar()->maximum();
+    const auto everyFrame = [&](const std::function<void(int)> &work) {
+        return best(
+                   3, [] {},
+                   [&] {
+                       for (int frame = 0; frame < frames; ++frame)
+                           work(frame);
+                   }) /
+               frames;
+    };
+    const double floorOfFrame = everyFrame([&](int frame) {
+        picture.paint(image, QRectF(-600, double(bottom) * frame / frames, 1200, 900), 1);
+    });
+    report.line("a frame while scrolling", tasks, everyFrame([&](int frame) {
+                    chart.verticalScrollBar()->setValue(bottom / frames * frame);
+                    show(window);
+                }),
+                floorOfFrame);
+    report.line("a frame while zooming", tasks, everyFrame([&](int frame) {
+                    chart.zoom(frame < frames / 2 ? 1.2 : 1 / 1.2, 300);
+                    show(window);
+                }),
+                floorOfFrame);
+
+    const quint32 id = busyTask(session);
+    if (id == 0)
+        return;
+    window.jumpTo(id);
+    KWTaskInfo *task = document.getTaskInfoByID(id);
+    const int row = window.model()->rowOf(id), column = window.model()->columnOf(4);
+    TaskValues longer;
+    longer.length = TaskLength{document.getDurationValue(task->Start, task->Finish, 4, true) + 5, 4};
+    const QString typed = QString::number(longer.length->value) + QLatin1Char('d');
+    const auto takeBack = [&] {
+        while (!document.actionManager().undoActions().isEmpty())
+            document.actionManager().undo(1);
+    };
+    const double floorOfEdit = best(3, takeBack, [&] {
+        PlanEdits edits(document, QStringLiteral("Measure"));
+        edits.set({id}, longer);
+    });
+    takeBack();
+    report.line("a duration that is typed", tasks,
+                best(
+                    3,
+                    [&] {
+                        while (!session.undoName().isEmpty())
+                            session.undo();
+                    },
+                    [&] {
+                        window.model()->setData(window.model()->index(row, column), typed, Qt::EditRole);
+                        show(window);
+                    }),
+                floorOfEdit);
+    while (!session.undoName().isEmpty())
+        session.undo();
+    TaskValues later;
+    int steps = 0;
+    const auto next = [&] { later.start = task->Start + quint32(++steps) * 86400; };
+    const double floorOfDrag = best(
+        3, [&] { next(); },
+        [&] {
+            PlanEdits edits(document, QStringLiteral("Measure"));
+            edits.set({id}, later);
+            edits.cancel();
+        });
+    session.tryOut(QStringLiteral("Drag"), [&](PlanEdits &edits) { return edits.set({id}, later); });
+    report.line("a step of a drag", tasks,
+                best(
+                    3, [&] { later.start = *later.start + 86400; },
+                    [&] {
+                        session.tryOut(QStringLiteral("Drag"),
+                                       [&](PlanEdits &edits) { return edits.set({id}, later); });
+                        show(window);
+                    }),
+                floorOfDrag);
+    session.dropTrial();
+    document.setModified(false);
+}
+}
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication::setStyle(QStringLiteral("fusion"));
+    const QApplication application(argc, argv);
+    const QTemporaryDir configuration;
+    KWFilePathManager::setConfigRoot(configuration.path());
+    texts::fillLibraryTables();
+    Report report;
+    for (const int tasks : {1000, 10000, 100000})
+        measure(report, tasks);
+    return 0;
+}
