@@ -3,11 +3,12 @@
 #include "engine/network/linkgraph.h"
 #include "engine/network/links.h"
 #include "engine/record/taskrecord.h"
-#include <QSet>
 #include <QVector>
 #include <algorithm>
 #include <limits>
 #include <numeric>
+#include <unordered_map>
+#include <vector>
 
 namespace links {
 
@@ -20,36 +21,73 @@ constexpr int none = -1;
 
 // ---- Many links at once -----------------------------------------------------------------------------------
 
-// Each pair its own number. The odd factor keeps them apart and spreads them: Qt's hash of the halves side by
-// side is the same for all pairs along a diagonal, and links lie there.
-quint64 pairOf(int predecessor, int successor)
+// Pairs of places in one block of memory: there may be a million links.
+class PairSet
 {
-    return ((quint64(quint32(predecessor)) << 32) | quint32(successor)) * 0x9e3779b97f4a7c15ULL;
-}
+public:
+    // False when it is there already.
+    bool insert(int a, int b)
+    {
+        if (m_count >= m_slots.size() / 2)
+            grow();
+        quint64 &slot = m_slots[slotOf(keyOf(a, b))];
+        const bool isNew = slot == empty;
+        slot = keyOf(a, b);
+        m_count += isNew;
+        return isNew;
+    }
+    bool contains(int a, int b) const { return !m_slots.empty() && m_slots[slotOf(keyOf(a, b))] != empty; }
+
+private:
+    static constexpr quint64 empty = 0;
+    static quint64 keyOf(int a, int b) { return ((quint64(quint32(a)) + 1) << 32) | quint32(b); }
+    // Links lie along a diagonal, so the upper bits of a product have to tell them apart.
+    std::size_t slotOf(quint64 key) const
+    {
+        std::size_t slot = std::size_t((key * 0x9e3779b97f4a7c15ULL) >> m_shift);
+        while (m_slots[slot] != empty && m_slots[slot] != key)
+            slot = (slot + 1) & (m_slots.size() - 1);
+        return slot;
+    }
+    void grow()
+    {
+        constexpr int firstBits = 4;
+        m_shift = m_slots.empty() ? 64 - firstBits : m_shift - 1;
+        std::vector<quint64> keys(std::size_t(1) << (64 - m_shift), empty);
+        keys.swap(m_slots);
+        for (const quint64 key : keys) {
+            if (key != empty)
+                m_slots[slotOf(key)] = key;
+        }
+    }
+
+    std::vector<quint64> m_slots;
+    std::size_t m_count = 0;
+    int m_shift = 0;
+};
 
 // Every child names its summary and every summary its children.
 bool isOutlineSound(const Tasks &tasks)
 {
-    QSet<quint64> listed;
-    int children = 0;
+    const auto summaryOf = [&tasks](int pos) {
+        const quint32 id = tasks.list[pos]->ParentID;
+        return id == 0 ? none : tasks.index.posOf(id);
+    };
+    int named = 0;
+    std::vector<bool> isListed(std::size_t(tasks.list.size()));
     for (int pos = 0; pos < tasks.list.size(); ++pos) {
-        for (const quint32 id : tasks.list[pos]->Childs)
-            listed.insert(pairOf(pos, tasks.index.posOf(id)));
-        children += tasks.list[pos]->Childs.size();
         if (tasks.index.posOf(tasks.list[pos]->ID) != pos)
             return false;
+        named += summaryOf(pos) != none;
+        for (const quint32 id : tasks.list[pos]->Childs) {
+            const int child = tasks.index.posOf(id);
+            if (child < 0 || isListed[std::size_t(child)] || summaryOf(child) != pos)
+                return false;
+            isListed[std::size_t(child)] = true;
+            --named;
+        }
     }
-    int named = 0;
-    for (int pos = 0; pos < tasks.list.size(); ++pos) {
-        const int summary =
-            tasks.list[pos]->ParentID == 0 ? none : tasks.index.posOf(tasks.list[pos]->ParentID);
-        if (summary == none)
-            continue;
-        if (!listed.contains(pairOf(summary, pos)))
-            return false;
-        ++named;
-    }
-    return named == children;
+    return named == 0;
 }
 
 // What becomes of links, with what is asked again and again at hand.
@@ -63,7 +101,7 @@ public:
     {
         for (int pos = 0; pos < tasks.list.size(); ++pos) {
             for (const quint32 id : tasks.list[pos]->Depends)
-                m_linked.insert(pairOf(pos, tasks.index.posOf(id)));
+                m_linked.insert(pos, tasks.index.posOf(id));
         }
         m_from.reserve(wanted.size());
         for (KWTaskLink &link : wanted)
@@ -78,7 +116,7 @@ public:
             m_wanted[i].ring.clear();
             m_wanted[i].refusal = judged(i, order);
             if (m_wanted[i].refusal == LinkRefusal::None)
-                m_linked.insert(pairOf(m_from[i].predecessor, m_from[i].successor));
+                m_linked.insert(m_from[i].predecessor, m_from[i].successor);
         }
     }
 
@@ -147,7 +185,7 @@ private:
             return LinkRefusal::Missing;
         if (ends.predecessor == ends.successor)
             return LinkRefusal::Self;
-        if (m_linked.contains(pairOf(ends.predecessor, ends.successor)))
+        if (m_linked.contains(ends.predecessor, ends.successor))
             return LinkRefusal::Twice;
         const TaskRecord &a = *m_tasks.list[ends.predecessor];
         const TaskRecord &b = *m_tasks.list[ends.successor];
@@ -168,7 +206,7 @@ private:
     const EventNetwork &m_network;
     QList<KWTaskLink> &m_wanted;
     QVector<Ends> m_from;
-    QSet<quint64> m_linked; // by Depends
+    PairSet m_linked; // by Depends
 };
 
 void judgeOneByOne(const Tasks &tasks, QList<KWTaskLink> &wanted)
@@ -215,10 +253,8 @@ public:
         double &right = found->second;
         if (isNew)
             read(pos, right);
-        const quint64 pair = pairOf(pos, other);
-        if (m_listed.contains(pair))
+        if (!m_listed.insert(pos, other))
             return;
-        m_listed.insert(pair);
         // Where no bar starts further right the list need not be looked through.
         const TaskRecord &task = *m_tasks.list[other];
         ids.insert(right > task.x1 ? placeByBar(m_tasks, ids, task.x1) : ids.size(), task.ID);
@@ -232,7 +268,7 @@ private:
             const int listed = m_tasks.index.posOf(id);
             if (listed < 0)
                 continue;
-            m_listed.insert(pairOf(pos, listed));
+            m_listed.insert(pos, listed);
             right = std::max(right, m_tasks.list[listed]->x1);
         }
     }
@@ -240,7 +276,7 @@ private:
     const Tasks &m_tasks;
     QList<quint32> TaskRecord::*m_ids;
     std::unordered_map<int, double> m_right; // by place: the greatest left edge of the listed bars
-    QSet<quint64> m_listed;
+    PairSet m_listed;
 };
 }
 
