@@ -17,6 +17,7 @@ public:
         , m_givenUp(givenUp)
     {
     }
+    std::size_t rowsAtMost() const override { return m_table.rows.size(); }
     bool next(sheetrows::Row &row) override
     {
         if (m_next == m_table.rows.size())

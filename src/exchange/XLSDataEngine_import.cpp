@@ -3,6 +3,7 @@
 #include "exchange/planimport.h"
 #include <QFile>
 #include <QLocale>
+#include <algorithm>
 
 using exceltitles::Sheet;
 using YExcel::BasicExcel;
@@ -29,6 +30,7 @@ public:
         , m_columns(columns)
     {
     }
+    std::size_t rowsAtMost() const override { return std::size_t(std::min(m_rows, m_sheet->GetTotalRows())); }
     bool next(sheetrows::Row &row) override
     {
         m_row = m_sheet->NextRow(m_row + 1);

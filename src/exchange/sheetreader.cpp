@@ -38,6 +38,8 @@ bool Reader::read(Source &source)
 {
     // A file may hold its rows in any order, and without their titles they say nothing.
     std::vector<Row> early;
+    if (source.rowsAtMost() > 0)
+        expectRows(source.rowsAtMost());
     Row row;
     while (source.next(row)) {
         row.line = row.line > 0 ? row.line : row.number;

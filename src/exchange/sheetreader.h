@@ -75,6 +75,8 @@ public:
     QString place() const; // what stands before a row's number in findings
 
 protected:
+    // Before the rows, if it is known.
+    virtual void expectRows(std::size_t) {}
     // A row that has something in a known column.
     virtual void addRow(const Row &row, const std::vector<KnownCell> &cells) = 0;
     const Reading &reading() const { return m_reading; }

@@ -27,6 +27,8 @@ public:
     virtual ~Source() = default;
     // Fills in the next row, in the order of the file; numbers may repeat or go back. False at the end.
     virtual bool next(Row &row) = 0;
+    // How many rows there are at most, where that is known before; else 0.
+    virtual std::size_t rowsAtMost() const { return 0; }
     // Why the sheet ended early; empty when it did not.
     virtual QString error() const { return QString(); }
 };

@@ -24,6 +24,7 @@ public:
     void finish(staged::Plan &plan);
 
 protected:
+    void expectRows(std::size_t rows) override { m_tasks.reserve(rows); }
     void addRow(const sheetrows::Row &row, const std::vector<sheetrows::KnownCell> &cells) override;
 
 private:

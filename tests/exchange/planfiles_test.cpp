@@ -220,6 +220,13 @@ std::unique_ptr<KWDocument> randomPlan(std::mt19937 &random)
     for (KWTaskInfo *task : plan->taskList()) {
         task->DurationSecs =
             KWTaskInfo::durationSecs(plan.get(), task->Start, task->Finish, task->DurationUnits);
+        // What is shorter than a minute, as one that lies in a break, comes back as a milestone.
+        constexpr quint32 fewMinutes = 600;
+        if (!task->isParent() && task->DurationSecs < fewMinutes) {
+            task->Milestone = true;
+            task->Finish = task->Start + 1;
+            task->DurationSecs = 0;
+        }
         task->Name = QStringLiteral("Wall, \"%1\" ").arg(between(random, 1, 12)); // some share theirs
         task->Notes = QStringLiteral("a\nb;%1").arg(task->ID);
         task->setPercent(between(random, 0, 8) / 8.0);

@@ -65,15 +65,27 @@ ShownDates::ShownDates(const WorkCalendar &calendar, const QList<TaskRecord *> &
     showSummaries();
 }
 
-// The predecessor whose end is the milestone's moment; a task rather than another milestone.
+// The predecessor whose end is the milestone's moment, to the minute that is shown: files hold no others. The
+// last of several, since a break lies in one moment; a task rather than another milestone.
 int ShownDates::driverOf(const TaskRecord &milestone) const
 {
+    const auto minute = [this](quint32 finish) {
+        return shownmoment::finish(m_calendar, shownmoment::ofFinish(m_calendar, finish),
+                                   shownmoment::StayOn);
+    };
+    if (milestone.Predecessors.isEmpty())
+        return nobody;
+    const quint32 moment = shownmoment::start(m_calendar, shownmoment::ofStart(m_calendar, milestone.Start),
+                                              shownmoment::StayOn);
     int driver = nobody;
     for (const quint32 id : milestone.Predecessors) {
         const int pos = m_index.posOf(id);
-        if (pos < 0 || !shownmoment::isSame(m_calendar, m_tasks[pos]->Finish, milestone.Start))
+        if (pos < 0 || !shownmoment::isSame(m_calendar, minute(m_tasks[pos]->Finish), moment))
             continue;
-        if (driver == nobody || !m_tasks[pos]->Milestone)
+        const auto rank = [this](int at) {
+            return std::pair(!m_tasks[at]->Milestone, quint32(m_tasks[at]->Finish));
+        };
+        if (driver == nobody || rank(pos) > rank(driver))
             driver = pos;
     }
     return driver;
