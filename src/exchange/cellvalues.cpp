@@ -287,9 +287,10 @@ std::optional<Length> length(const QString &text, const UnitNames &names, unsign
 
 namespace {
 
+// The first day of 1970 may begin at 0 seconds, which a task stores for no date.
 std::optional<shownmoment::Moment> momentAt(const QDate &date, int secs, bool hasTime)
 {
-    if (!date.isValid() || date.year() < firstYear || date.year() > lastYear)
+    if (!date.isValid() || LocalClock::dayOf(date) < 1 || date.year() > lastYear)
         return std::nullopt;
     return shownmoment::Moment{LocalClock::dayOf(date), secs, hasTime};
 }

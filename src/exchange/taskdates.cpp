@@ -147,6 +147,8 @@ Dates of(const WorkCalendar &calendar, const staged::Task &task, quint32 project
     if (finish.isGiven()) {
         dates.start = hasLength ? walk::byUnits(calendar, dates.finish, -task.length->value, unit)
                                 : walk::byUnits(calendar, dates.finish, -oneDay, duration::Day);
+        // 0 is no start.
+        dates.start = std::max(dates.start, milestoneSecs);
         if (dates.start >= dates.finish)
             dates.start = dates.finish - std::min(dates.finish, milestoneSecs);
         dates.remark = hasLength ? Remark::None : Remark::FinishAlone;

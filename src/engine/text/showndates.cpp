@@ -39,7 +39,13 @@ ShownDates::Moment ShownDates::finishOf(const WorkCalendar &calendar, quint32 se
 ShownDates::Moment ShownDates::endOf(const WorkCalendar &calendar, quint32 secs)
 {
     constexpr bool hourClock = true;
-    return finishOf(calendar, dayoff::finishBack(calendar, secs / 60 * 60, hourClock));
+    constexpr int minute = 60;
+    const Moment stored = finishOf(calendar, secs);
+    const Moment evening =
+        finishOf(calendar, dayoff::finishBack(calendar, secs / minute * minute, hourClock));
+    // Only the second was cut off.
+    const bool isThere = stored.day == evening.day && stored.secs - evening.secs <= minute;
+    return isThere ? stored : evening;
 }
 
 ShownDates::ShownDates(const WorkCalendar &calendar, const QList<TaskRecord *> &tasks, const TaskIndex &index,
