@@ -54,12 +54,13 @@ void restore(KWDocument &document, const Chart &backup)
 
 Identity identityOf(const KWDocument &document)
 {
-    return {document.DocGuid, document.printConfig};
+    return {document.DocGuid, document.TimeZone, document.printConfig};
 }
 
 void restore(KWDocument &document, const Identity &backup)
 {
     document.DocGuid = backup.guid;
+    document.TimeZone = backup.zone;
     document.printConfig = backup.page;
 }
 

@@ -24,6 +24,7 @@ void restore(KWDocument &document, const Chart &backup);
 struct Identity
 {
     QString guid;
+    QString zone;
     KWPrintConfig page;
 };
 Identity identityOf(const KWDocument &document);

@@ -15,6 +15,7 @@
 #include <QMap>
 #include <QPointF>
 #include <QString>
+#include <QVector>
 #include <memory>
 #include <vector>
 
@@ -49,9 +50,12 @@ public:
 
     // ---- Options ------------------------------------------------------------------------------------------
     qint32 ThemeIndex = 0;
-    bool Auto = false;                                              // automatic progress
-    QString DocGuid;                                                // braced UUID
-    QString HostText;                                               // kept for the host
+    bool Auto = false; // automatic progress
+    QString DocGuid;   // braced UUID
+    QString HostText;  // kept for the host
+    // Name of the time zone in which the plan's moments are meant ("Europe/Berlin"). Kept for the host, which
+    // fills it and works in it (support/zonescope.h); travels with the package. Empty when nobody has said.
+    QString TimeZone;
     bool WorkDay[7] = {true, true, true, true, true, false, false}; // Monday first
     quint32 MajorUnit = duration::Week;
     quint32 MinorUnit = 0; // stored form, see getMinorUnit
@@ -211,8 +215,13 @@ public:
     bool loadDocument(const QString &folder, unsigned int version);
     bool loadStructure(const QString &path);        // loads, and tells whether the page could be read as well
     bool loadStructureFromDDX(const QString &path); // reads the version and the page only
-    // What the file loaded last holds that was not taken as it stands.
+    // What the file loaded last holds that was not taken as it stands or cannot be meant so, with what was
+    // taken; after a load that failed also why. A finding of kind Lost means that saving over the file loses
+    // something.
     const Findings &loadFindings() const { return m_loadFindings; }
+    // The moments that the exceptions of the file loaded last name as the beginnings of dates. They are
+    // midnights in the zone that it was made in, see edits/planzone.h.
+    const QVector<quint32> &storedMidnights() const { return m_storedMidnights; }
     // The version of the package read last; "1.4" for a text that is none.
     KWVersion loadedVersion() const { return m_loadedVersion; }
 
@@ -276,6 +285,7 @@ private:
     QString m_backupName;
     KWVersion m_loadedVersion;
     Findings m_loadFindings;
+    QVector<quint32> m_storedMidnights;
     // Count the changes of IDs and of hidden flags; a change of the list other than an append counts in both.
     mutable quint64 m_idRevision = 1;
     mutable quint64 m_hideRevision = 1;

@@ -5,11 +5,13 @@
 #include "kwversion.h"
 #include "kwzip.h"
 #include "model/kwdocument_xml.h"
+#include "model/loadcheck.h"
 #include "runinglog.h"
 #include "support/kwlimits.h"
 #include "support/xmlsink.h"
 #include "support/xmltree.h"
 #include "support/ziprules.h"
+#include "support/zonescope.h"
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -34,6 +36,7 @@ namespace {
 constexpr char documentFile[] = "document.xml";
 constexpr char pageFile[] = "page/page.xml";
 constexpr char relationsFile[] = "rels/page_rels.xml";
+constexpr char zoneFile[] = "media/timezone"; // the zone's name and a line end
 
 QString latin1(const char *text)
 {
@@ -132,10 +135,29 @@ void writeEmptyPage(StreamSink &sink)
     sink.close();
 }
 
-bool readXml(const QString &path, XmlTree &tree)
+bool writeZone(const QString &path, const QString &zone)
+{
+    QFile file(path);
+    const QByteArray line = zone.toLatin1() + '\n';
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(line) == line.size() &&
+        file.flush())
+        return true;
+    return refuse("Package not written: ", path, file.errorString());
+}
+
+// What is read of a package goes to the log when it is refused, and to the findings, by its place in the
+// package.
+bool refuseReading(Findings &findings, const QString &path, const QString &place, const QString &why)
+{
+    findings.add(Finding::Refused, place, why);
+    return refuse("Package not read: ", path, why);
+}
+
+bool readXml(const QString &path, XmlTree &tree, Findings &findings)
 {
     QString error;
-    return tree.load(path, kwzip::maxEntryBytes, &error) || refuse("Package not read: ", path, error);
+    return tree.load(path, kwzip::maxEntryBytes, &error) ||
+           refuseReading(findings, path, QFileInfo(path).fileName(), error);
 }
 
 // What unpacking left behind, checked once more: the archive may have been unpacked by another library's
@@ -171,10 +193,9 @@ void showLostTasks(KWDocument &document, Findings &findings)
         KWTaskInfo &task = *document.getTaskInfoAt(pos);
         if (task.HideID == 0 || index.contains(task.HideID))
             continue;
-        findings.add(QStringLiteral("task %1").arg(pos + 1),
-                     QStringLiteral("it is hidden below the task with ID %1, which does not exist")
-                         .arg(task.HideID.value()),
-                     QStringLiteral("shown"));
+        findings.add(Finding::Changed, QStringLiteral("task %1").arg(pos + 1),
+                     QStringLiteral("it is hidden below the task with ID %1, which does not exist: shown")
+                         .arg(task.HideID.value()));
         task.HideID = 0;
     }
 }
@@ -191,29 +212,71 @@ public:
     QString folder() const { return m_folder.path(); }
     QString file(const char *name) const { return m_folder.file(name); }
 
-    bool unpack(const QString &path)
+    bool unpack(const QString &path, Findings &findings)
     {
         if (!m_folder.isValid())
-            return refuse("Package not read: ", path, QStringLiteral("no temporary folder"));
+            return refuseReading(findings, path, QString(), QStringLiteral("no temporary folder"));
         if (!KWZip::unZip(path, m_folder.path()))
-            return refuse("Package not read: ", path, KWZip::lastError());
+            return refuseReading(findings, path, QString(), KWZip::lastError());
         QString error;
-        return isWithinLimits(m_folder.path(), &error) || refuse("Package not read: ", path, error);
+        return isWithinLimits(m_folder.path(), &error) || refuseReading(findings, path, QString(), error);
     }
 
     // Relationships and page may be missing, but what is there must be sound.
-    bool readSmallParts()
+    bool readSmallParts(Findings &findings)
     {
         for (const char *name : {relationsFile, pageFile}) {
             XmlTree tree;
-            if (QFileInfo::exists(file(name)) && !readXml(file(name), tree))
+            if (!QFileInfo::exists(file(name)))
+                continue;
+            if (!readXml(file(name), tree, findings))
                 return false;
+            int entries = 0;
+            for (TreeSource one = tree.root().firstChild(); !one.isNull(); one = one.nextSibling())
+                ++entries;
+            if (entries > 0)
+                m_passedOver.add(Finding::Lost, latin1(name),
+                                 QStringLiteral("%1 elements are passed over").arg(entries));
         }
         return true;
     }
 
+    // The zone that the package names; empty when it names none, or nothing that could be one.
+    QString zone()
+    {
+        constexpr qint64 longest = 100;
+        QFile entry(file(zoneFile));
+        if (!entry.open(QIODevice::ReadOnly))
+            return {};
+        const QByteArray name = entry.read(longest).trimmed();
+        if (ZoneScope::isName(name))
+            return QString::fromLatin1(name);
+        m_passedOver.add(Finding::Lost, latin1(zoneFile),
+                         QStringLiteral("this is no name of a time zone: passed over"));
+        return {};
+    }
+
+    // What the package holds that no document takes.
+    const Findings &passedOver()
+    {
+        const QStringList known{latin1(documentFile), latin1(pageFile), latin1(relationsFile),
+                                latin1(zoneFile)};
+        QStringList unknown;
+        QDirIterator entries(m_folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (entries.hasNext()) {
+            const QString name = entries.next().mid(m_folder.path().size());
+            if (!known.contains(name))
+                unknown.append(name);
+        }
+        unknown.sort();
+        for (const QString &name : qAsConst(unknown))
+            m_passedOver.add(Finding::Lost, name, QStringLiteral("this part of the package is passed over"));
+        return m_passedOver;
+    }
+
 private:
     PackageFolder m_folder;
+    Findings m_passedOver;
 };
 }
 
@@ -234,6 +297,7 @@ bool KWDocument::saveTo(const QString &path, bool isBackup, bool updatePath)
     // The relationships last, so that they hold what was added while the rest was written.
     const bool isWritten =
         writeXml(folder.file(pageFile), writeEmptyPage) && saveDocument(folder.path()) &&
+        (!ZoneScope::isName(TimeZone.toLatin1()) || writeZone(folder.file(zoneFile), TimeZone)) &&
         writeXml(folder.file(relationsFile), [](StreamSink &sink) { writeElement(sink, s_relsNode); });
     if (!isWritten)
         return false;
@@ -281,8 +345,12 @@ bool KWDocument::loadFromKWGT(const QString &path)
 {
     UnpackedPackage package;
     constexpr unsigned int version = 0;
-    if (!package.unpack(path) || !package.readSmallParts() || !loadDocument(package.folder(), version))
+    m_loadFindings.clear();
+    if (!package.unpack(path, m_loadFindings) || !package.readSmallParts(m_loadFindings) ||
+        !loadDocument(package.folder(), version))
         return false;
+    TimeZone = package.zone();
+    m_loadFindings.append(package.passedOver());
     setFilePath(path, QString());
     return true;
 }
@@ -290,16 +358,20 @@ bool KWDocument::loadFromKWGT(const QString &path)
 bool KWDocument::loadDocument(const QString &folder, unsigned int)
 {
     XmlTree tree;
-    if (!readXml(folder + latin1(documentFile), tree))
+    m_loadFindings.clear();
+    if (!readXml(folder + latin1(documentFile), tree, m_loadFindings))
         return false;
     TreeSource root = tree.root();
     if (!root.is("Document"))
-        return refuse("Package not read: ", folder, QStringLiteral("the root element is not \"Document\""));
+        return refuseReading(m_loadFindings, folder, latin1(documentFile),
+                             QStringLiteral("the root element is not \"Document\""));
     m_loadedVersion = versionOf(root.text("Version").toString());
     m_actions.prepareReplacement();
     const bool wasModified = isModified();
     documentxml::read(root, *this);
-    m_loadFindings.clear();
+    m_storedMidnights = loadcheck::midnights(root);
+    loadcheck::lookAtXml(root, *this, m_loadFindings);
+    loadcheck::lookAtDocument(root, *this, m_loadFindings);
     showLostTasks(*this, m_loadFindings);
     setModified(wasModified);
     return true;
@@ -325,9 +397,10 @@ bool KWDocument::loadStructureFromDDX(const QString &path)
     UnpackedPackage package;
     XmlTree document;
     XmlTree page;
-    if (!package.unpack(path) || !readXml(package.file(documentFile), document))
+    Findings findings; // those of loading stay
+    if (!package.unpack(path, findings) || !readXml(package.file(documentFile), document, findings))
         return false;
     TreeSource root = document.root();
     m_loadedVersion = versionOf(root.text("Version").toString());
-    return readXml(package.file(pageFile), page);
+    return readXml(package.file(pageFile), page, findings);
 }

@@ -1,15 +1,34 @@
 #include "support/findings.h"
 
-void Findings::add(const QString &place, const QString &what, const QString &hint)
+const char *Finding::kindName(Kind kind)
 {
+    static constexpr const char *names[] = {"read", "changed", "lost", "refused"};
+    return names[kind];
+}
+
+void Findings::add(Finding::Kind kind, const QString &place, const QString &what, const QString &hint)
+{
+    ++m_counts[kind];
     if (m_list.size() < limit)
-        m_list.append({place, what, hint});
+        m_list.append({place, what, hint, kind});
     else
         ++m_dropped;
 }
 
+void Findings::append(const Findings &others)
+{
+    for (std::size_t kind = 0; kind < m_counts.size(); ++kind)
+        m_counts[kind] += others.m_counts[kind];
+    for (const Finding &finding : others.m_list) {
+        if (m_list.size() < limit)
+            m_list.append(finding);
+        else
+            ++m_dropped;
+    }
+    m_dropped += others.m_dropped;
+}
+
 void Findings::clear()
 {
-    m_list.clear();
-    m_dropped = 0;
+    *this = Findings();
 }

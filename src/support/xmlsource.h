@@ -34,6 +34,7 @@ public:
     {
     }
     bool isNull() const { return !m_element; }
+    pugi::xml_node node() const { return m_element; }
     bool is(const char *name) const { return std::strcmp(m_element.name(), name) == 0; }
     // Quick when attributes are asked for in the order they were written.
     XmlText text(const char *attribute)

@@ -2,7 +2,7 @@
 #include "schedule/kwcalendar.h"
 #include "support/calendartext.h"
 #include "support/kwclock.h"
-#include "support/zone.h"
+#include "support/zonescope.h"
 #include <QDateTime>
 #include <QDomDocument>
 #include <gtest/gtest.h>
@@ -143,7 +143,7 @@ TEST(CalendarCaches, seeEveryChange)
     EXPECT_NE(worktime::WorkCalendar::digest(text.source()), before) << "the order matters";
     text.oldVersion = true;
     EXPECT_TRUE(cache.get(text.source()).oldVersion());
-    const Zone zone("Asia/Kathmandu");
+    const ZoneScope zone("Asia/Kathmandu");
     EXPECT_EQ(cache.get(text.source()).clock().wall(0).secs, 5 * 3600 + 30 * 60);
 }
 

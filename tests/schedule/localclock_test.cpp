@@ -1,5 +1,5 @@
 #include "engine/time/localclock.h"
-#include "support/zone.h"
+#include "support/zonescope.h"
 #include <QDateTime>
 #include <QLocale>
 #include <gtest/gtest.h>
@@ -63,7 +63,7 @@ TEST(LocalClock, findsTheFirstMomentOfEveryDate)
 
 TEST(LocalClock, skippedAndDoubledTimes)
 {
-    const Zone zone("America/New_York");
+    const ZoneScope zone("America/New_York");
     const auto clock = LocalClock::current();
     const int spring = dayOf("2024-03-10");
     EXPECT_EQ(clock->moment(spring, 7200 + 1800), fromUtc("2024-03-10 07:30:00")) << "02:30 becomes 03:30";
@@ -78,7 +78,7 @@ TEST(LocalClock, skippedAndDoubledTimes)
 
 TEST(LocalClock, aSkippedMidnightIsTheFirstMoment)
 {
-    const Zone zone("America/Sao_Paulo");
+    const ZoneScope zone("America/Sao_Paulo");
     const auto clock = LocalClock::current();
     const int day = dayOf("2018-11-04"); // 00:00 became 01:00
     const qint64 first = fromUtc("2018-11-04 03:00:00");
@@ -92,7 +92,7 @@ TEST(LocalClock, isMadeAgainForAnotherZone)
 {
     const auto before = LocalClock::current();
     EXPECT_EQ(LocalClock::current(), before);
-    const Zone zone("Asia/Kathmandu");
+    const ZoneScope zone("Asia/Kathmandu");
     const auto there = LocalClock::current();
     EXPECT_NE(there, before);
     EXPECT_EQ(text(there->wall(fromUtc("2024-03-04 00:00:00"))), "2024-03-04 05:45:00");

@@ -59,8 +59,11 @@ quint32 secs(const WorkCalendar &calendar, quint32 start, quint32 finish, unsign
     if (start >= finish)
         return 0;
     const LocalClock &clock = calendar.clock();
-    const Wall from = clock.wall(start);
-    const Wall to = clock.wall(finish);
+    return secs(calendar, clock.wall(start), clock.wall(finish), unit);
+}
+
+quint32 secs(const WorkCalendar &calendar, Wall from, Wall to, unsigned int unit)
+{
     if (unit < Week || unit > Minute || !calendar.hasWorkday())
         return worktime::clampSecs(worktime::elapsedSecs(from, to));
     if (calendar.oldVersion() && unit < Hour)

@@ -20,6 +20,9 @@ inline int daysPerWeek(const worktime::WorkCalendar &calendar)
 // clock seconds for hours and minutes; years, quarters and months count elapsed seconds. 0 when start >=
 // finish.
 quint32 secs(const worktime::WorkCalendar &calendar, quint32 start, quint32 finish, unsigned int unit);
+// The same of points as a zone shows them, whichever it is.
+quint32 secs(const worktime::WorkCalendar &calendar, LocalClock::Wall start, LocalClock::Wall finish,
+             unsigned int unit);
 // Duration seconds in units; 0.0 for an unknown unit.
 double value(const worktime::WorkCalendar &calendar, qint64 durationSecs, unsigned int unit);
 // Both together; 0.0 when start >= finish. `rounded` formats and reads back with the decimals of the unit.
