@@ -17,11 +17,11 @@ LocalClock::Wall wallOf(quint32 secs, int offset)
     return {std::clamp(wall.day, LocalClock::firstDay, LocalClock::lastDay), wall.secs};
 }
 
-// 1 where a working day begins or ends, a half at a quarter of an hour of its working hours, else 0.
+// 1 where a working day begins or ends, a fifth at a quarter of an hour of its working hours, else 0.
 double pointsOf(LocalClock::Wall stored, bool isFinish, const worktime::WorkCalendar &calendar)
 {
     const int day = isFinish ? worktime::dayBefore(stored) : stored.day;
-    constexpr double quarterOfHour = 0.5;
+    constexpr double quarterOfHour = 0.2; // eight hours of the zone are three of the clock
     if (!calendar.isWorkday(day))
         return 0;
     if (stored.secs == 0)
@@ -51,7 +51,6 @@ std::vector<Moments::Bar> Moments::sample(const std::vector<Bar> &bars)
 
 double share(const Moments &moments, const worktime::WorkCalendar &calendar, const Zone &zone)
 {
-    constexpr double lengthPoints = 2; // it is right by chance more seldom than a moment is
     double points = 0;
     double all = double(moments.midnights.size());
     for (const Moments::Bar &bar : moments.bars) {
@@ -62,8 +61,8 @@ double share(const Moments &moments, const worktime::WorkCalendar &calendar, con
         if (bar.lengthSecs == 0 || bar.unit < duration::Week || bar.unit > duration::Minute)
             continue;
         const qint64 length = duration::secs(calendar, start, finish, bar.unit);
-        points += std::abs(length - qint64(bar.lengthSecs)) < 60 ? lengthPoints : 0;
-        all += lengthPoints;
+        points += std::abs(length - qint64(bar.lengthSecs)) < 60 ? 1 : 0;
+        all += 1;
     }
     for (const quint32 secs : moments.midnights)
         points += wallOf(secs, zone.offset(secs)).secs == 0;

@@ -44,7 +44,7 @@ double share(const Moments &moments, const worktime::WorkCalendar &calendar, con
 // Nothing else can be so much better as to be told.
 constexpr double surelyRight = 0.7;
 // How much better another zone must be than the present one.
-constexpr double clearlyBetter = 0.3;
+constexpr double clearlyBetter = 0.2;
 
 // The zones in which the moments fall on working hours best, clearly better than `present` does: those of the
 // candidates that share the best result, in their order. Empty when the present one is as good, or there are
