@@ -1,5 +1,6 @@
 // What a document says of a file that was not taken as it stands: each fault, silent once, with its words.
 #include "edits/planzone.h"
+#include "engine/time/duration.h"
 #include "kwzip.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
@@ -203,6 +204,10 @@ TEST(PlanZone, IsFoundFromTheMoments)
                                                                                   "Pour 8d after Dig\n"
                                                                                   "Cure 2w after Pour\n"
                                                                                   "Frame 20d after Cure\n");
+            // As editing keeps them, and packages.
+            const worktime::WorkCalendar &calendar = project->document().workCalendar();
+            for (KWTaskInfo *task : project->document().taskList())
+                task->DurationSecs = duration::secs(calendar, task->Start, task->Finish, task->DurationUnits);
         }
         for (const QByteArray &read : zones) {
             const ZoneScope scope(read);

@@ -17,10 +17,12 @@ LocalClock::Wall wallOf(quint32 secs, int offset)
     return {std::clamp(wall.day, LocalClock::firstDay, LocalClock::lastDay), wall.secs};
 }
 
-// 1 where a working day begins or ends, a fifth at a quarter of an hour of its working hours, else 0.
+// 1 where a working day begins or ends, a half where a break does, a fifth at another quarter of an hour of
+// work.
 double pointsOf(LocalClock::Wall stored, bool isFinish, const worktime::WorkCalendar &calendar)
 {
     const int day = isFinish ? worktime::dayBefore(stored) : stored.day;
+    constexpr double breakEnds = 0.5;
     constexpr double quarterOfHour = 0.2; // eight hours of the zone are three of the clock
     if (!calendar.isWorkday(day))
         return 0;
@@ -31,10 +33,15 @@ double pointsOf(LocalClock::Wall stored, bool isFinish, const worktime::WorkCale
     const qint64 shown = qint64(calendar.startHour()) * worktime::secsPerHour +
                          calendar.spanSecs() * stored.secs / LocalClock::secsPerDay;
     const qint64 past = (shown + 1) % secsPerQuarter;
-    const qint64 nearest = shown + 1 - past;
-    const bool isOnQuarter = past <= 1;
-    const int hour = int(std::clamp<qint64>((nearest - isFinish) / worktime::secsPerHour, 0, 23));
-    return isOnQuarter && calendar.isWorkHour(day, hour) ? quarterOfHour : 0;
+    if (past > 1)
+        return 0;
+    const qint64 quarter = shown + 1 - past;
+    const auto works = [&](qint64 secs) {
+        return calendar.isWorkHour(day, int(std::clamp<qint64>(secs / worktime::secsPerHour, 0, 23)));
+    };
+    if (works(quarter - 1) != works(quarter))
+        return breakEnds;
+    return works(quarter) ? quarterOfHour : 0;
 }
 }
 
