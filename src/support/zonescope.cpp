@@ -41,8 +41,8 @@ bool ZoneScope::set(const QByteArray &zone)
 
 bool ZoneScope::isKnown(const QByteArray &zone)
 {
-    // The C library reads "UTC+2" and the like as rules of its own, with the opposite sign of Qt's.
-    return isName(zone) && QTimeZone(zone).isValid() && QTimeZone::isTimeZoneIdAvailable(zone);
+    // Lists of zones leave out names such as "Etc/UTC", so there is no looking into one.
+    return isName(zone) && QTimeZone(zone).isValid();
 }
 
 bool ZoneScope::isName(const QByteArray &zone)
