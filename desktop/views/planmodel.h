@@ -50,8 +50,8 @@ private:
     std::unique_ptr<CustomTable> newTable() const;
 
     Session &m_session;
+    bool m_showsPredecessors = true; // before the table, which is made by it
     std::unique_ptr<CustomTable> m_table;
     std::vector<quint32> m_ids;
     cellinput::Outcome m_outcome;
-    bool m_showsPredecessors = true;
 };
