@@ -1,7 +1,6 @@
 // Whatever lies on the clipboard is refused and changes nothing, or each pasted task has an ID, a row height
 // and links of its own, what was there before stays, and the whole can be saved and read back.
 #include "document.h"
-#include "support/xmltree.h"
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -76,14 +75,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     for (const KWTaskInfo *task : document.taskList())
         checkTask(document, *task);
 
-    KWDocument again;
-    again.DocGuid = QStringLiteral("same");
-    XmlTree tree;
-    const QByteArray text = textOf(document);
-    FUZZ_CHECK(tree.parse(text));
-    TreeSource root = tree.root();
-    documentxml::read(root, again);
-    FUZZ_CHECK(textOf(again) == text);
+    checkThatItReadsBack(document);
 
     // Copied from there, all of it can be pasted once more.
     QList<int> rows{0};

@@ -2,6 +2,7 @@
 #include "fuzz.h"
 #include "model/kwdocument_xml.h"
 #include "support/xmlsink.h"
+#include "support/xmltree.h"
 #include <QBuffer>
 #include <QGuiApplication>
 
@@ -17,6 +18,19 @@ inline QByteArray textOf(const KWDocument &document)
     documentxml::write(sink, document);
     FUZZ_CHECK(sink.finish());
     return text;
+}
+
+// What saving writes reads back as the same document.
+inline void checkThatItReadsBack(const KWDocument &document)
+{
+    const QByteArray text = textOf(document);
+    XmlTree tree;
+    FUZZ_CHECK(tree.parse(text));
+    KWDocument again;
+    again.DocGuid = document.DocGuid;
+    TreeSource root = tree.root();
+    documentxml::read(root, again);
+    FUZZ_CHECK(textOf(again) == text);
 }
 
 // Fonts and the clipboard need an application; made at the first call, never deleted. `fillTitles` runs

@@ -75,8 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
     Faults, LoadCheck,
     testing::Values(
         Fault{"nothing", "", "", ""},
-        // ---- Lists
-        // --------------------------------------------------------------------------------------------
+        // Lists.
         Fault{"secondTaskList", "</TaskList>", "</TaskList><TaskList/>",
               "lost : 'TaskList' stands twice: the last one is taken, and the 2 elements of the one before "
               "are not\n"
@@ -95,8 +94,7 @@ INSTANTIATE_TEST_SUITE_P(
               "lost : text beside the elements of 'TaskList' is passed over\n"},
         Fault{"newerVersion", "Version=\"1.4\"", "Version=\"2.0\"",
               "read : the file has version 2.0, and what a version after 1.4 added is not known\n"},
-        // ---- Values
-        // -------------------------------------------------------------------------------------------
+        // Values.
         Fault{"percentAsPercent", "Percent=\"0.5\"", "Percent=\"50\"",
               "read task 1: 50 done is not within 0 to 1 (100 %): kept\n"},
         Fault{"percentBelowZero", "Percent=\"0.5\"", "Percent=\"-0.5\"",
@@ -124,8 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
               "read task 2, resource 'Ann': the unit of its rate is not known: it costs nothing\n"},
         Fault{"unknownColumn", "Key=\"1\"", "Key=\"99\"",
               "changed column 1: there is no column of its kind: it stays empty\n"},
-        // ---- Working time
-        // -------------------------------------------------------------------------------------
+        // Working time.
         Fault{"overlapping", "28800;46800", "28800;39600",
               "read working time: the interval 11:00-17:00 overlaps one before it: the hours of both count\n"
               "changed working time: a day counts as 10 hours of work from 8:00 to 17:00\n"},
