@@ -14,7 +14,10 @@
 #include "report.h"
 #include "schedule/kwtaskcollection.h"
 #include "sheetreport.h"
+#include "sheettext.h"
+#include "shown.h"
 #include "support/findings.h"
+#include "support/zonescope.h"
 #include "taskref.h"
 #include "texts.h"
 #include "textwidth.h"
@@ -50,7 +53,8 @@ int show(Console &console)
     return writePlan(console, plan);
 }
 
-QString summaryText(const Plan &plan, const Style &style, int findings, int early)
+QString summaryText(const Plan &plan, const Style &style, int findings, int early,
+                    const QStringList &refusals)
 {
     int summaries = 0;
     int milestones = 0;
@@ -77,26 +81,177 @@ QString summaryText(const Plan &plan, const Style &style, int findings, int earl
     if (early)
         line(counted(early, "%1 task starts before its predecessor finishes: scheduling moves it",
                      "%1 tasks start before a predecessor finishes: scheduling moves them"));
-    line(findings == 0 ? t("nothing to complain about") : counted(findings, "%1 finding", "%1 findings"));
+    for (const QString &refusal : refusals)
+        line(refusal);
+    if (findings > 0)
+        line(counted(findings, "%1 finding", "%1 findings"));
+    else if (early == 0 && refusals.isEmpty())
+        line(t("nothing to complain about"));
     return text;
+}
+
+// ---- Checking ---------------------------------------------------------------------------------------------
+
+// How far the finish of critical tasks lies behind the baseline, in percent of the baseline's length.
+void askSlip(const Plan &plan, double mostPercent, QStringList &refusals)
+{
+    quint32 first = 0;
+    quint32 last = 0;
+    for (int pos = 0; pos < plan.taskCount(); ++pos) {
+        const KWTaskInfo *task = plan.task(pos);
+        if (task->BaseStart == 0 || task->BaseFinish == 0)
+            continue;
+        first = first == 0 ? task->BaseStart : qMin(first, task->BaseStart);
+        last = qMax(last, task->BaseFinish);
+    }
+    const qint64 length = plan::workingMinutes(plan, first, last);
+    if (first == 0 || length <= 0) {
+        refusals.append(t("there is no baseline to compare with"));
+        return;
+    }
+    for (int pos = 0; pos < plan.taskCount(); ++pos) {
+        const KWTaskInfo *task = plan.task(pos);
+        if (!task->CriticalPath || task->isParent() || task->BaseFinish == 0)
+            continue;
+        const double slip =
+            100.0 * double(plan::workingMinutes(plan, task->BaseFinish, task->Finish)) / double(length);
+        if (slip > mostPercent)
+            refusals.append(
+                t("%1 slips by %2 % of the baseline")
+                    .arg(taskref::named(*plan.document, task->ID), sheettext::numberText(qRound(slip))));
+    }
+}
+
+// What the plan is asked for beside being sound, and does not give. Not 0: an exit code, after telling why.
+int askGates(Console &console, const Plan &plan, QStringList &refusals)
+{
+    const Options &options = console.options();
+    KWDocument &document = *plan.document;
+    if (!options.finishBy.isEmpty()) {
+        const QString date = options.finishBy.section(QLatin1Char(' '), 0, 0);
+        const QString words = options.finishBy.section(QLatin1Char(' '), 1);
+        datetext::Moment moment;
+        if (!datetext::parseMoment(date, moment)) {
+            console.error(t("'%1' is no value for '%2'").arg(date, QStringLiteral("--finish-by")),
+                          t("write it as 2026-02-28 or '2026-02-28 TASK'"));
+            return Console::WrongUse;
+        }
+        quint32 finish = plan::lastFinish(plan);
+        QString who = t("the project");
+        if (!words.isEmpty()) {
+            options::Fault fault;
+            const int pos = taskref::find(plan, words, fault);
+            if (pos < 0) {
+                console.error(plan.file + QLatin1String(": ") + fault.what, fault.hint);
+                return Console::WrongUse;
+            }
+            finish = plan.task(pos)->Finish;
+            who = taskref::named(document, plan.task(pos)->ID);
+        }
+        if (finish > plan::finishSecs(document, moment))
+            refusals.append(
+                t("%1 finishes on %2, later than %3").arg(who, shown::endOf(plan, finish).text(), date));
+    }
+    if (!options.mostCost.isEmpty() && document.getToltalCost() > options.mostCost.toDouble())
+        refusals.append(t("the cost of %1 is more than %2")
+                            .arg(sheettext::moneyText(document.getToltalCost()), options.mostCost));
+    if (!options.mostSlip.isEmpty())
+        askSlip(plan, options.mostSlip.toDouble(), refusals);
+    return Console::Done;
+}
+
+struct Checked
+{
+    int code = Console::Done;
+    bool isRead = false;
+    QString line;    // of one among many files
+    QByteArray data; // of one file
+};
+
+Checked checkFile(Console &console, const QString &file, bool isOneOfMany)
+{
+    const Options &options = console.options();
+    Checked checked;
+    Plan plan;
+    Findings findings;
+    checked.code = planfile::load(file, console, plan, findings);
+    if (checked.code != Console::Done) {
+        checked.line = t("cannot be read as a plan");
+        checked.data = "{\n  \"file\": " + machine::jsonText(file) +
+                       ",\n  \"code\": " + QByteArray::number(checked.code) + "\n}\n";
+        return checked;
+    }
+    invariants::check(*plan.document, findings);
+    scheduleMissing(console, plan);
+    plan::refresh(plan, progressOf(console));
+    const int early = plan.withoutStart ? 0 : planreasons::earlyTaskCount(*plan.document);
+    QStringList refusals;
+    if (const int code = askGates(console, plan, refusals)) {
+        checked.code = code;
+        return checked;
+    }
+    checked.isRead = true;
+    const bool isSound = findings.isEmpty() && early == 0 && refusals.isEmpty();
+    if (plan.isPackage && plan.document->loadFindings().count(Finding::Refused) > 0)
+        checked.code = Console::CannotSchedule;
+    else if (options.check && !isSound)
+        checked.code = Console::AnswerIsNo;
+    // Quiet prints what failed and nothing else.
+    if (!options.quiet || checked.code != Console::Done)
+        console.list(file, findings);
+    if (options.quiet && early > 0)
+        console.error(file + QLatin1String(": ") +
+                      counted(early, "%1 task starts before its predecessor finishes",
+                              "%1 tasks start before a predecessor finishes"));
+    for (const QString &refusal : qAsConst(refusals))
+        if (options.quiet || isOneOfMany)
+            console.error(file + QLatin1String(": ") + refusal);
+    checked.line = counted(plan.taskCount(), "%1 task", "%1 tasks") + QLatin1String(", ") +
+                   (findings.isEmpty() && isSound ? t("nothing to complain about")
+                                                  : counted(findings.count(), "%1 finding", "%1 findings"));
+    if (early > 0)
+        checked.line += QLatin1String(", ") + counted(early, "%1 task too early", "%1 tasks too early");
+    if (!refusals.isEmpty())
+        checked.line += QLatin1String(", ") + refusals.join(QLatin1String(", "));
+    checked.data = options.format == Options::Json
+                       ? machine::summaryJson(plan, findings, early, refusals)
+                       : summaryText(plan, styleOf(console), findings.count(), early, refusals).toUtf8();
+    return checked;
 }
 
 int load(Console &console)
 {
-    Plan plan;
-    Findings findings;
-    if (const int code = planfile::load(console.options().arguments.first(), console, plan, findings))
-        return code;
-    invariants::check(*plan.document, findings);
-    scheduleMissing(console, plan);
-    plan::refresh(plan, progressOf(console));
-    tell(console, plan, findings);
-    const int early = plan.withoutStart ? 0 : planreasons::earlyTaskCount(*plan.document);
-    const QByteArray data = console.options().format == Options::Json
-                                ? machine::summaryJson(plan, findings, early)
-                                : summaryText(plan, styleOf(console), findings.count(), early).toUtf8();
-    const bool answerIsNo = console.options().check && (!findings.isEmpty() || early > 0);
-    return written(console, data, answerIsNo ? Console::AnswerIsNo : Console::Done);
+    const Options &options = console.options();
+    const QStringList &files = options.arguments;
+    if (files.size() == 1) {
+        const Checked checked = checkFile(console, files.first(), false);
+        if (!checked.isRead)
+            return checked.code;
+        if (options.quiet && options.format != Options::Json)
+            return checked.code;
+        return written(console, checked.data, checked.code);
+    }
+    const bool isJson = options.format == Options::Json;
+    QByteArray data = isJson ? "[\n" : "";
+    int worst = Console::Done;
+    int sound = 0;
+    for (const QString &file : files) {
+        const ZoneScope zone(ZoneScope::current()); // a package brings its own
+        const Checked checked = checkFile(console, file, true);
+        if (checked.code == Console::WrongUse)
+            return checked.code;
+        worst = qMax(worst, checked.code);
+        sound += checked.code == Console::Done;
+        if (isJson)
+            data += (file == files.first() ? "" : ",\n") + checked.data.trimmed();
+        else if (!options.quiet || checked.code != Console::Done)
+            data += (file + QLatin1String(": ") + checked.line + QLatin1Char('\n')).toUtf8();
+    }
+    if (isJson)
+        data += "\n]\n";
+    else if (!options.quiet || worst != Console::Done)
+        data += (t("%1 of %2 files are sound").arg(sound).arg(files.size()) + QLatin1Char('\n')).toUtf8();
+    return written(console, data, worst);
 }
 
 // Links that a package holds already, and that make tasks wait for each other.
@@ -111,19 +266,49 @@ bool tellRings(Console &console, const Plan &plan)
     return !rings.isEmpty();
 }
 
+bool replaceRows(Console &console, const Plan &plan)
+{
+    if (plan.lock.isUnchanged())
+        return console.replaceFile(plan.file, planfile::rewritten(plan), true);
+    console.error(t("%1: changed meanwhile by another program; nothing was written").arg(plan.file),
+                  t("make the change again"));
+    return false;
+}
+
+// Working time in which nothing can be done.
+bool tellUnworkable(Console &console, const Plan &plan)
+{
+    if (!plan.isPackage || plan.document->loadFindings().count(Finding::Refused) == 0)
+        return false;
+    console.error(t("%1: nothing can be scheduled in its working time; nothing was changed").arg(plan.file),
+                  t("'kwgantt edit %1 calendar days Mon-Fri' and 'calendar hours 08:00-17:00' give it one")
+                      .arg(plan.file));
+    return true;
+}
+
 int schedule(Console &console)
 {
     const Options &options = console.options();
     const QString file = options.arguments.first();
     Plan plan;
     Findings findings;
+    if (options.inPlace) {
+        if (const int code = lockForWriting(console, file, plan))
+            return code;
+    }
     if (const int code = planfile::load(file, console, plan, findings))
         return code;
     tell(console, plan, findings);
+    if (tellUnworkable(console, plan))
+        return Console::CannotSchedule;
     if (options.inPlace && !plan.isPackage && plan.table.rows.empty()) {
         console.error(t("%1: a workbook cannot be changed in place").arg(file),
                       t("-o PLAN.kwpx writes the plan as a package"));
         return Console::WrongUse;
+    }
+    if (options.inPlace) {
+        if (const int code = mayReplace(console, plan, findings))
+            return code;
     }
     if (tellRings(console, plan))
         return Console::CannotSchedule;
@@ -141,8 +326,7 @@ int schedule(Console &console)
             code = written(console, (report::moves(plan, style) + summary).toUtf8());
     } else if (options.inPlace) {
         if (!plan.moves.empty() || plan.withoutStart > 0)
-            code = console.replaceFile(file, planfile::rewritten(plan), true) ? Console::Done
-                                                                              : Console::CannotWrite;
+            code = replaceRows(console, plan) ? Console::Done : Console::CannotWrite;
         if (code == Console::Done)
             code = written(console, (report::moves(plan, style) + summary).toUtf8());
     } else if ((options.dryRun || options.check) && !options.formatGiven) {

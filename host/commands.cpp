@@ -49,13 +49,49 @@ void scheduleMissing(Console &console, Plan &plan)
         plan::schedule(plan, plan::AsGiven, progressOf(console));
 }
 
-int loadPlan(Console &console, const QString &file, Plan &plan)
+int loadPlan(Console &console, const QString &file, Plan &plan, Findings *found)
 {
     Findings findings;
     const int code = planfile::load(file, console, plan, findings);
     if (code == Console::Done)
         tell(console, plan, findings);
+    if (found)
+        *found = findings;
     return code;
+}
+
+int lockForWriting(Console &console, const QString &file, Plan &plan)
+{
+    constexpr int mostMsecs = 10000;
+    if (plan.lock.take(file, mostMsecs))
+        return Console::Done;
+    console.error(t("%1: another program is writing it; nothing was changed").arg(file), t("try again"));
+    return Console::CannotWrite;
+}
+
+int mayReplace(Console &console, const Plan &plan, const Findings &findings)
+{
+    const Options &options = console.options();
+    if (const int lost = findings.count(Finding::Lost); lost > 0 && !options.force) {
+        if (options.quiet)
+            console.list(plan.file, findings);
+        console.error(t("%1: not written: %2")
+                          .arg(plan.file, counted(lost, "a part of it was not read and would be lost",
+                                                  "%1 parts of it were not read and would be lost")),
+                      t("-o OUT leaves the file alone, --force writes it all the same"));
+        return Console::CannotWrite;
+    }
+    if (!options.backup)
+        return Console::Done;
+    QByteArray bytes;
+    QString error;
+    constexpr qint64 mostBytes = 1LL << 30;
+    if (!planfile::readBytes(plan.file, mostBytes, bytes, error)) {
+        console.error(t("%1: cannot be read: %2").arg(plan.file, error));
+        return Console::CannotWrite;
+    }
+    const QString copy = plan.file + QLatin1Char('~');
+    return console.replaceFile(copy, bytes, true) ? Console::Done : Console::CannotWrite;
 }
 
 int writePlan(Console &console, Plan &plan)
@@ -120,12 +156,21 @@ int loadForChange(Console &console, const QString &file, Plan &plan)
                       t("-i writes %1 itself, -o OUT another file; --dry-run only shows it").arg(file));
         return Console::WrongUse;
     }
-    if (const int code = loadPlan(console, file, plan))
+    if (options.inPlace) {
+        if (const int code = lockForWriting(console, file, plan))
+            return code;
+    }
+    Findings findings;
+    if (const int code = loadPlan(console, file, plan, &findings))
         return code;
     if (!plan.isPackage && options.inPlace) {
         console.error(t("%1: only a package can be changed in place").arg(file),
                       t("-o PLAN.kwpx writes it as a package"));
         return Console::WrongUse;
+    }
+    if (options.inPlace) {
+        if (const int code = mayReplace(console, plan, findings))
+            return code;
     }
     if (plan.isPackage) {
         plan.document->MajorUnit = plan.majorUnit;

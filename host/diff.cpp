@@ -3,12 +3,18 @@
 #include "exchange/csvplan.h"
 #include "machine.h"
 #include "model/kwtaskinfo.h"
+#include "resources/resourceinfodata.h"
+#include "schedule/kwcalendar.h"
 #include "sheettext.h"
 #include "shown.h"
+#include "table/rowcolumndata.h"
 #include "texts.h"
 #include "texttable.h"
 #include "textwidth.h"
+#include "workingtime.h"
 #include <QHash>
+#include <QSet>
+#include <algorithm>
 
 namespace diff {
 
@@ -72,11 +78,17 @@ QString arrow(const QString &from, const QString &to)
 struct Value
 {
     const char *name;
+    const char *topic;
     QString (*text)(const Plan &, int pos);
 };
 
+QString momentText(const Plan &plan, quint32 secs)
+{
+    return secs == 0 ? QString() : shown::startOf(plan, secs).text();
+}
+
 const Value values[] = {
-    {"duration",
+    {"duration", "dates",
      [](const Plan &plan, int pos) {
          const KWTaskInfo *task = plan.task(pos);
          return task->isParent()
@@ -84,15 +96,15 @@ const Value values[] = {
                     : datetext::durationText(KWTaskInfo::getDurValueByTaskInfo(plan.document.get(), task),
                                              task->DurationUnits);
      }},
-    {"done",
+    {"done", "progress",
      [](const Plan &plan, int pos) {
          return QString::number(qRound(plan.task(pos)->Percent * 100)) + QLatin1Char('%');
      }},
-    {"cost", [](const Plan &plan, int pos) { return sheettext::moneyText(plan.task(pos)->Cost); }},
-    {"resources",
+    {"cost", "cost", [](const Plan &plan, int pos) { return sheettext::moneyText(plan.task(pos)->Cost); }},
+    {"resources", "resources",
      [](const Plan &plan, int pos) { return csvplan::resourceNames(*plan.document, *plan.task(pos)); }},
-    {"notes", [](const Plan &plan, int pos) { return plan.task(pos)->Notes; }},
-    {"predecessors",
+    {"notes", "texts", [](const Plan &plan, int pos) { return plan.task(pos)->Notes; }},
+    {"predecessors", "links",
      [](const Plan &plan, int pos) {
          QStringList names;
          for (const quint32 id : plan.task(pos)->Predecessors) {
@@ -102,7 +114,96 @@ const Value values[] = {
          names.sort();
          return names.join(QLatin1String("; "));
      }},
+    {"milestone", "dates",
+     [](const Plan &plan, int pos) { return plan.task(pos)->Milestone ? t("yes") : t("no"); }},
+    {"priority", "texts",
+     [](const Plan &plan, int pos) { return QString::number(plan.task(pos)->Priority); }},
+    {"hyperlinks", "texts",
+     [](const Plan &plan, int pos) {
+         QStringList links;
+         for (int i = 0; i < plan.task(pos)->hyperlinks.count(); ++i) {
+             const KWHyperlink &link = *plan.task(pos)->hyperlinks.getAt(i);
+             links.append(QStringList{link.name, link.address, link.subAddress, link.description}
+                              .join(QLatin1Char(' '))
+                              .simplified());
+         }
+         return links.join(QLatin1String("; "));
+     }},
+    {"baseline start", "baseline",
+     [](const Plan &plan, int pos) { return momentText(plan, plan.task(pos)->BaseStart); }},
+    {"baseline finish", "baseline",
+     [](const Plan &plan, int pos) { return momentText(plan, plan.task(pos)->BaseFinish); }},
+    {"baseline cost", "baseline", [](const Plan &plan, int pos) { return plan.task(pos)->BaselineCost; }},
 };
+
+// Texts that belong to the plan and not to a task, by what they are called.
+QStringList exceptionsOf(const Plan &plan)
+{
+    QStringList texts;
+    for (const KWCalendar *calendar : plan.document->calendars) {
+        if (calendar->isException)
+            texts.append(QStringList{calendar->startDate.toString(Qt::ISODate),
+                                     calendar->finishDate == calendar->startDate
+                                         ? QString()
+                                         : QLatin1String("..") + calendar->finishDate.toString(Qt::ISODate),
+                                     calendar->isWork ? QLatin1String(" ") + t("works") : QString(),
+                                     calendar->name.isEmpty() ? QString() : QLatin1Char(' ') + calendar->name}
+                             .join(QString()));
+    }
+    return texts;
+}
+
+QStringList sheetOf(const Plan &plan)
+{
+    QStringList texts;
+    for (const ResourceInfo *info : qAsConst(plan.document->resourceInfoData()->infos)) {
+        QStringList parts{info->name.trimmed(),
+                          info->type == 0 ? t("work") : t("material"),
+                          sheettext::rateText({info->cost, info->costUnit}),
+                          sheettext::rateText({info->overtimeCost, info->overtimeUnit}),
+                          sheettext::numberText(info->costPer),
+                          sheettext::numberText(info->unit * 100) + QLatin1Char('%'),
+                          info->group,
+                          info->email,
+                          info->notes};
+        texts.append(parts.join(QLatin1Char(' ')).simplified());
+    }
+    return texts;
+}
+
+QStringList columnsOf(const Plan &plan)
+{
+    QStringList titles;
+    for (const RowColumnData::ColumnData *column : plan.document->rowColumnData()->columns())
+        titles.append(QString(column->title) + (column->isHide.value() ? t(" (hidden)") : QString()));
+    return titles;
+}
+
+// The places of the older tasks whose order among each other is another one: all but a longest row of them
+// that stand as before.
+std::vector<bool> reordered(const std::vector<int> &older)
+{
+    std::vector<int> ends; // place in the newer plan that ends a row of each length, at best
+    std::vector<int> before(older.size(), nobody); // the place before it in that row
+    for (std::size_t pos = 0; pos < older.size(); ++pos) {
+        if (older[pos] == nobody)
+            continue;
+        const auto at = std::lower_bound(ends.begin(), ends.end(), older[pos], [&](int place, int value) {
+            return older[std::size_t(place)] < value;
+        });
+        before[pos] = at == ends.begin() ? nobody : *(at - 1);
+        if (at == ends.end())
+            ends.push_back(int(pos));
+        else
+            *at = int(pos);
+    }
+    std::vector<bool> moved(older.size(), false);
+    for (std::size_t pos = 0; pos < older.size(); ++pos)
+        moved[pos] = older[pos] != nobody;
+    for (int pos = ends.empty() ? nobody : ends.back(); pos != nobody; pos = before[std::size_t(pos)])
+        moved[std::size_t(pos)] = false;
+    return moved;
+}
 
 class Comparer
 {
@@ -122,7 +223,7 @@ public:
         for (int pos = 0; pos < m_after.taskCount(); ++pos) {
             const int old = m_older[std::size_t(pos)];
             if (old == nobody) {
-                add("added", nobody, pos, QString());
+                add("added", "tasks", nobody, pos, QString());
                 continue;
             }
             stays[std::size_t(old)] = true;
@@ -130,31 +231,59 @@ public:
         }
         for (int pos = 0; pos < m_before.taskCount(); ++pos)
             if (!stays[std::size_t(pos)])
-                add("gone", pos, nobody, QString());
+                add("gone", "tasks", pos, nobody, QString());
+        const std::vector<bool> moved = reordered(m_older);
+        for (int pos = 0; pos < m_after.taskCount(); ++pos)
+            if (moved[std::size_t(pos)])
+                add("placed", "outline", m_older[std::size_t(pos)], pos,
+                    t("row %1").arg(
+                        arrow(QString::number(m_older[std::size_t(pos)] + 1), QString::number(pos + 1))));
+        compareText("working time", "calendar", workingtime::describe(workingtime::of(*m_before.document)),
+                    workingtime::describe(workingtime::of(*m_after.document)));
+        compareLists("exception", "calendar", exceptionsOf(m_before), exceptionsOf(m_after));
+        compareLists("resource", "sheet", sheetOf(m_before), sheetOf(m_after));
+        compareText("columns", "table", columnsOf(m_before).join(QLatin1String(", ")),
+                    columnsOf(m_after).join(QLatin1String(", ")));
         return m_changes;
     }
 
 private:
-    void add(const char *kind, int before, int after, const QString &what)
+    void add(const char *kind, const char *topic, int before, int after, const QString &what)
     {
-        m_changes.push_back({kind, before, after, what});
+        m_changes.push_back({kind, before, after, what, topic});
+    }
+    void compareText(const char *name, const char *topic, const QString &was, const QString &is)
+    {
+        if (was != is)
+            add("changed", topic, nobody, nobody, t(name) + QLatin1Char(' ') + arrow(was, is));
+    }
+    void compareLists(const char *name, const char *topic, const QStringList &was, const QStringList &is)
+    {
+        const QSet<QString> old(was.begin(), was.end());
+        const QSet<QString> now(is.begin(), is.end());
+        for (const QString &one : was)
+            if (!now.contains(one))
+                add("gone", topic, nobody, nobody, t(name) + QLatin1Char(' ') + one);
+        for (const QString &one : is)
+            if (!old.contains(one))
+                add("added", topic, nobody, nobody, t(name) + QLatin1Char(' ') + one);
     }
 
     void compare(int old, int pos)
     {
         if (nameOf(m_before, old) != nameOf(m_after, pos))
-            add("renamed", old, pos, arrow(nameOf(m_before, old), nameOf(m_after, pos)));
+            add("renamed", "names", old, pos, arrow(nameOf(m_before, old), nameOf(m_after, pos)));
         const int oldParent = m_before.posOf(m_before.task(old)->ParentID);
         const int newParent = m_after.posOf(m_after.task(pos)->ParentID);
         if (oldParent != (newParent < 0 ? nobody : m_older[std::size_t(newParent)]))
-            add("placed", old, pos,
+            add("placed", "outline", old, pos,
                 newParent < 0 ? t("at the top") : t("below \"%1\"").arg(nameOf(m_after, newParent)));
         compareDates(old, pos);
         for (const Value &value : values) {
             const QString was = value.text(m_before, old);
             const QString is = value.text(m_after, pos);
             if (was != is)
-                add("changed", old, pos, t(value.name) + QLatin1Char(' ') + arrow(was, is));
+                add("changed", value.topic, old, pos, t(value.name) + QLatin1Char(' ') + arrow(was, is));
         }
     }
 
@@ -163,11 +292,11 @@ private:
         const shown::Clock oldFinish = m_oldTimes.finish(old);
         const shown::Clock newFinish = m_newTimes.finish(pos);
         if (oldFinish < newFinish)
-            add("slipped", old, pos, t("finish %1").arg(arrow(oldFinish.text(), newFinish.text())));
+            add("slipped", "dates", old, pos, t("finish %1").arg(arrow(oldFinish.text(), newFinish.text())));
         else if (oldFinish != newFinish)
-            add("moved", old, pos, t("finish %1").arg(arrow(oldFinish.text(), newFinish.text())));
+            add("moved", "dates", old, pos, t("finish %1").arg(arrow(oldFinish.text(), newFinish.text())));
         if (m_oldTimes.start(old) != m_newTimes.start(pos))
-            add("moved", old, pos,
+            add("moved", "dates", old, pos,
                 t("start %1").arg(arrow(m_oldTimes.start(old).text(), m_newTimes.start(pos).text())));
     }
 
@@ -180,9 +309,46 @@ private:
 };
 }
 
-std::vector<Change> between(const Plan &before, const Plan &after)
+std::vector<Change> between(const Plan &before, const Plan &after, const QStringList &only)
 {
-    return Comparer(before, after).run();
+    std::vector<Change> changes = Comparer(before, after).run();
+    if (!only.isEmpty())
+        changes.erase(std::remove_if(changes.begin(), changes.end(),
+                                     [&only](const Change &change) {
+                                         return !only.contains(QLatin1String(change.topic));
+                                     }),
+                      changes.end());
+    return changes;
+}
+
+namespace {
+
+bool isOfPlan(const Change &change)
+{
+    return change.before == nobody && change.after == nobody;
+}
+
+QString nameOf(const Plan &before, const Plan &after, const Change &change)
+{
+    if (isOfPlan(change))
+        return t("(the plan)");
+    return change.after == nobody ? nameOf(before, change.before) : nameOf(after, change.after);
+}
+
+double workOf(const Plan &plan)
+{
+    double hours = 0;
+    for (int pos = 0; pos < plan.taskCount(); ++pos) {
+        if (!plan.task(pos)->isParent())
+            hours += plan::workHours(plan, *plan.task(pos));
+    }
+    return hours;
+}
+
+QString finishOf(const Plan &plan)
+{
+    return plan.taskCount() == 0 ? t("none") : shown::endOf(plan, plan::lastFinish(plan)).text();
+}
 }
 
 QString text(const Plan &before, const Plan &after, const std::vector<Change> &changes, const Style &style)
@@ -193,7 +359,7 @@ QString text(const Plan &before, const Plan &after, const std::vector<Change> &c
     TextTable table({QStringLiteral(">#"), t("Task"), t("Change"), QString()});
     for (const Change &change : changes) {
         const bool gone = change.after == nobody;
-        const QString name = gone ? nameOf(before, change.before) : nameOf(after, change.after);
+        const QString name = nameOf(before, after, change);
         table.add(
             {gone ? QStringLiteral("-") : QString::number(change.after + 1),
              textwidth::elided(textwidth::oneLine(name, style.ascii), longestName, style.cut), t(change.kind),
@@ -204,9 +370,15 @@ QString text(const Plan &before, const Plan &after, const std::vector<Change> &c
     const double oldCost = before.document->getToltalCost();
     const double newCost = after.document->getToltalCost();
     QString summary = counted(qint64(changes.size()), "%1 difference", "%1 differences");
-    if (oldCost != newCost)
-        summary += t("; cost %1 %2 %3")
-                       .arg(sheettext::moneyText(oldCost), style.arrow, sheettext::moneyText(newCost));
+    const auto total = [&](const QString &name, const QString &was, const QString &is) {
+        summary += QLatin1String("; ") + name + QLatin1Char(' ') +
+                   (was == is ? was + QLatin1Char(' ') + t("(unchanged)")
+                              : was + QLatin1Char(' ') + style.arrow + QLatin1Char(' ') + is);
+    };
+    total(t("project finish"), finishOf(before), finishOf(after));
+    total(t("work"), sheettext::numberText(workOf(before)) + t(" h"),
+          sheettext::numberText(workOf(after)) + t(" h"));
+    total(t("cost"), sheettext::moneyText(oldCost), sheettext::moneyText(newCost));
     return table.text() + summary + QLatin1Char('\n');
 }
 
@@ -215,18 +387,20 @@ QByteArray json(const Plan &before, const Plan &after, const std::vector<Change>
     QByteArray bytes =
         "{\n  \"costBefore\": " + sheettext::numberText(before.document->getToltalCost()).toUtf8() +
         ",\n  \"costAfter\": " + sheettext::numberText(after.document->getToltalCost()).toUtf8() +
-        ",\n  \"changes\": [";
+        ",\n  \"workBefore\": " + sheettext::numberText(workOf(before)).toUtf8() +
+        ",\n  \"workAfter\": " + sheettext::numberText(workOf(after)).toUtf8() +
+        ",\n  \"finishBefore\": " + machine::jsonText(finishOf(before)) +
+        ",\n  \"finishAfter\": " + machine::jsonText(finishOf(after)) + ",\n  \"changes\": [";
     const auto id = [](const Plan &plan, int pos) {
         return pos == nobody ? QByteArray("null") : QByteArray::number(plan.task(pos)->ID.value());
     };
     for (std::size_t i = 0; i < changes.size(); ++i) {
         const Change &change = changes[i];
-        bytes += (i ? ",\n" : "\n") + QByteArray("    {\"change\": \"") + change.kind +
-                 "\", \"idBefore\": " + id(before, change.before) +
-                 ", \"idAfter\": " + id(after, change.after) + ", \"name\": " +
-                 machine::jsonText(change.after == nobody ? nameOf(before, change.before)
-                                                          : nameOf(after, change.after)) +
-                 ", \"what\": " + machine::jsonText(change.what) + "}";
+        bytes +=
+            (i ? ",\n" : "\n") + QByteArray("    {\"change\": \"") + change.kind +
+            "\", \"idBefore\": " + id(before, change.before) + ", \"idAfter\": " + id(after, change.after) +
+            ", \"name\": " + machine::jsonText(isOfPlan(change) ? QString() : nameOf(before, after, change)) +
+            ", \"topic\": \"" + change.topic + "\", \"what\": " + machine::jsonText(change.what) + "}";
     }
     return bytes + "\n  ]\n}\n";
 }

@@ -63,6 +63,13 @@ int edit(Console &console)
                       t("'kwgantt help edit' lists all edits"));
         return Console::WrongUse;
     }
+    const QString verb = lines.size() == 1 ? lines.front().words.first() : QString();
+    if (verb == QLatin1String("undo") || verb == QLatin1String("redo")) {
+        console.error(
+            t("'%1' takes back edits of the same script; what another call wrote is not kept").arg(verb),
+            t("-i --backup keeps the file before it as %1~").arg(options.arguments.first()));
+        return Console::WrongUse;
+    }
     Plan plan;
     if (const int code = loadForChange(console, options.arguments.first(), plan))
         return code;

@@ -139,6 +139,14 @@ bool assign(Edit &edit)
     if (edit.words.size() > 1 && !sheettext::parseUnits(edit.words.at(1), units.emplace()))
         return edit.refuse(t("'%1' are no units").arg(edit.words.at(1)),
                            t("write 50% of the time, or a number of a material"));
+    // Ten of one person are hardly meant.
+    constexpr double mostWithoutPercent = 10;
+    if (entry && entry->type == 0 && units && *units >= mostWithoutPercent &&
+        !edit.words.at(1).contains(QLatin1Char('%')))
+        return edit.refuse(
+            t("'%1' means %2 % of '%3'")
+                .arg(edit.words.at(1), sheettext::numberText(*units * 100), entry->name.trimmed()),
+            t("did you mean %1%?").arg(edit.words.at(1)));
     return edit.take(edit.edits.assign(task->ID, edit.words.first(), units));
 }
 

@@ -1,12 +1,19 @@
 #include "kwpxfile.h"
 #include "console.h"
+#include "edits/planzone.h"
 #include "exchange/csvplan.h"
 #include "kwzip.h"
 #include "machine.h"
 #include "model/kwtaskinfo.h"
+#include "planfile.h"
+#include "support/findings.h"
+#include "support/kwclock.h"
+#include "support/zonescope.h"
 #include "texts.h"
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTimeZone>
 #include <QUuid>
 
 namespace kwpxfile {
@@ -18,6 +25,67 @@ bool namesCalendar(const Options &options)
     return !options.calendarFile.isEmpty() || !options.days.isEmpty() || !options.hours.isEmpty() ||
            !options.holidays.isEmpty() || !options.start.isEmpty() || !options.resourcesFile.isEmpty() ||
            !options.assignmentsFile.isEmpty();
+}
+}
+
+namespace {
+
+// Whether two zones show the same times all year: UTC has many names.
+bool areAlike(const QByteArray &a, const QByteArray &b)
+{
+    const QTimeZone first(a), second(b);
+    for (int month = 1; month <= 12; ++month) {
+        const QDateTime moment(QDate(KWClock::now().date().year(), month, 1), QTime(12, 0), Qt::UTC);
+        if (!first.isValid() || !second.isValid() ||
+            first.offsetFromUtc(moment) != second.offsetFromUtc(moment))
+            return false;
+    }
+    return true;
+}
+
+// Works in the zone that the package names, unless the user names one. Whether that is another one than
+// before.
+bool enterZone(Console &console, const QString &path, const KWDocument &document, Findings &findings)
+{
+    const QByteArray named = document.TimeZone.toLatin1();
+    if (named.isEmpty() || !console.options().zone.isEmpty() || areAlike(named, ZoneScope::current()))
+        return false;
+    if (!ZoneScope::set(named)) {
+        findings.add(QString(),
+                     t("its time zone %1 is not known on this machine: read in %2")
+                         .arg(document.TimeZone, QString::fromLatin1(ZoneScope::current())),
+                     t("--tz ZONE names another one; the package tzdata brings them"));
+        return false;
+    }
+    console.note(t("%1: in its own time zone, %2; --tz local shows it in that of this machine")
+                     .arg(path, document.TimeZone));
+    return true;
+}
+
+// A plan that is saved keeps its zone, or gets the one that was named. Without either its moments are looked
+// at.
+void nameZone(Console &console, KWDocument &document, Findings &findings)
+{
+    if (!console.options().zone.isEmpty() || !document.TimeZone.isEmpty()) {
+        if (!console.options().zone.isEmpty())
+            document.TimeZone = QString::fromLatin1(ZoneScope::current());
+        return;
+    }
+    constexpr int mostNamed = 4;
+    const QList<QByteArray> better = planzone::better(document);
+    if (better.isEmpty()) {
+        document.TimeZone = QString::fromLatin1(ZoneScope::current());
+        return;
+    }
+    QStringList names;
+    for (const QByteArray &zone : better.mid(0, mostNamed))
+        names.append(QString::fromLatin1(zone));
+    findings.add(
+        Finding::Read, QString(),
+        t("its tasks do not begin and end on working hours in %1, but do in %2")
+                .arg(QString::fromLatin1(ZoneScope::current()), names.join(QLatin1String(", "))) +
+            (better.size() > mostNamed ? t(" and %1 more zones").arg(better.size() - mostNamed) : QString()),
+        t("written in another zone? Try --tz %1").arg(names.first()));
 }
 }
 
@@ -47,13 +115,19 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
         return Console::WrongUse;
     KWDocument &document = *plan.document;
     if (!document.loadFromKWGT(path)) {
-        const QString why = KWZip::lastError();
-        console.error(t("%1: not a plan: %2").arg(path, why.isEmpty() ? t("its XML cannot be read") : why),
-                      t("--log FILE tells more"));
+        const Finding why = document.loadFindings().list().value(0);
+        const QString words = why.place.isEmpty() ? why.what : why.place + QLatin1String(": ") + why.what;
+        console.error(
+            t("%1: not a plan: %2").arg(path, words.isEmpty() ? t("its XML cannot be read") : words),
+            t("'kwgantt recover' lists autosave copies"));
         return Console::CannotRead;
     }
-    for (const Finding &finding : document.loadFindings().list())
-        findings.add(finding.place, finding.what, finding.hint);
+    Findings ofZone;
+    if (enterZone(console, path, document, ofZone))
+        document.loadFromKWGT(path); // the dates of exceptions are told from moments, too
+    nameZone(console, document, ofZone);
+    findings.append(document.loadFindings());
+    findings.append(ofZone);
     plan.isPackage = true;
     plan.majorUnit = document.MajorUnit;
     plan.minorUnit = document.MinorUnit;
@@ -81,8 +155,19 @@ void describe(Plan &plan)
 bool save(Console &console, Plan &plan, const QString &path, bool overwrite)
 {
     const QFileInfo info(path);
-    if (info.exists() && !info.isFile()) {
-        console.error(t("%1: cannot be written: %2").arg(path, t("it is no plain file")));
+    if (info.exists() && !info.isFile() && !info.isDir()) {
+        // A device or a pipe is written to, not replaced.
+        const QTemporaryDir folder;
+        const QString whole = folder.filePath(QStringLiteral("plan.kwpx"));
+        QByteArray bytes;
+        QString error;
+        constexpr qint64 mostBytes = 1LL << 30;
+        if (save(console, plan, whole, true) && planfile::readBytes(whole, mostBytes, bytes, error))
+            return console.replaceFile(path, bytes, true);
+        return false;
+    }
+    if (info.isDir()) {
+        console.error(t("%1: cannot be written: it is a folder").arg(path), t("give a file name"));
         return false;
     }
     if (info.exists() && !overwrite) {
@@ -95,8 +180,14 @@ bool save(Console &console, Plan &plan, const QString &path, bool overwrite)
         document.MajorUnit = plan.majorUnit;
         document.MinorUnit = plan.minorUnit;
     } else {
+        document.TimeZone = QString::fromLatin1(ZoneScope::current());
         // The same plan gives the same bytes.
         document.DocGuid = QUuid::createUuidV5(QUuid(), machine::csv(plan)).toString();
+    }
+    if (!plan.lock.isUnchanged()) {
+        console.error(t("%1: changed meanwhile by another program; nothing was written").arg(path),
+                      t("make the change again"));
+        return false;
     }
     if (document.saveTo(path, false, true))
         return true;

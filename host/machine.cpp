@@ -1,6 +1,8 @@
 #include "machine.h"
 #include "exchange/csvplan.h"
 #include "model/kwtaskinfo.h"
+#include "resources/resourceinfodata.h"
+#include "schedule/kwcalendar.h"
 #include "sheettext.h"
 #include "shown.h"
 #include "support/findings.h"
@@ -128,16 +130,45 @@ QByteArray json(const Plan &plan)
     return bytes + "\n  ]\n}\n";
 }
 
-QByteArray summaryJson(const Plan &plan, const Findings &findings, int earlyTasks)
+namespace {
+
+// How much of everything the document holds, for those who count the file's.
+QByteArray countMembers(const Plan &plan)
+{
+    const KWDocument &document = *plan.document;
+    int assignments = 0;
+    int exceptions = 0;
+    int intervals = document.workTimes.size();
+    for (const KWTaskInfo *task : document.taskList())
+        assignments += task->resourceList.size();
+    for (const KWCalendar *calendar : document.calendars) {
+        exceptions += calendar->isException;
+        intervals += calendar->dayTimes.size();
+    }
+    QByteArray members;
+    for (const auto &[name, count] : {std::pair("assignments", assignments),
+                                      std::pair("exceptions", exceptions), std::pair("intervals", intervals),
+                                      std::pair("resources", document.resourceInfoData()->infos.size())})
+        members += member(name, QByteArray::number(count)) + ",\n";
+    return members;
+}
+}
+
+QByteArray summaryJson(const Plan &plan, const Findings &findings, int earlyTasks,
+                       const QStringList &refusals)
 {
     QByteArray bytes = "{\n" + planMembers(plan) + ",\n" +
-                       member("earlyTasks", QByteArray::number(earlyTasks)) + ",\n" +
+                       member("earlyTasks", QByteArray::number(earlyTasks)) + ",\n" + countMembers(plan) +
                        member("findingCount", QByteArray::number(findings.count())) + ",\n  \"findings\": [";
     for (int i = 0; i < findings.list().size(); ++i) {
         const Finding &finding = findings.list().at(i);
         bytes += (i ? ",\n" : "\n") + QByteArray("    {\"place\": ") + jsonText(finding.place) +
-                 ", \"what\": " + jsonText(finding.what) + ", \"hint\": " + jsonText(finding.hint) + "}";
+                 ", \"what\": " + jsonText(finding.what) + ", \"hint\": " + jsonText(finding.hint) +
+                 ", \"kind\": \"" + Finding::kindName(finding.kind) + "\"}";
     }
-    return bytes + "\n  ]\n}\n";
+    bytes += "\n  ],\n  \"refusals\": [";
+    for (int i = 0; i < refusals.size(); ++i)
+        bytes += (i ? ", " : "") + jsonText(refusals.at(i));
+    return bytes + "]\n}\n";
 }
 }

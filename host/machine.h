@@ -1,6 +1,7 @@
 #pragma once
 #include "plan.h"
 #include <QByteArray>
+#include <QStringList>
 
 class Findings;
 
@@ -16,5 +17,6 @@ QByteArray jsonText(const QString &text);
 QByteArray csv(const Plan &plan);
 QByteArray json(const Plan &plan);
 // The plan without its tasks, and what was found in it.
-QByteArray summaryJson(const Plan &plan, const Findings &findings, int earlyTasks);
+QByteArray summaryJson(const Plan &plan, const Findings &findings, int earlyTasks,
+                       const QStringList &refusals = {});
 }

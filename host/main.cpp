@@ -2,6 +2,7 @@
 #include "console.h"
 #include "datetext.h"
 #include "runinglog.h"
+#include "scratch.h"
 #include "support/kwclock.h"
 #include "texts.h"
 #include <QFile>
@@ -36,8 +37,9 @@ bool chooseLanguage(Console &console)
 // The zone must stand before Qt looks at it; a name that is none would silently mean UTC.
 bool chooseZone(Console &console)
 {
+    const QString &named = console.options().zone;
     const QByteArray wanted =
-        console.options().zone.isEmpty() ? qgetenv("TZ") : console.options().zone.toUtf8();
+        named.isEmpty() || named == QLatin1String("local") ? qgetenv("TZ") : named.toUtf8();
     const bool isName = !wanted.isEmpty() && !wanted.startsWith(':') && !wanted.startsWith('/');
     if (isName && !QTimeZone(wanted).isValid()) {
         console.error(t("no time zone '%1' on this machine").arg(QString::fromUtf8(wanted)),
@@ -112,6 +114,7 @@ int run(int argc, char **argv)
     if (!openLog(console, arguments))
         return Console::CannotWrite;
 
+    const Scratch scratch;
     // No screen is needed, and none may be there.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");

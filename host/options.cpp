@@ -23,6 +23,8 @@ enum Group : unsigned {
     Converting = 1024,
     Drawing = 2048,
     Helping = 4096,
+    Gating = 8192,
+    Comparing = 16384,
 };
 
 struct Command
@@ -39,7 +41,7 @@ constexpr int mostWords = 100000;
 
 constexpr Command commandTable[] = {
     {"show", "", Everywhere | Planning | Showing, 1, 1, "FILE"},
-    {"load", "check", Everywhere | Planning | Checking, 1, 1, "FILE"},
+    {"load", "check", Everywhere | Planning | Checking | Gating, 1, mostWords, "FILE..."},
     {"schedule", "", Everywhere | Planning | Showing | Scheduling | Checking, 1, 1, "FILE"},
     {"explain", "", Everywhere | Planning | Explaining, 2, 2, "FILE TASK"},
     {"convert", "", Everywhere | Planning | Converting, 2, 2, "IN OUT"},
@@ -48,7 +50,7 @@ constexpr Command commandTable[] = {
 #endif
     {"edit", "", Everywhere | Planning | Showing | Changing | Editing, 1, mostWords, "FILE EDIT"},
     {"new", "", Everywhere | Making, 1, 1, "OUT"},
-    {"diff", "", Everywhere | Planning, 2, 2, "A B"},
+    {"diff", "", Everywhere | Planning | Comparing, 2, 2, "A B"},
     {"baseline", "", Everywhere | Planning | Changing, 1, mostWords, "FILE [list|set|clear] [TASK...]"},
     {"copy-branch", "", Everywhere | Planning | Changing | Copying, 3, mostWords, "FROM TASK... INTO"},
     {"recover", "", Everywhere, 0, 1, "[COPY]"},
@@ -145,6 +147,8 @@ bool isOneOf(const QString &value, const char *list)
 constexpr const char *themes = "light|dark|print|contrast";
 constexpr const char *labels = "none|name|resources|dates";
 constexpr const char *pictureParts = "today|baseline|slack|critical|links|legend|repeat|background";
+constexpr const char *differences =
+    "tasks|outline|names|dates|progress|cost|resources|links|texts|baseline|calendar|sheet|table";
 constexpr double mostRatio = 4;
 
 constexpr int narrowest = 20;
@@ -339,6 +343,8 @@ const Option optionTable[] = {
     {"preview", "", nullptr, Drawing, [](Options &o, const QString &) { return o.drawing.preview = true; }},
     {"in-place", "i", nullptr, Scheduling | Changing,
      [](Options &o, const QString &) { return o.inPlace = true; }},
+    {"backup", "", nullptr, Scheduling | Changing,
+     [](Options &o, const QString &) { return o.backup = true; }},
     {"dry-run", "", nullptr, Scheduling | Changing,
      [](Options &o, const QString &) { return o.dryRun = true; }},
     {"sheets", "", "rich|plain", Converting | Changing,
@@ -369,6 +375,32 @@ const Option optionTable[] = {
          return !v.isEmpty();
      }},
     {"check", "", nullptr, Checking, [](Options &o, const QString &) { return o.check = true; }},
+    {"finish-by", "", "DATE", Gating,
+     [](Options &o, const QString &v) {
+         o.finishBy = v.simplified();
+         return o.check = !o.finishBy.isEmpty();
+     }},
+    {"max-cost", "", "N", Gating,
+     [](Options &o, const QString &v) {
+         bool ok = false;
+         v.toDouble(&ok);
+         o.mostCost = v;
+         return (o.check = true) && ok;
+     }},
+    {"no-critical-slip", "", "PERCENT", Gating,
+     [](Options &o, const QString &v) {
+         bool ok = false;
+         o.mostSlip = v.endsWith(QLatin1Char('%')) ? v.chopped(1) : v;
+         return o.mostSlip.toDouble(&ok) >= 0 && ok && (o.check = true);
+     }},
+    {"only", "", differences, Comparing,
+     [](Options &o, const QString &v) {
+         o.only += v.split(QLatin1Char(','));
+         for (const QString &kind : qAsConst(o.only))
+             if (!isOneOf(kind, differences))
+                 return false;
+         return true;
+     }},
     {"asap", "", nullptr, Scheduling | Explaining,
      [](Options &o, const QString &) { return o.asSoonAsPossible = true; }},
 };
@@ -519,6 +551,8 @@ bool checkTogether(const Options &options, Fault &fault)
         return fail(fault, t("standard input cannot be written back"), t("give a file name, or -o FILE"));
     if (options.inPlace && (!options.output.isEmpty() || options.formatGiven))
         return fail(fault, t("-i writes the plan itself; it goes with neither -o nor --csv, --json or --to"));
+    if (options.backup && !options.inPlace)
+        return fail(fault, t("--backup keeps the file that -i writes"), t("add -i"));
     if (options.inPlace && options.dryRun)
         return fail(fault, t("-i and --dry-run exclude each other"));
     if (options.drawing.portrait && options.drawing.landscape)
@@ -592,6 +626,14 @@ bool parse(const QStringList &arguments, Options &result, Fault &fault)
     if (isConvert)
         result.output = rest.last();
     setFormatByName(result);
+    // A dash stands for standard output.
+    if (result.output == QLatin1String("-") && result.command != QLatin1String("render")) {
+        result.output.clear();
+        if (isConvert && result.format == Options::Table && !result.formatGiven)
+            return fail(fault, t("standard output has no name that tells a format"),
+                        t("--to csv, json, mspdi or table tells it"));
+        return checkTogether(result, fault);
+    }
     if (isConvert && result.format == Options::Table)
         return fail(fault, t("'%1' names no format that can be written").arg(result.output),
                     t("end it in .kwpx, .csv, .xlsx, .xls, .xml or .json"));

@@ -17,6 +17,7 @@ struct Options
     // For every command.
     QString output; // file name; empty: standard output
     bool inPlace = false;
+    bool backup = false; // keeps the file that is written in place as FILE~
     bool force = false;
     Format format = Table;
     bool formatGiven = false;
@@ -87,6 +88,11 @@ struct Options
     // Scheduling.
     bool dryRun = false;
     bool check = false;
+    // What `check` asks for; empty: nothing.
+    QString finishBy; // "DATE" or "DATE TASK"
+    QString mostCost;
+    QString mostSlip; // percent of the baseline's length
+    QStringList only; // kinds of differences
     bool asSoonAsPossible = false;
     unsigned int slackUnit = duration::Day; // or a smaller one
 };

@@ -2,6 +2,7 @@
 #include "datetext.h"
 #include "exchange/csvtext.h"
 #include "exchange/importedplan.h"
+#include "filelock.h"
 #include "model/kwdocument.h"
 #include <functional>
 #include <memory>
@@ -38,6 +39,7 @@ struct Plan
     int refusedLinks = 0;
     std::vector<int> tightest; // for each task the one below it, or itself, with the least slack
     std::vector<Move> moves;   // of schedule()
+    FileLock lock;             // of a file that is going to be written in place
     bool isPackage = false;
     quint32 majorUnit = 0; // of a package's chart, as the file has them
     quint32 minorUnit = 0;

@@ -114,7 +114,7 @@ int compare(Console &console)
         if (const int code =
                 loadShown(console, console.options().arguments.at(plan == &before ? 0 : 1), *plan))
             return code;
-    const std::vector<diff::Change> changes = diff::between(before, after);
+    const std::vector<diff::Change> changes = diff::between(before, after, console.options().only);
     const QByteArray data = console.options().format == Options::Json
                                 ? diff::json(before, after, changes)
                                 : diff::text(before, after, changes, styleOf(console)).toUtf8();

@@ -17,15 +17,17 @@ Arguments:
   TASK   the row number shown, #ID, or a name
 
 Options of all commands:
-  -o, --output FILE   writes the result into FILE; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)
-  --force             replaces a file that is there
+  -o, --output FILE   writes the result into FILE; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json);
+                      '-' is standard output
+  --force             replaces a file that is there, and writes over one of which something was not read
   -q, --quiet         says nothing but errors
   -v, --verbose       lists all findings, not only the first
   --progress auto|always|never   shows on standard error how far work that lasts is
   --color auto|always|never      colours repeat what the text says
   --ascii             plain characters only
   --lang LANGUAGE     the language of texts and titles
-  --tz ZONE           the time zone of dates, such as Europe/Berlin; the machine's otherwise
+  --tz ZONE           the time zone of dates, such as Europe/Berlin, or local for that of this machine; without it
+                      that of the package, else that of this machine
   --now TIME          takes this moment for the present one, such as 2026-02-28T08:00
   --log FILE          adds a record of the run to FILE
   -h, --help          the help on the command
@@ -46,10 +48,10 @@ Options of commands that read a plan:
 
 Exit codes:
   0    done
-  1    done, and the answer is no: there were findings, something would move, two plans differ
+  1    done, and the answer is no: there were findings, something would move, two plans differ, a demand is not met
   2    wrong use
   3    the input cannot be read
-  4    the output cannot be written
+  4    the output cannot be written, was changed meanwhile, or would lose what was not read
   5    the plan cannot be scheduled
   6    the machine lacks something
   70   a bug
@@ -75,15 +77,26 @@ The dates are those of the file; a plan with tasks that have no start is shown s
 Examples:
     kwgantt show plan.csv --critical --scale week
 )")},
-        {QStringLiteral("load"), text(R"(kwgantt load FILE - reads and checks the plan and sums it up
+        {QStringLiteral("load"), text(R"(kwgantt load FILE... - reads and checks plans and sums them up
 
 What is wrong but can be lived with is told on standard error; a file that cannot be read as a plan gives
-exit code 3. Of a package it checks what must hold: IDs, outline, links, row heights, assignments.
-'kwgantt check FILE' does the same and gives exit code 1 when anything was found, or when a task starts before a
-predecessor finishes.
+exit code 3, one whose working time lets nothing be scheduled 5. Of a package it checks what must hold: IDs,
+outline, links, row heights, assignments. 'kwgantt check FILE...' does the same and gives exit code 1 when anything
+was found, or when a task starts before a predecessor finishes: exit code 0 and no finding mean that the plan is what
+the file says. Several files have a line each and a sum; the exit code is the greatest. With -q only what failed is
+told.
 
   --check          exit code 1 when anything was found
-  --json           the summary and the findings for other programs
+  --json           the summary and all findings for other programs
+
+Demands, which the plan meets or gives exit code 1:
+  --finish-by 'DATE [TASK]'    the project, or TASK, finishes on that date at the latest
+  --max-cost N                 it costs no more
+  --no-critical-slip PERCENT   no critical task finishes later than in the baseline by more than that much of the
+                               baseline's length
+
+Examples:
+    kwgantt check plans/*.kwpx --finish-by 2026-06-30 -q
 )")},
         {QStringLiteral("schedule"), text(R"(kwgantt schedule FILE - moves every task behind its predecessors
 
@@ -95,7 +108,9 @@ summed up on standard error. Tasks that wait for each other in a ring of links g
                    the earliest dates that the links allow
   --dry-run        what would move, and because of what; nothing is written
   --check          the same, and exit code 1 when anything would move or was found
-  -i, --in-place   writes the new dates into FILE, a package or a CSV plan, and leaves everything else as it is
+  -i, --in-place   writes the new dates into FILE, a package or a CSV plan, and leaves everything else as it is: of a
+                   CSV plan the separator, the line ends, the mark at the beginning and all other columns
+  --backup         keeps the file as it was before as FILE~
   -o FILE          writes the scheduled plan; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)
   --unit d|h|min   the unit of slack
 
@@ -183,7 +198,8 @@ Examples:
         {QStringLiteral("edit"), text(R"(kwgantt edit FILE EDIT - changes a plan
 kwgantt edit FILE --script FILE
 
-  -i, --in-place   writes the package FILE itself
+  -i, --in-place   writes the package FILE itself; other writers wait for each other
+  --backup         keeps the file as it was before as FILE~
   -o OUT           writes another file; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)
   --dry-run        shows the changed plan and writes nothing
   --script FILE    one edit a line ('-' reads standard input); a line that begins with # says nothing
@@ -209,12 +225,15 @@ Edits:
         {QStringLiteral("diff"), text(R"(kwgantt diff A B - what is different between two versions of a plan
 
 Tasks belong together by ID and name, then by a name that stands once, then by ID. Exit code 1 when anything
-is different.
+is different; no difference means that the plans are alike in all that is saved but the widths of bars.
 
+  --only LIST      only these, joined by commas: tasks, outline, names, dates, progress, cost, resources, links,
+                   texts, baseline, calendar, sheet, table
   added, gone      only one of the plans has the task
   renamed, placed  another name, another summary
   slipped, moved   it finishes later; its dates changed otherwise
-  changed          duration, done, cost, resources, notes, predecessors
+  changed          duration, done, cost, resources, notes, predecessors, priority, baseline, hyperlinks; and of
+                   the plan its working time, resource sheet and columns
   --json           for other programs
 )")},
         {QStringLiteral("baseline"), text(R"(kwgantt baseline FILE - how far the plan is from its baseline
@@ -223,6 +242,7 @@ kwgantt baseline FILE set|clear [TASK...]
 The baseline remembers dates and costs, of all tasks or of TASK with what is below it.
 
   -i, --in-place   writes the package FILE itself (set, clear)
+  --backup         keeps the file as it was before as FILE~
   -o OUT           writes another file
   --dry-run        shows the changed plan and writes nothing
   --sheets rich    a workbook with values, widths, filters and outline groups
@@ -238,6 +258,7 @@ among them stay. Assignments stay behind: they belong to the other plan's resour
   --before TASK    above this task of INTO
   --under TASK     as the last tasks below this one, expanded or collapsed; without either, at the end
   -i, --in-place   writes the package INTO itself
+  --backup         keeps the file as it was before as FILE~
   -o OUT           writes another file
   --dry-run        shows the changed plan and writes nothing
   --sheets rich    a workbook with values, widths, filters and outline groups

@@ -1,5 +1,6 @@
 #include "workingtime.h"
 #include "model/kwdocument.h"
+#include "options.h"
 #include "schedule/kwcalendar.h"
 #include "support/findings.h"
 #include "texts.h"
@@ -150,7 +151,21 @@ bool readHours(const QString &text, std::vector<WorkingTime::Interval> &result)
     return true;
 }
 
-bool readExceptions(const QJsonArray &list, WorkingTime &result, QString &error)
+// What nobody reads is told by its name, with the one that was probably meant.
+void tellUnknown(const QJsonObject &object, const QString &place, const QStringList &known,
+                 Findings &warnings)
+{
+    for (const QString &key : object.keys()) {
+        if (known.contains(key))
+            continue;
+        const QString guess = options::nearest(key, known);
+        warnings.add(Finding::Lost, place, t("'%1' is not known: passed over").arg(key),
+                     guess.isEmpty() ? t("known are %1").arg(known.join(QLatin1String(", ")))
+                                     : t("did you mean '%1'?").arg(guess));
+    }
+}
+
+bool readExceptions(const QJsonArray &list, WorkingTime &result, Findings &warnings, QString &error)
 {
     if (list.size() > mostExceptions) {
         error = t("more than %1 exceptions").arg(grouped(mostExceptions));
@@ -172,6 +187,14 @@ bool readExceptions(const QJsonArray &list, WorkingTime &result, QString &error)
             to = fields.value(QLatin1String("to")).toString(from);
             works = fields.value(QLatin1String("works")).toBool();
             name = fields.value(QLatin1String("name")).toString();
+            tellUnknown(fields, t("calendar, exception %1").arg(i + 1),
+                        {QStringLiteral("from"), QStringLiteral("to"), QStringLiteral("works"),
+                         QStringLiteral("name"), QStringLiteral("hours")},
+                        warnings);
+            if (fields.contains(QLatin1String("hours")) && !fields.value(QLatin1String("hours")).isString()) {
+                error = t("exception %1: 'hours' are no text such as \"08:00-12:00\"").arg(i + 1);
+                return false;
+            }
             const QString written = fields.value(QLatin1String("hours")).toString();
             if (!written.isEmpty() && !readHours(written, hours)) {
                 error = t("exception %1: '%2' are not working hours").arg(i + 1).arg(written);
@@ -229,6 +252,21 @@ bool read(const QByteArray &json, WorkingTime &result, Findings &warnings, QStri
     std::array<Day, 7> days;
     for (std::size_t i = 0; i < days.size(); ++i)
         days[i].works = result.week[i];
+    tellUnknown(root, t("calendar"),
+                {QStringLiteral("days"), QStringLiteral("hours"), QStringLiteral("name"),
+                 QStringLiteral("start"), QStringLiteral("exceptions"), QStringLiteral("minutesPerDay"),
+                 QStringLiteral("minutesPerWeek"), QStringLiteral("daysPerMonth"), QStringLiteral("finish"),
+                 QStringLiteral("currency")},
+                warnings);
+    for (const char *name : {"days", "exceptions"}) {
+        const QJsonValue value = root.value(QLatin1String(name));
+        const bool isDays = *name == 'd';
+        if (!value.isUndefined() && (isDays ? !value.isObject() : !value.isArray())) {
+            error = isDays ? t("'days' is no list of weekdays such as {\"Mon\": true}")
+                           : t("'exceptions' is no list of dates");
+            return false;
+        }
+    }
     const QJsonObject week = root.value(QLatin1String("days")).toObject();
     for (auto entry = week.begin(); entry != week.end(); ++entry) {
         const int weekday = weekdayNamed(entry.key());
@@ -244,8 +282,9 @@ bool read(const QByteArray &json, WorkingTime &result, Findings &warnings, QStri
     chooseHours(days, result, warnings);
 
     const QJsonValue hours = root.value(QLatin1String("hours"));
-    if (hours.isString() && !parseHours(hours.toString(), result)) {
-        error = t("'%1' are not working hours").arg(hours.toString());
+    if (!hours.isUndefined() && !parseHours(hours.toString(), result)) {
+        error = hours.isString() ? t("'%1' are not working hours").arg(hours.toString())
+                                 : t("'hours' are no text such as \"08:00-12:00,13:00-17:00\"");
         return false;
     }
     result.projectName = root.value(QLatin1String("name")).toString().simplified();
@@ -254,7 +293,7 @@ bool read(const QByteArray &json, WorkingTime &result, Findings &warnings, QStri
         error = t("'start': '%1' is not a date").arg(start);
         return false;
     }
-    if (!readExceptions(root.value(QLatin1String("exceptions")).toArray(), result, error))
+    if (!readExceptions(root.value(QLatin1String("exceptions")).toArray(), result, warnings, error))
         return false;
     warnAboutHours(root, result, warnings);
     return true;
