@@ -129,6 +129,7 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
     findings.append(document.loadFindings());
     findings.append(ofZone);
     plan.isPackage = true;
+    plan.projectName = document.PlanName;
     plan.majorUnit = document.MajorUnit;
     plan.minorUnit = document.MinorUnit;
     describe(plan);
@@ -175,6 +176,7 @@ bool save(Console &console, Plan &plan, const QString &path, bool overwrite)
         return false;
     }
     KWDocument &document = *plan.document;
+    document.PlanName = plan.projectName;
     if (plan.isPackage) {
         // The units of the chart were changed to count slack.
         document.MajorUnit = plan.majorUnit;

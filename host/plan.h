@@ -28,7 +28,7 @@ struct Plan
 
     std::unique_ptr<KWDocument> document = std::make_unique<KWDocument>();
     QString name;        // of the project, for people
-    QString projectName; // where the calendar file names it
+    QString projectName; // where the plan's file or its calendar's names it
     QString file;        // as the user wrote it
     csv::Table table;    // the file's cells, where they are to be written again
     ImportedPlan imported;

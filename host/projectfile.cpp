@@ -65,7 +65,7 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
     if (console.options().verbose && engine.customValues() > 0)
         console.note(
             t("%1: %2 values of custom fields are passed over").arg(path, grouped(engine.customValues())));
-    plan.name = engine.projectName();
+    plan.name = plan.projectName = engine.projectName();
     kwpxfile::describe(plan);
     if (engine.projectStart() != 0)
         plan.start = engine.projectStart();

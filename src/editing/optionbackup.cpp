@@ -54,13 +54,14 @@ void restore(KWDocument &document, const Chart &backup)
 
 Identity identityOf(const KWDocument &document)
 {
-    return {document.DocGuid, document.TimeZone, document.printConfig};
+    return {document.DocGuid, document.TimeZone, document.PlanName, document.printConfig};
 }
 
 void restore(KWDocument &document, const Identity &backup)
 {
     document.DocGuid = backup.guid;
     document.TimeZone = backup.zone;
+    document.PlanName = backup.name;
     document.printConfig = backup.page;
 }
 

@@ -25,6 +25,7 @@ struct Identity
 {
     QString guid;
     QString zone;
+    QString name;
     KWPrintConfig page;
 };
 Identity identityOf(const KWDocument &document);

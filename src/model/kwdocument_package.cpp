@@ -8,6 +8,7 @@
 #include "model/loadcheck.h"
 #include "runinglog.h"
 #include "support/kwlimits.h"
+#include "support/xmlguard.h"
 #include "support/xmlsink.h"
 #include "support/xmltree.h"
 #include "support/ziprules.h"
@@ -37,6 +38,8 @@ constexpr char documentFile[] = "document.xml";
 constexpr char pageFile[] = "page/page.xml";
 constexpr char relationsFile[] = "rels/page_rels.xml";
 constexpr char zoneFile[] = "media/timezone"; // the zone's name and a line end
+constexpr char nameFile[] = "media/name";     // the plan's, likewise
+constexpr int maxNameUnits = 512;
 
 QString latin1(const char *text)
 {
@@ -135,10 +138,10 @@ void writeEmptyPage(StreamSink &sink)
     sink.close();
 }
 
-bool writeZone(const QString &path, const QString &zone)
+bool writeLine(const QString &path, const QString &text)
 {
     QFile file(path);
-    const QByteArray line = zone.toLatin1() + '\n';
+    const QByteArray line = text.toUtf8() + '\n';
     if (file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(line) == line.size() &&
         file.flush())
         return true;
@@ -256,11 +259,28 @@ public:
         return {};
     }
 
+    // What the package says that people call the plan.
+    QString planName()
+    {
+        QFile entry(file(nameFile));
+        if (!entry.open(QIODevice::ReadOnly))
+            return {};
+        constexpr qint64 mostBytes = 4 * maxNameUnits;
+        const QByteArray line = entry.read(mostBytes + 1);
+        const QString name = QString::fromUtf8(line).trimmed();
+        if (line.size() <= mostBytes && name.size() <= maxNameUnits && name == name.simplified() &&
+            xmlguard::clean(name) == name && !name.contains(QChar::ReplacementCharacter))
+            return name;
+        m_passedOver.add(Finding::Lost, latin1(nameFile),
+                         QStringLiteral("this is no name on one line: passed over"));
+        return {};
+    }
+
     // What the package holds that no document takes.
     const Findings &passedOver()
     {
         const QStringList known{latin1(documentFile), latin1(pageFile), latin1(relationsFile),
-                                latin1(zoneFile)};
+                                latin1(zoneFile), latin1(nameFile)};
         QStringList unknown;
         QDirIterator entries(m_folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (entries.hasNext()) {
@@ -294,10 +314,12 @@ bool KWDocument::saveTo(const QString &path, bool isBackup, bool updatePath)
     if (!folder.isValid())
         return refuse("Package not written: ", path, QStringLiteral("no temporary folder"));
     s_relsNode = newRelations();
+    const QString name = xmlguard::clean(PlanName).simplified().left(maxNameUnits);
     // The relationships last, so that they hold what was added while the rest was written.
     const bool isWritten =
         writeXml(folder.file(pageFile), writeEmptyPage) && saveDocument(folder.path()) &&
-        (!ZoneScope::isName(TimeZone.toLatin1()) || writeZone(folder.file(zoneFile), TimeZone)) &&
+        (!ZoneScope::isName(TimeZone.toLatin1()) || writeLine(folder.file(zoneFile), TimeZone)) &&
+        (name.isEmpty() || writeLine(folder.file(nameFile), name)) &&
         writeXml(folder.file(relationsFile), [](StreamSink &sink) { writeElement(sink, s_relsNode); });
     if (!isWritten)
         return false;
@@ -350,6 +372,7 @@ bool KWDocument::loadFromKWGT(const QString &path)
         !loadDocument(package.folder(), version))
         return false;
     TimeZone = package.zone();
+    PlanName = package.planName();
     m_loadFindings.append(package.passedOver());
     setFilePath(path, QString());
     return true;

@@ -157,28 +157,32 @@ INSTANTIATE_TEST_SUITE_P(
               "counted\n"}),
     caseName<Fault>);
 
-// The zone's name is a part of the package, and what else is there and goes is told.
-TEST(PackageZone, TravelsAndOtherPartsAreTold)
+// The zone's name and the plan's are parts of the package, and what else is there and goes is told.
+TEST(PackageZone, TravelsWithTheNameAndOtherPartsAreTold)
 {
     const QTemporaryDir box;
     const QString path = box.path() + QStringLiteral("/plan.kwpx");
     const QString parts = box.path() + QStringLiteral("/parts/");
     KWDocument document;
     document.TimeZone = QStringLiteral("America/New_York");
+    document.PlanName = QString::fromUtf8("Plan \xe5\xb7\xa5 & more");
     ASSERT_TRUE(document.save(path));
     KWDocument loaded;
     ASSERT_TRUE(loaded.loadFromKWGT(path));
     EXPECT_EQ(loaded.TimeZone, document.TimeZone);
+    EXPECT_EQ(loaded.PlanName, document.PlanName);
     EXPECT_EQ(told(loaded), "");
 
     QDir().mkpath(parts);
     ASSERT_TRUE(KWZip::unZip(path, parts));
     folder::put(parts + QStringLiteral("media/timezone"), "../../etc/passwd\n");
+    folder::put(parts + QStringLiteral("media/name"), "one\ntwo\n");
     folder::put(parts + QStringLiteral("media/photo.png"), "PNG");
     ASSERT_TRUE(KWZip::zip(path, parts));
     ASSERT_TRUE(loaded.loadFromKWGT(path));
     EXPECT_EQ(loaded.TimeZone, QString());
     EXPECT_EQ(told(loaded), "lost media/timezone: this is no name of a time zone: passed over\n"
+                            "lost media/name: this is no name on one line: passed over\n"
                             "lost media/photo.png: this part of the package is passed over\n");
     folder::put(path, "PK");
     EXPECT_FALSE(loaded.loadFromKWGT(path));
