@@ -132,7 +132,8 @@ bool MainWindow::exportTo(const QString &path)
     } else if (suffix == QLatin1String("xml")) {
         isWritten = projectfile::save(console, plan, path) == Console::Done;
     } else if (suffix == QLatin1String("csv")) {
-        isWritten = console.replaceFile(path, machine::csv(plan), true);
+        isWritten = console.replaceFile(
+            path, [&plan](const Console::Take &take) { return machine::writeCsv(plan, take); }, true);
         for (const planfile::Side &side : planfile::sidesOf(plan, path))
             isWritten = isWritten && console.replaceFile(side.path, side.bytes, true);
     } else {

@@ -16,18 +16,18 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     KWClock::set(QDateTime(QDate(2026, 3, 2), QTime(12, 0)));
 
     const QList<QByteArray> parts = QByteArray(reinterpret_cast<const char *>(data), int(size)).split('\0');
-    csv::Table tables[3];
+    csv::Text texts[3];
     for (int i = 0; i < 3; ++i) {
         csv::Fault fault;
-        if (!csv::parse(parts.value(i), tables[i], fault))
+        if (!csv::check(parts.value(i), texts[i], fault))
             return 0;
     }
     KWDocument document;
     document.DocGuid = QStringLiteral("same");
     const QByteArray before = textOf(document);
     CSVDataEngine engine(&document);
-    if (!engine.importTables(tables[0], parts.size() > 1 ? &tables[1] : nullptr,
-                             parts.size() > 2 ? &tables[2] : nullptr)) {
+    if (!engine.importTexts(texts[0], parts.size() > 1 ? &texts[1] : nullptr,
+                            parts.size() > 2 ? &texts[2] : nullptr)) {
         FUZZ_CHECK(textOf(document) == before);
         return 0;
     }

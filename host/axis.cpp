@@ -1,5 +1,6 @@
 #include "axis.h"
 #include "datetext.h"
+#include "engine/time/localclock.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
 #include "texts.h"
@@ -11,6 +12,7 @@ namespace axis {
 namespace {
 
 constexpr qint64 secsPerDay = 86400;
+constexpr qint64 julianDayOf1970 = 2440588;
 
 struct Scale
 {
@@ -172,8 +174,8 @@ qint64 secsOf(quint32 secs)
     // The clocks round to the minute; a second more would reach into the next column.
     constexpr qint64 minuteSecs = 60;
     const qint64 wholeMinutes = (secs + minuteSecs / 2) / minuteSecs * minuteSecs;
-    const QDateTime moment = QDateTime::fromSecsSinceEpoch(wholeMinutes);
-    return secsOf(moment.date()) + moment.time().msecsSinceStartOfDay() / 1000;
+    const LocalClock::Wall wall = LocalClock::current()->wall(wholeMinutes);
+    return (wall.day + julianDayOf1970) * secsPerDay + wall.secs;
 }
 
 std::pair<int, int> Axis::columnsOf(qint64 from, qint64 to) const

@@ -15,7 +15,12 @@ constexpr int blanksPerLevel = 2;
 // When a working day begins or ends.
 int usualSecs(const Sheet &sheet, bool isStart)
 {
-    return int(KWTaskInfo::startOrFinishHour(sheet.plan.document.get(), isStart)) * 3600;
+    return isStart ? sheet.dayStartSecs : sheet.dayFinishSecs;
+}
+
+int secsOfDay(const Plan &plan, bool isStart)
+{
+    return int(KWTaskInfo::startOrFinishHour(plan.document.get(), isStart)) * 3600;
 }
 
 // The time stands beside the date only where it is not the day's beginning or end.
@@ -31,8 +36,11 @@ QString momentText(const Sheet &sheet, const shown::Clock &clock, bool isStart)
 // "1.5 d" as "1.5d"; nothing to spare is a plain 0.
 QString compactSlack(const QString &slack)
 {
-    const QString number = slack.section(QLatin1Char(' '), 0, 0);
-    return number == QLatin1String("0") ? number : QString(slack).remove(QLatin1Char(' '));
+    const int blank = slack.indexOf(QLatin1Char(' '));
+    if (blank < 0)
+        return slack;
+    const QStringRef number = slack.leftRef(blank);
+    return number == QLatin1String("0") ? number.toString() : QString(slack).remove(QLatin1Char(' '));
 }
 
 QString tagsText(const Plan &plan, const QList<quint32> &ids)
@@ -200,6 +208,16 @@ constexpr Column table[] = {
     {"base-cost", "Base cost", true, baseCostText},
     {"notes", "Notes", false, notesText},
 };
+}
+
+Sheet::Sheet(const Plan &shownPlan, const shown::Times &shownTimes, bool years, const QString &mark)
+    : plan(shownPlan)
+    , times(shownTimes)
+    , showYears(years)
+    , expanded(mark)
+    , dayStartSecs(secsOfDay(shownPlan, true))
+    , dayFinishSecs(secsOfDay(shownPlan, false))
+{
 }
 
 const Column *named(const QString &key)

@@ -10,10 +10,14 @@ namespace columns {
 // What a cell's text is made from.
 struct Sheet
 {
+    Sheet(const Plan &plan, const shown::Times &times, bool showYears, const QString &expanded);
+
     const Plan &plan;
     const shown::Times &times;
-    bool showYears = false; // the project spans more than one year
-    QString expanded;       // in front of a summary's name
+    const bool showYears;   // the project spans more than one year
+    const QString expanded; // in front of a summary's name
+    const int dayStartSecs; // when a working day begins
+    const int dayFinishSecs;
 };
 
 struct Column

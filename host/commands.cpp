@@ -110,16 +110,12 @@ int writePlan(Console &console, Plan &plan)
     if (options.format == Options::Project)
         return projectfile::save(console, plan, options.output);
     if (options.format == Options::Csv)
-        return written(console, machine::csv(plan));
+        return console.write([&](const Console::Take &take) { return machine::writeCsv(plan, take); })
+                   ? Console::Done
+                   : Console::CannotWrite;
     if (options.format == Options::Json)
         return written(console, machine::json(plan));
-    QString text;
-    QString error;
-    if (!report::table(plan, options, styleOf(console), console.width(), text, error)) {
-        console.error(error);
-        return Console::WrongUse;
-    }
-    return written(console, text.toUtf8());
+    return report::writeTable(console, plan, styleOf(console));
 }
 
 int writeWithSides(Console &console, Plan &plan)

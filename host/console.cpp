@@ -4,6 +4,7 @@
 #include "textwidth.h"
 #include <QFileInfo>
 #include <QSaveFile>
+#include <cerrno>
 #include <cstdio>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -165,23 +166,43 @@ void Console::endProgress()
 
 bool Console::write(const QByteArray &data)
 {
+    return write([&data](const Take &take) { return take(data); });
+}
+
+bool Console::write(const Make &make)
+{
     endProgress();
     if (!m_options.output.isEmpty())
-        return replaceFile(m_options.output, data, m_options.force);
+        return replaceFile(m_options.output, make, m_options.force);
     if (m_outText) {
-        m_outText->append(data);
-        return true;
+        return make([this](const QByteArray &data) {
+            m_outText->append(data);
+            return true;
+        });
     }
-    const bool written =
-        std::fwrite(data.constData(), 1, std::size_t(data.size()), stdout) == std::size_t(data.size()) &&
-        std::fflush(stdout) == 0;
-    if (!written)
+    errno = 0;
+    const bool written = make([](const QByteArray &data) {
+                             return std::fwrite(data.constData(), 1, std::size_t(data.size()), stdout) ==
+                                    std::size_t(data.size());
+                         }) &&
+                         std::fflush(stdout) == 0;
+    m_hasLostReader = !written && errno == EPIPE && m_endsWithReader;
+    if (!written && !m_hasLostReader)
         error(t("standard output: %1").arg(qt_error_string()));
     return written;
 }
 
 bool Console::replaceFile(const QString &path, const QByteArray &data, bool overwrite)
 {
+    return replaceFile(
+        path, [&data](const Take &take) { return take(data); }, overwrite);
+}
+
+bool Console::replaceFile(const QString &path, const Make &make, bool overwrite)
+{
+    const auto into = [&make](QIODevice &file) {
+        return make([&file](const QByteArray &data) { return file.write(data) == data.size(); });
+    };
     const QFileInfo info(path);
     if (info.isDir()) {
         error(t("%1: cannot be written: it is a folder").arg(path), t("give a file name to -o"));
@@ -190,7 +211,7 @@ bool Console::replaceFile(const QString &path, const QByteArray &data, bool over
     // A device or a pipe is written to, not replaced.
     if (info.exists() && !info.isFile()) {
         QFile device(path);
-        if (device.open(QIODevice::WriteOnly) && device.write(data) == data.size() && device.flush())
+        if (device.open(QIODevice::WriteOnly) && into(device) && device.flush())
             return true;
         error(t("%1: cannot be written: %2").arg(path, device.errorString()));
         return false;
@@ -201,7 +222,7 @@ bool Console::replaceFile(const QString &path, const QByteArray &data, bool over
     }
     QSaveFile file(path);
     // commit() alone would not notice that the last buffered bytes failed.
-    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.flush() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && into(file) && file.flush() && file.commit())
         return true;
     error(t("%1: cannot be written: %2").arg(path, file.errorString()),
           t("the folder must exist and have room; nothing was changed"));

@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QString>
+#include <functional>
 
 class Findings;
 
@@ -59,8 +60,17 @@ public:
     // Data: to the output file when there is one, which is replaced when everything is written, else to
     // standard output. False when it cannot be written; the reason has been told then.
     bool write(const QByteArray &data);
+    // The same piece by piece: `make` hands its pieces to what it is given and ends when that answers false.
+    using Take = std::function<bool(const QByteArray &)>;
+    using Make = std::function<bool(const Take &)>;
+    bool write(const Make &make);
     // Replaces `path`, the old file staying whole when that fails. Tells the reason.
     bool replaceFile(const QString &path, const QByteArray &data, bool overwrite);
+    bool replaceFile(const QString &path, const Make &make, bool overwrite);
+
+    // Whether the program ends without a word when nobody reads its data any more, as in `show | head`.
+    void endWithReader(bool ends) { m_endsWithReader = ends; }
+    bool hasLostReader() const { return m_hasLostReader; }
 
 private:
     void say(const QString &line);
@@ -71,6 +81,8 @@ private:
     QByteArray *m_errorText = nullptr;
     QElapsedTimer m_sinceStart;
     bool m_progressShown = false;
+    bool m_endsWithReader = false;
+    bool m_hasLostReader = false;
     int m_lastPercent = -1;
     QString m_lastWork;
 };

@@ -1,4 +1,5 @@
 #include "datetext.h"
+#include "engine/time/civildate.h"
 #include "exchange/cellvalues.h"
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
@@ -6,6 +7,11 @@
 #include <cmath>
 
 namespace datetext {
+
+namespace {
+
+constexpr qint64 julianDayOf1970 = 2440588;
+}
 
 QDateTime Moment::when() const
 {
@@ -51,21 +57,30 @@ QString dateText(const QDate &date, int style)
     if (!date.isValid())
         return QString();
     const LanguageTexts &language = texts::current();
-    QString text = QString::number(date.day());
-    if (style & TwoDigitDay)
-        text = text.rightJustified(2, QLatin1Char('0'));
-    text += QLatin1Char(' ') + language.months.value(date.month() - 1);
-    if (style & Year)
-        text += QLatin1Char(' ') + QString::number(date.year());
+    const civildate::Date parts = civildate::of(int(date.toJulianDay() - julianDayOf1970));
+    constexpr int usualLength = 16;
+    QString text;
+    text.reserve(usualLength);
     if (style & Weekday)
-        text = language.weekdays.value(date.dayOfWeek() - 1) + QLatin1Char(' ') + text;
+        text += language.weekdays.value(date.dayOfWeek() - 1) + QLatin1Char(' ');
+    if (parts.day >= 10 || style & TwoDigitDay)
+        text += QLatin1Char(char('0' + parts.day / 10));
+    text += QLatin1Char(char('0' + parts.day % 10));
+    text += QLatin1Char(' ');
+    text += language.months.at(parts.month - 1);
+    if (style & Year) {
+        text += QLatin1Char(' ');
+        text += QString::number(parts.year);
+    }
     return text;
 }
 
 QString timeText(int secsOfDay)
 {
-    return QStringLiteral("%1:%2")
-        .arg(secsOfDay / 3600, 2, 10, QLatin1Char('0'))
-        .arg(secsOfDay / 60 % 60, 2, 10, QLatin1Char('0'));
+    const int hour = secsOfDay / 3600;
+    const int minute = secsOfDay / 60 % 60;
+    const char text[] = {char('0' + hour / 10), char('0' + hour % 10), ':', char('0' + minute / 10),
+                         char('0' + minute % 10)};
+    return QString::fromLatin1(text, int(sizeof(text)));
 }
 }

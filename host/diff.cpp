@@ -2,6 +2,7 @@
 #include "datetext.h"
 #include "exchange/csvplan.h"
 #include "machine.h"
+#include "model/calendarhold.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
@@ -311,6 +312,8 @@ private:
 
 std::vector<Change> between(const Plan &before, const Plan &after, const QStringList &only)
 {
+    const CalendarHold holdBefore(*before.document);
+    const CalendarHold holdAfter(*after.document);
     std::vector<Change> changes = Comparer(before, after).run();
     if (!only.isEmpty())
         changes.erase(std::remove_if(changes.begin(), changes.end(),

@@ -10,6 +10,7 @@
 #include "support/kwclock.h"
 #include "support/zonescope.h"
 #include "texts.h"
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -86,6 +87,26 @@ void nameZone(Console &console, KWDocument &document, Findings &findings)
                 .arg(QString::fromLatin1(ZoneScope::current()), names.join(QLatin1String(", "))) +
             (better.size() > mostNamed ? t(" and %1 more zones").arg(better.size() - mostNamed) : QString()),
         t("written in another zone? Try --tz %1").arg(names.first()));
+}
+}
+
+namespace {
+
+// What QUuid::createUuidV5 makes of the null ID and the plan as CSV, of which only a piece is there at a
+// time.
+QString idOf(const Plan &plan)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha1);
+    hash.addData(QUuid().toRfc4122());
+    machine::writeCsv(plan, [&hash](const QByteArray &piece) {
+        hash.addData(piece);
+        return true;
+    });
+    constexpr int idBytes = 16;
+    QByteArray bytes = hash.result().left(idBytes);
+    bytes[6] = char((bytes.at(6) & 0x0F) | 0x50); // version 5
+    bytes[8] = char((bytes.at(8) & 0x3F) | 0x80); // the usual variant
+    return QUuid::fromRfc4122(bytes).toString();
 }
 }
 
@@ -184,7 +205,7 @@ bool save(Console &console, Plan &plan, const QString &path, bool overwrite)
     } else {
         document.TimeZone = QString::fromLatin1(ZoneScope::current());
         // The same plan gives the same bytes.
-        document.DocGuid = QUuid::createUuidV5(QUuid(), machine::csv(plan)).toString();
+        document.DocGuid = idOf(plan);
     }
     if (!plan.lock.isUnchanged()) {
         console.error(t("%1: changed meanwhile by another program; nothing was written").arg(path),

@@ -102,9 +102,9 @@ QByteArray jsonText(const QString &text)
     return '"' + escaped.toUtf8() + '"';
 }
 
-QByteArray csv(const Plan &plan)
+bool writeCsv(const Plan &plan, const std::function<bool(const QByteArray &)> &take)
 {
-    return csvplan::Rows(*plan.document, from(plan)).bytes();
+    return csvplan::Rows(*plan.document, from(plan)).write(take);
 }
 
 QByteArray json(const Plan &plan)

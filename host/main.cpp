@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QTextCodec>
 #include <QTimeZone>
+#include <csignal>
 #include <cstdio>
 #include <ctime>
 #include <exception>
@@ -88,7 +89,7 @@ bool openLog(Console &console, const QStringList &arguments)
     return true;
 }
 
-int run(int argc, char **argv)
+int run(int argc, char **argv, bool &hasLostReader)
 {
     // File names are UTF-8 in every locale; the C locale would turn them into question marks.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
@@ -98,6 +99,8 @@ int run(int argc, char **argv)
         arguments.append(QString::fromUtf8(argv[i]));
 
     Console console;
+    // Closing the pipe ends the program, but only after it has cleaned up.
+    console.endWithReader(std::signal(SIGPIPE, SIG_IGN) != SIG_IGN);
     Options options;
     options::Fault fault;
     if (!options::parse(arguments, options, fault)) {
@@ -121,14 +124,22 @@ int run(int argc, char **argv)
     // Never deleted: the offscreen platform loses its screen when it is torn down, which leak checks report.
     new QGuiApplication(argc, argv);
     texts::fillLibraryTables();
-    return runCommand(console);
+    const int code = runCommand(console);
+    hasLostReader = console.hasLostReader();
+    return code;
 }
 }
 
 int main(int argc, char **argv)
 {
     try {
-        return run(argc, argv);
+        bool hasLostReader = false;
+        const int code = run(argc, argv, hasLostReader);
+        if (hasLostReader) {
+            std::signal(SIGPIPE, SIG_DFL);
+            std::raise(SIGPIPE);
+        }
+        return code;
     } catch (const std::exception &bug) {
         std::fprintf(
             stderr,

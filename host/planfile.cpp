@@ -106,8 +106,8 @@ int readCalendar(const QString &planPath, Console &console, Plan &plan, ProjectS
     return Console::Done;
 }
 
-// Console::Done with the file's cells, or the exit code after telling why there are none.
-int readTable(const QString &path, Console &console, csv::Table &table)
+// Console::Done with the file's text, or the exit code after telling why there is none.
+int readText(const QString &path, Console &console, csv::Text &text)
 {
     const csv::Limits limits;
     QByteArray bytes;
@@ -118,7 +118,7 @@ int readTable(const QString &path, Console &console, csv::Table &table)
     }
     csv::Fault fault;
     const qint64 total = bytes.size();
-    if (csv::parse(bytes, table, fault, limits,
+    if (csv::check(bytes, text, fault, limits,
                    [&console, total](qint64 done) { console.progress(t("reading"), done, total); }))
         return Console::Done;
     const QString place = fault.line > 0 ? t("line %1").arg(fault.line) + QLatin1String(": ") : QString();
@@ -130,18 +130,19 @@ int readTables(const QString &path, Console &console, Plan &plan, const ProjectS
                Findings &findings)
 {
     const Options &options = console.options();
-    if (const int code = readTable(path, console, plan.table))
+    csv::Text tasks;
+    if (const int code = readText(path, console, tasks))
         return code;
     const QString resources = sidePath(path, options.resourcesFile, "resources.csv");
     const QString assignments =
         resources.isEmpty() ? QString() : sidePath(path, options.assignmentsFile, "assignments.csv");
-    csv::Table resourceTable, assignmentTable;
+    csv::Text resourceText, assignmentText;
     if (!resources.isEmpty()) {
-        if (const int code = readTable(resources, console, resourceTable))
+        if (const int code = readText(resources, console, resourceText))
             return code;
     }
     if (!assignments.isEmpty()) {
-        if (const int code = readTable(assignments, console, assignmentTable))
+        if (const int code = readText(assignments, console, assignmentText))
             return code;
     }
     console.progress(t("building the tasks"), 0, 0);
@@ -149,9 +150,8 @@ int readTables(const QString &path, Console &console, Plan &plan, const ProjectS
     engine.setStart(start);
     // Scheduling tells what it moves; what has no dates is moved by it, too.
     engine.setPlacesBehind(false);
-    const bool isRead =
-        engine.importTables(plan.table, resources.isEmpty() ? nullptr : &resourceTable,
-                            assignments.isEmpty() ? nullptr : &assignmentTable, options.inPlace);
+    const bool isRead = engine.importTexts(tasks, resources.isEmpty() ? nullptr : &resourceText,
+                                           assignments.isEmpty() ? nullptr : &assignmentText);
     if (!isRead) {
         console.list(path, engine.findings());
         return Console::CannotRead;
@@ -160,8 +160,8 @@ int readTables(const QString &path, Console &console, Plan &plan, const ProjectS
         findings.add(finding.place, finding.what, finding.hint);
     plan.imported = engine.imported();
     // Only writing into the file needs its cells again.
-    if (!options.inPlace)
-        plan.table = csv::Table();
+    if (options.inPlace)
+        plan.table = csv::tableOf(tasks);
     return Console::Done;
 }
 

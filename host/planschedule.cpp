@@ -4,6 +4,7 @@
 #include "edits/settle.h"
 #include "edits/starttogether.h"
 #include "engine/time/shownmoment.h"
+#include "model/calendarhold.h"
 #include "model/kwtaskinfo.h"
 #include "plan.h"
 #include "texts.h"
@@ -31,6 +32,7 @@ quint32 finishSecs(KWDocument &document, const datetext::Moment &moment)
 void schedule(Plan &plan, Beginning beginning, const Plan::Progress &progress)
 {
     KWDocument &document = *plan.document;
+    const CalendarHold hold(document);
     std::vector<std::pair<quint32, quint32>> before;
     settling::settle(document, {settling::AsItStands, {}, {}});
     plan.finishBefore = lastFinish(plan);
@@ -60,6 +62,7 @@ void refresh(Plan &plan, const Plan::Progress &progress)
 {
     if (progress)
         progress(t("late dates and slack"), 0, 0);
+    const CalendarHold hold(*plan.document);
     settling::settle(*plan.document, {settling::AsItStands, {}, {}});
     plan.tightest = planreasons::tightest(*plan.document);
 }

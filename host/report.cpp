@@ -1,6 +1,7 @@
 #include "report.h"
 #include "bars.h"
 #include "datetext.h"
+#include "model/calendarhold.h"
 #include "model/kwtaskinfo.h"
 #include "sheettext.h"
 #include "texts.h"
@@ -22,7 +23,6 @@ struct ShownColumn
 {
     const columns::Column *column;
     QString heading;
-    QStringList cells;
     int width = 0;
 };
 
@@ -93,7 +93,7 @@ bool chooseColumns(const Options &options, int width, std::vector<ShownColumn> &
                 t("unknown column '%1'; there are %2").arg(key, columns::keys().join(QLatin1String(", ")));
             return false;
         }
-        chosen.push_back({column, t(column->heading), QStringList(), 0});
+        chosen.push_back({column, t(column->heading), 0});
     }
     return true;
 }
@@ -116,44 +116,63 @@ public:
     {
     }
 
-    bool run(QString &text, QString &error)
+    bool layOut(QString &error)
     {
         Range range = rangeOf(m_plan, m_times);
         m_positions = visibleTasks(m_plan, m_options);
         if (!chooseColumns(m_options, m_width, m_columns, error))
             return false;
-        fillCells(range);
+        m_showYears = range.first.isValid() && range.first.daysTo(range.last) > daysWithoutYear;
         if (!m_options.range.isEmpty() && !parseRange(m_options.range, range)) {
             error = t("'%1' is no range; write it as 2026-01-05..2026-02-28").arg(m_options.range);
             return false;
         }
+        measure();
         layOut(range);
+        return true;
+    }
+
+    // Rows are made as they are written: nobody may read the last of them.
+    bool write(const Console::Take &take) const
+    {
+        constexpr int pieceUnits = 64 << 10;
+        const columns::Sheet sheet(m_plan, m_times, m_showYears, m_style.expanded);
+        QString text;
+        text.reserve(pieceUnits + pieceUnits / 4);
+        const auto flush = [&] {
+            const bool isTaken = take(text.toUtf8());
+            text.resize(0);
+            return isTaken;
+        };
         if (!m_options.plain)
             text += title(m_plan, m_times, m_style) + QLatin1Char('\n');
         addHeadings(text);
-        for (std::size_t i = 0; i < m_positions.size(); ++i)
-            addRow(text, int(i));
+        for (const int pos : m_positions) {
+            addRow(text, sheet, pos);
+            if (text.size() >= pieceUnits && !flush())
+                return false;
+        }
         if (!m_options.plain && m_withBars)
             text += QLatin1Char('\n') + legend() + QLatin1Char('\n');
         if (m_withBars && m_axis.cutOff)
             text += t("the bars end early: a greater --width or a coarser --scale shows the rest") +
                     QLatin1Char('\n');
-        return true;
+        return flush();
     }
 
 private:
-    void fillCells(const Range &range)
+    QString cellOf(const ShownColumn &column, const columns::Sheet &sheet, int pos) const
     {
-        // Within a year the day and the month tell a date apart; the title says which year it is.
-        constexpr int daysWithoutYear = 330;
-        const bool years = range.first.isValid() && range.first.daysTo(range.last) > daysWithoutYear;
-        const columns::Sheet sheet{m_plan, m_times, years, m_style.expanded};
+        return textwidth::oneLine(column.column->text(sheet, pos), m_style.ascii);
+    }
+
+    void measure()
+    {
+        const columns::Sheet sheet(m_plan, m_times, m_showYears, m_style.expanded);
         for (ShownColumn &column : m_columns) {
             column.width = textwidth::of(column.heading);
-            for (const int pos : m_positions) {
-                column.cells.append(textwidth::oneLine(column.column->text(sheet, pos), m_style.ascii));
-                column.width = qMax(column.width, textwidth::of(column.cells.last()));
-            }
+            for (const int pos : m_positions)
+                column.width = qMax(column.width, textwidth::of(cellOf(column, sheet, pos)));
             // The mark keeps its place where no task has one.
             if (column.heading.isEmpty())
                 column.width = qMax(column.width, 1);
@@ -206,15 +225,14 @@ private:
         text += trimmedRight(line);
     }
 
-    void addRow(QString &text, int row) const
+    void addRow(QString &text, const columns::Sheet &sheet, int pos) const
     {
-        const int pos = m_positions[std::size_t(row)];
         const KWTaskInfo *task = m_plan.task(pos);
         QString line;
         for (const ShownColumn &column : m_columns) {
-            const QString cell = isName(column)
-                                     ? textwidth::elided(column.cells.at(row), column.width, m_style.cut)
-                                     : column.cells.at(row);
+            QString cell = cellOf(column, sheet, pos);
+            if (isName(column))
+                cell = textwidth::elided(cell, column.width, m_style.cut);
             const QString padded = textwidth::padded(cell, column.width, column.column->alignRight);
             const bool isMark = *column.column->heading == '\0';
             const Style::Tone tone = isMark ? Style::Critical : task->isParent() ? Style::Bold : Style::Plain;
@@ -265,6 +283,9 @@ private:
     std::vector<ShownColumn> m_columns;
     axis::Axis m_axis;
     bool m_withBars = false;
+    // Within a year the day and the month tell a date apart; the title says which year it is.
+    static constexpr int daysWithoutYear = 330;
+    bool m_showYears = false;
 };
 
 // Working dates that an exception takes away, and days off that one makes working.
@@ -322,10 +343,17 @@ QString title(const Plan &plan, const shown::Times &times, const Style &style)
     return first.join(separator) + QLatin1Char('\n') + second.join(separator) + QLatin1Char('\n');
 }
 
-bool table(const Plan &plan, const Options &options, const Style &style, int width, QString &text,
-           QString &error)
+int writeTable(Console &console, const Plan &plan, const Style &style)
 {
+    const CalendarHold hold(*plan.document);
     const shown::Times times(plan);
-    return TableWriter(plan, times, options, style, width).run(text, error);
+    TableWriter writer(plan, times, console.options(), style, console.width());
+    QString error;
+    if (!writer.layOut(error)) {
+        console.error(error);
+        return Console::WrongUse;
+    }
+    const bool isWritten = console.write([&](const Console::Take &take) { return writer.write(take); });
+    return isWritten ? Console::Done : Console::CannotWrite;
 }
 }

@@ -1,5 +1,6 @@
 #pragma once
 #include "columns.h"
+#include "console.h"
 #include "options.h"
 #include "plan.h"
 #include "shown.h"
@@ -9,10 +10,9 @@
 // What a plan looks like in a terminal.
 namespace report {
 
-// Title lines, table with bars, legend; as wide as `width` columns. False with a sentence in `error` when the
-// options name an unknown column or range.
-bool table(const Plan &plan, const Options &options, const Style &style, int width, QString &text,
-           QString &error);
+// Title lines, table with bars, legend, to where the console's options say. The exit code: the options may
+// name an unknown column or range.
+int writeTable(Console &console, const Plan &plan, const Style &style);
 
 // "Pump replacement   7 tasks   Mon 5 Jan - Wed 21 Jan 2026   critical path 11.5 d" and the line about the
 // calendar.

@@ -52,6 +52,13 @@ char32_t nextCharacter(const QString &text, int &at)
     return high.unicode();
 }
 
+// Nothing but what every terminal shows in one column each.
+bool isPlain(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar sign) { return sign.unicode() >= 0x20 && sign.unicode() <= 0x7E; });
+}
+
 // Where the text must end to fill at most `columns`; marks that combine with the last character stay with it.
 int lengthFitting(const QString &text, int columns)
 {
@@ -85,6 +92,8 @@ int ofCharacter(char32_t character)
 
 int of(const QString &text)
 {
+    if (isPlain(text))
+        return text.size();
     int columns = 0;
     for (int at = 0; at < text.size();)
         columns += ofCharacter(nextCharacter(text, at));
@@ -111,6 +120,8 @@ QString padded(const QString &text, int columns, bool alignRight)
 
 QString oneLine(const QString &text, bool asciiOnly)
 {
+    if (isPlain(text))
+        return text;
     QString line;
     line.reserve(text.size());
     for (int at = 0; at < text.size();) {

@@ -6,9 +6,10 @@
 #include "resources/resourceinfodata.h"
 #include "schedule/kwtaskcollection.h"
 #include "table/rowcolumndata.h"
-#include <QPair>
 #include <QSet>
+#include <algorithm>
 #include <limits>
+#include <vector>
 
 namespace plancheck {
 
@@ -75,18 +76,32 @@ private:
     }
 
     // What tasks say of each other is looked up here: their own lists may be as long as the plan.
-    using Names = QSet<QPair<quint32, quint32>>; // who names, and whom
+    class Names // who names, and whom
+    {
+    public:
+        void collect(const KWDocument &document, QList<quint32> TaskRecord::*ids)
+        {
+            for (const KWTaskInfo *task : document.taskList()) {
+                for (const quint32 id : task->*ids)
+                    m_pairs.push_back(pair(task->ID, id));
+            }
+            std::sort(m_pairs.begin(), m_pairs.end());
+        }
+        bool contains(quint32 who, quint32 whom) const
+        {
+            return std::binary_search(m_pairs.begin(), m_pairs.end(), pair(who, whom));
+        }
+
+    private:
+        static quint64 pair(quint32 who, quint32 whom) { return quint64(who) << 32 | whom; }
+        std::vector<quint64> m_pairs;
+    };
 
     void collectNames()
     {
-        for (const KWTaskInfo *task : m_document.taskList()) {
-            for (const quint32 id : task->Childs)
-                m_children.insert({task->ID, id});
-            for (const quint32 id : task->Predecessors)
-                m_predecessors.insert({task->ID, id});
-            for (const quint32 id : task->Depends)
-                m_successors.insert({task->ID, id});
-        }
+        m_children.collect(m_document, &TaskRecord::Childs);
+        m_predecessors.collect(m_document, &TaskRecord::Predecessors);
+        m_successors.collect(m_document, &TaskRecord::Depends);
     }
 
     void checkParent(const KWTaskInfo &task)
@@ -96,7 +111,7 @@ private:
             report(UnknownSummary, task.ParentID);
         else if (parent && m_posOfId.posOf(task.ParentID) >= m_pos)
             report(AboveItsSummary, task.ParentID);
-        else if (parent && !m_children.contains({parent->ID, task.ID}))
+        else if (parent && !m_children.contains(parent->ID, task.ID))
             report(UnnamedBySummary, task.ParentID);
         const qint64 level = parent ? qint64(parent->Level) + 1 : 1;
         if (task.Level != level && level <= std::numeric_limits<qint32>::max())
@@ -136,7 +151,7 @@ private:
                 report(faults.unknown, id);
             else if (linked == &task)
                 report(faults.own);
-            else if (!others.contains({linked->ID, task.ID}))
+            else if (!others.contains(linked->ID, task.ID))
                 report(faults.oneSided, id);
         }
     }

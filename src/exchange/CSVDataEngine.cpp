@@ -8,38 +8,42 @@
 
 namespace {
 
-// The rows of a table, the titles first.
-class TableSource : public sheetrows::Source
+// The rows of a text, the titles first.
+class TextSource : public sheetrows::Source
 {
 public:
-    explicit TableSource(const csv::Table &table, csv::Table *givenUp = nullptr)
-        : m_table(table)
-        , m_givenUp(givenUp)
+    explicit TextSource(const csv::Text &text)
+        : m_text(text)
+        , m_rows(text)
     {
     }
-    std::size_t rowsAtMost() const override { return m_table.rows.size(); }
+    std::size_t rowsAtMost() const override { return std::size_t(m_text.rows); }
+    // Cells keep their memory from one row to the next.
     bool next(sheetrows::Row &row) override
     {
-        if (m_next == m_table.rows.size())
+        if (!m_rows.next())
             return false;
-        const csv::Row &from = m_table.rows[m_next++];
-        row.number = int(m_next);
-        row.line = from.line;
-        row.cells.clear();
-        for (int column = 0; column < from.cells.size(); ++column) {
-            if (!from.cells.at(column).isEmpty())
-                row.cells.push_back({column + 1, from.cells.at(column)});
+        row.number = ++m_number;
+        row.line = m_rows.line();
+        std::size_t count = 0;
+        for (std::size_t i = 0; i < m_rows.cells().size(); ++i) {
+            const csv::CellRange &from = m_rows.cells()[i];
+            if (from.size == 0)
+                continue;
+            if (count == row.cells.size())
+                row.cells.emplace_back();
+            sheetrows::Cell &cell = row.cells[count++];
+            cell.column = int(i) + 1;
+            csv::Rows::read(from, cell.text);
         }
-        // Two copies of all cells would be the most that an import holds.
-        if (m_givenUp && m_next > 1)
-            m_givenUp->rows[m_next - 1].cells = QStringList();
+        row.cells.resize(count);
         return true;
     }
 
 private:
-    const csv::Table &m_table;
-    csv::Table *const m_givenUp;
-    std::size_t m_next = 0;
+    const csv::Text &m_text;
+    csv::Rows m_rows;
+    int m_number = 0;
 };
 
 sheetrows::Reading readingOf(bool placesBehind)
@@ -65,7 +69,7 @@ CSVDataEngine::CSVDataEngine(KWDocument *document)
 
 CSVDataEngine::~CSVDataEngine() = default;
 
-bool CSVDataEngine::readTable(const QString &path, csv::Table &table)
+bool CSVDataEngine::readText(const QString &path, csv::Text &text)
 {
     const csv::Limits limits;
     QFile file(path);
@@ -75,7 +79,7 @@ bool CSVDataEngine::readTable(const QString &path, csv::Table &table)
     }
     // One byte more tells that there are too many.
     csv::Fault fault;
-    if (csv::parse(file.read(limits.bytes + 1), table, fault, limits))
+    if (csv::check(file.read(limits.bytes + 1), text, fault, limits))
         return true;
     m_findings.add(fault.line > 0 ? path + QStringLiteral(", line %1").arg(fault.line) : path, fault.what,
                    fault.hint);
@@ -85,24 +89,24 @@ bool CSVDataEngine::readTable(const QString &path, csv::Table &table)
 bool CSVDataEngine::importFile(const QString &path)
 {
     m_findings.clear();
-    csv::Table tasks, resources, assignments;
-    if (!readTable(path, tasks) || (!m_resourceFile.isEmpty() && !readTable(m_resourceFile, resources)) ||
-        (!m_assignmentFile.isEmpty() && !readTable(m_assignmentFile, assignments)))
+    csv::Text tasks, resources, assignments;
+    if (!readText(path, tasks) || (!m_resourceFile.isEmpty() && !readText(m_resourceFile, resources)) ||
+        (!m_assignmentFile.isEmpty() && !readText(m_assignmentFile, assignments)))
         return false;
-    return importTables(tasks, m_resourceFile.isEmpty() ? nullptr : &resources,
-                        m_assignmentFile.isEmpty() ? nullptr : &assignments);
+    return importTexts(tasks, m_resourceFile.isEmpty() ? nullptr : &resources,
+                       m_assignmentFile.isEmpty() ? nullptr : &assignments);
 }
 
-bool CSVDataEngine::importTables(csv::Table &tasks, const csv::Table *resources,
-                                 const csv::Table *assignments, bool keepsCells)
+bool CSVDataEngine::importTexts(const csv::Text &tasks, const csv::Text *resources,
+                                const csv::Text *assignments)
 {
     m_findings.clear();
     if (!m_document)
         return false;
-    TableSource taskRows(tasks, keepsCells ? nullptr : &tasks);
-    const csv::Table none;
-    TableSource resourceRows(resources ? *resources : none);
-    TableSource assignmentRows(assignments ? *assignments : none);
+    TextSource taskRows(tasks);
+    const csv::Text none;
+    TextSource resourceRows(resources ? *resources : none);
+    TextSource assignmentRows(assignments ? *assignments : none);
     planimport::Book book;
     book.sheets = {&taskRows, resources ? &resourceRows : nullptr, assignments ? &assignmentRows : nullptr};
     book.names = {QString(), QStringLiteral("resources"), QStringLiteral("assignments")};

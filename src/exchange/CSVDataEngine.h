@@ -8,7 +8,7 @@
 class KWDocument;
 
 namespace csv {
-struct Table;
+struct Text;
 }
 
 // A plan as delimited text, a row a task, and back. Its resource sheet and its assignments stand in files of
@@ -46,15 +46,13 @@ public:
     // Replaces the document's tasks, and its resources and assignments where there is a file of resources.
     // The working time stays. False leaves the document as it was; findings() says why.
     bool importFile(const QString &path);
-    // The same from tables that are parsed already; null for a file that there is not. The cells of the tasks
-    // are given up as they are read unless they are to be kept.
-    bool importTables(csv::Table &tasks, const csv::Table *resources, const csv::Table *assignments,
-                      bool keepsCells = false);
+    // The same from texts that are checked already; null for a file that there is not.
+    bool importTexts(const csv::Text &tasks, const csv::Text *resources, const csv::Text *assignments);
     // Writes the tasks, and resources and assignments where files are set for them, each in one step.
     bool exportFile(const QString &path);
 
 private:
-    bool readTable(const QString &path, csv::Table &table);
+    bool readText(const QString &path, csv::Text &text);
     bool writeFile(const QString &path, const QByteArray &bytes);
 
     KWDocument *m_document;

@@ -63,8 +63,25 @@ std::optional<double> decimalNumber(QString text)
     return isNumber ? finite(value) : std::nullopt;
 }
 
+// A few plain digits, as most cells with numbers are; -1 for anything else.
+qint64 fewDigits(const QString &text)
+{
+    constexpr int most = 15; // always exact
+    if (text.isEmpty() || text.size() > most)
+        return -1;
+    qint64 number = 0;
+    for (const QChar sign : text) {
+        if (!isPlainDigit(sign))
+            return -1;
+        number = number * 10 + (sign.unicode() - '0');
+    }
+    return number;
+}
+
 std::optional<double> numberOfText(const QString &text, Comma comma)
 {
+    if (const qint64 digits = fewDigits(text); digits >= 0)
+        return double(digits);
     if (text.size() > maxUnits || !holdsDigit(text))
         return std::nullopt;
     const QString plain = withPlainDigits(text);
@@ -111,6 +128,8 @@ std::optional<double> number(const Cell &cell, Comma comma)
 {
     if (!cell.isNumber)
         return numberOfText(cell.text, comma);
+    if (const qint64 digits = fewDigits(cell.text); digits >= 0)
+        return double(digits);
     bool isNumber = false;
     const double value = cell.text.toDouble(&isNumber);
     return isNumber ? finite(value) : std::nullopt;

@@ -3,14 +3,19 @@
 #include "engine/record/codes.h"
 #include "engine/record/outline.h"
 #include "engine/record/resource.h"
+#include "engine/time/civildate.h"
 #include "engine/time/duration.h"
 #include "exchange/cellvalues.h"
 #include "exchange/csvtext.h"
 #include "exchange/titletable.h"
 #include "format/dataformat.h"
+#include "format/wholenumber.h"
+#include "model/calendarhold.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
+#include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -19,86 +24,172 @@ namespace {
 
 constexpr int deepestCode = 1000;
 
+// Text in UTF-8 at the end of a buffer that is used for one row after the other.
+class Text
+{
+public:
+    explicit Text(QByteArray &bytes)
+        : m_bytes(bytes)
+    {
+    }
+    void add(char sign) { m_bytes.append(sign); }
+    void add(QLatin1String text) { m_bytes.append(text.data(), text.size()); }
+    void add(const QString &text)
+    {
+        const int before = m_bytes.size();
+        m_bytes.resize(before + text.size());
+        char *to = m_bytes.data() + before;
+        for (const QChar sign : text) {
+            if (sign.unicode() >= 0x80) {
+                m_bytes.resize(before);
+                m_bytes.append(text.toUtf8());
+                return;
+            }
+            *to++ = char(sign.unicode());
+        }
+    }
+    void add(qint64 number)
+    {
+        char digits[std::numeric_limits<qint64>::digits10 + 2];
+        m_bytes.append(digits, int(std::to_chars(digits, std::end(digits), number).ptr - digits));
+    }
+    void add(const shownmoment::Moment &moment)
+    {
+        char text[momentSize];
+        m_bytes.append(text, writeMoment(moment, text));
+    }
+
+    static constexpr int momentSize = 32;
+    // Its length.
+    static int writeMoment(const shownmoment::Moment &moment, char *text)
+    {
+        const civildate::Date date = civildate::of(moment.day);
+        const auto twoDigits = [&text](int number) {
+            *text++ = char('0' + number / 10 % 10);
+            *text++ = char('0' + number % 10);
+        };
+        const char *const begin = text;
+        twoDigits(date.year / 100);
+        twoDigits(date.year);
+        *text++ = '-';
+        twoDigits(date.month);
+        *text++ = '-';
+        twoDigits(date.day);
+        *text++ = 'T';
+        twoDigits(moment.secs / 3600);
+        *text++ = ':';
+        twoDigits(moment.secs / 60 % 60);
+        return int(text - begin);
+    }
+
+private:
+    QByteArray &m_bytes;
+};
+
 // What the cells of a row need.
 struct Row
 {
     KWDocument &document;
+    const worktime::WorkCalendar &calendar;
     const ImportedPlan &imported;
     const ShownDates &dates;
     const KWTaskInfo &task;
     int pos;
     quint32 start; // of the project
 
-    QString minutes(quint32 to) const { return minutesBetween(start, to); }
-    QString minutesBetween(quint32 from, quint32 to, qint64 least = std::numeric_limits<qint64>::min()) const
+    qint64 minutes(quint32 to) const { return minutesBetween(start, to); }
+    qint64 minutesBetween(quint32 from, quint32 to, qint64 least = std::numeric_limits<qint64>::min()) const
     {
-        const worktime::WorkCalendar &calendar = document.workCalendar();
         const qint64 secs =
             duration::secs(calendar, std::min(from, to), std::max(from, to), duration::Minute);
         const qint64 minutes = (secs + 30) / 60;
-        return QString::number(std::max(least, from <= to ? minutes : -minutes));
+        return std::max(least, from <= to ? minutes : -minutes);
     }
 };
 
-QString flag(bool value)
+void addFlag(Text &out, bool value)
 {
-    return value ? QStringLiteral("1") : QStringLiteral("0");
+    out.add(value ? '1' : '0');
 }
 
-QString joined(const QList<quint32> &ids)
+void addList(Text &out, const QList<quint32> &ids)
 {
-    QStringList texts;
-    for (const quint32 id : ids)
-        texts.append(QString::number(id));
-    return texts.join(QLatin1Char(';'));
+    bool isFirst = true;
+    for (const quint32 id : ids) {
+        if (!isFirst)
+            out.add(';');
+        isFirst = false;
+        out.add(qint64(id));
+    }
 }
 
 struct Cell
 {
     Column column;
-    QString (*text)(const Row &row);
+    void (*add)(const Row &row, Text &out);
 };
 
 const Cell cells[] = {
-    {{"ID", "id", true}, [](const Row &row) { return QString::number(quint32(row.task.ID)); }},
-    {{"WBS", "wbs", false}, [](const Row &row) { return row.imported.codes.value(row.task.ID); }},
-    {{"Level", "level", true}, [](const Row &row) { return QString::number(row.task.Level); }},
-    {{"Name", "name", false}, [](const Row &row) { return row.task.Name; }},
-    {{"Start", "start", false}, [](const Row &row) { return momentText(row.dates.start(row.pos)); }},
-    {{"Finish", "finish", false}, [](const Row &row) { return momentText(row.dates.finish(row.pos)); }},
+    {{"ID", "id", true}, [](const Row &row, Text &out) { out.add(qint64(row.task.ID)); }},
+    {{"WBS", "wbs", false},
+     [](const Row &row, Text &out) { out.add(row.imported.codes.value(row.task.ID)); }},
+    {{"Level", "level", true}, [](const Row &row, Text &out) { out.add(qint64(row.task.Level)); }},
+    {{"Name", "name", false}, [](const Row &row, Text &out) { out.add(row.task.Name); }},
+    {{"Start", "start", false}, [](const Row &row, Text &out) { out.add(row.dates.start(row.pos)); }},
+    {{"Finish", "finish", false}, [](const Row &row, Text &out) { out.add(row.dates.finish(row.pos)); }},
     {{"Duration", "duration", false},
-     [](const Row &row) {
-         return lengthText(duration::ofTask(row.document.workCalendar(), row.task.Start, row.task.Finish,
-                                            row.task.DurationUnits),
-                           row.task.DurationUnits);
+     [](const Row &row, Text &out) {
+         out.add(lengthText(
+             duration::ofTask(row.calendar, row.task.Start, row.task.Finish, row.task.DurationUnits),
+             row.task.DurationUnits));
      }},
     {{"Percent", "percent", true},
-     [](const Row &row) {
+     [](const Row &row, Text &out) {
          // What comes from below is rounded; what a task says itself is not.
-         return row.task.isParent() ? DataFormat::formatNumber(row.task.Percent * 100, 0, 2, 1)
-                                    : numberText(row.task.Percent * 100);
+         out.add(row.task.isParent() ? DataFormat::formatNumber(row.task.Percent * 100, 0, 2, 1)
+                                     : numberText(row.task.Percent * 100));
      }},
-    {{"Predecessors", "predecessors", false}, [](const Row &row) { return joined(row.task.Predecessors); }},
-    {{"Resources", "resources", false}, [](const Row &row) { return resourceNames(row.document, row.task); }},
-    {{"Summary", "summary", true}, [](const Row &row) { return flag(row.task.isParent()); }},
+    {{"Predecessors", "predecessors", false},
+     [](const Row &row, Text &out) { addList(out, row.task.Predecessors); }},
+    {{"Resources", "resources", false},
+     [](const Row &row, Text &out) { out.add(resourceNames(row.document, row.task)); }},
+    {{"Summary", "summary", true}, [](const Row &row, Text &out) { addFlag(out, row.task.isParent()); }},
     {{"Milestone", "milestone", true},
-     [](const Row &row) { return flag(row.task.Milestone && !row.task.isParent()); }},
-    {{"Notes", "notes", false}, [](const Row &row) { return row.task.Notes; }},
-    {{"Critical", "critical", true}, [](const Row &row) { return flag(row.task.CriticalPath); }},
+     [](const Row &row, Text &out) { addFlag(out, row.task.Milestone && !row.task.isParent()); }},
+    {{"Notes", "notes", false}, [](const Row &row, Text &out) { out.add(row.task.Notes); }},
+    {{"Critical", "critical", true}, [](const Row &row, Text &out) { addFlag(out, row.task.CriticalPath); }},
     {{"LateStart", "lateStart", false},
-     [](const Row &row) { return momentText(row.dates.lateStart(row.pos)); }},
+     [](const Row &row, Text &out) { out.add(row.dates.lateStart(row.pos)); }},
     {{"LateFinish", "lateFinish", false},
-     [](const Row &row) { return momentText(row.dates.lateFinish(row.pos)); }},
-    {{"StartSlack", "startSlack", false}, [](const Row &row) { return row.task.EarlySlack; }},
-    {{"FinishSlack", "finishSlack", false}, [](const Row &row) { return row.task.LateSlack; }},
-    {{"StartMin", "startMin", true}, [](const Row &row) { return row.minutes(row.task.Start); }},
-    {{"FinishMin", "finishMin", true}, [](const Row &row) { return row.minutes(row.task.Finish); }},
-    {{"LateStartMin", "lateStartMin", true}, [](const Row &row) { return row.minutes(row.task.LateStart); }},
+     [](const Row &row, Text &out) { out.add(row.dates.lateFinish(row.pos)); }},
+    {{"StartSlack", "startSlack", false}, [](const Row &row, Text &out) { out.add(row.task.EarlySlack); }},
+    {{"FinishSlack", "finishSlack", false}, [](const Row &row, Text &out) { out.add(row.task.LateSlack); }},
+    {{"StartMin", "startMin", true}, [](const Row &row, Text &out) { out.add(row.minutes(row.task.Start)); }},
+    {{"FinishMin", "finishMin", true},
+     [](const Row &row, Text &out) { out.add(row.minutes(row.task.Finish)); }},
+    {{"LateStartMin", "lateStartMin", true},
+     [](const Row &row, Text &out) { out.add(row.minutes(row.task.LateStart)); }},
     {{"LateFinishMin", "lateFinishMin", true},
-     [](const Row &row) { return row.minutes(row.task.LateFinish); }},
+     [](const Row &row, Text &out) { out.add(row.minutes(row.task.LateFinish)); }},
     {{"SlackMin", "slackMin", true},
-     [](const Row &row) { return row.minutesBetween(row.task.Finish, row.task.LateFinish, 0); }},
+     [](const Row &row, Text &out) { out.add(row.minutesBetween(row.task.Finish, row.task.LateFinish, 0)); }},
 };
+
+// The cell from `begin` to the end of the buffer, as csv::quoted writes it.
+void quoteFrom(QByteArray &bytes, int begin)
+{
+    const char *const cell = bytes.constData() + begin;
+    const int size = bytes.size() - begin;
+    const auto isSpecial = [](char sign) {
+        return sign == ',' || sign == '"' || sign == '\n' || sign == '\r';
+    };
+    if (size == 0 || (cell[0] != ' ' && cell[size - 1] != ' ' && std::none_of(cell, cell + size, isSpecial)))
+        return;
+    QByteArray text = bytes.mid(begin);
+    text.replace('"', "\"\"");
+    bytes.truncate(begin);
+    bytes.append('"').append(text).append('"');
+}
 
 QByteArray line(const QStringList &texts)
 {
@@ -131,15 +222,16 @@ const std::vector<Column> &columns()
 
 QString momentText(const shownmoment::Moment &moment)
 {
-    return LocalClock::dateOf(moment.day).toString(Qt::ISODate) +
-           QStringLiteral("T%1:%2")
-               .arg(moment.secs / 3600, 2, 10, QLatin1Char('0'))
-               .arg(moment.secs / 60 % 60, 2, 10, QLatin1Char('0'));
+    char text[Text::momentSize];
+    return QString::fromLatin1(text, Text::writeMoment(moment, text));
 }
 
 QString numberText(double number)
 {
     constexpr int digits = 12;
+    constexpr double leastWithPower = 1e12;
+    if (isPlainWhole(number) && std::fabs(number) < leastWithPower)
+        return QString::number(qint64(number));
     return QString::number(std::isfinite(number) ? number : 0, 'g', digits);
 }
 
@@ -177,17 +269,26 @@ QString resourceNames(KWDocument &document, const KWTaskInfo &task)
 QHash<quint32, QString> outlineCodes(const KWDocument &document)
 {
     QHash<quint32, QString> codes;
-    QVector<int> numbers;
+    codes.reserve(document.taskCount());
+    struct Level
+    {
+        int number = 0;
+        QString prefix; // the codes above, with a point behind each
+    };
+    std::vector<Level> levels;
     for (const KWTaskInfo *task : document.taskList()) {
-        const int depth = qBound(1, task->Level, deepestCode);
-        while (numbers.size() < depth)
-            numbers.append(0);
-        numbers.erase(numbers.begin() + depth, numbers.end());
-        ++numbers.last();
-        QStringList parts;
-        for (const int number : qAsConst(numbers))
-            parts.append(QString::number(number));
-        codes.insert(task->ID, parts.join(QLatin1Char('.')));
+        const std::size_t depth = std::size_t(qBound(1, task->Level, deepestCode));
+        while (levels.size() < depth) {
+            const bool isTop = levels.empty();
+            Level level;
+            if (!isTop)
+                level.prefix =
+                    levels.back().prefix + QString::number(levels.back().number) + QLatin1Char('.');
+            levels.push_back(std::move(level));
+        }
+        levels.resize(depth);
+        ++levels.back().number;
+        codes.insert(task->ID, levels.back().prefix + QString::number(levels.back().number));
     }
     return codes;
 }
@@ -220,23 +321,55 @@ Rows::Rows(KWDocument &document, const ImportedPlan &imported)
 
 QString Rows::text(int pos, std::size_t column) const
 {
-    return cells[column].text(
-        {m_document, m_imported, m_dates, *m_document.getTaskInfoAt(pos), pos, m_start});
+    QByteArray bytes;
+    Text out(bytes);
+    cells[column].add({m_document, m_document.workCalendar(), m_imported, m_dates,
+                       *m_document.getTaskInfoAt(pos), pos, m_start},
+                      out);
+    return QString::fromUtf8(bytes);
+}
+
+bool Rows::write(const std::function<bool(const QByteArray &)> &take) const
+{
+    constexpr int pieceBytes = 256 << 10;
+    QByteArray bytes;
+    bytes.reserve(pieceBytes + pieceBytes / 4);
+    QStringList titles;
+    for (const Cell &cell : cells)
+        titles.append(QLatin1String(cell.column.title));
+    bytes.append(line(titles));
+    Text out(bytes);
+    const CalendarHold hold(m_document);
+    const worktime::WorkCalendar &calendar = m_document.workCalendar();
+    const QList<KWTaskInfo *> &tasks = m_document.taskList();
+    for (int pos = 0; pos < tasks.size(); ++pos) {
+        const Row row{m_document, calendar, m_imported, m_dates, *tasks[pos], pos, m_start};
+        for (const Cell &cell : cells) {
+            if (&cell != cells)
+                bytes.append(',');
+            const int begin = bytes.size();
+            cell.add(row, out);
+            if (!cell.column.isNumber)
+                quoteFrom(bytes, begin);
+        }
+        bytes.append('\n');
+        if (bytes.size() >= pieceBytes) {
+            if (!take(bytes))
+                return false;
+            bytes.resize(0);
+        }
+    }
+    return take(bytes);
 }
 
 QByteArray Rows::bytes() const
 {
-    QStringList texts;
-    for (const Cell &cell : cells)
-        texts.append(QLatin1String(cell.column.title));
-    QByteArray bytes = line(texts);
-    for (int pos = 0; pos < m_document.taskCount(); ++pos) {
-        texts.clear();
-        for (std::size_t column = 0; column < std::size(cells); ++column)
-            texts.append(text(pos, column));
-        bytes += line(texts);
-    }
-    return bytes;
+    QByteArray all;
+    write([&all](const QByteArray &piece) {
+        all.append(piece);
+        return true;
+    });
+    return all;
 }
 
 QByteArray resources(KWDocument &document)

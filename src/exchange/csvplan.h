@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <vector>
 
 class KWDocument;
@@ -31,6 +32,8 @@ class KWGANTT_EXPORT Rows
 public:
     Rows(KWDocument &document, const ImportedPlan &imported);
     QString text(int pos, std::size_t column) const;
+    // The file, titles first, piece by piece; ends where `take` answers false.
+    bool write(const std::function<bool(const QByteArray &)> &take) const;
     QByteArray bytes() const;
     const ShownDates &dates() const { return m_dates; }
 

@@ -1,4 +1,6 @@
 #include "exchange/csvtext.h"
+#include <cstring>
+#include <limits>
 
 namespace csv {
 
@@ -42,21 +44,43 @@ int sequenceLength(const uchar *at, qint64 left)
     return 0;
 }
 
-// The line of the first byte that is no UTF-8 text; 0 when there is none.
-int lineOfBadText(const char *begin, const char *end)
+// Eight bytes of ASCII without a zero.
+bool arePlain(const char *at)
 {
-    int line = 1;
+    constexpr quint64 ones = 0x0101010101010101ULL;
+    constexpr quint64 tops = 0x8080808080808080ULL;
+    quint64 word = 0;
+    std::memcpy(&word, at, sizeof(word));
+    return ((word | (word - ones)) & tops) == 0;
+}
+
+// Where the first byte stands that is no UTF-8 text; null when there is none.
+const char *badText(const char *begin, const char *end)
+{
     for (const char *at = begin; at < end;) {
-        if (*at == '\0')
-            return line;
-        const int length = sequenceLength(reinterpret_cast<const uchar *>(at), end - at);
+        if (end - at >= qint64(sizeof(quint64)) && arePlain(at)) {
+            at += sizeof(quint64);
+            continue;
+        }
+        const int length = *at == '\0' ? 0 : sequenceLength(reinterpret_cast<const uchar *>(at), end - at);
         if (length == 0)
-            return line;
-        if (*at == '\n' || (*at == '\r' && (at + 1 == end || at[1] != '\n')))
-            ++line;
+            return at;
         at += length;
     }
-    return 0;
+    return nullptr;
+}
+
+bool isLineEnd(const char *at, const char *end)
+{
+    return *at == '\n' || (*at == '\r' && (at + 1 == end || at[1] != '\n'));
+}
+
+int lineOf(const char *place, const char *begin, const char *end)
+{
+    int line = 1;
+    for (const char *at = begin; at < place; ++at)
+        line += isLineEnd(at, end);
+    return line;
 }
 
 // The delimiter that stands most often in the first row, outside quotes.
@@ -79,61 +103,39 @@ char sniffedDelimiter(const char *begin, const char *end)
 }
 
 // Walks the bytes once and cuts them into cells.
-class Parser
+class Scanner
 {
 public:
-    Parser(const char *begin, const char *end, char delimiter, int firstLine, const Limits &limits)
-        : m_begin(begin)
-        , m_at(begin)
+    Scanner(const char *at, const char *end, char delimiter, int line, const Limits &limits)
+        : m_at(at)
         , m_end(end)
         , m_delimiter(delimiter)
-        , m_line(firstLine)
+        , m_line(line)
         , m_limits(limits)
     {
     }
 
-    bool run(Table &table, Fault &fault, const std::function<void(qint64)> &progress)
-    {
-        qint64 nextReport = progressStepBytes;
-        while (m_at < m_end) {
-            Row row;
-            row.line = m_line;
-            if (!readRow(row, fault))
-                return false;
-            if (m_rowHasText) {
-                if (int(table.rows.size()) >= m_limits.rows)
-                    return refuse(fault, row.line, t("more than %1 rows").arg(m_limits.rows));
-                table.rows.push_back(std::move(row));
-            }
-            if (progress && m_at - m_begin >= nextReport) {
-                progress(m_at - m_begin);
-                nextReport = m_at - m_begin + progressStepBytes;
-            }
-        }
-        table.carriageReturns = m_carriageReturns;
-        return true;
-    }
+    const char *at() const { return m_at; }
+    int line() const { return m_line; }
+    bool isAtEnd() const { return m_at == m_end; }
+    bool rowHasText() const { return m_rowHasText; }
+    bool hasCarriageReturns() const { return m_carriageReturns; }
 
-private:
-    static bool refuse(Fault &fault, int line, const QString &what, const QString &hint = QString())
+    bool readRow(std::vector<CellRange> &cells, Fault &fault)
     {
-        fault = {line, what, hint};
-        return false;
-    }
-
-    bool readRow(Row &row, Fault &fault)
-    {
+        const int line = m_line;
+        cells.clear();
         m_rowHasText = false;
         for (;;) {
-            if (row.cells.size() >= m_limits.columns)
-                return refuse(fault, row.line, t("more than %1 columns").arg(m_limits.columns));
+            if (qint64(cells.size()) >= m_limits.columns)
+                return refuse(fault, line, t("more than %1 columns").arg(m_limits.columns));
             if (++m_cells > m_limits.cells)
-                return refuse(fault, row.line, t("more than %1 cells in the file").arg(m_limits.cells));
-            QString cell;
+                return refuse(fault, line, t("more than %1 cells in the file").arg(m_limits.cells));
+            CellRange cell;
             if (!readCell(cell, fault))
                 return false;
-            m_rowHasText |= !cell.isEmpty();
-            row.cells.append(cell);
+            m_rowHasText |= cell.size > 0;
+            cells.push_back(cell);
             if (m_at == m_end || *m_at != m_delimiter)
                 break;
             ++m_at;
@@ -142,54 +144,64 @@ private:
         return true;
     }
 
-    bool readCell(QString &cell, Fault &fault)
+    static bool refuse(Fault &fault, int line, const QString &what, const QString &hint = QString())
+    {
+        fault = {line, what, hint};
+        return false;
+    }
+
+private:
+    bool readCell(CellRange &cell, Fault &fault)
     {
         return m_at < m_end && *m_at == '"' ? readQuotedCell(cell, fault) : readPlainCell(cell, fault);
     }
 
     // A quote inside an unquoted cell is a character like any other (5" pipe).
-    bool readPlainCell(QString &cell, Fault &fault)
+    bool readPlainCell(CellRange &cell, Fault &fault)
     {
-        const char *begin = m_at;
-        while (m_at < m_end && *m_at != m_delimiter && *m_at != '\n' && *m_at != '\r')
-            ++m_at;
-        if (m_at - begin > m_limits.cellBytes)
+        const char *const begin = m_at;
+        const char *at = begin;
+        while (at < m_end && *at != m_delimiter && *at != '\n' && *at != '\r')
+            ++at;
+        m_at = at;
+        if (at - begin > m_limits.cellBytes)
             return refuse(fault, m_line, t("a cell longer than %1 bytes").arg(m_limits.cellBytes));
-        cell = QString::fromUtf8(begin, int(m_at - begin));
+        cell = {begin, int(at - begin), false};
         return true;
     }
 
-    bool readQuotedCell(QString &cell, Fault &fault)
+    bool readQuotedCell(CellRange &cell, Fault &fault)
     {
         const int openedAt = m_line;
-        QByteArray bytes;
+        qint64 size = 0; // of what the cell says
         ++m_at;
+        cell.begin = m_at;
         for (;;) {
-            const char *begin = m_at;
+            const char *const begin = m_at;
             while (m_at < m_end && *m_at != '"') {
-                if (*m_at == '\n' || (*m_at == '\r' && (m_at + 1 == m_end || m_at[1] != '\n')))
-                    ++m_line;
+                m_line += isLineEnd(m_at, m_end);
                 ++m_at;
             }
-            if (bytes.size() + (m_at - begin) > m_limits.cellBytes)
+            size += m_at - begin;
+            if (size > m_limits.cellBytes)
                 return refuse(fault, openedAt, t("a cell longer than %1 bytes").arg(m_limits.cellBytes),
                               t("a quote may be missing its partner"));
-            bytes.append(begin, int(m_at - begin));
             if (m_at == m_end)
                 return refuse(fault, openedAt, t("the quote opened here is never closed"),
                               t("write a quote inside a quoted cell twice"));
             ++m_at;
             if (m_at == m_end || *m_at != '"')
                 break;
-            bytes.append('"');
+            cell.hasQuotes = true;
+            ++size;
             ++m_at;
         }
+        cell.size = int(m_at - 1 - cell.begin);
         while (m_at < m_end && *m_at == ' ')
             ++m_at;
         if (m_at < m_end && *m_at != m_delimiter && *m_at != '\n' && *m_at != '\r')
             return refuse(fault, m_line, t("text after a closing quote"),
                           t("write a quote inside a quoted cell twice"));
-        cell = QString::fromUtf8(bytes);
         return true;
     }
 
@@ -205,16 +217,23 @@ private:
         ++m_line;
     }
 
-    const char *m_begin;
     const char *m_at;
-    const char *m_end;
-    char m_delimiter;
+    const char *const m_end;
+    const char m_delimiter;
     int m_line;
     const Limits &m_limits;
     qint64 m_cells = 0;
     bool m_rowHasText = false;
     bool m_carriageReturns = false;
 };
+
+// Of a text that has been checked.
+const Limits &noLimits()
+{
+    constexpr int most = std::numeric_limits<int>::max();
+    static const Limits limits{most, most, most, most, std::numeric_limits<qint64>::max()};
+    return limits;
+}
 
 bool isOtherKnownFile(const QByteArray &bytes, Fault &fault)
 {
@@ -231,10 +250,10 @@ bool isOtherKnownFile(const QByteArray &bytes, Fault &fault)
 }
 }
 
-bool parse(const QByteArray &bytes, Table &table, Fault &fault, const Limits &limits,
+bool check(const QByteArray &bytes, Text &text, Fault &fault, const Limits &limits,
            const std::function<void(qint64)> &progress)
 {
-    table = Table();
+    text = Text();
     if (bytes.size() > limits.bytes) {
         fault = {0, t("longer than %1 bytes").arg(limits.bytes), QString()};
         return false;
@@ -244,25 +263,116 @@ bool parse(const QByteArray &bytes, Table &table, Fault &fault, const Limits &li
     const char *begin = bytes.constData();
     const char *end = begin + bytes.size();
     if (bytes.startsWith(byteOrderMarkText)) {
-        table.byteOrderMark = true;
+        text.byteOrderMark = true;
         begin += 3;
     }
-    if (const int line = lineOfBadText(begin, end)) {
-        fault = {line, t("the text is not UTF-8"), t("save the file as CSV (UTF-8)")};
+    if (const char *const bad = badText(begin, end)) {
+        fault = {lineOf(bad, begin, end), t("the text is not UTF-8"), t("save the file as CSV (UTF-8)")};
         return false;
     }
-    int firstLine = 1;
     char delimiter = 0;
     // Spreadsheet programs write this line to name the delimiter.
     if (end - begin > 5 && qstrnicmp(begin, "sep=", 4) == 0 && (begin[5] == '\r' || begin[5] == '\n')) {
         delimiter = begin[4];
         begin += begin[5] == '\r' && end - begin > 6 && begin[6] == '\n' ? 7 : 6;
-        ++firstLine;
+        ++text.firstLine;
     }
     if (delimiter != ',' && delimiter != ';' && delimiter != '\t')
         delimiter = sniffedDelimiter(begin, end);
-    table.delimiter = QLatin1Char(delimiter);
-    return Parser(begin, end, delimiter, firstLine, limits).run(table, fault, progress);
+    text.delimiter = QLatin1Char(delimiter);
+    text.begin = int(begin - bytes.constData());
+
+    Scanner scanner(begin, end, delimiter, text.firstLine, limits);
+    std::vector<CellRange> cells;
+    qint64 nextReport = progressStepBytes;
+    while (!scanner.isAtEnd()) {
+        const int line = scanner.line();
+        if (!scanner.readRow(cells, fault))
+            return false;
+        if (scanner.rowHasText() && ++text.rows > limits.rows)
+            return Scanner::refuse(fault, line, t("more than %1 rows").arg(limits.rows));
+        if (progress && scanner.at() - begin >= nextReport) {
+            progress(scanner.at() - begin);
+            nextReport = scanner.at() - begin + progressStepBytes;
+        }
+    }
+    text.carriageReturns = scanner.hasCarriageReturns();
+    text.bytes = bytes;
+    return true;
+}
+
+Table tableOf(const Text &text)
+{
+    Table table;
+    table.byteOrderMark = text.byteOrderMark;
+    table.delimiter = text.delimiter;
+    table.carriageReturns = text.carriageReturns;
+    table.rows.reserve(std::size_t(text.rows));
+    for (Rows rows(text); rows.next();) {
+        Row row;
+        row.line = rows.line();
+        row.cells.reserve(int(rows.cells().size()));
+        for (const CellRange &cell : rows.cells()) {
+            row.cells.append(QString());
+            Rows::read(cell, row.cells.last());
+        }
+        table.rows.push_back(std::move(row));
+    }
+    return table;
+}
+
+bool parse(const QByteArray &bytes, Table &table, Fault &fault, const Limits &limits,
+           const std::function<void(qint64)> &progress)
+{
+    table = Table();
+    Text text;
+    if (!check(bytes, text, fault, limits, progress))
+        return false;
+    table = tableOf(text);
+    return true;
+}
+
+Rows::Rows(const Text &text)
+    : m_bytes(text.bytes)
+    , m_at(m_bytes.constData() + text.begin)
+    , m_delimiter(text.delimiter.toLatin1())
+    , m_line(text.firstLine)
+{
+}
+
+bool Rows::next()
+{
+    const char *const end = m_bytes.constData() + m_bytes.size();
+    Scanner scanner(m_at, end, m_delimiter, m_line, noLimits());
+    Fault fault;
+    bool hasText = false;
+    while (!hasText && !scanner.isAtEnd()) {
+        m_rowLine = scanner.line();
+        if (!scanner.readRow(m_cells, fault))
+            break;
+        hasText = scanner.rowHasText();
+    }
+    m_at = scanner.at();
+    m_line = scanner.line();
+    return hasText;
+}
+
+void Rows::read(const CellRange &cell, QString &text)
+{
+    if (text.isDetached() && text.capacity() >= cell.size)
+        text.resize(cell.size);
+    else
+        text = QString(cell.size, Qt::Uninitialized);
+    const char *const end = cell.begin + cell.size;
+    QChar *to = text.data();
+    for (const char *at = cell.begin; at != end; ++at) {
+        if (uchar(*at) >= 0x80 || cell.hasQuotes) {
+            const QByteArray bytes = QByteArray::fromRawData(cell.begin, cell.size);
+            text = QString::fromUtf8(cell.hasQuotes ? QByteArray(bytes).replace("\"\"", "\"") : bytes);
+            return;
+        }
+        *to++ = QLatin1Char(*at);
+    }
 }
 
 QString quoted(const QString &text, QChar delimiter)

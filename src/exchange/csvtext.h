@@ -41,10 +41,56 @@ struct Fault
     QString hint;
 };
 
-// `progress` hears the bytes read so far. False and a fault when the text is not such a file.
+// The bytes of a file that are known to be such a text; Rows reads them.
+struct Text
+{
+    QByteArray bytes;
+    QChar delimiter = QLatin1Char(',');
+    bool byteOrderMark = false;
+    bool carriageReturns = false; // lines end in CR LF
+    int begin = 0;                // where the rows begin, in bytes
+    int firstLine = 1;            // of the file, that the first row has
+    int rows = 0;                 // rows without any text are left out
+};
+
+// Checks a whole file without making its cells. `progress` hears the bytes read so far. False and a fault
+// when the text is not such a file.
+KWGANTT_EXPORT bool check(const QByteArray &bytes, Text &text, Fault &fault, const Limits &limits = Limits(),
+                          const std::function<void(qint64)> &progress = nullptr);
+// All cells of a text at once.
+KWGANTT_EXPORT Table tableOf(const Text &text);
+// Both.
 KWGANTT_EXPORT bool parse(const QByteArray &bytes, Table &table, Fault &fault,
                           const Limits &limits = Limits(),
                           const std::function<void(qint64)> &progress = nullptr);
+
+// Where a cell stands in the text.
+struct CellRange
+{
+    const char *begin = nullptr; // behind the quote that opens it
+    int size = 0;
+    bool hasQuotes = false; // quotes in it stand twice
+};
+
+// The rows of a text that has been checked, one after the other.
+class KWGANTT_EXPORT Rows
+{
+public:
+    explicit Rows(const Text &text); // shares the bytes
+    bool next();                     // false after the last
+    int line() const { return m_rowLine; }
+    const std::vector<CellRange> &cells() const { return m_cells; }
+    // The cell's text into a string whose memory is used again if it can be.
+    static void read(const CellRange &cell, QString &text);
+
+private:
+    const QByteArray m_bytes;
+    const char *m_at;
+    char m_delimiter;
+    int m_line;
+    int m_rowLine = 0;
+    std::vector<CellRange> m_cells;
+};
 
 // One cell as it is written: quoted when it must be.
 KWGANTT_EXPORT QString quoted(const QString &text, QChar delimiter = QLatin1Char(','));

@@ -5,6 +5,7 @@
 #include "exchange/resourcesheets.h"
 #include "exchange/taskdates.h"
 #include "exchange/tasksheet.h"
+#include "model/calendarhold.h"
 #include "model/kwdocument.h"
 #include "resources/costsof.h"
 #include "resources/resourceinfodata.h"
@@ -160,6 +161,7 @@ public:
             builder.add(*staged.task);
         if (m_plan.calendar)
             setCalendar(m_document, *m_plan.calendar);
+        const CalendarHold hold(m_document);
         chooseStart();
         setDates();
         setSummaryDates();

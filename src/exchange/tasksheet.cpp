@@ -239,8 +239,12 @@ void TaskSheet::readLength(const KnownCell &known, staged::Task &staged)
     const Cell &cell = *known.cell;
     if (cell.text.trimmed().isEmpty())
         return;
-    const std::optional<cellvalues::Length> length =
-        cellvalues::length(cell.text, m_unitNames, known.title->bareUnit);
+    // Plans have few different lengths.
+    QHash<QString, std::optional<cellvalues::Length>> &reads = m_lengths[known.title->bareUnit];
+    auto found = reads.constFind(cell.text);
+    if (found == reads.constEnd())
+        found = reads.insert(cell.text, cellvalues::length(cell.text, m_unitNames, known.title->bareUnit));
+    const std::optional<cellvalues::Length> &length = *found;
     if (!length) {
         refuse(staged.row, &cell, text("is no length of time"), text("left out"));
         return;
@@ -336,6 +340,10 @@ void TaskSheet::readPredecessors(const Cell &cell, staged::Task &staged)
     if (cell.isNumber && !hasField(titletable::OutlineCode))
         list = QString::number(cellvalues::whole(cell).value_or(0));
     const std::size_t first = m_wanted.size();
+    if (readNumbers(list)) {
+        leaveOutRepeated(first);
+        return;
+    }
     QChar quote;
     int begin = 0;
     for (int at = 0; at <= list.size(); ++at) {
@@ -360,7 +368,41 @@ void TaskSheet::readPredecessors(const Cell &cell, staged::Task &staged)
             ++m_refusedLinks;
         }
     }
-    // Named once, however often; in the order of the file.
+    leaveOutRepeated(first);
+}
+
+// A list of plain numbers, as nearly all are. False, and nothing read, for any other.
+bool TaskSheet::readNumbers(const QString &list)
+{
+    constexpr int mostDigits = 9;
+    const std::size_t first = m_wanted.size();
+    const bool isId = reading().linksById && hasField(columntypes::Id);
+    const QChar *at = list.constData();
+    const QChar *const end = at + list.size();
+    while (at != end) {
+        quint32 number = 0;
+        int digits = 0;
+        for (; at != end && *at >= QLatin1Char('0') && *at <= QLatin1Char('9') && digits < mostDigits; ++at) {
+            number = number * 10 + quint32(at->unicode() - '0');
+            ++digits;
+        }
+        const bool isSeparator = at != end && (*at == QLatin1Char(';') || *at == QLatin1Char(','));
+        if (number == 0 || (at != end && !isSeparator)) {
+            m_wanted.resize(first);
+            return false;
+        }
+        m_wanted.push_back({placeOfNewTask(), number, isId});
+        at += isSeparator;
+    }
+    return true;
+}
+
+// Named once, however often; in the order of the file.
+void TaskSheet::leaveOutRepeated(std::size_t first)
+{
+    constexpr std::size_t several = 2;
+    if (m_wanted.size() - first < several)
+        return;
     QSet<quint64> named;
     const auto isRepeated = [&named](const Wanted &wanted) {
         const quint64 key = quint64(wanted.number) * 2 + (wanted.isId ? 1 : 0);
@@ -368,10 +410,8 @@ void TaskSheet::readPredecessors(const Cell &cell, staged::Task &staged)
         named.insert(key);
         return isKnown;
     };
-    constexpr std::size_t several = 2;
-    if (m_wanted.size() - first >= several)
-        m_wanted.erase(std::remove_if(m_wanted.begin() + std::ptrdiff_t(first), m_wanted.end(), isRepeated),
-                       m_wanted.end());
+    m_wanted.erase(std::remove_if(m_wanted.begin() + std::ptrdiff_t(first), m_wanted.end(), isRepeated),
+                   m_wanted.end());
 }
 
 // ---- Moments ----------------------------------------------------------------------------------------------
@@ -595,6 +635,7 @@ void TaskSheet::finish(staged::Plan &plan)
     plan.hasDates = hasTimes();
     m_moments[0].clear();
     m_moments[1].clear();
+    m_lengths.clear();
     plan.tasks = std::move(m_tasks);
 }
 }

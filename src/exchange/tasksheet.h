@@ -61,6 +61,8 @@ private:
     void readNumber(const sheetrows::KnownCell &known, staged::Task &staged);
     void readHyperlinks(const sheetrows::Cell &cell, staged::Task &staged);
     void readPredecessors(const sheetrows::Cell &cell, staged::Task &staged);
+    bool readNumbers(const QString &list);
+    void leaveOutRepeated(std::size_t first);
     // Whether the part is one.
     bool readPredecessor(const QString &part, QString &refusal);
     void readMoment(const sheetrows::KnownCell &known, staged::MomentField field, staged::Task &staged);
@@ -85,7 +87,9 @@ private:
         cellvalues::Moment moment;
     };
     QHash<QString, Read> m_moments[2]; // by text; the second is for numbers
-    qint64 m_linkUnits = 0;            // of text that was searched for predecessors
+    // By the unit of a bare number, and by text.
+    QHash<unsigned int, QHash<QString, std::optional<cellvalues::Length>>> m_lengths;
+    qint64 m_linkUnits = 0; // of text that was searched for predecessors
     int m_hyperlinks = 0;
     int m_refusedLinks = 0;
     bool m_hasLevelZero = false;

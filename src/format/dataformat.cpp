@@ -1,5 +1,6 @@
 #include "format/dataformat.h"
 #include "format/numericdate.h"
+#include "format/wholenumber.h"
 #include "kwfilepathmanager.h"
 #include <QCoreApplication>
 #include <QDomDocument>
@@ -106,7 +107,10 @@ QString DataFormat::formatNumber(double value, int groupSize, int decimals, int 
     if (groupSize == -1)
         return QString::number(value, 'e', decimals);
     const bool rounds = decimals < 1 && roundDigits >= 2;
-    QString text = rounds ? roundedToUnit(value, roundDigits) : QString::number(value, 'f', decimals);
+    // What a whole number has behind its point would go again.
+    QString text = rounds                ? roundedToUnit(value, roundDigits)
+                   : isPlainWhole(value) ? QString::number(qint64(value))
+                                         : QString::number(value, 'f', decimals);
 
     const int point = text.indexOf(QLatin1Char('.'));
     const int wholeLength = point < 0 ? text.size() : point;

@@ -1,6 +1,7 @@
 // The document: construction, the task list and the file names.
 #include "model/kwdocument.h"
 #include "kwfilepathmanager.h"
+#include "model/calendarhold.h"
 #include "model/kwdocument_caches.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
@@ -62,6 +63,8 @@ void KWDocument::clearCalendar()
 
 const worktime::WorkCalendar &KWDocument::workCalendar() const
 {
+    if (const worktime::WorkCalendar *const held = CalendarHold::of(*this))
+        return *held;
     return m_caches->calendar.get({WorkDay, workTimes, {calendars.begin(), calendars.end()}, s_isOldVersion});
 }
 

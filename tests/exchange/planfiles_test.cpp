@@ -55,11 +55,11 @@ protected:
     std::string csvPicture(const char *text)
     {
         KWDocument plan;
-        csv::Table table;
+        csv::Text tasks;
         csv::Fault fault;
-        EXPECT_TRUE(csv::parse(text, table, fault));
+        EXPECT_TRUE(csv::check(text, tasks, fault));
         CSVDataEngine engine(&plan);
-        engine.importTables(table, nullptr, nullptr);
+        engine.importTexts(tasks, nullptr, nullptr);
         return picture(plan, engine.imported(), engine.findings());
     }
     std::string bookPicture(const char *text)

@@ -1,3 +1,4 @@
+#include "engine/time/civildate.h"
 #include "engine/time/localclock.h"
 #include "support/zonescope.h"
 #include <QDateTime>
@@ -116,5 +117,13 @@ TEST(LocalClock, staysInsideItsTableForAnyInput)
         const LocalClock::Wall wall = LocalClock::normalized(100, secs);
         EXPECT_EQ(qint64(wall.day) * 86400 + wall.secs, 100 * 86400 + secs);
         EXPECT_TRUE(wall.secs >= 0 && wall.secs < 86400) << secs;
+    }
+}
+
+TEST(CivilDate, isTheCalendarsDate)
+{
+    for (int day = LocalClock::firstDay; day <= LocalClock::lastDay; ++day) {
+        const civildate::Date date = civildate::of(day);
+        ASSERT_EQ(QDate(date.year, date.month, date.day), LocalClock::dateOf(day)) << day;
     }
 }

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <limits>
 #include <numeric>
-#include <unordered_map>
 #include <vector>
 
 namespace links {
@@ -242,6 +241,8 @@ public:
     Lists(const Tasks &tasks, QList<quint32> TaskRecord::*ids)
         : m_tasks(tasks)
         , m_ids(ids)
+        , m_right(std::size_t(tasks.list.size()))
+        , m_isRead(std::size_t(tasks.list.size()))
     {
     }
 
@@ -249,10 +250,12 @@ public:
     void insert(int pos, int other)
     {
         QList<quint32> &ids = m_tasks.list[pos]->*m_ids;
-        const auto [found, isNew] = m_right.try_emplace(pos, -std::numeric_limits<double>::infinity());
-        double &right = found->second;
-        if (isNew)
+        double &right = m_right[std::size_t(pos)];
+        if (!m_isRead[std::size_t(pos)]) {
+            m_isRead[std::size_t(pos)] = true;
+            right = -std::numeric_limits<double>::infinity();
             read(pos, right);
+        }
         if (!m_listed.insert(pos, other))
             return;
         // Where no bar starts further right the list need not be looked through.
@@ -275,7 +278,8 @@ private:
 
     const Tasks &m_tasks;
     QList<quint32> TaskRecord::*m_ids;
-    std::unordered_map<int, double> m_right; // by place: the greatest left edge of the listed bars
+    std::vector<double> m_right; // by place: the greatest left edge of the listed bars
+    std::vector<bool> m_isRead;  // by place: whether that is known
     PairSet m_listed;
 };
 }

@@ -199,24 +199,37 @@ void removeUpstream(const Tasks &tasks, const std::vector<TaskRecord *> &from, T
 
 void completeSuccessors(const Tasks &tasks)
 {
-    std::vector<std::vector<quint32>> named(size_t(tasks.list.size()));
+    // The successors that are named, by predecessor: first how many, then which.
+    std::vector<int> ends(size_t(tasks.list.size()) + 1);
     for (TaskRecord *task : tasks.list) {
         std::sort(task->Predecessors.begin(), task->Predecessors.end());
-        for (const quint32 id : qAsConst(task->Predecessors)) {
+        for (const quint32 id : qAsConst(task->Predecessors))
+            ++ends[size_t(tasks.index.posOf(id) + 1)]; // of those that there are not, too
+    }
+    ends[0] = 0;
+    for (size_t i = 1; i < ends.size(); ++i)
+        ends[i] += ends[i - 1];
+    std::vector<int> free(ends.begin(), ends.end() - 1);
+    std::vector<quint32> named(size_t(ends.back()));
+    for (const TaskRecord *task : tasks.list) {
+        for (const quint32 id : task->Predecessors) {
             const int predecessor = tasks.index.posOf(id);
             if (predecessor >= 0)
-                named[predecessor].push_back(task->ID);
+                named[size_t(free[size_t(predecessor)]++)] = task->ID;
         }
     }
+    std::vector<quint32> missing;
     for (int pos = 0; pos < tasks.list.size(); ++pos) {
         QList<quint32> &successors = tasks.list[pos]->Depends;
-        std::vector<quint32> &ids = named[pos];
-        std::sort(ids.begin(), ids.end());
-        ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
+        const auto first = named.begin() + ends[size_t(pos)];
+        const auto last = named.begin() + ends[size_t(pos) + 1];
+        std::sort(first, last);
         std::sort(successors.begin(), successors.end());
-        std::vector<quint32> missing;
-        std::set_difference(ids.begin(), ids.end(), successors.begin(), successors.end(),
+        missing.clear();
+        std::set_difference(first, std::unique(first, last), successors.begin(), successors.end(),
                             std::back_inserter(missing));
+        if (missing.empty())
+            continue;
         for (const quint32 id : missing)
             successors.append(id);
         std::sort(successors.begin(), successors.end());
