@@ -14,7 +14,17 @@ namespace {
 constexpr double roundness = 0.5522847498; // of a curve that is a quarter of a circle
 // Numbers of cairo's have no room for the far ends of a long bar.
 constexpr double viewMargin = 100; // chart pixels
-constexpr double stepsOnPaper = 8 * 72 / 96.0;
+
+// Places for each device unit that shapes stand on: few digits make a short file. Quarters of a point, and
+// finer ones where a pixel of the chart is small.
+double stepsOnPaper(double scale)
+{
+    constexpr double pointsPerUnit = 72 / 96.0, leastPerPixel = 1.5;
+    double perPoint = 4;
+    while (perPoint * pointsPerUnit * scale < leastPerPixel && perPoint < 256)
+        perPoint *= 2;
+    return perPoint * pointsPerUnit;
+}
 
 QRectF cutTo(const QRectF &rect, const QRectF &view)
 {
@@ -64,7 +74,7 @@ CairoPainter::CairoPainter(cairo_t *context, const chartstyle::Sheet &sheet, Tex
     , m_fonts(fonts)
     , m_device(device)
     , m_scale(scale)
-    , m_steps(device == Paper ? stepsOnPaper : 1)
+    , m_steps(device == Paper ? stepsOnPaper(scale) : 1)
 {
 }
 
@@ -128,9 +138,10 @@ void CairoPainter::paint(const chart::Marks &marks, const QPointF &offset, const
     cairo_restore(m_context);
 }
 
-double CairoPainter::snapped(double position, double offset) const
+double CairoPainter::snapped(double position, double offset, double finer) const
 {
-    return (std::round((position * m_scale + offset) * m_steps) / m_steps - offset) / m_scale;
+    const double steps = m_steps * finer;
+    return (std::round((position * m_scale + offset) * steps) / steps - offset) / m_scale;
 }
 
 double CairoPainter::snapped(double length) const
@@ -376,9 +387,10 @@ void CairoPainter::drawTexts(const Run &run)
             setColor(color = its);
         }
         const double y = mark.rect.center().y() + chart::baselineShift(chart::pixelsOf(m_fonts[mark.font]));
+        constexpr double finer = 4; // or what is aligned on the right seems to stand unevenly
         const QPointF at = m_device == Pixels ? QPointF(mark.rect.x(), y)
-                                              : QPointF(snapped(mark.rect.x(), m_offset.x()),
-                                                        snapped(y, m_offset.y()));
+                                              : QPointF(snapped(mark.rect.x(), m_offset.x(), finer),
+                                                        snapped(y, m_offset.y(), finer));
         m_shaper.draw(m_context, at.x(), at.y(), mark.text, mark.font);
     }
     m_shaper.finish(m_context);

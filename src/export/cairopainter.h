@@ -10,7 +10,7 @@ class CairoPainter
 {
 public:
     enum Device {
-        Paper, // places stand on eighths of a point, which are shorter to write
+        Paper, // places are rounded to what can be seen
         Pixels // fills and fine lines stand on whole device pixels
     };
     // The context must outlive it. `scale` is device units for a pixel of the chart.
@@ -38,7 +38,7 @@ private:
     void paintShapes(const Run &run, const chartstyle::Style &style);
     void drawTexts(const Run &run);
     void setColor(const QColor &color);
-    double snapped(double position, double offset) const;
+    double snapped(double position, double offset, double finer = 1) const;
     double snapped(double length) const;
     QRectF snapped(const QRectF &rect) const;
 
