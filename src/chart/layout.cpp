@@ -513,7 +513,7 @@ Used usedIn(const Plan &plan)
     for (const Row &row : plan.rows) {
         const bool isTask = row.kind == RowKind::Task;
         used.done |= isTask && row.done > 0;
-        used.toDo |= isTask && !row.isCritical && row.done < row.x2 - row.x1;
+        used.toDo |= isTask && !row.isCritical && (row.done < row.x2 - row.x1 || !(row.done > 0));
         used.critical |= row.isCritical && row.kind != RowKind::Summary;
         used.slack |= row.hasSlack();
         used.baseline |= row.hasBaseline();

@@ -411,7 +411,7 @@ void CairoPainter::paintShapes(const Run &run, const chartstyle::Style &style)
 {
     const bool hasLine = !style.line.isNone(), hasFill = !style.fill.isNone();
     // An outline lies inside the shape.
-    const double half = hasLine ? style.line.width / 2 : 0, inset = m_device == Paper ? snapped(half) : half;
+    const double inset = hasLine ? style.line.width / 2 : 0;
     const bool isPlain = style.fill.type == KWPaint::Solid;
     for (const Mark &mark : run) {
         if (!isIn(mark.rect, m_view))

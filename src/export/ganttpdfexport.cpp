@@ -418,8 +418,14 @@ void addBookmarks(cairo_surface_t *surface, const PlanView &view, const chart::S
 
 void addAnchors(cairo_t *context, const picture::Block &block)
 {
+    const auto isAnchor = [](const chart::Mark &mark) { return mark.shape == chart::Shape::Anchor; };
+    if (std::none_of(block.marks.begin(), block.marks.end(), isAnchor))
+        return;
+    // A link that stands in no other tag refers to an object that cairo does not write.
+    constexpr const char *outer = "Document";
+    cairo_tag_begin(context, outer, nullptr);
     for (const chart::Mark &mark : block.marks) {
-        if (mark.shape != chart::Shape::Anchor)
+        if (!isAnchor(mark))
             continue;
         const QRectF rect =
             QRectF(mark.rect.topLeft() * block.scale + block.offset, mark.rect.size() * block.scale) &
@@ -435,6 +441,7 @@ void addAnchors(cairo_t *context, const picture::Block &block)
         cairo_tag_begin(context, CAIRO_TAG_LINK, attributes.constData());
         cairo_tag_end(context, CAIRO_TAG_LINK);
     }
+    cairo_tag_end(context, outer);
 }
 }
 

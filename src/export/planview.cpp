@@ -28,13 +28,15 @@ constexpr int longestReach = 2000; // rows that a link is followed
 QString safeAddress(const KWHyperlink &link)
 {
     constexpr int webPage = 3, longest = 2000;
-    const QUrl url((link.type == webPage ? link.getWebPageUrl() : link.address).trimmed(),
-                   QUrl::TolerantMode);
     static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("ftp"),
                                      QStringLiteral("mailto")};
+    const auto isSafe = [](const QUrl &url) { return url.isValid() && schemes.contains(url.scheme()); };
+    QUrl url(link.address.trimmed(), QUrl::TolerantMode);
+    // An address of a page without a scheme gets one.
+    if (!isSafe(url) && link.type == webPage)
+        url = QUrl(link.getWebPageUrl().trimmed(), QUrl::TolerantMode);
     const QString address = QString::fromLatin1(url.toEncoded());
-    return url.isValid() && schemes.contains(url.scheme().toLower()) && address.size() <= longest ? address
-                                                                                                  : QString();
+    return isSafe(url) && address.size() <= longest ? address : QString();
 }
 
 // The task's default link, or the first that is safe.
