@@ -300,8 +300,8 @@ void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
     const double period =
         std::accumulate(dashes.begin(), dashes.end(), 0.0) * (dashes.size() % 2 == 1 ? 2 : 1);
     KWPath heads;
-    // Links of one predecessor begin alike, those to one successor end alike, and many only pass: what has been
-    // drawn is not drawn again.
+    // Links of one predecessor begin alike, those to one successor end alike, and many only pass: what has
+    // been drawn is not drawn again.
     std::unordered_set<quint64> drawn;
     const auto isDrawn = [&](const QPointF &a, const QPointF &b, bool isLast) {
         const bool isLevel = a.y() == b.y();

@@ -97,8 +97,8 @@ void addPart(std::vector<Block> &blocks, const chart::Layout &layout, const Part
     const double overhang = 0.5 * scale;
     const auto add = [&](Marks marks, const QPointF &offset, double x, double y, double width, double height,
                          bool mayRepeat) {
-        blocks.push_back({std::move(marks), offset,
-                          QRectF(x, y, width * scale, height * scale + overhang), scale, mayRepeat});
+        blocks.push_back({std::move(marks), offset, QRectF(x, y, width * scale, height * scale + overhang),
+                          scale, mayRepeat});
     };
     const auto addRows = [&](Marks marks, const QPointF &offset, double x, double width) {
         if (part.isSheet)
@@ -120,7 +120,8 @@ void addPart(std::vector<Block> &blocks, const chart::Layout &layout, const Part
             blocks.push_back({{upright(table, 0, chart::headHeight + rows)},
                               place,
                               QRectF(x - scale, place.y(), 2 * scale, (chart::headHeight + rows) * scale),
-                              scale, true});
+                              scale,
+                              true});
     }
 }
 

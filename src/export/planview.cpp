@@ -1,5 +1,6 @@
 #include "export/planview.h"
 #include "chart/axis.h"
+#include "chart/elide.h"
 #include "engine/record/outline.h"
 #include "engine/text/celltext.h"
 #include "engine/time/dayoff.h"
@@ -374,7 +375,8 @@ void PlanView::makeRoom()
             continue;
         const QString label = labelOf(m_plan.firstRow + i);
         if (!label.isEmpty())
-            room = std::max(room, behind + gap + m_shaper.width(label.left(100), chart::LabelFont) -
+            room = std::max(room, behind + gap +
+                                      m_shaper.width(chart::oneLine(label.left(100)), chart::LabelFont) -
                                       m_plan.axis.width);
     }
     m_plan.room = std::min(room, widest);
@@ -544,8 +546,9 @@ void PlanView::fitColumns()
         for (const auto &[estimate, text] : longest) {
             constexpr double meanCharacter = 7.5;
             const double indent = estimate - text.size() * meanCharacter;
-            width = std::max(width, indent + m_shaper.width(text.left(200), head.isName ? chart::BoldCellFont
-                                                                                        : chart::CellFont));
+            width =
+                std::max(width, indent + m_shaper.width(chart::oneLine(text.left(200)),
+                                                        head.isName ? chart::BoldCellFont : chart::CellFont));
         }
         head.width = std::ceil(std::clamp(width + insets, narrowest, head.isName ? widestName : widestOther));
     }

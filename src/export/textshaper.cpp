@@ -36,7 +36,8 @@ bool isPlain(const QString &text)
                      greek = 0x370, hebrew = 0x590, ellipsis = 0x2026, dash = 0x2013;
     return std::all_of(text.begin(), text.end(), [](QChar c) {
         const ushort code = c.unicode();
-        return (code >= blank && code < del) || (code >= noBreakBlank && code < marks && code != softHyphen) ||
+        return (code >= blank && code < del) ||
+               (code >= noBreakBlank && code < marks && code != softHyphen) ||
                (code >= greek && code < hebrew) || code == ellipsis || code == dash;
     });
 }
