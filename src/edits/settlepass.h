@@ -1,20 +1,22 @@
 #pragma once
-#include "editing/taskbackups.h"
 #include "edits/settle.h"
-#include <functional>
+#include <QString>
 #include <vector>
 
 namespace settling {
 
-// Hears what settling replaces, so that it can be brought back.
-struct Replaced
+// The late dates and slack of a task, as they were before they were worked out anew.
+struct LateValues
 {
-    // Each task whose values may change, before they do; late dates left aside.
-    std::function<void(TaskRecord &)> before;
-    // Late dates that were replaced by others: they change on tasks that an edit does not reach otherwise.
-    std::vector<LateValues> lateValues;
+    quint32 id = 0;
+    quint32 lateStart = 0;
+    quint32 lateFinish = 0;
+    QString earlySlack;
+    QString lateSlack;
+    bool isCritical = false;
 };
 
-// settle(), which tells what it replaces.
-QVector<Push> settle(KWDocument &document, const Changes &changes, Replaced *replaced);
+// settle(), which also tells the late dates that it replaced by others: they change on tasks that an edit
+// does not reach otherwise.
+QVector<Push> settle(KWDocument &document, const Changes &changes, std::vector<LateValues> *replaced);
 }

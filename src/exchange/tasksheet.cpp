@@ -400,8 +400,12 @@ bool TaskSheet::readNumbers(const QString &list)
 // Named once, however often; in the order of the file.
 void TaskSheet::leaveOutRepeated(std::size_t first)
 {
-    constexpr std::size_t several = 2;
-    if (m_wanted.size() - first < several)
+    const auto begin = m_wanted.begin() + std::ptrdiff_t(first);
+    // Most lists ascend.
+    const bool ascends = std::adjacent_find(begin, m_wanted.end(), [](const Wanted &a, const Wanted &b) {
+                             return a.number >= b.number;
+                         }) == m_wanted.end();
+    if (ascends)
         return;
     QSet<quint64> named;
     const auto isRepeated = [&named](const Wanted &wanted) {
@@ -410,8 +414,7 @@ void TaskSheet::leaveOutRepeated(std::size_t first)
         named.insert(key);
         return isKnown;
     };
-    m_wanted.erase(std::remove_if(m_wanted.begin() + std::ptrdiff_t(first), m_wanted.end(), isRepeated),
-                   m_wanted.end());
+    m_wanted.erase(std::remove_if(begin, m_wanted.end(), isRepeated), m_wanted.end());
 }
 
 // ---- Moments ----------------------------------------------------------------------------------------------
