@@ -1,5 +1,6 @@
 #include "editing/actionmanager.h"
 #include "editing/taskaction.h"
+#include "editing/taskbackups.h"
 #include "editing/tasksnapshot.h"
 #include "model/kwdocument.h"
 
@@ -133,6 +134,11 @@ void ActionManager::addUndoAction()
     TaskAction *action = s_pending;
     if (!action)
         return;
+    // A host may draw no chart after an undo, so that the bars have to come back. What a few tasks take is
+    // not worth looking at.
+    constexpr std::size_t fewTasks = 64;
+    if (action->singleTasks().size() > fewTasks)
+        action->close(Bars::Kept);
     constexpr bool clearRedo = true;
     action->document()->actionManager().addUndoAction(action, clearRedo);
     // The stack has it now: clearing the pending action must not delete it.

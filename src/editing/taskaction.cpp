@@ -2,7 +2,9 @@
 #include "editing/actionmanager.h"
 #include "editing/optionbackup.h"
 #include "editing/renamebackup.h"
+#include "editing/samevalues.h"
 #include "editing/sheetbackup.h"
+#include "editing/taskbackups.h"
 #include "editing/tasksnapshot.h"
 #include "engine/cost/names.h"
 #include "engine/network/linkgraph.h"
@@ -12,13 +14,13 @@
 #include "resources/costsof.h"
 #include "schedule/kwtaskcollection.h"
 #include "table/rowcolumndata.h"
+#include <algorithm>
 #include <optional>
 #include <vector>
 
 struct TaskAction::Backups
 {
-    std::vector<UndoItemData> tasks;
-    TaskIndex taskIds;
+    TaskBackups tasks;
     std::vector<UndoTaskResources> assignments;
     TaskIndex assignmentIds;
     std::optional<TaskSnapshot> allTasks;
@@ -32,14 +34,6 @@ struct TaskAction::Backups
 };
 
 namespace {
-
-UndoItemData valuesOf(const KWDocument &document, const KWTaskInfo &task)
-{
-    UndoItemData item;
-    task.getUndoVal(&item);
-    document.rowColumnData()->getUndoRowVal(&item);
-    return item;
-}
 
 UndoTaskResources assignmentsOf(const KWTaskInfo &task)
 {
@@ -93,14 +87,14 @@ bool TaskAction::unExecute()
 
 bool TaskAction::isExist(quint32 taskID) const
 {
-    return m_backups->taskIds.contains(taskID);
+    return m_backups->tasks.contains(taskID);
 }
 
 void TaskAction::addChangeTaskInfo(KWTaskInfo *task)
 {
     // After the whole list was recorded the task may have changed already.
-    if (document() && task && !m_backups->allTasks && m_backups->taskIds.add(task->ID))
-        m_backups->tasks.push_back(valuesOf(*document(), *task));
+    if (document() && task && !m_backups->allTasks)
+        m_backups->tasks.add(*document(), *task);
 }
 
 void TaskAction::addTaskInfoHyperlink(KWTaskInfo *task)
@@ -119,8 +113,7 @@ void TaskAction::backupAffected(KWTaskInfo *task)
     const int pos = document() && task ? document()->getPosByID(task->ID) : -1;
     if (pos < 0)
         return;
-    if (!m_backups->chart)
-        m_backups->chart = optionbackup::chartOf(*document());
+    backupChart();
     // What can push goes along the links and the outline, which the events of the tasks lead along.
     const outline::Tasks tasks = document()->outline();
     // A summary above may begin earlier than its own predecessors allow, and is pushed with all it holds.
@@ -145,7 +138,12 @@ void TaskAction::backupAllTaskData()
     if (!document() || m_backups->allTasks)
         return;
     m_backups->allTasks = document()->actionManager().takeSnapshot();
-    if (!m_backups->chart)
+    backupChart();
+}
+
+void TaskAction::backupChart()
+{
+    if (document() && !m_backups->chart)
         m_backups->chart = optionbackup::chartOf(*document());
 }
 
@@ -210,6 +208,41 @@ void TaskAction::backupWholeDocument()
         m_backups->identity = optionbackup::identityOf(*document());
 }
 
+void TaskAction::close(Bars bars)
+{
+    Backups &backups = *m_backups;
+    // Each of these gives tasks other values when it comes back, which their own records then put right.
+    if (!document() || backups.allTasks || backups.sheet || !backups.entries.empty() ||
+        !backups.names.empty() || backups.options || backups.identity)
+        return;
+    backups.tasks.keepChanges(*document(), bars);
+    const auto isUnchanged = [this](const UndoTaskResources &backup) {
+        const KWTaskInfo *task = document()->getTaskInfoByID(backup.taskID);
+        return task &&
+               std::equal(backup.resources.begin(), backup.resources.end(), task->resourceList.begin(),
+                          task->resourceList.end(), [](const Resource &was, const Resource *is) {
+                              return samevalues::isSame(was, *is);
+                          });
+    };
+    std::vector<UndoTaskResources> &assignments = backups.assignments;
+    assignments.erase(std::remove_if(assignments.begin(), assignments.end(), isUnchanged), assignments.end());
+    assignments.shrink_to_fit();
+    backups.assignmentIds = TaskIndex();
+}
+
+void TaskAction::addLateValues(const std::vector<LateValues> &before)
+{
+    if (!document())
+        return;
+    for (const LateValues &values : before)
+        m_backups->tasks.addLate(*document(), values);
+}
+
+const TaskBackups &TaskAction::singleTasks() const
+{
+    return m_backups->tasks;
+}
+
 void TaskAction::getAllContainResrourceTask(const ResourceInfo *info,
                                             QVector<UndoResource> &assignments) const
 {
@@ -219,8 +252,7 @@ void TaskAction::getAllContainResrourceTask(const ResourceInfo *info,
 
 void TaskAction::clearUndoItemDatas()
 {
-    m_backups->tasks.clear();
-    m_backups->taskIds = TaskIndex();
+    m_backups->tasks = TaskBackups();
     m_backups->assignments.clear();
     m_backups->assignmentIds = TaskIndex();
     m_backups->allTasks.reset();
@@ -281,14 +313,10 @@ TaskAction::Backups TaskAction::now() const
 void TaskAction::addSingleTasks(Backups &current) const
 {
     const KWDocument &document = *this->document();
-    current.taskIds = m_backups->taskIds;
+    current.tasks = m_backups->tasks.now(document);
     current.assignmentIds = m_backups->assignmentIds;
-    for (const UndoItemData &backup : m_backups->tasks) {
-        // A task that is not there keeps its record for another time.
-        const KWTaskInfo *task = document.getTaskInfoByID(backup.ID);
-        current.tasks.push_back(task ? valuesOf(document, *task) : backup);
-    }
     for (const UndoTaskResources &backup : m_backups->assignments) {
+        // A task that is not there keeps its record for another time.
         const KWTaskInfo *task = document.getTaskInfoByID(backup.taskID);
         current.assignments.push_back(task ? assignmentsOf(*task) : backup);
     }
@@ -337,7 +365,7 @@ public:
 
     // Afterwards. A text that is somebody's own stays; costs only follow where the assignments cost anything
     // else by now.
-    void follow(const TaskIndex &recordedValues, bool withTexts) const
+    void follow(const TaskBackups &recordedValues, bool withTexts) const
     {
         std::vector<TaskRecord *> named;
         std::vector<TaskRecord *> paid;
@@ -455,8 +483,8 @@ void TaskAction::restore(const Backups &backups, const Backups &current)
     // With the whole list, too: single tasks were recorded before it.
     restoreSingleAssignments(backups);
     if (withTasks)
-        assigned.follow(backups.taskIds, !backups.sheet);
-    restoreSingleValues(backups);
+        assigned.follow(backups.tasks, !backups.sheet);
+    backups.tasks.restore(document);
     if (!withTasks) {
         namesFollow(document);
         document.actionManager().setSnapshot(*backups.allTasks);
@@ -491,16 +519,5 @@ void TaskAction::restoreSingleAssignments(const Backups &backups)
         task->clearResources();
         for (const Resource &resource : backup.resources)
             task->resourceList.append(new Resource(resource));
-    }
-}
-
-void TaskAction::restoreSingleValues(const Backups &backups)
-{
-    KWDocument &document = *this->document();
-    for (const UndoItemData &backup : backups.tasks) {
-        if (KWTaskInfo *task = document.getTaskInfoByID(backup.ID)) {
-            task->setUndoVal(&backup);
-            document.rowColumnData()->setUndoRowVal(&backup);
-        }
     }
 }

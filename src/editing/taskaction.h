@@ -2,8 +2,12 @@
 #include "editing/kwopeaction.h"
 #include "editing/undoitems.h"
 #include <memory>
+#include <vector>
 
 class KWTaskInfo;
+class TaskBackups;
+struct LateValues;
+enum class Bars;
 
 // The undoable edit: backups of what it changes, each kind optional.
 //
@@ -36,8 +40,15 @@ public:
     // The assignments follow the name. Those that the entry has are recorded, in case another one has the
     // new name.
     void addEditTaskResourceName(ResourceInfo *info);
+    void backupChart();         // the project's span and the scale
     void backupAllOption();     // calendars, working time, options
     void backupWholeDocument(); // all of these, the page and the document's ID
+
+    // The edit is made. What it did not change of single tasks is dropped, unless something else is recorded
+    // that may change them when it comes back; nothing more is to be recorded then.
+    void close(Bars bars);
+    void addLateValues(const std::vector<LateValues> &before);
+    const TaskBackups &singleTasks() const;
 
     // The assignments of an entry's name on all tasks, in document order; appended.
     void getAllContainResrourceTask(const ResourceInfo *info, QVector<UndoResource> &assignments) const;
@@ -58,7 +69,6 @@ private:
     static void addConcerned(const Backups &backups, const Backups &current, Tasks &tasks);
     void restoreSheet(const Backups &backups, const Backups &current, bool withAssignments);
     void restoreSingleAssignments(const Backups &backups);
-    void restoreSingleValues(const Backups &backups);
 
     unsigned int m_type;
     std::unique_ptr<Backups> m_backups;

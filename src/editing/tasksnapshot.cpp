@@ -1,14 +1,13 @@
 #include "editing/tasksnapshot.h"
+#include "editing/samevalues.h"
 #include "engine/record/fieldxml.h"
 #include "engine/record/resource.h"
-#include "engine/record/resourcefields.h"
 #include "engine/record/taskfields.h"
 #include "engine/record/taskindex.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "table/rowcolumndata.h"
 #include <algorithm>
-#include <cstring>
 #include <optional>
 #include <unordered_map>
 
@@ -23,60 +22,7 @@ namespace {
 
 constexpr int blockSize = 128;
 
-// ---- Comparing --------------------------------------------------------------------------------------------
-
-template <typename T>
-bool isSame(const T &a, const T &b)
-{
-    return a == b;
-}
-
-// As files would show it: -0 is not 0, and no number equals itself.
-bool isSame(double a, double b)
-{
-    return std::memcmp(&a, &b, sizeof(double)) == 0;
-}
-
-// Most values are shared and need not be looked at.
-bool isSame(const QString &a, const QString &b)
-{
-    return a.isSharedWith(b) || a == b;
-}
-
-bool isSame(const QList<quint32> &a, const QList<quint32> &b)
-{
-    return a.isSharedWith(b) || a == b;
-}
-
-bool isSame(const QFont &a, const QFont &b)
-{
-    return a.isCopyOf(b) || (a == b && a.resolve() == b.resolve());
-}
-
-bool isSame(const Resource &a, const Resource &b)
-{
-    bool same = true;
-    fields::forEach(fields::resourceFields, fields::Copy,
-                    [&](const auto &row) { same = same && isSame(a.*row.member, b.*row.member); });
-    return same;
-}
-
-bool isSame(const QList<Resource *> &a, const QList<Resource *> &b)
-{
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](const Resource *x, const Resource *y) { return isSame(*x, *y); });
-}
-
-bool isSame(const KWHyperlinkSheet &a, const KWHyperlinkSheet &b)
-{
-    if (a.count() != b.count())
-        return false;
-    for (int i = 0; i < a.count(); ++i) {
-        if (*a.getAt(i) != *b.getAt(i))
-            return false;
-    }
-    return true;
-}
+using samevalues::isSame;
 
 // The finished part of a bar follows from the rest for every task, the bar itself only for visible ones.
 template <typename Row>

@@ -7,6 +7,7 @@
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
+#include <algorithm>
 
 OneEdit::OneEdit(EditStep &step)
     : m_step(step)
@@ -69,9 +70,11 @@ void OneEdit::begin(unsigned backups, Reach reach)
 {
     if (m_step.records.empty())
         m_step.wasModified = document().isModified();
-    m_record = std::make_unique<EditRecord>(document(), m_step.name);
+    constexpr unsigned int noFlags = 0;
+    m_record = std::make_unique<TaskAction>(&document(), m_step.name, noFlags);
     m_hasAllTasks = backups & AllTasks;
-    TaskAction &action = m_record->action();
+    m_reach = reach;
+    TaskAction &action = *m_record;
     if (backups & AllTasks)
         action.backupAllTaskData();
     if (backups & Sheet)
@@ -80,7 +83,7 @@ void OneEdit::begin(unsigned backups, Reach reach)
         action.backupAllOption();
     if (backups & Columns)
         action.backupAllColData();
-    if (reach == MovesTasks)
+    if (reach == MovesTasks && m_hasAllTasks)
         keepDates();
 }
 
@@ -96,24 +99,35 @@ void OneEdit::keepValues(TaskRecord &task)
 {
     if (m_hasAllTasks)
         return;
-    m_record->action().addChangeTaskInfo(asTask(&task));
+    m_record->addChangeTaskInfo(asTask(&task));
     for (TaskRecord *summary : outline::ancestors(tasks(), task))
-        m_record->action().addChangeTaskInfo(asTask(summary));
+        m_record->addChangeTaskInfo(asTask(summary));
 }
 
 void OneEdit::keepAssignments(TaskRecord &task)
 {
     if (m_hasAllTasks)
         return;
-    m_record->action().addTaskAllResources(asTask(&task));
+    m_record->addTaskAllResources(asTask(&task));
     for (TaskRecord *summary : outline::ancestors(tasks(), task))
-        m_record->action().addTaskAllResources(asTask(summary));
+        m_record->addTaskAllResources(asTask(summary));
 }
 
 void OneEdit::keepReach(TaskRecord &task)
 {
-    if (!m_hasAllTasks)
-        m_record->action().backupAffected(asTask(&task));
+    if (m_hasAllTasks)
+        return;
+    m_record->backupChart();
+    keepTask(task);
+    for (TaskRecord *below : outline::descendants(tasks(), task))
+        keepTask(*below);
+}
+
+void OneEdit::keepTask(TaskRecord &task)
+{
+    m_record->addChangeTaskInfo(asTask(&task));
+    if (task.isHaveResource())
+        m_record->addTaskAllResources(asTask(&task));
 }
 
 // ---- Changing --------------------------------------------------------------------------------------------
@@ -194,10 +208,14 @@ EditAnswer OneEdit::finish()
     takeFromSummaries();
     dropUnsuitedLinks();
     const QVector<quint32> edited = changes.tasks;
+    settling::Replaced replaced;
+    replaced.before = [this](TaskRecord &task) { keepTask(task); };
     const QVector<settling::Push> pushes =
-        settling::settle(document(), changes, m_hasAllTasks ? nullptr : &m_record->lateValues());
+        settling::settle(document(), changes, m_hasAllTasks ? nullptr : &replaced);
     document().setModified(true);
     listMoves(pushes, edited);
+    m_record->addLateValues(replaced.lateValues);
+    m_record->close(Bars::Follow);
     m_step.records.push_back(std::move(m_record));
     return answer;
 }
@@ -206,6 +224,23 @@ EditAnswer OneEdit::finishRows()
 {
     settling::settleChart(document());
     return finish();
+}
+
+// Of the tasks that may have moved, in list order.
+std::vector<OneEdit::Dates> OneEdit::datesBefore() const
+{
+    if (m_hasAllTasks || m_reach == MovesNothing)
+        return m_datesBefore;
+    const outline::Tasks all = tasks();
+    std::vector<Dates> dates;
+    m_record->singleTasks().forEachWhole([&](const TaskRecord &old) {
+        const TaskRecord *task = all.byId(old.ID);
+        if (task && (task->Start != old.Start || task->Finish != old.Finish))
+            dates.push_back({old.ID, old.Start, old.Finish});
+    });
+    std::sort(dates.begin(), dates.end(),
+              [&](const Dates &a, const Dates &b) { return all.index.posOf(a.id) < all.index.posOf(b.id); });
+    return dates;
 }
 
 void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited)
@@ -217,8 +252,9 @@ void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<qui
     TaskIndex editedIds;
     for (const quint32 id : edited)
         editedIds.add(id);
-    for (std::size_t pos = 0; pos < m_datesBefore.size(); ++pos) {
-        const Dates &old = m_datesBefore[pos];
+    const std::vector<Dates> before = datesBefore();
+    for (std::size_t pos = 0; pos < before.size(); ++pos) {
+        const Dates &old = before[pos];
         const bool isInPlace = int(pos) < all.list.size() && all.list[int(pos)]->ID == old.id;
         const TaskRecord *task = isInPlace ? all.list[int(pos)] : all.byId(old.id);
         if (!task || (task->Start == old.start && task->Finish == old.finish))

@@ -14,7 +14,7 @@ struct EditStep
 {
     KWDocument &document;
     QString name;
-    std::vector<std::unique_ptr<EditRecord>> records;
+    std::vector<std::unique_ptr<TaskAction>> records;
     bool wasModified = false; // the document, before the first of them
 };
 
@@ -47,7 +47,9 @@ public:
     void begin(unsigned backups, Reach reach = MovesTasks);
     void keepValues(TaskRecord &task); // and those of the summaries above it
     void keepAssignments(TaskRecord &task);
-    void keepReach(TaskRecord &task); // all that a change of its dates or links can reach
+    // What goes along with the dates or links of the task. What follows from them is kept while it is
+    // settled.
+    void keepReach(TaskRecord &task);
 
     // ---- Changing ----------------------------------------------------------------------------------------
     settling::Changes changes;
@@ -74,14 +76,17 @@ private:
         quint32 finish;
     };
     void keepDates();
+    void keepTask(TaskRecord &task);
     void takeFromSummaries();
     void dropUnsuitedLinks();
     void listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited);
+    std::vector<Dates> datesBefore() const;
 
     EditStep &m_step;
-    std::unique_ptr<EditRecord> m_record;
+    std::unique_ptr<TaskAction> m_record;
     bool m_hasAllTasks = false;
-    std::vector<Dates> m_datesBefore;
+    Reach m_reach = MovesTasks;
+    std::vector<Dates> m_datesBefore; // of all tasks, where all of them are kept
     std::vector<quint32> m_newSummaries;
     std::vector<quint32> m_linkedSummaries;
 };

@@ -64,7 +64,7 @@ private:
 class Settling
 {
 public:
-    Settling(KWDocument &document, const Changes &changes, std::vector<LateValues> *replaced)
+    Settling(KWDocument &document, const Changes &changes, Replaced *replaced)
         : m_document(document)
         , m_collection(*document.taskCollection())
         , m_tasks(tasksOf(document))
@@ -114,7 +114,17 @@ public:
 private:
     bool isWhole() const { return m_what & wholePlan; }
 
-    void touch(TaskRecord *task) { m_touched.add(task); }
+    void before(TaskRecord &task) const
+    {
+        if (m_replaced)
+            m_replaced->before(task);
+    }
+
+    void touch(TaskRecord *task)
+    {
+        if (m_touched.add(task))
+            before(*task);
+    }
 
     // ---- Dates -------------------------------------------------------------------------------------------
 
@@ -200,7 +210,8 @@ private:
             if (links.empty())
                 break;
             std::vector<push::Move> moves;
-            moved = push::along(m_calendar, m_tasks, m_hourScale, links, push::Undated::Stay, &moves);
+            moved = push::along(m_calendar, m_tasks, m_hourScale, links, push::Undated::Stay, &moves,
+                                m_replaced ? m_replaced->before : push::BeforeChange());
             remember(moves);
             if (moved.empty())
                 break;
@@ -299,9 +310,13 @@ private:
         if (!(m_what & (movesTasks | Progress)))
             return;
         for (TaskRecord *summary : summariesOf(changedTasks())) {
-            const double percent = summary->Percent;
-            asTask(summary)->setPercent(rollup::percent(m_calendar, m_tasks, *summary));
-            if (!isSame(percent, summary->Percent))
+            const double old = summary->Percent;
+            const double percent = rollup::percent(m_calendar, m_tasks, *summary);
+            if (isSame(old, percent))
+                continue;
+            before(*summary);
+            asTask(summary)->setPercent(percent);
+            if (!isSame(old, summary->Percent))
                 m_progressed.add(summary);
         }
         for (TaskRecord *task : m_named.tasks())
@@ -354,13 +369,16 @@ private:
         }
         if (m_what & (Outline | Assignments)) {
             for (TaskRecord *task : m_summaries.tasks()) {
-                if (!task->isParent() && !task->isHaveResource())
-                    makeLeaf(*task);
+                if (task->isParent() || task->isHaveResource())
+                    continue;
+                before(*task);
+                makeLeaf(*task);
             }
             changed.insert(changed.end(), m_named.tasks().begin(), m_named.tasks().end());
             changed.insert(changed.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
         }
         forEachSummary(changed, [&](TaskRecord &summary, const std::vector<TaskRecord *> &leaves) {
+            before(summary);
             const cost::Total total = cost::ofLeaves(measures, leaves);
             summary.Cost = total.cost;
             summary.Work = total.work;
@@ -382,7 +400,8 @@ private:
             return;
         std::vector<TaskRecord *> changed = m_named.tasks();
         changed.insert(changed.end(), m_summaries.tasks().begin(), m_summaries.tasks().end());
-        forEachSummary(changed, [](TaskRecord &summary, const std::vector<TaskRecord *> &leaves) {
+        forEachSummary(changed, [this](TaskRecord &summary, const std::vector<TaskRecord *> &leaves) {
+            before(summary);
             baselines::store(baselines::ofLeaves(leaves), summary);
         });
     }
@@ -462,7 +481,7 @@ private:
             ++kept;
         }
         before.resize(kept);
-        *m_replaced = std::move(before);
+        m_replaced->lateValues = std::move(before);
     }
 
     // Work that has begun has no start slack.
@@ -482,11 +501,15 @@ private:
 
     void emboldenSummaries()
     {
-        for (TaskRecord *summary : summariesOf(changedTasks()))
+        for (TaskRecord *summary : summariesOf(changedTasks())) {
+            before(*summary);
             summary->font.setWeight(QFont::Bold);
+        }
         for (TaskRecord *task : m_summaries.tasks()) {
-            if (!task->isParent())
-                task->font.setWeight(QFont::Normal);
+            if (task->isParent())
+                continue;
+            before(*task);
+            task->font.setWeight(QFont::Normal);
         }
     }
 
@@ -498,7 +521,7 @@ private:
     const worktime::WorkCalendar &m_calendar;
     bool m_hourScale;
     unsigned m_what;
-    std::vector<LateValues> *m_replaced;
+    Replaced *m_replaced;
     TaskSet m_named;
     TaskSet m_summaries;  // whose children became others
     TaskSet m_touched;    // whose dates may have become others
@@ -567,7 +590,7 @@ void Settling::drawChart()
 }
 }
 
-QVector<Push> settle(KWDocument &document, const Changes &changes, std::vector<LateValues> *replaced)
+QVector<Push> settle(KWDocument &document, const Changes &changes, Replaced *replaced)
 {
     if (changes.what == 0 || !document.taskCollection())
         return {};

@@ -1,22 +1,20 @@
 #pragma once
+#include "editing/taskbackups.h"
 #include "edits/settle.h"
-#include <QString>
+#include <functional>
 #include <vector>
 
 namespace settling {
 
-// The late dates and slack of a task, as they were before they were worked out anew.
-struct LateValues
+// Hears what settling replaces, so that it can be brought back.
+struct Replaced
 {
-    quint32 id = 0;
-    quint32 lateStart = 0;
-    quint32 lateFinish = 0;
-    QString earlySlack;
-    QString lateSlack;
-    bool isCritical = false;
+    // Each task whose values may change, before they do; late dates left aside.
+    std::function<void(TaskRecord &)> before;
+    // Late dates that were replaced by others: they change on tasks that an edit does not reach otherwise.
+    std::vector<LateValues> lateValues;
 };
 
-// settle(), which also tells the late dates that it replaced by others: they change on tasks that an edit
-// does not reach otherwise.
-QVector<Push> settle(KWDocument &document, const Changes &changes, std::vector<LateValues> *replaced);
+// settle(), which tells what it replaces.
+QVector<Push> settle(KWDocument &document, const Changes &changes, Replaced *replaced);
 }

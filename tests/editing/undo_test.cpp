@@ -406,6 +406,48 @@ TEST_F(UndoneEdits, namesFollowAWholeList)
     EXPECT_EQ(texts.join(QLatin1String(" | ")).toStdString(), "Bob; Ann | Bob; Ann | Ann | Bob | somebody");
 }
 
+// Of many tasks only what the edit changed is kept.
+TEST_F(Undo, manyTasksComeBackAsTheyWere)
+{
+    KWDocument document;
+    for (int i = 0; i < 100; ++i)
+        document.addTaskInfo();
+    const auto task = [&](int pos) { return document.getTaskInfoAt(pos); };
+    task(7)->x1 = 3.5;
+    const std::string before = savedText(document);
+    ActionManager::preUndoAction(&document, editType, 0);
+    for (KWTaskInfo *each : document.taskList())
+        ActionManager::addChangeTaskInfo(each);
+    for (int pos = 0; pos < 100; ++pos) {
+        task(pos)->Start += quint32(pos % 3);
+        task(pos)->Notes += QString(pos % 4, QLatin1Char('x'));
+        task(pos)->Percent = pos % 2 ? 0.5 : -0.0;
+        task(pos)->Priority -= pos % 5;
+        task(pos)->x1 += pos;
+        task(pos)->Milestone = pos % 7 == 0;
+    }
+    task(1)->Depends = {9, 3};
+    task(2)->font.setPointSize(33);
+    task(3)->hyperlinks.autoAddHyperlink()->address = QStringLiteral("a.com");
+    task(4)->HideID = 2;
+    document.rowColumnData()->replaceRowHeight(5, 77);
+    ActionManager::addUndoAction();
+    const std::string after = savedText(document);
+    const quint32 gone = task(60)->ID;
+    for (int round = 0; round < 2; ++round) {
+        document.actionManager().undo(1);
+        EXPECT_EQ(savedText(document), before);
+        EXPECT_EQ(task(7)->x1, 3.5);
+        task(60)->ID = 1000; // a task that is not there keeps what it had for another time
+        document.actionManager().redo();
+        document.actionManager().undo(1);
+        task(60)->ID = gone;
+        EXPECT_EQ(savedText(document), before);
+        document.actionManager().redo();
+        EXPECT_EQ(savedText(document), after);
+    }
+}
+
 // A file and a workbook replace what the stacks are about.
 TEST_F(UndoneEdits, replacedContentForgetsThemOrIsOneOfThem)
 {

@@ -71,6 +71,7 @@ public:
 
     // Keeps what `moves` needs.
     void rememberMoves() { m_remembers = true; }
+    void announceTo(const BeforeChange &before) { m_before = &before; }
 
     bool isPassed(int node) const { return m_state[node].passed; }
     // What was pushed or carried along to other dates, in list order.
@@ -116,6 +117,12 @@ private:
         State &state = m_state[begin];
         state.remembered = true;
         m_old.push_back({pos, m_tasks.list[pos]->Start, m_tasks.list[pos]->Finish});
+    }
+
+    void announce(TaskRecord &task) const
+    {
+        if (m_before && *m_before)
+            (*m_before)(task);
     }
 
     bool rollUp(TaskRecord &summary) const
@@ -168,6 +175,7 @@ private:
         if (holds(state.finish, moving.Start) || !takesPart(moving))
             return;
         remember(m_network.nodes()[node].pos);
+        announce(moving);
         if (moving.isParent())
             placeSummary(node);
         else if (moveTask(moving, state.finish))
@@ -179,9 +187,11 @@ private:
         State &state = m_state[node];
         TaskRecord &summary = task(node);
         const quint32 oldStart = summary.Start;
-        if (m_remembers) {
-            for (const TaskRecord *below : outline::descendants(m_tasks, summary))
+        if (m_remembers || m_before) {
+            for (TaskRecord *below : outline::descendants(m_tasks, summary)) {
                 remember(m_tasks.index.posOf(below->ID));
+                announce(*below);
+            }
         }
         if (!moveStart(summary, state.finish))
             return;
@@ -211,8 +221,10 @@ private:
     {
         const bool passed = isPassed(node);
         TaskRecord &ending = task(node);
-        if (passed && ending.isParent())
+        if (passed && ending.isParent()) {
+            announce(ending);
             rollUp(ending);
+        }
         if ((!passed && !m_fromAll) || !takesPart(ending))
             return;
         const linkgraph::Graph &graph = m_network.graph();
@@ -235,6 +247,7 @@ private:
     const Schedule &m_schedule;
     bool m_fromAll = false;
     bool m_remembers = false;
+    const BeforeChange *m_before = nullptr;
     std::vector<State> m_state;
     std::vector<Old> m_old;
 };
@@ -276,7 +289,8 @@ quint32 target(quint32 finish)
 }
 
 std::vector<TaskRecord *> along(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
-                                const std::vector<Link> &links, Undated undated, std::vector<Move> *moves)
+                                const std::vector<Link> &links, Undated undated, std::vector<Move> *moves,
+                                const BeforeChange &before)
 {
     struct Ends
     {
@@ -304,6 +318,7 @@ std::vector<TaskRecord *> along(const WorkCalendar &calendar, const outline::Tas
     Pass pass(calendar, tasks, hourScale, undated, network, order);
     if (moves)
         pass.rememberMoves();
+    pass.announceTo(before);
     for (const Ends &link : early) {
         const int node = network.beginOf(link.successor);
         if (canPush(network, order, link.predecessor, node))

@@ -1,6 +1,7 @@
 #pragma once
 #include "engine/record/outline.h"
 #include "engine/time/worktime.h"
+#include <functional>
 #include <vector>
 
 struct TaskRecord;
@@ -37,10 +38,13 @@ struct Move
 // Pushes each successor to the finish of its predecessor, and all that follows from that, in one pass.
 // Returns the tasks that this passed, summaries above them included; none when nothing had to move. A link
 // that cannot hold pushes nothing; one that is not in the lists pushes nevertheless. `moves` gets the tasks
-// that were pushed or carried along to other dates, in list order.
+// that were pushed or carried along to other dates, in list order. `before` hears of each task whose dates
+// may change, before they do.
+using BeforeChange = std::function<void(TaskRecord &)>;
 std::vector<TaskRecord *> along(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,
                                 bool hourScale, const std::vector<Link> &links,
-                                Undated undated = Undated::Move, std::vector<Move> *moves = nullptr);
+                                Undated undated = Undated::Move, std::vector<Move> *moves = nullptr,
+                                const BeforeChange &before = {});
 // Rolls every summary up and pushes every successor. Returns the tasks that were pushed or carried along to
 // other dates, in list order.
 std::vector<Move> all(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
