@@ -4,6 +4,7 @@
 #include "engine/cost/cost.h"
 #include "engine/cost/names.h"
 #include "engine/network/inheritedtails.h"
+#include "engine/network/keptlatedates.h"
 #include "engine/network/latedates.h"
 #include "engine/network/push.h"
 #include "engine/network/rollup.h"
@@ -18,6 +19,7 @@
 #include "support/kwclock.h"
 #include <algorithm>
 #include <cstring>
+#include <optional>
 #include <unordered_map>
 
 namespace settling {
@@ -60,6 +62,21 @@ private:
     TaskIndex m_ids;
     std::vector<TaskRecord *> m_tasks;
 };
+
+using Span = latedates::Kept::Span;
+
+// From the first start to the last finish of the tasks that have dates.
+Span spanOf(const Tasks &tasks)
+{
+    Span span;
+    for (const TaskRecord *task : tasks.list) {
+        if (!rollup::isDated(*task))
+            continue;
+        span.start = span.start == 0 ? task->Start : std::min(span.start, task->Start);
+        span.finish = std::max(span.finish, task->Finish);
+    }
+    return span;
+}
 
 class Settling
 {
@@ -427,25 +444,25 @@ private:
 
     void findLateDates()
     {
-        quint32 projectFinish = 0;
-        for (const TaskRecord *task : m_tasks.list) {
-            if (rollup::isDated(*task))
-                projectFinish = std::max(projectFinish, task->Finish);
-        }
         const unsigned int unit = latedates::slackUnit(m_document.getMinorUnit());
-        latedates::LateDates late(m_calendar, projectFinish, unit,
-                                  KWDocument::getNameByMinorUnit(unit, false));
+        const QString unitName = KWDocument::getNameByMinorUnit(unit, false);
+        if (m_replaced) {
+            m_span = m_collection.keptLateDates().update(
+                m_tasks, m_calendar, unit, unitName, [this](const TaskRecord &task) {
+                    m_replaced->lateValues.push_back({task.ID, task.LateStart, task.LateFinish,
+                                                      task.EarlySlack, task.LateSlack, task.CriticalPath});
+                });
+            return;
+        }
+        m_span = spanOf(m_tasks);
+        latedates::LateDates late(m_calendar, m_span->finish, unit, unitName);
         std::vector<quint32> lengths;
         lengths.reserve(std::size_t(m_tasks.list.size()));
         for (const TaskRecord *task : m_tasks.list)
             lengths.push_back(rollup::isDated(*task) ? late.length(*task) : 0);
         const std::vector<latedates::Tail> tails = latedates::inheritedTails(m_tasks, lengths);
-        std::vector<LateValues> before;
-        before.reserve(m_replaced ? lengths.size() : 0);
         for (int pos = 0; pos < m_tasks.list.size(); ++pos) {
             TaskRecord &task = *m_tasks.list[pos];
-            if (m_replaced)
-                before.push_back(valuesOf(task));
             if (rollup::isDated(task)) {
                 late.apply(task, lengths[pos], tails[pos]);
             } else {
@@ -456,32 +473,6 @@ private:
             }
         }
         latedates::spreadCritical(m_tasks);
-        if (m_replaced)
-            keepReplaced(std::move(before));
-    }
-
-    static LateValues valuesOf(const TaskRecord &task)
-    {
-        return {task.ID, task.LateStart, task.LateFinish, task.EarlySlack, task.LateSlack, task.CriticalPath};
-    }
-
-    // What stayed as it was is left out of `before`, which has all tasks in list order.
-    void keepReplaced(std::vector<LateValues> &&before)
-    {
-        std::size_t kept = 0;
-        for (int pos = 0; pos < m_tasks.list.size(); ++pos) {
-            const TaskRecord &task = *m_tasks.list[pos];
-            LateValues &old = before[std::size_t(pos)];
-            if (old.lateStart == task.LateStart && old.lateFinish == task.LateFinish &&
-                old.isCritical == task.CriticalPath && old.earlySlack == task.EarlySlack &&
-                old.lateSlack == task.LateSlack)
-                continue;
-            if (kept != std::size_t(pos))
-                before[kept] = std::move(old);
-            ++kept;
-        }
-        before.resize(kept);
-        m_replaced->lateValues = std::move(before);
     }
 
     // Work that has begun has no start slack.
@@ -528,28 +519,21 @@ private:
     TaskSet m_progressed; // whose percent may have become another
     std::vector<quint32> m_lengthsBefore;
     std::unordered_map<quint32, quint32> m_pushedBy;
+    std::optional<Span> m_span; // where late dates were worked out
 };
 
 // ---- The chart -------------------------------------------------------------------------------------------
 
-// The range from the tasks that have dates. Whether it became another, or the width.
-bool updateRange(KWDocument &document)
+// The chart's range. Whether it became another, or the width.
+bool updateRange(KWDocument &document, Span span)
 {
     KWTaskCollection &collection = *document.taskCollection();
-    quint32 start = 0;
-    quint32 finish = 0;
-    for (const TaskRecord *task : document.taskList()) {
-        if (!rollup::isDated(*task))
-            continue;
-        start = start == 0 ? task->Start : std::min(start, task->Start);
-        finish = std::max(finish, task->Finish);
-    }
-    if (start == 0) // as without tasks
-        start = finish = worktime::clampSecs(KWClock::now().date().startOfDay().toSecsSinceEpoch());
+    if (span.start == 0) // as without tasks
+        span.start = span.finish = worktime::clampSecs(KWClock::now().date().startOfDay().toSecsSinceEpoch());
     const quint32 oldStart = collection.minDateStart();
     const quint32 oldFinish = collection.maxDateFinish();
     const int oldWidth = collection.totalWidth();
-    collection.updateRangeOf(start, finish);
+    collection.updateRangeOf(span.start, span.finish);
     collection.updateTotalWidth();
     return oldStart != collection.minDateStart() || oldFinish != collection.maxDateFinish() ||
            oldWidth != collection.totalWidth();
@@ -577,8 +561,7 @@ void placeAll(KWDocument &document)
 
 void Settling::drawChart()
 {
-    const bool isMoved = m_what & movesTasks;
-    if ((isMoved && updateRange(m_document)) || (m_what & (Outline | wholePlan))) {
+    if ((m_span && updateRange(m_document, *m_span)) || (m_what & (Outline | wholePlan))) {
         placeAll(m_document);
         return;
     }
@@ -606,7 +589,7 @@ void settleChart(KWDocument &document)
 {
     if (!document.taskCollection())
         return;
-    updateRange(document);
+    updateRange(document, spanOf(document.outline()));
     placeAll(document);
 }
 }

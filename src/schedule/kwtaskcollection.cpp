@@ -1,5 +1,6 @@
 // The chart's time axis: range, unit boundaries, width, bar points.
 #include "schedule/kwtaskcollection.h"
+#include "engine/network/keptlatedates.h"
 #include "engine/record/outline.h"
 #include "engine/record/taskahead.h"
 #include "engine/time/timerange.h"
@@ -8,6 +9,7 @@
 #include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "schedule/kwcalendar.h"
 #include "support/kwclock.h"
 #include <algorithm>
 
@@ -18,6 +20,15 @@ timescale::Zoom zoomOf(const KWDocument &document)
     return {document.MajorUnit, document.MinorUnit, document.UnitWidth};
 }
 }
+
+// With the working time that they were worked out in.
+struct KWTaskCollection::LateDates
+{
+    latedates::Kept kept;
+    const worktime::WorkCalendar *calendar = nullptr;
+    quint64 digest = 0;
+    std::shared_ptr<const LocalClock> clock;
+};
 
 KWTaskCollection::KWTaskCollection(KWDocument *document)
     : m_document(document)
@@ -30,6 +41,29 @@ timescale::Scale KWTaskCollection::scale() const
 {
     return timescale::Scale(m_document->workCalendar(), m_document->getMinorUnit(), m_minDateStart,
                             m_maxDateFinish, m_totalWidth, m_document->UnitWidth, UnitUtil::dpiScale96());
+}
+
+latedates::Kept &KWTaskCollection::keptLateDates()
+{
+    if (!m_lateDates)
+        m_lateDates = std::make_unique<LateDates>();
+    // A calendar made anew may stand where another one stood.
+    const KWDocument &document = *m_document;
+    const worktime::WorkCalendar *calendar = &document.workCalendar();
+    const quint64 digest =
+        worktime::WorkCalendar::digest({document.WorkDay,
+                                        document.workTimes,
+                                        {document.calendars.begin(), document.calendars.end()},
+                                        KWDocument::s_isOldVersion});
+    std::shared_ptr<const LocalClock> clock = LocalClock::current();
+    LateDates &late = *m_lateDates;
+    if (late.calendar != calendar || late.digest != digest || late.clock != clock) {
+        late.kept.reset();
+        late.calendar = calendar;
+        late.digest = digest;
+        late.clock = std::move(clock);
+    }
+    return late.kept;
 }
 
 // ---- Range ------------------------------------------------------------------------------------------------

@@ -3,11 +3,15 @@
 #include "kwgantt_export.h"
 #include <QDateTime>
 #include <QList>
+#include <memory>
 #include <vector>
 
 class KWDocument;
 class KWTaskInfo;
 struct TaskRecord;
+namespace latedates {
+class Kept;
+}
 namespace outline {
 struct Tasks;
 }
@@ -141,6 +145,8 @@ public:
     // The document's scale as it stands, for passes over many tasks. Valid until an option, the calendar or
     // the range changes. There must be a document.
     timescale::Scale scale() const;
+    // The late dates as they were worked out last, for passes that follow an edit. There must be a document.
+    latedates::Kept &keptLateDates();
     // After a task's dates changed: its duration, its assignments' work, its bar and its widths.
     void refreshTask(KWTaskInfo *task);
 
@@ -159,6 +165,7 @@ private:
     void rollUp(const timescale::Scale &scale, const outline::Tasks &tasks, TaskRecord &summary,
                 bool pushSuccessors);
 
+    struct LateDates;
     KWDocument *m_document;             // not owned
     KWTaskInfo *m_activeTask = nullptr; // not owned
     QDateTime m_listsStart;             // the ends of the unit lists; invalid: they are empty
@@ -166,4 +173,5 @@ private:
     quint32 m_minDateStart = 0;
     quint32 m_maxDateFinish = 0;
     int m_totalWidth = 100;
+    std::unique_ptr<LateDates> m_lateDates; // null until they are asked for
 };

@@ -10,21 +10,12 @@ using linkgraph::Graph;
 
 namespace {
 
-// The links of each task, and behind them the way to the nearest summary above it that has links: what
-// follows that one follows the task. Where no summary has any, there are no such ways.
-struct Inherited
-{
-    Graph graph;
-    std::vector<int> linkEnd; // of each task: where its links end among its edges
-    std::vector<char> listsUnknown;
-};
-
 constexpr int none = -1;
 
-Inherited inheritedNetwork(const outline::Tasks &tasks)
+InheritedNetwork linksAndWays(const outline::Tasks &tasks)
 {
     const std::size_t count = std::size_t(tasks.list.size());
-    Inherited network;
+    InheritedNetwork network;
     network.graph.first.reserve(count + 1);
     network.linkEnd.reserve(count);
     network.listsUnknown.reserve(count);
@@ -58,9 +49,10 @@ Inherited inheritedNetwork(const outline::Tasks &tasks)
 }
 
 // Links between the tasks of a ring do not count; the outline does.
-Inherited withoutRings(const Inherited &network, const Components &components)
+InheritedNetwork withoutRings(const InheritedNetwork &network)
 {
-    Inherited rest;
+    const Components &components = network.components;
+    InheritedNetwork rest;
     rest.listsUnknown = network.listsUnknown;
     for (int node = 0; node < network.graph.count(); ++node) {
         for (int edge = network.graph.first[node]; edge < network.linkEnd[node]; ++edge) {
@@ -76,40 +68,52 @@ Inherited withoutRings(const Inherited &network, const Components &components)
 }
 }
 
+InheritedNetwork inheritedNetwork(const outline::Tasks &tasks)
+{
+    InheritedNetwork network = linksAndWays(tasks);
+    network.components = linkgraph::components(network.graph);
+    if (network.components.hasRings) {
+        network = withoutRings(network);
+        // What rings are left are of a damaged outline.
+        network.components = linkgraph::components(network.graph);
+    }
+    return network;
+}
+
+Tail tailOf(const InheritedNetwork &network, int node, const std::vector<Tail> &tails,
+            const std::vector<quint32> &lengths)
+{
+    Tail tail{network.listsUnknown[node] ? Tail::NoPath : Tail::Last, 0};
+    const auto follow = [&](const Tail &after, qint64 length) {
+        if (after.kind != Tail::Path && length < 0) { // nothing follows the summary
+            if (after.kind == Tail::NoPath && tail.kind == Tail::Last)
+                tail.kind = Tail::NoPath;
+            return;
+        }
+        if (tail.kind == Tail::Last)
+            tail.kind = Tail::NoPath;
+        if (after.kind == Tail::NoPath)
+            return;
+        tail.kind = Tail::Path;
+        tail.secs = std::max(tail.secs, after.secs + std::max<qint64>(length, 0));
+    };
+    const Graph &graph = network.graph;
+    for (int edge = graph.first[node]; edge < graph.first[node + 1]; ++edge) {
+        const int target = graph.targets[edge];
+        const bool isLink = edge < network.linkEnd[node];
+        if (network.counts(node, edge))
+            follow(tails[target], isLink ? qint64(lengths[target]) : -1);
+    }
+    return tail;
+}
+
 std::vector<Tail> inheritedTails(const outline::Tasks &tasks, const std::vector<quint32> &lengths)
 {
-    Inherited network = inheritedNetwork(tasks);
-    Components components = linkgraph::components(network.graph);
-    if (components.hasRings) {
-        network = withoutRings(network, components);
-        components = linkgraph::components(network.graph); // what rings are left are of a damaged outline
-    }
-    const Graph &graph = network.graph;
+    const InheritedNetwork network = inheritedNetwork(tasks);
     std::vector<Tail> result(lengths.size());
-    for (auto it = components.order.rbegin(); it != components.order.rend(); ++it) {
-        const int node = *it;
-        Tail tail{network.listsUnknown[node] ? Tail::NoPath : Tail::Last, 0};
-        const auto follow = [&](const Tail &after, qint64 length) {
-            if (after.kind != Tail::Path && length < 0) { // nothing follows the summary
-                if (after.kind == Tail::NoPath && tail.kind == Tail::Last)
-                    tail.kind = Tail::NoPath;
-                return;
-            }
-            if (tail.kind == Tail::Last)
-                tail.kind = Tail::NoPath;
-            if (after.kind == Tail::NoPath)
-                return;
-            tail.kind = Tail::Path;
-            tail.secs = std::max(tail.secs, after.secs + std::max<qint64>(length, 0));
-        };
-        for (int edge = graph.first[node]; edge < graph.first[node + 1]; ++edge) {
-            const int target = graph.targets[edge];
-            const bool isLink = edge < network.linkEnd[node];
-            if (components.of[target] != components.of[node])
-                follow(result[target], isLink ? qint64(lengths[target]) : -1);
-        }
-        result[node] = tail;
-    }
+    const std::vector<int> &order = network.components.order;
+    for (auto node = order.rbegin(); node != order.rend(); ++node)
+        result[*node] = tailOf(network, *node, result, lengths);
     return result;
 }
 

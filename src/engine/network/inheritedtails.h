@@ -8,6 +8,27 @@ namespace latedates {
 // it, and a successor counts with its whole length, be it a summary or not. Tasks without dates come after
 // nothing. In list order; without linked summaries and undated tasks the same as tails().
 std::vector<Tail> inheritedTails(const outline::Tasks &tasks, const std::vector<quint32> &lengths);
+
+// The same in parts, for who keeps them between edits. What follows each task: its links, and behind them the
+// way to the nearest summary above it that has links. Links between the tasks of a ring are left out.
+struct InheritedNetwork
+{
+    linkgraph::Graph graph;
+    std::vector<int> linkEnd; // of each task: where its links end among its edges
+    std::vector<char> listsUnknown;
+    linkgraph::Components components;
+
+    // Edges that close a ring lead nowhere.
+    bool counts(int node, int edge) const
+    {
+        return components.of[graph.targets[edge]] != components.of[node];
+    }
+};
+InheritedNetwork inheritedNetwork(const outline::Tasks &tasks);
+// From the tails of the tasks that follow.
+Tail tailOf(const InheritedNetwork &network, int node, const std::vector<Tail> &tails,
+            const std::vector<quint32> &lengths);
+
 // Makes each summary critical that has a critical task below it.
 void spreadCritical(const outline::Tasks &tasks);
 }

@@ -175,13 +175,27 @@ QString SlackTexts::text(double units)
     });
 }
 
-double writeSlack(TaskRecord &task, SlackTexts &texts)
+namespace {
+
+// From the late dates that are filled in already.
+void addSlack(const TaskRecord &task, SlackTexts &texts, Values &values)
 {
     const bool begun = task.Percent != 0;
-    task.EarlySlack = texts.text(begun ? 0.0 : texts.between(task.Start, task.LateStart));
-    const double units = texts.between(task.Finish, task.LateFinish);
-    task.LateSlack = texts.text(units);
-    return units;
+    values.earlySlack = texts.text(begun ? 0.0 : texts.between(task.Start, values.lateStart));
+    const double units = texts.between(task.Finish, values.lateFinish);
+    values.lateSlack = texts.text(units);
+    values.isCritical = units == 0.0;
+}
+}
+
+void writeSlack(TaskRecord &task, SlackTexts &texts)
+{
+    Values values;
+    values.lateStart = task.LateStart;
+    values.lateFinish = task.LateFinish;
+    addSlack(task, texts, values);
+    task.EarlySlack = values.earlySlack;
+    task.LateSlack = values.lateSlack;
 }
 
 // ---- Late dates -------------------------------------------------------------------------------------------
@@ -208,15 +222,34 @@ quint32 LateDates::beforeFinish(qint64 workSecs)
     });
 }
 
+void LateDates::setProjectFinish(quint32 projectFinish)
+{
+    if (m_projectFinish != projectFinish)
+        m_beforeFinish = Recent<quint32>();
+    m_projectFinish = projectFinish;
+}
+
+Values LateDates::values(const TaskRecord &task, quint32 lengthSecs, const Tail &tail)
+{
+    Values values;
+    if (tail.kind == Tail::Path) {
+        values.lateStart = beforeFinish(tail.secs + lengthSecs);
+        values.lateFinish = beforeFinish(tail.secs);
+    } else {
+        values.lateStart = task.Finish == m_projectFinish ? task.Start : beforeFinish(lengthSecs);
+        values.lateFinish = m_projectFinish;
+    }
+    addSlack(task, m_slack, values);
+    return values;
+}
+
 void LateDates::apply(TaskRecord &task, quint32 lengthSecs, const Tail &tail)
 {
-    if (tail.kind == Tail::Path) {
-        task.LateStart = beforeFinish(tail.secs + lengthSecs);
-        task.LateFinish = beforeFinish(tail.secs);
-    } else {
-        task.LateStart = task.Finish == m_projectFinish ? task.Start : beforeFinish(lengthSecs);
-        task.LateFinish = m_projectFinish;
-    }
-    task.CriticalPath = writeSlack(task, m_slack) == 0.0;
+    Values found = values(task, lengthSecs, tail);
+    task.LateStart = found.lateStart;
+    task.LateFinish = found.lateFinish;
+    task.EarlySlack = std::move(found.earlySlack);
+    task.LateSlack = std::move(found.lateSlack);
+    task.CriticalPath = found.isCritical;
 }
 }

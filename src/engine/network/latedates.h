@@ -86,6 +86,16 @@ private:
     Recent<QString> m_texts;
 };
 
+// What a task takes from them.
+struct Values
+{
+    quint32 lateStart = 0;
+    quint32 lateFinish = 0;
+    QString earlySlack;
+    QString lateSlack;
+    bool isCritical = false;
+};
+
 // Fills in the late dates, slack and critical flag of one project's tasks.
 class LateDates
 {
@@ -95,6 +105,8 @@ public:
 
     quint32 length(const TaskRecord &task) const; // seconds of work in the unit
     void apply(TaskRecord &task, quint32 lengthSecs, const Tail &tail);
+    Values values(const TaskRecord &task, quint32 lengthSecs, const Tail &tail);
+    void setProjectFinish(quint32 projectFinish);
 
 private:
     quint32 beforeFinish(qint64 workSecs);
@@ -106,7 +118,6 @@ private:
     Recent<quint32> m_beforeFinish;
 };
 
-// The slack texts from the dates as they stand. A task that has begun has no start slack. Returns the finish
-// slack's value.
-double writeSlack(TaskRecord &task, SlackTexts &texts);
+// The slack texts from the dates as they stand. A task that has begun has no start slack.
+void writeSlack(TaskRecord &task, SlackTexts &texts);
 }

@@ -1,0 +1,252 @@
+#include "engine/network/keptlatedates.h"
+#include "engine/network/rollup.h"
+#include "engine/record/taskrecord.h"
+#include <algorithm>
+
+namespace latedates {
+
+namespace {
+
+bool isSame(const QString &a, const QString &b)
+{
+    return a.isSharedWith(b) || a == b;
+}
+
+bool hasBegun(const TaskRecord &task)
+{
+    return task.Percent != 0;
+}
+
+bool areIn(const TaskRecord &task, const Values &values)
+{
+    return task.LateStart == values.lateStart && task.LateFinish == values.lateFinish &&
+           task.CriticalPath == values.isCritical && isSame(task.EarlySlack, values.earlySlack) &&
+           isSame(task.LateSlack, values.lateSlack);
+}
+}
+
+void Kept::reset()
+{
+    m_late.reset();
+    m_known.clear();
+}
+
+// False where only a new beginning helps.
+bool Kept::findChanges(const outline::Tasks &tasks)
+{
+    m_changedDates.clear();
+    m_changedValues.clear();
+    if (!m_late || int(m_known.size()) != tasks.list.size())
+        return false;
+    for (int pos = 0; pos < tasks.list.size(); ++pos) {
+        const TaskRecord &task = *tasks.list[pos];
+        Known &known = m_known[std::size_t(pos)];
+        if (task.ID != known.id || task.ParentID != known.parent)
+            return false;
+        if (!task.Depends.isSharedWith(known.links)) {
+            if (task.Depends != known.links)
+                return false;
+            known.links = task.Depends;
+        }
+        if (task.Start != known.start || task.Finish != known.finish) {
+            if (rollup::isDated(task) != (known.start != 0 && known.finish != 0))
+                return false;
+            m_changedDates.push_back(pos);
+        } else if (hasBegun(task) != known.hasBegun || !areIn(task, known.values)) {
+            m_changedValues.push_back(pos);
+        }
+        if (!rollup::isDated(task))
+            continue;
+        m_span.start = m_span.start == 0 ? task.Start : std::min(m_span.start, task.Start);
+        m_span.finish = std::max(m_span.finish, task.Finish);
+    }
+    return true;
+}
+
+// What the tasks are and how they hang together; nothing is filled in yet.
+void Kept::beginAnew(const outline::Tasks &tasks)
+{
+    const std::size_t count = std::size_t(tasks.list.size());
+    m_span = Span();
+    m_known.assign(count, Known());
+    m_lengths.assign(count, 0);
+    m_parents.assign(count, -1);
+    for (std::size_t pos = 0; pos < count; ++pos) {
+        const TaskRecord &task = *tasks.list[int(pos)];
+        Known &known = m_known[pos];
+        known.id = task.ID;
+        known.parent = task.ParentID;
+        known.links = task.Depends;
+        known.start = task.Start;
+        known.finish = task.Finish;
+        if (task.ParentID != 0)
+            m_parents[pos] = tasks.index.posOf(task.ParentID);
+        if (!rollup::isDated(task))
+            continue;
+        m_lengths[pos] = m_late->length(task);
+        m_span.start = m_span.start == 0 ? task.Start : std::min(m_span.start, task.Start);
+        m_span.finish = std::max(m_span.finish, task.Finish);
+    }
+    m_network = inheritedNetwork(tasks);
+    const linkgraph::Graph &graph = m_network.graph;
+    const std::vector<int> &order = m_network.components.order;
+    m_rank.resize(count);
+    for (std::size_t rank = 0; rank < count; ++rank)
+        m_rank[std::size_t(order[rank])] = int(rank);
+    m_tails.assign(count, Tail());
+    for (auto node = order.rbegin(); node != order.rend(); ++node)
+        m_tails[std::size_t(*node)] = tailOf(m_network, *node, m_tails, m_lengths);
+
+    m_before.first.assign(count + 1, 0);
+    for (const int target : graph.targets)
+        ++m_before.first[std::size_t(target) + 1];
+    for (std::size_t pos = 0; pos < count; ++pos)
+        m_before.first[pos + 1] += m_before.first[pos];
+    m_before.targets.resize(graph.targets.size());
+    m_isLinkBefore.resize(graph.targets.size());
+    std::vector<int> next(m_before.first.begin(), m_before.first.end() - 1);
+    for (int node = 0; node < int(count); ++node) {
+        for (int edge = graph.first[node]; edge < graph.first[node + 1]; ++edge) {
+            const int place = next[graph.targets[edge]]++;
+            m_before.targets[place] = node;
+            m_isLinkBefore[place] = edge < m_network.linkEnd[node];
+        }
+    }
+    m_isTailOpen.assign(count, 0);
+    m_isToFill.assign(count, 0);
+    m_toFill.clear();
+    m_changedDates.clear();
+    m_changedValues.clear();
+    for (int pos = 0; pos < int(count); ++pos)
+        addWork(pos);
+}
+
+void Kept::addWork(int pos)
+{
+    if (m_isToFill[pos])
+        return;
+    m_isToFill[pos] = 1;
+    m_toFill.push_back(pos);
+}
+
+// The tasks that this one follows: their tails may be others now. What follows a summary counts for those
+// below it whatever its own length is.
+void Kept::addTailsBefore(int pos, bool isLength)
+{
+    for (int edge = m_before.first[pos]; edge < m_before.first[pos + 1]; ++edge) {
+        const int node = m_before.targets[edge];
+        if ((isLength && !m_isLinkBefore[edge]) ||
+            m_network.components.of[node] == m_network.components.of[pos])
+            continue;
+        const int rank = m_rank[node];
+        if (m_isTailOpen[rank])
+            continue;
+        m_isTailOpen[rank] = 1;
+        ++m_openTails;
+        m_lastOpen = std::max(m_lastOpen, rank);
+    }
+}
+
+// From the last one on, so that each is worked out once.
+void Kept::followTails()
+{
+    const std::vector<int> &order = m_network.components.order;
+    for (int rank = m_lastOpen; m_openTails > 0; --rank) {
+        if (!m_isTailOpen[rank])
+            continue;
+        m_isTailOpen[rank] = 0;
+        --m_openTails;
+        const int pos = order[rank];
+        const Tail tail = tailOf(m_network, pos, m_tails, m_lengths);
+        if (tail.kind == m_tails[pos].kind && tail.secs == m_tails[pos].secs)
+            continue;
+        m_tails[pos] = tail;
+        addWork(pos);
+        addTailsBefore(pos, false);
+    }
+    m_lastOpen = -1;
+}
+
+// A summary is critical with each of the tasks below it.
+void Kept::spread()
+{
+    std::vector<char> isCritical(m_known.size(), 0);
+    for (std::size_t pos = 0; pos < m_known.size(); ++pos) {
+        for (int at = m_known[pos].isOwnCritical ? int(pos) : -1; at >= 0 && !isCritical[at];
+             at = m_parents[at])
+            isCritical[at] = 1;
+    }
+    for (std::size_t pos = 0; pos < m_known.size(); ++pos) {
+        if (m_known[pos].values.isCritical == bool(isCritical[pos]))
+            continue;
+        m_known[pos].values.isCritical = isCritical[pos];
+        addWork(int(pos));
+    }
+}
+
+Kept::Span Kept::update(const outline::Tasks &tasks, const worktime::WorkCalendar &calendar,
+                        unsigned int unit, const QString &unitName, const BeforeChange &before)
+{
+    if (m_late && (unit != m_unit || unitName != m_unitName))
+        reset();
+    m_span = Span();
+    bool isAnew = !findChanges(tasks);
+    if (isAnew) {
+        if (!m_late)
+            m_late.emplace(calendar, 0, unit, unitName);
+        m_unit = unit;
+        m_unitName = unitName;
+        beginAnew(tasks);
+    }
+    for (const int pos : m_changedDates) {
+        const TaskRecord &task = *tasks.list[pos];
+        m_known[pos].start = task.Start;
+        m_known[pos].finish = task.Finish;
+        addWork(pos);
+        const quint32 length = rollup::isDated(task) ? m_late->length(task) : 0;
+        if (length == m_lengths[pos])
+            continue;
+        m_lengths[pos] = length;
+        addTailsBefore(pos, true);
+    }
+    for (const int pos : m_changedValues)
+        addWork(pos);
+    followTails();
+    if (m_projectFinish != m_span.finish && !isAnew) {
+        for (int pos = 0; pos < tasks.list.size(); ++pos)
+            addWork(pos);
+    }
+    m_projectFinish = m_span.finish;
+    m_late->setProjectFinish(m_span.finish);
+
+    bool isSpread = isAnew;
+    for (const int pos : m_toFill) {
+        const TaskRecord &task = *tasks.list[pos];
+        Known &known = m_known[pos];
+        known.hasBegun = hasBegun(task);
+        const bool wasCritical = known.values.isCritical;
+        known.values = rollup::isDated(task) ? m_late->values(task, m_lengths[pos], m_tails[pos]) : Values();
+        isSpread = isSpread || known.values.isCritical != known.isOwnCritical;
+        known.isOwnCritical = known.values.isCritical;
+        known.values.isCritical = wasCritical; // with those below it, which may change yet
+    }
+    if (isSpread)
+        spread();
+    for (const int pos : m_toFill) {
+        TaskRecord &task = *tasks.list[pos];
+        const Values &values = m_known[pos].values;
+        m_isToFill[pos] = 0;
+        if (areIn(task, values))
+            continue;
+        if (before)
+            before(task);
+        task.LateStart = values.lateStart;
+        task.LateFinish = values.lateFinish;
+        task.EarlySlack = values.earlySlack;
+        task.LateSlack = values.lateSlack;
+        task.CriticalPath = values.isCritical;
+    }
+    m_toFill.clear();
+    return m_span;
+}
+}
