@@ -11,6 +11,7 @@
 #include "table/rowcolumndata.h"
 #include <QGuiApplication>
 #include <cstdio>
+#include <malloc.h>
 
 namespace {
 
@@ -84,6 +85,82 @@ void compare(const char *name, int tasks, const Work &prepare, const Work &byHan
     std::fflush(stdout);
 }
 
+double megabytes()
+{
+    constexpr double bytesPerMegabyte = 1024.0 * 1024.0;
+    const struct mallinfo2 info = mallinfo2();
+    return double(info.uordblks + info.hblkhd) / bytesPerMegabyte;
+}
+
+// One stretch by a day that moves few, some or all tasks, with undo and redo; then a full stack of those that
+// move all.
+void measureReach(int tasks)
+{
+    generator::Shape shape;
+    shape.tasks = tasks;
+    generator::Plan plan = generator::plan(shape);
+    int first = 0;
+    while (plan.durationDays[std::size_t(first)] == 0)
+        ++first;
+    for (std::size_t leaf = std::size_t(first) + 1; leaf < plan.parent.size(); ++leaf) {
+        if (plan.durationDays[leaf] > 0 && plan.predecessors[leaf].empty())
+            plan.predecessors[leaf].push_back(first); // everything follows the first leaf
+    }
+    const auto document = generator::document(plan, shape);
+    document->AutoZoom = false;
+    document->taskCollection()->pushAllSuccessors();
+    PlanEdits(*document, QStringLiteral("Edit")).schedule(PlanEdits::AsGiven);
+    ActionManager &actions = document->actionManager();
+    int middle = document->taskCount() / 2;
+    while (document->getTaskInfoAt(middle)->isParent())
+        ++middle;
+    int loose = middle; // the leaf at the end of its chain that can finish latest without consequences
+    qint64 most = -1;
+    for (int pos = 0; pos < document->taskCount(); ++pos) {
+        const KWTaskInfo &task = *document->getTaskInfoAt(pos);
+        const qint64 slack = qint64(task.LateFinish) - task.Finish;
+        if (task.isParent() || !task.Depends.isEmpty() || slack <= most)
+            continue;
+        most = slack;
+        loose = pos;
+    }
+    double days = 10;
+    int moved = 0;
+    const auto stretch = [&](int pos) {
+        TaskValues values;
+        values.length = TaskLength{days, day};
+        moved = PlanEdits(*document, QStringLiteral("Edit"))
+                    .set({document->getTaskInfoAt(pos)->ID}, values)
+                    .moves.size();
+    };
+    const auto longer = [&days] { days += 1; };
+    for (const auto &[name, pos] : {std::pair{"few", loose}, {"the middle", middle}, {"all", first}}) {
+        const double edit = best(runs, longer, [&, at = pos] { stretch(at); });
+        const double undo = best(
+            runs, [&] { actions.redo(); }, [&] { actions.undo(1); });
+        const double redo = best(
+            runs, [&] { actions.undo(1); }, [&] { actions.redo(); });
+        std::printf("%-34s %8d %11.6f s, undo %11.6f s, redo %11.6f s (%d tasks moved)\n",
+                    (std::string("an edit that moves ") + name).c_str(), tasks, edit, undo, redo, moved);
+    }
+    actions.undo(actions.getUndoLevel());
+    const auto stack = [&](const char *name, const Work &edit) {
+        const double before = megabytes();
+        for (int step = 0; step < actions.getUndoLevel(); ++step) {
+            longer();
+            edit();
+        }
+        const double held = megabytes() - before;
+        std::printf("%-34s %8d %11.2f MB = %.1f bytes a moved task\n", name, tasks, held,
+                    held * 1024 * 1024 / actions.getUndoLevel() / std::max(1, moved));
+        actions.undo(actions.getUndoLevel());
+    };
+    stack("60 edits that move all", [&] { stretch(first); });
+    KWTaskInfo &task = *document->getTaskInfoAt(first);
+    stack("60 of them by hand", [&] { stretchByHand(*document, task, days); });
+    std::fflush(stdout);
+}
+
 void measure(int tasks, int assignmentsPerLeaf)
 {
     generator::Shape shape;
@@ -149,6 +226,8 @@ int main(int argc, char **argv)
     QGuiApplication application(argc, argv);
     ActionManager::s_undoString.insert(editType, QStringLiteral("Edit"));
     const int largest = argc > 1 ? std::atoi(argv[1]) : 100000;
+    for (int tasks = 10000; tasks <= largest; tasks *= 10)
+        measureReach(tasks);
     for (const int assignments : {0, 2}) {
         for (int tasks = 10000; tasks <= largest; tasks *= 10)
             measure(tasks, assignments);
