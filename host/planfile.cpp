@@ -150,7 +150,10 @@ int readTables(const QString &path, Console &console, Plan &plan, const ProjectS
     engine.setStart(start);
     // Scheduling tells what it moves; what has no dates is moved by it, too.
     engine.setPlacesBehind(false);
-    const bool isRead = engine.importTexts(tasks, resources.isEmpty() ? nullptr : &resourceText,
+    // Only writing into the file needs its cells again.
+    if (options.inPlace)
+        plan.table = csv::tableOf(tasks);
+    const bool isRead = engine.importTexts(std::move(tasks), resources.isEmpty() ? nullptr : &resourceText,
                                            assignments.isEmpty() ? nullptr : &assignmentText);
     if (!isRead) {
         console.list(path, engine.findings());
@@ -159,9 +162,6 @@ int readTables(const QString &path, Console &console, Plan &plan, const ProjectS
     for (const Finding &finding : engine.findings().list())
         findings.add(finding.place, finding.what, finding.hint);
     plan.imported = engine.imported();
-    // Only writing into the file needs its cells again.
-    if (options.inPlace)
-        plan.table = csv::tableOf(tasks);
     return Console::Done;
 }
 

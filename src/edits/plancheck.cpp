@@ -85,7 +85,8 @@ private:
                 for (const quint32 id : task->*ids)
                     m_pairs.push_back(pair(task->ID, id));
             }
-            std::sort(m_pairs.begin(), m_pairs.end());
+            if (!std::is_sorted(m_pairs.begin(), m_pairs.end()))
+                std::sort(m_pairs.begin(), m_pairs.end());
         }
         bool contains(quint32 who, quint32 whom) const
         {

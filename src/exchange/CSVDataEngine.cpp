@@ -5,6 +5,7 @@
 #include "model/kwdocument.h"
 #include "support/atomicfile.h"
 #include <QFile>
+#include <optional>
 
 namespace {
 
@@ -12,22 +13,24 @@ namespace {
 class TextSource : public sheetrows::Source
 {
 public:
-    explicit TextSource(const csv::Text &text)
-        : m_text(text)
-        , m_rows(text)
+    explicit TextSource(csv::Text text)
+        : m_rowCount(text.rows)
     {
+        m_rows.emplace(text);
     }
-    std::size_t rowsAtMost() const override { return std::size_t(m_text.rows); }
+    std::size_t rowsAtMost() const override { return std::size_t(m_rowCount); }
     // Cells keep their memory from one row to the next.
     bool next(sheetrows::Row &row) override
     {
-        if (!m_rows.next())
+        if (!m_rows || !m_rows->next()) {
+            m_rows.reset(); // the bytes are needed no more
             return false;
+        }
         row.number = ++m_number;
-        row.line = m_rows.line();
+        row.line = m_rows->line();
         std::size_t count = 0;
-        for (std::size_t i = 0; i < m_rows.cells().size(); ++i) {
-            const csv::CellRange &from = m_rows.cells()[i];
+        for (std::size_t i = 0; i < m_rows->cells().size(); ++i) {
+            const csv::CellRange &from = m_rows->cells()[i];
             if (from.size == 0)
                 continue;
             if (count == row.cells.size())
@@ -41,8 +44,8 @@ public:
     }
 
 private:
-    const csv::Text &m_text;
-    csv::Rows m_rows;
+    const int m_rowCount;
+    std::optional<csv::Rows> m_rows;
     int m_number = 0;
 };
 
@@ -93,17 +96,16 @@ bool CSVDataEngine::importFile(const QString &path)
     if (!readText(path, tasks) || (!m_resourceFile.isEmpty() && !readText(m_resourceFile, resources)) ||
         (!m_assignmentFile.isEmpty() && !readText(m_assignmentFile, assignments)))
         return false;
-    return importTexts(tasks, m_resourceFile.isEmpty() ? nullptr : &resources,
+    return importTexts(std::move(tasks), m_resourceFile.isEmpty() ? nullptr : &resources,
                        m_assignmentFile.isEmpty() ? nullptr : &assignments);
 }
 
-bool CSVDataEngine::importTexts(const csv::Text &tasks, const csv::Text *resources,
-                                const csv::Text *assignments)
+bool CSVDataEngine::importTexts(csv::Text tasks, const csv::Text *resources, const csv::Text *assignments)
 {
     m_findings.clear();
     if (!m_document)
         return false;
-    TextSource taskRows(tasks);
+    TextSource taskRows(std::move(tasks));
     const csv::Text none;
     TextSource resourceRows(resources ? *resources : none);
     TextSource assignmentRows(assignments ? *assignments : none);

@@ -46,8 +46,9 @@ public:
     // Replaces the document's tasks, and its resources and assignments where there is a file of resources.
     // The working time stays. False leaves the document as it was; findings() says why.
     bool importFile(const QString &path);
-    // The same from texts that are checked already; null for a file that there is not.
-    bool importTexts(const csv::Text &tasks, const csv::Text *resources, const csv::Text *assignments);
+    // The same from texts that are checked already; null for a file that there is not. That of the tasks is
+    // given up as soon as they are read, if it is handed over.
+    bool importTexts(csv::Text tasks, const csv::Text *resources, const csv::Text *assignments);
     // Writes the tasks, and resources and assignments where files are set for them, each in one step.
     bool exportFile(const QString &path);
 

@@ -1,4 +1,5 @@
 #include "exchange/cellvalues.h"
+#include "engine/time/civildate.h"
 #include "engine/time/duration.h"
 #include "format/dataformat.h"
 #include <QRegularExpression>
@@ -383,31 +384,43 @@ std::optional<Moment> zoned(const QString &text)
     return when.isValid() && shown ? std::optional<Moment>(Moment{*shown}) : std::nullopt;
 }
 
-// The usual form without a pattern's cost: yyyy-MM-dd, perhaps with hh:mm behind a T or a blank.
+}
+
 std::optional<Moment> plainIso(const QString &text)
 {
-    const auto digits = [&text](int at, int count) {
+    const bool hasTime = text.size() == 16;
+    if (!hasTime && text.size() != 10)
+        return std::nullopt;
+    const QChar *const signs = text.constData();
+    const auto digits = [signs](int at, int count) {
         int value = 0;
         for (int i = at; i < at + count; ++i) {
-            if (!isPlainDigit(text.at(i)))
+            if (!isPlainDigit(signs[i]))
                 return -1;
-            value = value * 10 + (text.at(i).unicode() - '0');
+            value = value * 10 + (signs[i].unicode() - '0');
         }
         return value;
     };
-    const bool hasTime = text.size() == 16;
-    if ((!hasTime && text.size() != 10) || text.at(4) != QLatin1Char('-') || text.at(7) != QLatin1Char('-') ||
-        (hasTime && (text.at(13) != QLatin1Char(':') ||
-                     (text.at(10) != QLatin1Char('T') && text.at(10) != QLatin1Char(' ')))))
+    if (signs[4] != QLatin1Char('-') || signs[7] != QLatin1Char('-') ||
+        (hasTime &&
+         (signs[13] != QLatin1Char(':') || (signs[10] != QLatin1Char('T') && signs[10] != QLatin1Char(' ')))))
         return std::nullopt;
     const int hour = hasTime ? digits(11, 2) : 0;
     const int minute = hasTime ? digits(14, 2) : 0;
     if (hour < 0 || minute < 0 || minute > 59 || hour > 24 || (hour == 24 && minute > 0))
         return std::nullopt;
-    const auto shown =
-        momentAt(QDate(digits(0, 4), digits(5, 2), digits(8, 2)), hour * 3600 + minute * 60, hasTime);
-    return shown ? std::optional<Moment>(Moment{*shown}) : std::nullopt;
+    const civildate::Date date{digits(0, 4), digits(5, 2), digits(8, 2)};
+    if (date.year < firstYear || date.year > lastYear || date.month < 1 || date.month > 12 || date.day < 1 ||
+        date.day > civildate::daysInMonth(date.year, date.month))
+        return std::nullopt;
+    // The first day of 1970 is none, see momentAt.
+    const int day = civildate::dayOf(date);
+    if (day < 1)
+        return std::nullopt;
+    return Moment{shownmoment::Moment{day, hour * 3600 + minute * 60, hasTime}};
 }
+
+namespace {
 
 std::optional<Moment> freeForm(const QString &text)
 {

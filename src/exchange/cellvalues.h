@@ -104,6 +104,9 @@ std::optional<Moment> withMonthFirst(const Moment &moment);
 // without one, then the program's own formats. A moment with a zone is turned into local time. Only dates
 // from 1970 to 2105.
 KWGANTT_EXPORT std::optional<Moment> momentOfText(const QString &text);
+// The usual form of it without a pattern's cost, yyyy-MM-dd or with hh:mm behind a T or a blank; nothing for
+// any other.
+std::optional<Moment> plainIso(const QString &text);
 // The moment of a day number; workbooks of the other date system count from 1 January 1904.
 // 2.5 is noon of 1 January 1900. Invalid outside the years that a date can have.
 std::optional<shownmoment::Moment> momentOfDayNumber(double dayNumber, bool is1904);

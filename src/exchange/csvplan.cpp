@@ -252,7 +252,7 @@ QString lengthText(double value, unsigned int unit)
 QString resourceNames(KWDocument &document, const KWTaskInfo &task)
 {
     if (task.isParent())
-        return task.isSubHaveResource(&document) ? QString() : task.Resources;
+        return task.Resources.isEmpty() || task.isSubHaveResource(&document) ? QString() : task.Resources;
     if (!task.isHaveResource())
         return task.Resources;
     QStringList parts;

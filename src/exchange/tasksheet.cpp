@@ -425,6 +425,12 @@ void TaskSheet::readMoment(const KnownCell &known, staged::MomentField field, st
     const Cell &cell = *known.cell;
     if (cell.text.trimmed().isEmpty())
         return;
+    if (!cell.isNumber) {
+        if (const std::optional<cellvalues::Moment> iso = cellvalues::plainIso(cell.text)) {
+            staged.moments[field] = iso->shown;
+            return;
+        }
+    }
     QHash<QString, Read> &reads = m_moments[cell.isNumber ? 1 : 0];
     auto found = reads.constFind(cell.text);
     if (found == reads.constEnd()) {

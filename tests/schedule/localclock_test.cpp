@@ -125,5 +125,7 @@ TEST(CivilDate, isTheCalendarsDate)
     for (int day = LocalClock::firstDay; day <= LocalClock::lastDay; ++day) {
         const civildate::Date date = civildate::of(day);
         ASSERT_EQ(QDate(date.year, date.month, date.day), LocalClock::dateOf(day)) << day;
+        ASSERT_EQ(civildate::dayOf(date), day);
+        ASSERT_EQ(civildate::daysInMonth(date.year, date.month), LocalClock::dateOf(day).daysInMonth());
     }
 }
