@@ -60,9 +60,16 @@ Archive openArchive(const QString &path, int flags)
     int code = 0;
     Archive archive(zip_open(QFile::encodeName(path).constData(), flags, &code));
     if (!archive) {
+        QFile file(path);
+        const bool isCut =
+            code == ZIP_ER_NOZIP && file.open(QIODevice::ReadOnly) && file.read(4) == "PK\x03\x04";
         zip_error_t error;
         zip_error_init_with_code(&error, code);
-        fail(text("no archive: ") + QString::fromUtf8(zip_error_strerror(&error)));
+        if (isCut)
+            fail(text("the archive is cut off at byte ") + QString::number(file.size()) +
+                 text(": the list of its entries is missing"));
+        else
+            fail(text("no archive: ") + QString::fromUtf8(zip_error_strerror(&error)));
         zip_error_fini(&error);
     }
     return archive;

@@ -1,4 +1,5 @@
 #include "exchange/csvplan.h"
+#include "edits/planreasons.h"
 #include "engine/cost/cost.h"
 #include "engine/record/codes.h"
 #include "engine/record/outline.h"
@@ -95,7 +96,8 @@ struct Row
     const ShownDates &dates;
     const KWTaskInfo &task;
     int pos;
-    quint32 start; // of the project
+    quint32 start;   // of the project
+    bool isCritical; // of a summary: a task below it is
 
     qint64 minutes(quint32 to) const { return minutesBetween(start, to); }
     qint64 minutesBetween(quint32 from, quint32 to, qint64 least = std::numeric_limits<qint64>::min()) const
@@ -157,7 +159,7 @@ const Cell cells[] = {
     {{"Milestone", "milestone", true},
      [](const Row &row, Text &out) { addFlag(out, row.task.Milestone && !row.task.isParent()); }},
     {{"Notes", "notes", false}, [](const Row &row, Text &out) { out.add(row.task.Notes); }},
-    {{"Critical", "critical", true}, [](const Row &row, Text &out) { addFlag(out, row.task.CriticalPath); }},
+    {{"Critical", "critical", true}, [](const Row &row, Text &out) { addFlag(out, row.isCritical); }},
     {{"LateStart", "lateStart", false},
      [](const Row &row, Text &out) { out.add(row.dates.lateStart(row.pos)); }},
     {{"LateFinish", "lateFinish", false},
@@ -316,7 +318,13 @@ Rows::Rows(KWDocument &document, const ImportedPlan &imported)
     , m_imported(imported)
     , m_start(imported.start > 0 ? imported.start : document.getMinStartSecs())
     , m_dates(document.workCalendar(), document.outline().list, document.outline().index, imported.evenings)
+    , m_tightest(planreasons::tightest(document))
 {
+}
+
+bool Rows::isCritical(int pos) const
+{
+    return m_document.getTaskInfoAt(m_tightest[std::size_t(pos)])->CriticalPath;
 }
 
 QString Rows::text(int pos, std::size_t column) const
@@ -324,7 +332,7 @@ QString Rows::text(int pos, std::size_t column) const
     QByteArray bytes;
     Text out(bytes);
     cells[column].add({m_document, m_document.workCalendar(), m_imported, m_dates,
-                       *m_document.getTaskInfoAt(pos), pos, m_start},
+                       *m_document.getTaskInfoAt(pos), pos, m_start, isCritical(pos)},
                       out);
     return QString::fromUtf8(bytes);
 }
@@ -343,7 +351,7 @@ bool Rows::write(const std::function<bool(const QByteArray &)> &take) const
     const worktime::WorkCalendar &calendar = m_document.workCalendar();
     const QList<KWTaskInfo *> &tasks = m_document.taskList();
     for (int pos = 0; pos < tasks.size(); ++pos) {
-        const Row row{m_document, calendar, m_imported, m_dates, *tasks[pos], pos, m_start};
+        const Row row{m_document, calendar, m_imported, m_dates, *tasks[pos], pos, m_start, isCritical(pos)};
         for (const Cell &cell : cells) {
             if (&cell != cells)
                 bytes.append(',');

@@ -38,10 +38,13 @@ public:
     const ShownDates &dates() const { return m_dates; }
 
 private:
+    bool isCritical(int pos) const;
+
     KWDocument &m_document;
     const ImportedPlan m_imported;
     const quint32 m_start; // of the project
     const ShownDates m_dates;
+    const std::vector<int> m_tightest; // for each task the leaf that decides whether it is critical
 };
 
 // The resource sheet and the assignments:

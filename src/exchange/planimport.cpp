@@ -12,6 +12,7 @@
 #include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/kwclock.h"
+#include "support/likeness.h"
 #include "table/rowcolumndata.h"
 #include <QMap>
 #include <QPair>
@@ -449,6 +450,30 @@ private:
 
 // ---- Assignments ------------------------------------------------------------------------------------------
 
+// Says that there is no such resource, and which one was probably meant.
+class MissingNames
+{
+public:
+    template <typename Info>
+    QString missing(const QString &name, const QHash<QString, const Info *> &known)
+    {
+        constexpr int mostCompared = 2000; // names of a sheet that a typed one is compared with
+        constexpr int mostGuessed = 100;
+        auto guess = m_guesses.constFind(name);
+        if (guess == m_guesses.constEnd()) {
+            const bool isCompared = known.size() <= mostCompared && m_guesses.size() < mostGuessed;
+            QStringList candidates = isCompared ? known.keys() : QStringList();
+            candidates.sort();
+            guess = m_guesses.insert(name, likeness::nearest(name, candidates));
+        }
+        return text("there is no resource ") + name +
+               (guess->isEmpty() ? QString() : text("; did you mean '") + *guess + text("'?"));
+    }
+
+private:
+    QHash<QString, QString> m_guesses;
+};
+
 // Finds tasks, resources and assignments by their names.
 class Assigner
 {
@@ -490,7 +515,7 @@ public:
             return;
         }
         if (m_rules.assignsOnce && !m_infos.contains(row.resource)) {
-            report(row, text("there is no resource ") + row.resource, text("left out"));
+            report(row, m_names.missing(row.resource, m_infos), text("left out"));
             return;
         }
         if (m_rules.assignsOnce && find(*task, row.resource)) {
@@ -562,7 +587,7 @@ private:
             return *resource;
         const ResourceInfo *info = m_infos.value(row.resource);
         if (!info)
-            report(row, text("there is no resource ") + row.resource, text("assigned without a rate"));
+            report(row, m_names.missing(row.resource, m_infos), text("assigned without a rate"));
         Resource *resource = CostPass::append(task, row.resource, info);
         if (m_met.contains(&task))
             m_assigned.insert({&task, row.resource}, resource);
@@ -596,6 +621,7 @@ private:
     QSet<QString> m_shared;         // names of several tasks
     QMap<QString, int> m_uncertain; // of these, those that rows name; with the last such row
     QHash<QString, const ResourceInfo *> m_infos;
+    MissingNames m_names;
     QSet<const KWTaskInfo *> m_met;
     QHash<QPair<const KWTaskInfo *, QString>, Resource *> m_assigned;
 };
@@ -695,33 +721,82 @@ bool isPlan(const TaskSheet &tasks, Findings *findings)
 }
 
 // What a column of resources' names says, "Ann[50%];Crane", where no sheet of assignments does.
-void assignFromColumn(staged::Plan &plan)
+class ColumnAssigner
 {
-    QSet<QString> known;
-    for (const auto &info : *plan.resources)
-        known.insert(info->name.trimmed());
-    for (std::size_t i = 0; i < plan.tasks.size(); ++i) {
-        for (const QString &written : plan.tasks[i].task->Resources.split(QLatin1Char(';'))) {
-            const QString part = written.trimmed();
-            const int bracket = part.endsWith(QLatin1Char(']')) ? part.lastIndexOf(QLatin1Char('[')) : -1;
-            staged::Assignment assignment;
-            assignment.row = plan.tasks[i].row;
-            assignment.task = int(i);
-            assignment.units = 1;
-            std::optional<double> units;
-            if (bracket > 0) {
-                sheetrows::Cell cell;
-                cell.text = part.mid(bracket + 1).chopped(1);
-                units = cellvalues::fraction(cell, cellvalues::Comma::Decimal);
-            }
-            assignment.resource = (units ? part.left(bracket) : part).trimmed();
-            if (units)
-                assignment.units = *units;
-            if (known.contains(assignment.resource))
-                plan.assignments.push_back(std::move(assignment));
+public:
+    ColumnAssigner(staged::Plan &plan, const QString &place, Findings *findings)
+        : m_plan(plan)
+        , m_place(place)
+        , m_findings(findings)
+    {
+        for (const auto &info : *plan.resources)
+            m_known.insert(info->name.trimmed(), info.get());
+    }
+
+    void run()
+    {
+        // A plan without resources has names for its readers alone.
+        for (std::size_t i = 0; i < m_plan.tasks.size() && !m_known.isEmpty(); ++i) {
+            QSet<QString> names;
+            for (const QString &part : m_plan.tasks[i].task->Resources.split(QLatin1Char(';')))
+                assign(int(i), part.trimmed(), names);
         }
     }
-}
+
+private:
+    void report(int task, const QString &what, const QString &taken)
+    {
+        if (m_findings)
+            m_findings->add(m_place + QLatin1Char(' ') + QString::number(m_plan.tasks[std::size_t(task)].row),
+                            what, taken);
+    }
+
+    void assign(int task, const QString &part, QSet<QString> &names)
+    {
+        constexpr double mostWithoutSign = 10; // of one person nobody means so many
+        const int bracket = part.endsWith(QLatin1Char(']')) ? part.lastIndexOf(QLatin1Char('[')) : -1;
+        const bool hasUnits = bracket > 0 && !m_known.contains(part);
+        staged::Assignment assignment;
+        assignment.row = m_plan.tasks[std::size_t(task)].row;
+        assignment.task = task;
+        assignment.units = 1;
+        assignment.resource = (hasUnits ? part.left(bracket) : part).trimmed();
+        if (assignment.resource.isEmpty())
+            return;
+        const ResourceInfo *info = m_known.value(assignment.resource);
+        if (!info) {
+            report(task, m_names.missing(assignment.resource, m_known),
+                   text("kept as a text that costs nothing"));
+            return;
+        }
+        if (names.contains(assignment.resource)) {
+            report(task, assignment.resource + text(" stands twice"), text("assigned once"));
+            return;
+        }
+        names.insert(assignment.resource);
+        if (hasUnits) {
+            sheetrows::Cell cell;
+            cell.text = part.mid(bracket + 1).chopped(1);
+            const std::optional<double> units = cellvalues::fraction(cell, cellvalues::Comma::Decimal);
+            if (!units || *units < 0)
+                report(task, QLatin1Char('\'') + part + text("' has no units such as 50%"),
+                       text("assigned with 100%"));
+            else
+                assignment.units = *units;
+            if (units && *units >= mostWithoutSign && resourcetypes::isWork(info->type) &&
+                !cellvalues::hasPercentSign(cell))
+                report(task, QLatin1Char('\'') + part + text("' has no sign of percent"),
+                       text("read as ") + QString::number(*units * 100) + QLatin1Char('%'));
+        }
+        m_plan.assignments.push_back(std::move(assignment));
+    }
+
+    staged::Plan &m_plan;
+    const QString m_place;
+    Findings *m_findings;
+    QHash<QString, const ResourceInfo *> m_known;
+    MissingNames m_names;
+};
 }
 
 bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading &reading, Findings *findings,
@@ -764,8 +839,11 @@ bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading
         } else if (sheet == exceltitles::AssignmentSheet && isRead && reader.isKnown()) {
             assignments.finish(plan);
         } else if (sheet == exceltitles::AssignmentSheet && !source && plan.resources && !reading.isExact) {
-            assignFromColumn(plan);
+            ColumnAssigner(plan, tasks.place(), findings).run();
         }
+        if (isRead && reader.hasLostRows() && !reading.isExact && findings)
+            findings->add(book.names[std::size_t(sheet)], text("it has no first row with titles"),
+                          text("not read"));
     }
     if (tasks.isRefused() || resources.isRefused() || assignments.isRefused())
         return false;

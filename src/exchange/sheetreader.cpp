@@ -1,5 +1,4 @@
 #include "exchange/sheetreader.h"
-#include "format/wholenumber.h"
 #include <QLocale>
 #include <algorithm>
 
@@ -19,8 +18,6 @@ QString shown(const QString &text)
 QString textOfPercent(double fraction)
 {
     constexpr double whole = 100;
-    if (isPlainWhole(fraction * whole) && fraction * whole / whole == fraction)
-        return QString::number(qint64(fraction * whole));
     constexpr int digits = 15;
     const QString text = QString::number(fraction * whole, 'g', digits);
     return text.toDouble() / whole == fraction
@@ -60,6 +57,7 @@ bool Reader::read(Source &source)
         for (const Row &each : early)
             readRow(each);
     }
+    m_hasLostRows = !m_hasTitles && !early.empty();
     if (!source.error().isEmpty() && m_findings)
         m_findings->add(m_name, source.error(), QStringLiteral("not read"));
     if (m_isKnown)

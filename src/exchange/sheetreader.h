@@ -66,6 +66,8 @@ public:
     // Whether it has title cells, and all of them empty.
     bool hasBlankTitles() const;
     bool hasTitles() const { return m_hasTitles; }
+    // Rows without a row of titles, which are not read.
+    bool hasLostRows() const { return m_hasLostRows; }
     // A cell could not be read, where that refuses the file.
     bool isRefused() const { return m_isRefused; }
     // The cells of row 1.
@@ -107,6 +109,7 @@ private:
     const QString m_name;
     bool m_isKnown = false;
     bool m_hasTitles = false;
+    bool m_hasLostRows = false;
     bool m_isRefused = false;
     std::vector<Cell> m_titles;
     std::vector<titletable::Known> m_fieldOfColumn; // by column number

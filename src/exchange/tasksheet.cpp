@@ -321,7 +321,7 @@ bool TaskSheet::readPredecessor(const QString &part, QString &refusal)
     bool isNumber = false;
     const quint32 value = cellvalues::withPlainDigits(number).toUInt(&isNumber);
     if (!isNumber || value == 0) {
-        refusal = text("is no task");
+        refusal = hasDot ? text("is an outline code, and no column has these") : text("is no task");
         return false;
     }
     m_wanted.push_back({task, value, isId || (reading().linksById && hasField(columntypes::Id))});
@@ -341,7 +341,7 @@ void TaskSheet::readPredecessors(const Cell &cell, staged::Task &staged)
         list = QString::number(cellvalues::whole(cell).value_or(0));
     const std::size_t first = m_wanted.size();
     if (readNumbers(list)) {
-        leaveOutRepeated(first);
+        leaveOutRepeated(first, cell, staged);
         return;
     }
     QChar quote;
@@ -368,7 +368,7 @@ void TaskSheet::readPredecessors(const Cell &cell, staged::Task &staged)
             ++m_refusedLinks;
         }
     }
-    leaveOutRepeated(first);
+    leaveOutRepeated(first, cell, staged);
 }
 
 // A list of plain numbers, as nearly all are. False, and nothing read, for any other.
@@ -398,14 +398,10 @@ bool TaskSheet::readNumbers(const QString &list)
 }
 
 // Named once, however often; in the order of the file.
-void TaskSheet::leaveOutRepeated(std::size_t first)
+void TaskSheet::leaveOutRepeated(std::size_t first, const Cell &cell, const staged::Task &staged)
 {
-    const auto begin = m_wanted.begin() + std::ptrdiff_t(first);
-    // Most lists ascend.
-    const bool ascends = std::adjacent_find(begin, m_wanted.end(), [](const Wanted &a, const Wanted &b) {
-                             return a.number >= b.number;
-                         }) == m_wanted.end();
-    if (ascends)
+    constexpr std::size_t several = 2;
+    if (m_wanted.size() - first < several)
         return;
     QSet<quint64> named;
     const auto isRepeated = [&named](const Wanted &wanted) {
@@ -414,7 +410,10 @@ void TaskSheet::leaveOutRepeated(std::size_t first)
         named.insert(key);
         return isKnown;
     };
-    m_wanted.erase(std::remove_if(begin, m_wanted.end(), isRepeated), m_wanted.end());
+    const auto end = std::remove_if(m_wanted.begin() + std::ptrdiff_t(first), m_wanted.end(), isRepeated);
+    if (end != m_wanted.end() && !reading().isExact)
+        report(staged.row, &cell, text("names a predecessor twice"), text("taken once"));
+    m_wanted.erase(end, m_wanted.end());
 }
 
 // ---- Moments ----------------------------------------------------------------------------------------------

@@ -62,7 +62,7 @@ private:
     void readHyperlinks(const sheetrows::Cell &cell, staged::Task &staged);
     void readPredecessors(const sheetrows::Cell &cell, staged::Task &staged);
     bool readNumbers(const QString &list);
-    void leaveOutRepeated(std::size_t first);
+    void leaveOutRepeated(std::size_t first, const sheetrows::Cell &cell, const staged::Task &staged);
     // Whether the part is one.
     bool readPredecessor(const QString &part, QString &refusal);
     void readMoment(const sheetrows::KnownCell &known, staged::MomentField field, staged::Task &staged);

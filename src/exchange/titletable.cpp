@@ -2,11 +2,11 @@
 #include "engine/record/codes.h"
 #include "engine/text/columntypes.h"
 #include "engine/time/duration.h"
+#include "support/likeness.h"
 #include <QHash>
 #include <QPair>
 #include <QStringList>
 #include <algorithm>
-#include <vector>
 
 using exceltitles::Sheet;
 
@@ -134,24 +134,6 @@ QMap<int, QString> ownTitles(Sheet sheet)
     }
     return titles;
 }
-
-int distance(const QString &a, const QString &b)
-{
-    std::vector<int> row(std::size_t(b.size()) + 1);
-    for (int j = 0; j <= b.size(); ++j)
-        row[std::size_t(j)] = j;
-    for (int i = 1; i <= a.size(); ++i) {
-        int before = row[0];
-        row[0] = i;
-        for (int j = 1; j <= b.size(); ++j) {
-            const int above = row[std::size_t(j)];
-            const int change = before + (a.at(i - 1) == b.at(j - 1) ? 0 : 1);
-            row[std::size_t(j)] = std::min({change, above + 1, row[std::size_t(j) - 1] + 1});
-            before = above;
-        }
-    }
-    return row.back();
-}
 }
 
 Known find(Sheet sheet, const QString &title, bool isExact)
@@ -180,25 +162,22 @@ Known find(Sheet sheet, const QString &title, bool isExact)
 
 QString nearest(Sheet sheet, const QString &title, bool isExact)
 {
-    constexpr int longest = 40;
-    const QString letters = plain(title);
-    if (letters.isEmpty() || letters.size() > longest)
-        return QString();
     QStringList candidates = ownTitles(sheet).values();
     for (auto word = synonyms().begin(); word != synonyms().end() && !isExact; ++word) {
         if (word.key().first == sheet)
             candidates += word.key().second;
     }
     std::sort(candidates.begin(), candidates.end());
-    QString best;
-    int least = std::max(1, letters.size() / 3) + 1;
-    for (const QString &candidate : qAsConst(candidates)) {
-        const int changes = distance(letters, plain(candidate));
-        if (changes < least) {
-            least = changes;
-            best = candidate;
-        }
+    return likeness::nearest(plain(title), candidates, plain);
+}
+
+QStringList words(Sheet sheet)
+{
+    QStringList lines;
+    for (const Words &words : table) {
+        if (words.sheet == sheet)
+            lines.append(QString::fromUtf8(words.titles));
     }
-    return best;
+    return lines;
 }
 }

@@ -1,7 +1,9 @@
 #pragma once
 #include "engine/record/codes.h"
 #include "exchange/exceltitles.h"
+#include "kwgantt_export.h"
 #include <QString>
+#include <QStringList>
 
 // Which field the title of a column stands for.
 //
@@ -21,7 +23,10 @@ struct Known
 };
 
 // `isExact` finds the program's own titles alone, letter for letter.
-Known find(exceltitles::Sheet sheet, const QString &title, bool isExact);
+KWGANTT_EXPORT Known find(exceltitles::Sheet sheet, const QString &title, bool isExact);
 // The known title that is most like it; empty when none is.
 QString nearest(exceltitles::Sheet sheet, const QString &title, bool isExact);
+// What a person may call the columns: a text for each field, its words joined by blanks, the English ones
+// first.
+KWGANTT_EXPORT QStringList words(exceltitles::Sheet sheet);
 }

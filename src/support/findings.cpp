@@ -6,6 +6,17 @@ const char *Finding::kindName(Kind kind)
     return names[kind];
 }
 
+Finding::Kind Finding::kindOf(const QString &taken)
+{
+    static constexpr const char *nothing[] = {"left out",         "not read",    "no predecessor",  "cut",
+                                              "nothing imported", "not written", "nothing was read"};
+    for (const char *words : nothing) {
+        if (taken.startsWith(QLatin1String(words)))
+            return Lost;
+    }
+    return Changed;
+}
+
 void Findings::add(Finding::Kind kind, const QString &place, const QString &what, const QString &hint)
 {
     ++m_counts[kind];

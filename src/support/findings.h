@@ -21,6 +21,8 @@ struct KWGANTT_EXPORT Finding
     Kind kind = Changed;
 
     static const char *kindName(Kind kind); // "read", "changed", "lost", "refused"
+    // Lost when nothing was taken ("left out", "not read; ..."), else changed.
+    static Kind kindOf(const QString &taken);
 };
 
 // What loading, importing and linking found wrong; a bool cannot say it.
@@ -28,9 +30,10 @@ class KWGANTT_EXPORT Findings
 {
 public:
     void add(Finding::Kind kind, const QString &place, const QString &what, const QString &hint = QString());
-    void add(const QString &place, const QString &what, const QString &hint = QString())
+    // Readers of rows and of project XML say in a few fixed words what they took; these tell the kind.
+    void add(const QString &place, const QString &what, const QString &taken = QString())
     {
-        add(Finding::Changed, place, what, hint);
+        add(Finding::kindOf(taken), place, what, taken);
     }
     // All of another's, those that it dropped counted.
     void append(const Findings &others);
