@@ -1,6 +1,7 @@
 #include "app.h"
 #include "columns.h"
 #include "commands.h"
+#include "csvrewrite.h"
 #include "edit.h"
 #include "edits/planreasons.h"
 #include "exchange/csvplan.h"
@@ -17,6 +18,7 @@
 #include "sheettext.h"
 #include "shown.h"
 #include "support/findings.h"
+#include "support/likeness.h"
 #include "support/zonescope.h"
 #include "taskref.h"
 #include "texts.h"
@@ -53,7 +55,7 @@ int show(Console &console)
     return writePlan(console, plan);
 }
 
-QString summaryText(const Plan &plan, const Style &style, int findings, int early,
+QString summaryText(const Plan &plan, const Style &style, int width, int findings, int early,
                     const QStringList &refusals)
 {
     int summaries = 0;
@@ -65,16 +67,24 @@ QString summaryText(const Plan &plan, const Style &style, int findings, int earl
         milestones += task->Milestone && !task->isParent();
         begun += !task->isParent() && task->Percent > 0;
     }
-    QString text = report::title(plan, shown::Times(plan), style);
+    QString text = report::title(plan, shown::Times(plan), style, width);
     const auto line = [&text](const QString &words) {
         text += QLatin1String("  ") + words + QLatin1Char('\n');
     };
-    line(counted(summaries, "%1 summary task", "%1 summary tasks") + QLatin1String(", ") +
-         counted(plan.document->getMaxLevel(), "%1 level", "%1 levels"));
-    line(counted(milestones, "%1 milestone", "%1 milestones") + QLatin1String(", ") +
-         counted(begun, "%1 task begun", "%1 tasks begun"));
-    line(counted(plan.links, "%1 link", "%1 links") + QLatin1String(", ") +
-         counted(plan.refusedLinks, "%1 refused", "%1 refused"));
+    // What there is none of is not counted up.
+    const auto counts = [&line](const QStringList &parts) {
+        if (!parts.isEmpty())
+            line(parts.join(QLatin1String(", ")));
+    };
+    const auto some = [](int number, const char *one, const char *many) {
+        return number > 0 ? QStringList(counted(number, one, many)) : QStringList();
+    };
+    const int levels = plan.document->getMaxLevel();
+    counts(some(summaries, "%1 summary task", "%1 summary tasks") +
+           some(levels > 1 ? levels : 0, "%1 level", "%1 levels"));
+    counts(some(milestones, "%1 milestone", "%1 milestones") +
+           some(begun, "%1 task begun", "%1 tasks begun"));
+    counts(some(plan.links, "%1 link", "%1 links") + some(plan.refusedLinks, "%1 refused", "%1 refused"));
     if (plan.withoutStart)
         line(counted(plan.withoutStart, "%1 task without a start: scheduling places it",
                      "%1 tasks without a start: scheduling places them"));
@@ -206,16 +216,18 @@ Checked checkFile(Console &console, const QString &file, bool isOneOfMany)
     for (const QString &refusal : qAsConst(refusals))
         if (options.quiet || isOneOfMany)
             console.error(file + QLatin1String(": ") + refusal);
-    checked.line = counted(plan.taskCount(), "%1 task", "%1 tasks") + QLatin1String(", ") +
-                   (findings.isEmpty() && isSound ? t("nothing to complain about")
-                                                  : counted(findings.count(), "%1 finding", "%1 findings"));
+    QStringList parts{counted(plan.taskCount(), "%1 task", "%1 tasks")};
+    if (isSound)
+        parts.append(t("nothing to complain about"));
+    if (!findings.isEmpty())
+        parts.append(counted(findings.count(), "%1 finding", "%1 findings"));
     if (early > 0)
-        checked.line += QLatin1String(", ") + counted(early, "%1 task too early", "%1 tasks too early");
-    if (!refusals.isEmpty())
-        checked.line += QLatin1String(", ") + refusals.join(QLatin1String(", "));
-    checked.data = options.format == Options::Json
-                       ? machine::summaryJson(plan, findings, early, refusals)
-                       : summaryText(plan, styleOf(console), findings.count(), early, refusals).toUtf8();
+        parts.append(counted(early, "%1 task too early", "%1 tasks too early"));
+    checked.line = (parts + refusals).join(QLatin1String(", "));
+    checked.data = options.format == Options::Json ? machine::summaryJson(plan, findings, early, refusals)
+                                                   : summaryText(plan, styleOf(console), console.width(),
+                                                                 findings.count(), early, refusals)
+                                                         .toUtf8();
     return checked;
 }
 
@@ -269,7 +281,7 @@ bool tellRings(Console &console, const Plan &plan)
 bool replaceRows(Console &console, const Plan &plan)
 {
     if (plan.lock.isUnchanged())
-        return console.replaceFile(plan.file, planfile::rewritten(plan), true);
+        return console.replaceFile(plan.file, csvrewrite::withDates(plan), true);
     console.error(t("%1: changed meanwhile by another program; nothing was written").arg(plan.file),
                   t("make the change again"));
     return false;
@@ -397,7 +409,7 @@ int help(Console &console)
     const QString wanted = topic == QLatin1String("check") ? QStringLiteral("load") : topic;
     const helptext::Page page = helptext::page(wanted);
     if (page.usage.isEmpty()) {
-        const QString guess = options::nearest(topic, options::commands());
+        const QString guess = likeness::nearest(topic, options::commands());
         console.error(t("no help on '%1'").arg(topic), guess.isEmpty()
                                                            ? t("'kwgantt help' lists all commands")
                                                            : t("did you mean '%1'?").arg(guess));
@@ -428,7 +440,8 @@ int listFormats(Console &console)
         t("xlsx   reads and writes: a workbook with a sheet each of tasks, resources and assignments") +
         QLatin1Char('\n') + t("xls    reads and writes: the same, at most 65,536 rows") + QLatin1Char('\n') +
         t("mspdi  reads and writes: project XML (.xml), as other planners exchange it") + QLatin1Char('\n') +
-        t("json   writes") + QLatin1Char('\n') + t("table  writes: text for people") + QLatin1Char('\n');
+        t("json   writes") + QLatin1Char('\n') + t("table  writes: text for people") + QLatin1Char('\n') +
+        t("'kwgantt help formats' tells titles, dates and lengths") + QLatin1Char('\n');
     return written(console, text.toUtf8());
 }
 

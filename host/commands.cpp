@@ -72,7 +72,8 @@ int lockForWriting(Console &console, const QString &file, Plan &plan)
 int mayReplace(Console &console, const Plan &plan, const Findings &findings)
 {
     const Options &options = console.options();
-    if (const int lost = findings.count(Finding::Lost); lost > 0 && !options.force) {
+    // Of a CSV plan only the cells that change are written.
+    if (const int lost = findings.count(Finding::Lost); plan.isPackage && lost > 0 && !options.force) {
         if (options.quiet)
             console.list(plan.file, findings);
         console.error(t("%1: not written: %2")
@@ -159,8 +160,8 @@ int loadForChange(Console &console, const QString &file, Plan &plan)
     Findings findings;
     if (const int code = loadPlan(console, file, plan, &findings))
         return code;
-    if (!plan.isPackage && options.inPlace) {
-        console.error(t("%1: only a package can be changed in place").arg(file),
+    if (!plan.isPackage && options.inPlace && plan.table.rows.empty()) {
+        console.error(t("%1: only a package or a CSV plan can be changed in place").arg(file),
                       t("-o PLAN.kwpx writes it as a package"));
         return Console::WrongUse;
     }
@@ -179,6 +180,25 @@ int loadForChange(Console &console, const QString &file, Plan &plan)
     return Console::Done;
 }
 
+namespace {
+
+// The file is read once more, to find out which of its cells have changed.
+int saveRows(Console &console, const Plan &plan)
+{
+    Plan before;
+    Findings findings;
+    if (const int code = planfile::load(plan.file, console, before, findings))
+        return code;
+    scheduleMissing(console, before);
+    plan::refresh(before, progressOf(console));
+    if (plan.lock.isUnchanged())
+        return planfile::saveRows(console, before, plan);
+    console.error(t("%1: changed meanwhile by another program; nothing was written").arg(plan.file),
+                  t("make the change again"));
+    return Console::CannotWrite;
+}
+}
+
 int writeChanged(Console &console, Plan &plan, const QString &summary)
 {
     const Options &options = console.options();
@@ -186,7 +206,10 @@ int writeChanged(Console &console, Plan &plan, const QString &summary)
     plan.minorUnit = plan.document->MinorUnit;
     kwpxfile::describe(plan);
     int code = Console::Done;
-    if (options.inPlace) {
+    if (options.inPlace && !plan.isPackage) {
+        plan::refresh(plan, progressOf(console));
+        code = saveRows(console, plan);
+    } else if (options.inPlace) {
         code = kwpxfile::save(console, plan, plan.file, true) ? Console::Done : Console::CannotWrite;
     } else {
         if (options.format != Options::Package)

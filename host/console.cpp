@@ -115,14 +115,15 @@ void Console::note(const QString &what)
 
 void Console::list(const QString &file, const Findings &findings)
 {
-    int shown = 0;
-    for (const Finding &finding : findings.list()) {
-        if (shown == findingsShown && !m_options.verbose)
-            break;
-        ++shown;
+    const QList<Finding> &list = findings.list();
+    const int shown = m_options.verbose ? list.size() : qMin(list.size(), findingsShown);
+    for (int i = 0; i < shown; ++i) {
+        const Finding &finding = list.at(i);
+        // What holds for several in a row stands below the last of them.
+        const bool isShared = i + 1 < shown && list.at(i + 1).hint == finding.hint;
         error(file + QLatin1String(": ") +
                   (finding.place.isEmpty() ? QString() : finding.place + QLatin1String(": ")) + finding.what,
-              finding.hint);
+              isShared ? QString() : finding.hint);
     }
     if (findings.count() > shown)
         error(t("%1: %2 more like these").arg(file, grouped(findings.count() - shown)),

@@ -172,12 +172,31 @@ QStringList sheetOf(const Plan &plan)
     return texts;
 }
 
-QStringList columnsOf(const Plan &plan)
+// In their order; those that are shown, or all.
+QStringList columnsOf(const Plan &plan, bool isAll)
 {
     QStringList titles;
     for (const RowColumnData::ColumnData *column : plan.document->rowColumnData()->columns())
-        titles.append(QString(column->title) + (column->isHide.value() ? t(" (hidden)") : QString()));
+        if (isAll || !column->isHide.value())
+            titles.append(column->title);
     return titles;
+}
+
+// The options that files keep, by what the edits call them. The scale is that of packages alone.
+QVector<QPair<const char *, QString>> optionsOf(const Plan &plan)
+{
+    const KWDocument &document = *plan.document;
+    const auto flag = [](bool value) { return value ? t("yes") : t("no"); };
+    return {{"unit", datetext::durationText(1, document.ProjectUnit)},
+            {"unit width", QString::number(document.UnitWidth)},
+            {"auto zoom", flag(document.AutoZoom)},
+            {"auto progress", flag(document.Auto)},
+            {"theme", QString::number(document.ThemeIndex)},
+            {"baseline cost of the plan", sheettext::numberText(document.BaselineCost)},
+            {"start of the plan", momentText(plan, document.StartDate)},
+            {"finish of the plan", momentText(plan, document.FinishDate)},
+            {"scale",
+             plan.isPackage ? QStringLiteral("%1/%2").arg(plan.majorUnit).arg(plan.minorUnit) : QString()}};
 }
 
 // The places of the older tasks whose order among each other is another one: all but a longest row of them
@@ -215,6 +234,9 @@ public:
         , m_oldTimes(before)
         , m_newTimes(after)
         , m_older(partnersOf(before, after))
+        , m_isCalendarChanged(exceptionsOf(before) != exceptionsOf(after) ||
+                              workingtime::describe(workingtime::of(*before.document)) !=
+                                  workingtime::describe(workingtime::of(*after.document)))
     {
     }
 
@@ -243,8 +265,18 @@ public:
                     workingtime::describe(workingtime::of(*m_after.document)));
         compareLists("exception", "calendar", exceptionsOf(m_before), exceptionsOf(m_after));
         compareLists("resource", "sheet", sheetOf(m_before), sheetOf(m_after));
-        compareText("columns", "table", columnsOf(m_before).join(QLatin1String(", ")),
-                    columnsOf(m_after).join(QLatin1String(", ")));
+        compareText("order of the columns", "table", columnsOf(m_before, true).join(QLatin1String(", ")),
+                    columnsOf(m_after, true).join(QLatin1String(", ")));
+        const QStringList wereShown = columnsOf(m_before, false);
+        const QStringList areShown = columnsOf(m_after, false);
+        addColumns(t("columns now shown: %1"), areShown, wereShown);
+        addColumns(t("columns now hidden: %1"), wereShown, areShown);
+        const auto was = optionsOf(m_before);
+        const auto is = optionsOf(m_after);
+        const bool areOfOneKind = m_before.isPackage == m_after.isPackage;
+        for (int i = 0; i < was.size(); ++i)
+            if (areOfOneKind || !(was[i].second.isEmpty() || is[i].second.isEmpty()))
+                compareText(was[i].first, "options", was[i].second, is[i].second);
         return m_changes;
     }
 
@@ -257,6 +289,13 @@ private:
     {
         if (was != is)
             add("changed", topic, nobody, nobody, t(name) + QLatin1Char(' ') + arrow(was, is));
+    }
+    void addColumns(const QString &words, QStringList titles, const QStringList &others)
+    {
+        for (const QString &title : others)
+            titles.removeAll(title);
+        if (!titles.isEmpty())
+            add("changed", "table", nobody, nobody, words.arg(titles.join(QLatin1String(", "))));
     }
     void compareLists(const char *name, const char *topic, const QStringList &was, const QStringList &is)
     {
@@ -288,17 +327,33 @@ private:
         }
     }
 
+    // Where nothing of the task itself has changed the dates: it begins on a day that is off now, or its
+    // length takes another time.
+    QString calendarReason(int old, int pos, bool isStartMoved) const
+    {
+        if (!m_isCalendarChanged || m_after.task(pos)->isParent())
+            return QString();
+        const QDate start = m_oldTimes.start(old).date;
+        const bool isOff = !KWTaskInfo::isWorkday(m_after.document.get(), start.startOfDay());
+        const auto length = values[0].text;
+        const bool isReason = isStartMoved ? isOff : length(m_before, old) == length(m_after, pos) && !isOff;
+        return isReason ? t(" (by the calendar)") : QString();
+    }
+
     void compareDates(int old, int pos)
     {
         const shown::Clock oldFinish = m_oldTimes.finish(old);
         const shown::Clock newFinish = m_newTimes.finish(pos);
-        if (oldFinish < newFinish)
-            add("slipped", "dates", old, pos, t("finish %1").arg(arrow(oldFinish.text(), newFinish.text())));
-        else if (oldFinish != newFinish)
-            add("moved", "dates", old, pos, t("finish %1").arg(arrow(oldFinish.text(), newFinish.text())));
-        if (m_oldTimes.start(old) != m_newTimes.start(pos))
+        const bool isStartMoved = m_oldTimes.start(old) != m_newTimes.start(pos);
+        const QString reason = calendarReason(old, pos, isStartMoved);
+        if (oldFinish != newFinish)
+            add(oldFinish < newFinish ? "slipped" : "moved", "dates", old, pos,
+                t("finish %1").arg(arrow(oldFinish.text(), newFinish.text())) +
+                    (isStartMoved ? QString() : reason));
+        if (isStartMoved)
             add("moved", "dates", old, pos,
-                t("start %1").arg(arrow(m_oldTimes.start(old).text(), m_newTimes.start(pos).text())));
+                t("start %1").arg(arrow(m_oldTimes.start(old).text(), m_newTimes.start(pos).text())) +
+                    reason);
     }
 
     const Plan &m_before;
@@ -306,6 +361,7 @@ private:
     shown::Times m_oldTimes;
     shown::Times m_newTimes;
     std::vector<int> m_older;
+    const bool m_isCalendarChanged;
     std::vector<Change> m_changes;
 };
 }

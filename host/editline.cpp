@@ -1,4 +1,5 @@
 #include "editline.h"
+#include "support/likeness.h"
 #include "texts.h"
 
 namespace editline {
@@ -84,7 +85,7 @@ bool pairs(const QStringList &words, const QStringList &names, Pairs &result, op
     for (int i = 0; i < words.size(); ++i) {
         const QString name = nameOf(words.at(i));
         if (!names.contains(name)) {
-            const QString guess = options::nearest(name, names);
+            const QString guess = likeness::nearest(name, names);
             fault = {t("no field '%1'").arg(name),
                      guess.isEmpty() ? t("there are %1").arg(names.join(QLatin1String(", ")))
                                      : t("did you mean '%1'?").arg(guess)};

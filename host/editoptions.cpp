@@ -81,20 +81,23 @@ struct OptionField
     const char *name;
     const char *value;
     bool (*read)(KWDocument &, const QString &, PlanOptions &);
+    const char *meaning = nullptr; // of a value that stands for others
 };
 
 constexpr int most = 1000000000;
 
 constexpr OptionField optionTable[] = {
     {"unit", "y|q|mon|w|d|h|min", readUnit},
-    {"start", "DATE", readDate<&PlanOptions::startDate>},
-    {"finish", "DATE", readDate<&PlanOptions::finishDate>},
+    {"start", "DATE", readDate<&PlanOptions::startDate>, "a date such as 2026-02-28"},
+    {"finish", "DATE", readDate<&PlanOptions::finishDate>, "a date such as 2026-02-28"},
     {"scale", "week/day", readScale},
-    {"unit-width", "PIXELS", readNumber<qint32, &PlanOptions::unitWidth, 1, 10000>},
+    {"unit-width", "PIXELS", readNumber<qint32, &PlanOptions::unitWidth, 1, 10000>,
+     "a number from 1 to 10,000"},
     {"auto-zoom", "yes|no", readFlag<&PlanOptions::autoZoom>},
     {"auto-progress", "yes|no", readFlag<&PlanOptions::autoProgress>},
-    {"theme", "NUMBER", readNumber<qint32, &PlanOptions::theme, 0, 1000>},
-    {"baseline-cost", "NUMBER", readNumber<double, &PlanOptions::baselineCost, -most, most>},
+    {"theme", "NUMBER", readNumber<qint32, &PlanOptions::theme, 0, 1000>, "a number from 0 to 1,000"},
+    {"baseline-cost", "NUMBER", readNumber<double, &PlanOptions::baselineCost, -most, most>,
+     "an amount such as 12000.50"},
 };
 }
 
@@ -111,7 +114,7 @@ bool setHours(Edit &edit)
 {
     WorkingTime written;
     if (!workingtime::parseHours(edit.words.first(), written))
-        return edit.refuse(t("'%1' are no working hours").arg(edit.words.first()),
+        return edit.refuse(workingtime::hoursFault(edit.words.first()),
                            t("write it as 08:00-12:00,13:00-17:00"));
     QVector<DayHours> hours;
     for (const WorkingTime::Interval &interval : written.hours)
@@ -157,8 +160,9 @@ bool setOptions(Edit &edit)
     for (const auto &[name, text] : pairs) {
         const OptionField &option = optionTable[names.indexOf(name)];
         if (!option.read(edit.document, text, options))
-            return edit.refuse(t("'%1' is no value for '%2'").arg(text, name),
-                               t("possible: %1").arg(QLatin1String(option.value)));
+            return edit.refuse(
+                t("'%1' is no value for '%2'").arg(text, name),
+                t("possible: %1").arg(option.meaning ? t(option.meaning) : QLatin1String(option.value)));
     }
     return edit.take(edit.edits.setOptions(options));
 }

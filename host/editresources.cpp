@@ -3,6 +3,7 @@
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
 #include "sheettext.h"
+#include "support/likeness.h"
 #include "taskref.h"
 #include "texts.h"
 
@@ -18,7 +19,7 @@ ResourceInfo *entryNamed(Edit &edit, const QString &name)
     QStringList names;
     for (const ResourceInfo *info : qAsConst(edit.document.resourceInfoData()->infos))
         names.append(info->name.trimmed());
-    const QString guess = options::nearest(name, names);
+    const QString guess = likeness::nearest(name, names);
     edit.refuse(t("no resource '%1'").arg(name),
                 guess.isEmpty() ? t("'resource add %1' makes it").arg(editline::quoted(name))
                                 : t("did you mean '%1'?").arg(guess));

@@ -1,6 +1,7 @@
 #include "edit.h"
 #include "editing/actionmanager.h"
 #include "model/kwtaskinfo.h"
+#include "support/likeness.h"
 #include "taskref.h"
 #include "texts.h"
 #include <algorithm>
@@ -37,7 +38,8 @@ int rowOf(Edit &edit, quint32 id)
 // Whether all of them have a row.
 bool areShown(Edit &edit)
 {
-    return std::all_of(edit.tasks.begin(), edit.tasks.end(), [&](quint32 id) { return rowOf(edit, id) >= 0; });
+    return std::all_of(edit.tasks.begin(), edit.tasks.end(),
+                       [&](quint32 id) { return rowOf(edit, id) >= 0; });
 }
 
 // Name and fields of a task that is going to be made.
@@ -107,9 +109,8 @@ bool setValues(Edit &edit, const editline::Pairs &pairs)
     const EditAnswer answer = edit.edits.set({task.ID}, values);
     if (answer.refusal != EditRefusal::FinishBeforeStart)
         return edit.take(answer);
-    const auto finish = std::find_if(pairs.begin(), pairs.end(), [](const auto &pair) {
-        return pair.first == QLatin1String("finish");
-    });
+    const auto finish = std::find_if(pairs.begin(), pairs.end(),
+                                     [](const auto &pair) { return pair.first == QLatin1String("finish"); });
     return edit.refuse(
         t("'%1' lies before the start of %2").arg(finish->second, taskref::named(edit.document, task.ID)),
         answer.hint());
@@ -128,7 +129,8 @@ bool set(Edit &edit)
 
 bool unlink(Edit &edit)
 {
-    return edit.take(edit.tasks.size() > 1 ? edit.edits.unlink(edit.tasks) : edit.edits.unlinkAll(edit.tasks));
+    return edit.take(edit.tasks.size() > 1 ? edit.edits.unlink(edit.tasks)
+                                           : edit.edits.unlinkAll(edit.tasks));
 }
 
 bool schedule(Edit &edit)
@@ -165,9 +167,9 @@ bool redo(Edit &edit)
 
 bool paste(Edit &edit)
 {
-    return areShown(edit) && edit.take(edit.tasks.isEmpty()
-                                           ? edit.edits.paste()
-                                           : edit.edits.paste(edit.tasks.first(), PlanEdits::Above));
+    return areShown(edit) &&
+           edit.take(edit.tasks.isEmpty() ? edit.edits.paste()
+                                          : edit.edits.paste(edit.tasks.first(), PlanEdits::Above));
 }
 
 bool pasteUnder(Edit &edit)
@@ -193,9 +195,9 @@ struct Verb
 constexpr int any = -1;
 
 constexpr Verb verbs[] = {
-    {"add", NoTask, 0, any, add, "[NAME] [FIELD=VALUE...]",
-     "a task at the end, beside the last one"},
-    {"insert", OneTask, 0, any, insert<PlanEdits::Above>, "TASK [NAME] [FIELD=VALUE...]", "a task above TASK"},
+    {"add", NoTask, 0, any, add, "[NAME] [FIELD=VALUE...]", "a task at the end, beside the last one"},
+    {"insert", OneTask, 0, any, insert<PlanEdits::Above>, "TASK [NAME] [FIELD=VALUE...]",
+     "a task above TASK"},
     {"sub", OneTask, 0, any, insert<PlanEdits::FirstChild>, "TASK [NAME] [FIELD=VALUE...]",
      "a task as the first one below TASK"},
     {"remove", SomeTasks, 0, 0, onShownTasks<&PlanEdits::remove>, "TASK...",
@@ -209,7 +211,8 @@ constexpr Verb verbs[] = {
     {"rename", OneTask, 1, 1, rename, "TASK NAME", ""},
     {"set", OneTask, 1, any, set, "TASK FIELD=VALUE...",
      "dates push what waits for the task; the fields are listed below"},
-    {"link", TaskAndMore, 0, 0, onTasks<&PlanEdits::link>, "TASK TASK...", "each one waits for the one before it"},
+    {"link", TaskAndMore, 0, 0, onTasks<&PlanEdits::link>, "TASK TASK...",
+     "each one waits for the one before it"},
     {"unlink", SomeTasks, 0, 0, unlink, "TASK [TASK...]",
      "the links from each to the next; of one task, all its links"},
     {"assign", OneTask, 1, 2, assign, "TASK RESOURCE [UNITS]",
@@ -217,34 +220,31 @@ constexpr Verb verbs[] = {
     {"unassign", OneTask, 0, 1, unassign, "TASK [RESOURCE]", "one resource, or all"},
     {"resource add", NoTask, 1, any, addResource, "NAME [FIELD=VALUE...]",
      "type=work|material rate=50/h overtime=70/h per-use=20 units=100% group= email= notes="},
-    {"resource set", NoTask, 2, any, setResource, "NAME FIELD=VALUE...",
-     "the assignments follow"},
+    {"resource set", NoTask, 2, any, setResource, "NAME FIELD=VALUE...", "the assignments follow"},
     {"resource remove", NoTask, 1, 1, removeResource, "NAME", "with its assignments"},
-    {"resource rename", NoTask, 2, 2, renameResource, "NAME NAME",
-     "the assignments follow"},
+    {"resource rename", NoTask, 2, 2, renameResource, "NAME NAME", "the assignments follow"},
     {"calendar days", NoTask, 1, 1, setDays, "Mon-Fri",
      "tasks keep their working time and move off the days off"},
     {"calendar hours", NoTask, 1, 1, setHours, "08:00-12:00,13:00-17:00", ""},
     {"calendar holiday", NoTask, 1, 2, addHoliday, "DATE[..DATE] [NAME]", "days off"},
     {"calendar workday", NoTask, 1, 2, addWorkday, "DATE[..DATE] [NAME]",
      "days that work, whatever the week says"},
-    {"calendar remove", NoTask, 1, 1, removeException, "DATE",
-     "the holiday or workday that holds the date"},
-    {"option", NoTask, 1, any, setOptions, "OPTION=VALUE...",
-     "the options are listed below"},
+    {"calendar remove", NoTask, 1, 1, removeException, "DATE", "the holiday or workday that holds the date"},
+    {"option", NoTask, 1, any, setOptions, "OPTION=VALUE...", "the options are listed below"},
     {"column", NoTask, 2, 2, setColumn, "TITLE show|hide|PIXELS", "a column of the task table"},
     {"baseline set", AnyTasks, 0, 0, onTasks<&PlanEdits::setBaseline>, "[TASK...]",
      "remembers dates and cost, of all tasks or of branches"},
     {"baseline clear", AnyTasks, 0, 0, onTasks<&PlanEdits::clearBaseline>, "[TASK...]", ""},
     {"schedule", NoTask, 0, 0, schedule, "", "moves every task behind its predecessors"},
-    {"copy", SomeTasks, 0, 0, onShownTasks<&PlanEdits::copy>, "TASK...", "the tasks with all that is below them"},
+    {"copy", SomeTasks, 0, 0, onShownTasks<&PlanEdits::copy>, "TASK...",
+     "the tasks with all that is below them"},
     {"cut", SomeTasks, 0, 0, onShownTasks<&PlanEdits::cut>, "TASK...", "the same, and removes them"},
-    {"paste", MaybeTask, 0, 0, paste, "[TASK]",
-     "above TASK, or at the end, with new IDs and names"},
+    {"paste", MaybeTask, 0, 0, paste, "[TASK]", "above TASK, or at the end, with new IDs and names"},
     {"paste under", OneTask, 0, 0, pasteUnder, "TASK",
      "the same as the last tasks below TASK; hidden when it is collapsed"},
-    {"undo", NoTask, 0, 1, undo, "[N]", "takes the last N edits back, of the 60 that are kept"},
-    {"redo", NoTask, 0, 1, redo, "[N]", "makes them again"},
+    {"undo", NoTask, 0, 1, undo, "[N]",
+     "in a script: takes the last N edits above it back, of the 60 that are kept"},
+    {"redo", NoTask, 0, 1, redo, "[N]", "in a script: makes them again"},
 };
 
 // "resource add" is one verb in two words.
@@ -307,7 +307,8 @@ QString lossText(const KWDocument &document, const EditLoss &loss)
     const bool isSummary = task && task->isParent();
     switch (loss.kind) {
     case EditLoss::Assignment:
-        return (isSummary ? t("%1 is a summary now and loses its resource '%2'") : t("%1 loses its resource '%2'"))
+        return (isSummary ? t("%1 is a summary now and loses its resource '%2'")
+                          : t("%1 loses its resource '%2'"))
             .arg(name, loss.name);
     case EditLoss::Baseline:
         return t("%1 is a summary now and loses its baseline").arg(name);
@@ -323,9 +324,9 @@ bool run(Plan &plan, const QStringList &words, options::Fault &fault, QStringLis
     int length = 0;
     const Verb *verb = verbNamed(words, length);
     if (!verb) {
-        QString guess = options::nearest(words.mid(0, 2).join(QLatin1Char(' ')), verbNames());
+        QString guess = likeness::nearest(words.mid(0, 2).join(QLatin1Char(' ')), verbNames());
         if (guess.isEmpty())
-            guess = options::nearest(words.value(0), verbNames());
+            guess = likeness::nearest(words.value(0), verbNames());
         fault = {t("unknown edit '%1'").arg(words.value(0)),
                  guess.isEmpty() ? t("'kwgantt help edit' lists all edits")
                                  : t("did you mean '%1'? 'kwgantt help edit' lists all edits").arg(guess)};

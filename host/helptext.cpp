@@ -1,5 +1,6 @@
 #include "helptext.h"
 #include "edit.h"
+#include "exchange/titletable.h"
 #include "options.h"
 #include "texts.h"
 #include "textwidth.h"
@@ -196,13 +197,35 @@ Page parsed(const QString &text)
     return page;
 }
 
+namespace {
+
+// What the columns may be called, from the table that reads them.
+QString titlesText()
+{
+    QString text;
+    const std::pair<exceltitles::Sheet, QString> sheets[] = {
+        {exceltitles::TaskSheet, t("Titles of tasks:")},
+        {exceltitles::ResourceSheet, t("Titles of resources:")},
+        {exceltitles::AssignmentSheet, t("Titles of assignments:")}};
+    for (const auto &[sheet, heading] : sheets) {
+        text += heading + QLatin1Char('\n');
+        for (const QString &words : titletable::words(sheet))
+            text += QLatin1String("  ") + words.section(QLatin1Char(' '), 0, 0) + QLatin1String("  ") +
+                    words.section(QLatin1Char(' '), 1) + QLatin1Char('\n');
+        text += QLatin1Char('\n');
+    }
+    return text;
+}
+}
+
 Page page(const QString &command)
 {
     const QMap<QString, QString> &topics = texts::current().help;
     if (!topics.contains(command))
         return Page();
-    Page result = parsed(topics.value(command) +
-                         (command == QLatin1String("edit") ? editverbs::helpText() : QString()));
+    Page result = parsed(topics.value(command) + (command == QLatin1String("edit") ? editverbs::helpText()
+                                                  : command == QLatin1String("formats") ? titlesText()
+                                                                                        : QString()));
     if (!command.isEmpty())
         return result;
     QVector<Block> commands{{Block::Heading, QString(), t("Commands")}};

@@ -1,9 +1,8 @@
 #include "options.h"
+#include "support/likeness.h"
 #include "texts.h"
 #include <QHash>
 #include <algorithm>
-#include <numeric>
-#include <vector>
 
 namespace options {
 
@@ -69,7 +68,8 @@ struct Option
     const char *letter; // one-letter form; empty when there is none
     const char *value;  // what stands for the value in messages; null: the option takes none
     unsigned group;
-    Setter set; // false: the value is not understood
+    Setter set;                    // false: the value is not understood
+    const char *meaning = nullptr; // what may stand for the value; null: `value` says it
 };
 
 bool setWhen(Options::When &target, const QString &value)
@@ -148,7 +148,7 @@ constexpr const char *themes = "light|dark|print|contrast";
 constexpr const char *labels = "none|name|resources|dates";
 constexpr const char *pictureParts = "today|baseline|slack|critical|links|legend|repeat|background";
 constexpr const char *differences =
-    "tasks|outline|names|dates|progress|cost|resources|links|texts|baseline|calendar|sheet|table";
+    "tasks|outline|names|dates|progress|cost|resources|links|texts|baseline|calendar|sheet|table|options";
 constexpr double mostRatio = 4;
 
 constexpr int narrowest = 20;
@@ -247,7 +247,8 @@ const Option optionTable[] = {
          return !v.isEmpty();
      }},
     {"width", "", "N", Showing,
-     [](Options &o, const QString &v) { return setNumber(o.width, v, narrowest, widest); }},
+     [](Options &o, const QString &v) { return setNumber(o.width, v, narrowest, widest); },
+     "a whole number from 20 to 10,000"},
     {"scale", "", "auto|hour|day|week|month|quarter|year", Showing | Drawing, setScale},
     {"range", "", "DATE..DATE", Showing | Drawing,
      [](Options &o, const QString &v) {
@@ -255,7 +256,8 @@ const Option optionTable[] = {
          return !v.isEmpty();
      }},
     {"level", "", "N", Showing | Drawing,
-     [](Options &o, const QString &v) { return setNumber(o.level, v, 1, deepest); }},
+     [](Options &o, const QString &v) { return setNumber(o.level, v, 1, deepest); },
+     "a whole number from 1 to 1,000"},
     {"all", "", nullptr, Showing, [](Options &o, const QString &) { return o.all = true; }},
     {"critical", "", nullptr, Showing | Drawing, [](Options &o, const QString &) { return o.critical = true; }},
     {"no-bars", "", nullptr, Showing,
@@ -314,7 +316,8 @@ const Option optionTable[] = {
      }},
     {"trim", "", nullptr, Drawing, [](Options &o, const QString &) { return o.drawing.trim = true; }},
     {"unit-width", "", "N", Drawing,
-     [](Options &o, const QString &v) { return setNumber(o.drawing.unitWidth, v, 1, widest); }},
+     [](Options &o, const QString &v) { return setNumber(o.drawing.unitWidth, v, 1, widest); },
+     "a whole number from 1 to 10,000"},
     {"paper", "", "A4|A3|297x210mm", Drawing,
      [](Options &o, const QString &v) {
          o.drawing.paper = v;
@@ -333,7 +336,8 @@ const Option optionTable[] = {
          o.drawing.fit = v;
          return !v.isEmpty();
      }},
-    {"zoom", "", "N", Drawing, [](Options &o, const QString &v) { return setNumber(o.drawing.zoom, v, 10, 400); }},
+    {"zoom", "", "N", Drawing, [](Options &o, const QString &v) { return setNumber(o.drawing.zoom, v, 10, 400); },
+     "percent, from 10 to 400"},
     {"ratio", "", "1..4", Drawing,
      [](Options &o, const QString &v) {
          bool ok = false;
@@ -386,13 +390,15 @@ const Option optionTable[] = {
          v.toDouble(&ok);
          o.mostCost = v;
          return (o.check = true) && ok;
-     }},
+     },
+     "an amount such as 12000.50"},
     {"no-critical-slip", "", "PERCENT", Gating,
      [](Options &o, const QString &v) {
          bool ok = false;
          o.mostSlip = v.endsWith(QLatin1Char('%')) ? v.chopped(1) : v;
          return o.mostSlip.toDouble(&ok) >= 0 && ok && (o.check = true);
-     }},
+     },
+     "a number from 0, such as 5%"},
     {"only", "", differences, Comparing,
      [](Options &o, const QString &v) {
          o.only += v.split(QLatin1Char(','));
@@ -452,24 +458,6 @@ QString helpHint(const QString &command)
                              : t("'kwgantt help %1' lists its options").arg(command);
 }
 
-// How many letters must be put in, taken out or replaced to make one word of the other.
-int editDistance(const QString &a, const QString &b)
-{
-    std::vector<int> row(std::size_t(b.size()) + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (int i = 1; i <= a.size(); ++i) {
-        int diagonal = row[0];
-        row[0] = i;
-        for (int j = 1; j <= b.size(); ++j) {
-            const std::size_t at = std::size_t(j);
-            const int replaced = diagonal + (a.at(i - 1) != b.at(j - 1));
-            diagonal = row[at];
-            row[at] = std::min({replaced, row[at] + 1, row[at - 1] + 1});
-        }
-    }
-    return row.back();
-}
-
 struct Given
 {
     const Option *option;
@@ -516,7 +504,7 @@ bool split(const QStringList &words, Words &result, Fault &fault)
         }
         const Option *option = isLong == (name.size() > 1) ? optionNamed(name) : nullptr;
         if (!option) {
-            const QString guess = nearest(written, optionNames(~0u));
+            const QString guess = likeness::nearest(written, optionNames(~0u));
             return fail(fault, t("unknown option '%1'").arg(written),
                         guess.isEmpty() ? helpHint(QString()) : t("did you mean '%1'?").arg(guess));
         }
@@ -598,7 +586,7 @@ bool parse(const QStringList &arguments, Options &result, Fault &fault)
     const QString name = rest.isEmpty() ? QStringLiteral("help") : rest.takeFirst();
     const Command *command = commandNamed(name);
     if (!command) {
-        const QString guess = nearest(name, commands());
+        const QString guess = likeness::nearest(name, commands());
         return fail(fault, t("unknown command '%1'").arg(name),
                     guess.isEmpty() ? helpHint(QString())
                                     : t("did you mean '%1'? 'kwgantt help' lists all commands").arg(guess));
@@ -613,7 +601,9 @@ bool parse(const QStringList &arguments, Options &result, Fault &fault)
                         helpHint(result.command));
         if (!entry.option->set(result, entry.value))
             return fail(fault, t("'%1' is no value for '%2'").arg(entry.value, entry.written),
-                        t("possible: %1").arg(QLatin1String(entry.option->value)));
+                        t("possible: %1")
+                            .arg(entry.option->meaning ? t(entry.option->meaning)
+                                                       : QLatin1String(entry.option->value)));
     }
     if (rest.size() < command->leastArguments)
         return fail(fault, t("'%1' needs more: %2").arg(name, QLatin1String(command->arguments)),
@@ -666,22 +656,5 @@ QVector<OptionInfo> optionsOf(const QString &name)
 {
     const Command *command = commandNamed(name);
     return command ? optionsIn(command->groups) : QVector<OptionInfo>();
-}
-
-QString nearest(const QString &word, const QStringList &candidates)
-{
-    constexpr int longest = 40;
-    if (word.size() > longest)
-        return QString();
-    QString best;
-    int bestDistance = qMax(1, word.size() / 3) + 1;
-    for (const QString &candidate : candidates) {
-        const int distance = editDistance(word.toLower(), candidate);
-        if (distance < bestDistance) {
-            bestDistance = distance;
-            best = candidate;
-        }
-    }
-    return best;
 }
 }

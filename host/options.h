@@ -128,6 +128,4 @@ QVector<CommandInfo> commandInfos();
 QVector<OptionInfo> allOptions();
 // Of a command or an alias.
 QVector<OptionInfo> optionsOf(const QString &command);
-// The candidate that `word` was probably meant to be; empty when none is close.
-QString nearest(const QString &word, const QStringList &candidates);
 }

@@ -1,5 +1,7 @@
 #include "planfile.h"
 #include "console.h"
+#include "csvrewrite.h"
+#include "diff.h"
 #include "exchange/CSVDataEngine.h"
 #include "exchange/csvplan.h"
 #include "kwpxfile.h"
@@ -8,12 +10,14 @@
 #include "resources/resourceinfodata.h"
 #include "shown.h"
 #include "support/findings.h"
+#include "taskref.h"
 #include "texts.h"
 #include "workbookfile.h"
 #include "workingtime.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QTemporaryDir>
 
 namespace planfile {
 
@@ -85,7 +89,9 @@ int readCalendar(const QString &planPath, Console &console, Plan &plan, ProjectS
     if (!options.days.isEmpty() && !workingtime::parseDays(options.days, time))
         return wrongOption(console, "--days", options.days, t("write it as Mon-Fri or Mon-Thu,Sat"));
     if (!options.hours.isEmpty() && !workingtime::parseHours(options.hours, time))
-        return wrongOption(console, "--hours", options.hours, t("write it as 08:00-12:00,13:00-17:00"));
+        return wrongOption(console, "--hours", options.hours,
+                           workingtime::hoursFault(options.hours) + QLatin1String("; ") +
+                               t("write it as 08:00-12:00,13:00-17:00"));
     for (const QString &holiday : options.holidays)
         if (!workingtime::parseHoliday(holiday, time))
             return wrongOption(console, "--holiday", holiday,
@@ -159,54 +165,9 @@ int readTables(const QString &path, Console &console, Plan &plan, const ProjectS
         console.list(path, engine.findings());
         return Console::CannotRead;
     }
-    for (const Finding &finding : engine.findings().list())
-        findings.add(finding.place, finding.what, finding.hint);
+    findings.append(engine.findings());
     plan.imported = engine.imported();
     return Console::Done;
-}
-
-// Whether the file's text still means that moment; a date alone means `secsOfDate`.
-bool stillSays(const QString &cell, const shown::Clock &now, int secsOfDate)
-{
-    datetext::Moment given;
-    return datetext::parseMoment(cell, given) && given.date == now.date &&
-           (given.hasTime ? given.secs : secsOfDate) == now.secs;
-}
-
-// A file that writes dates alone goes on with them.
-bool writesTimes(const csv::Table &table, std::initializer_list<int> columns)
-{
-    bool anyDate = false;
-    for (std::size_t row = 1; row < table.rows.size(); ++row) {
-        for (const int column : columns) {
-            datetext::Moment given;
-            if (!datetext::parseMoment(table.rows[row].cells.value(column), given))
-                continue;
-            anyDate = true;
-            if (given.hasTime)
-                return true;
-        }
-    }
-    return !anyDate;
-}
-
-QString writtenMoment(const shown::Clock &moment, int secsOfDate, bool withTimes)
-{
-    return withTimes || moment.secs != secsOfDate ? moment.iso() : moment.date.toString(Qt::ISODate);
-}
-
-QString durationOf(const Plan &plan, int pos)
-{
-    const KWTaskInfo *task = plan.task(pos);
-    return datetext::durationText(KWTaskInfo::getDurValueByTaskInfo(plan.document.get(), task),
-                                  task->DurationUnits);
-}
-
-void setCell(QStringList &cells, int column, const QString &text)
-{
-    while (cells.size() <= column)
-        cells.append(QString());
-    cells[column] = text;
 }
 }
 
@@ -271,7 +232,9 @@ bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &err
     }
 }
 
-int load(const QString &path, Console &console, Plan &plan, Findings &findings)
+namespace {
+
+int loadAny(const QString &path, Console &console, Plan &plan, Findings &findings)
 {
     plan.file = path;
     plan.slackUnit = console.options().slackUnit;
@@ -292,6 +255,16 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
         return Console::Done;
     }
     return loadWithCalendar(path, console, plan, findings);
+}
+}
+
+int load(const QString &path, Console &console, Plan &plan, Findings &findings)
+{
+    const int code = loadAny(path, console, plan, findings);
+    // Numbers of the outline are the file's where it gives every task one.
+    if (code == Console::Done && plan.imported.codes.size() < plan.taskCount())
+        plan.imported.codes = csvplan::outlineCodes(*plan.document);
+    return code;
 }
 
 namespace {
@@ -357,37 +330,105 @@ std::vector<Side> sidesOf(const Plan &plan, const QString &path)
     return sides;
 }
 
-QByteArray rewritten(const Plan &plan)
+namespace {
+
+constexpr const char *calendarSide = "calendar.json";
+constexpr const char *resourceSide = "resources.csv";
+constexpr const char *assignmentSide = "assignments.csv";
+
+// What stands beside the file after the edits: as it was where nothing of it has changed.
+bool sidesAfter(const Plan &before, const Plan &after, const Options &options, std::vector<Side> &sides,
+                std::vector<bool> &isChanged)
 {
-    csv::Table table = plan.table;
-    QStringList &titles = table.rows.front().cells;
-    const csvplan::Places given = csvplan::placesIn(titles);
-    csvplan::Places places = given;
-    const auto atEnd = [&titles](int &place, const char *title) {
-        if (place >= 0)
-            return;
-        place = titles.size();
-        titles.append(QLatin1String(title));
+    const bool hasSheet = !after.document->resourceInfoData()->infos.isEmpty();
+    const auto calendar = [](const Plan &plan) { return workingtime::toJson(calendarOf(plan)); };
+    const auto add = [&](const char *name, const QString &option, const QByteArray &was, const QByteArray &is,
+                         bool isNeeded) {
+        const QString found = sidePath(after.file, option, name);
+        // A file that an option names is read and never written.
+        const bool isWritten = was != is && option.isEmpty() && (isNeeded || !found.isEmpty());
+        if (!isWritten && found.isEmpty())
+            return true;
+        const QFileInfo info(after.file);
+        Side side{found.isEmpty()
+                      ? info.dir().filePath(info.completeBaseName() + QLatin1Char('.') + QLatin1String(name))
+                      : found,
+                  is};
+        QString error;
+        if (!isWritten) {
+            side.bytes.clear();
+            if (!readBytes(found, largestSideBytes, side.bytes, error))
+                return false;
+        }
+        sides.push_back(side);
+        isChanged.push_back(isWritten);
+        return true;
     };
-    atEnd(places.start, "Start");
-    atEnd(places.finish, "Finish");
-    QHash<int, std::size_t> rowOfLine;
-    for (std::size_t row = 1; row < table.rows.size(); ++row)
-        rowOfLine.insert(table.rows[row].line, row);
-    const shown::Times times(plan);
-    const int dayStartSecs = int(KWTaskInfo::startOrFinishHour(plan.document.get(), true)) * 3600;
-    const int dayFinishSecs = int(KWTaskInfo::startOrFinishHour(plan.document.get(), false)) * 3600;
-    const bool withTimes = writesTimes(plan.table, {given.start, given.finish});
-    for (int pos = 0; pos < plan.taskCount(); ++pos) {
-        QStringList &cells = table.rows[rowOfLine.value(plan.imported.rows.value(pos))].cells;
-        // What still holds keeps the way it was written.
-        if (!stillSays(cells.value(places.start), times.start(pos), dayStartSecs))
-            setCell(cells, places.start, writtenMoment(times.start(pos), dayStartSecs, withTimes));
-        if (!stillSays(cells.value(places.finish), times.finish(pos), dayFinishSecs))
-            setCell(cells, places.finish, writtenMoment(times.finish(pos), dayFinishSecs, withTimes));
-        if (plan.task(pos)->isParent() && !cells.value(places.length).trimmed().isEmpty())
-            setCell(cells, places.length, durationOf(plan, pos));
+    return add(calendarSide, options.calendarFile, calendar(before), calendar(after), true) &&
+           add(resourceSide, options.resourcesFile, csvplan::resources(*before.document),
+               csvplan::resources(*after.document), hasSheet) &&
+           add(assignmentSide, options.assignmentsFile, csvplan::assignments(*before.document),
+               csvplan::assignments(*after.document), false);
+}
+
+bool writeAll(const QString &folder, const QString &name, const QByteArray &plan,
+              const std::vector<Side> &sides)
+{
+    const auto put = [&folder](const QString &file, const QByteArray &bytes) {
+        QFile target(folder + QLatin1Char('/') + file);
+        return target.open(QIODevice::WriteOnly) && target.write(bytes) == bytes.size();
+    };
+    bool isWritten = put(name, plan);
+    constexpr const char *names[] = {calendarSide, resourceSide, assignmentSide};
+    for (const Side &side : sides)
+        for (const char *each : names)
+            if (side.path.endsWith(QLatin1String(each)))
+                isWritten = isWritten &&
+                            put(QFileInfo(name).completeBaseName() + QLatin1Char('.') + QLatin1String(each),
+                                side.bytes);
+    return isWritten;
+}
+}
+
+int saveRows(Console &console, Plan &before, const Plan &after)
+{
+    const QByteArray bytes = csvrewrite::withEdits(before, after);
+    std::vector<Side> sides;
+    std::vector<bool> isChanged;
+    const QTemporaryDir folder;
+    const QString name = QFileInfo(after.file).fileName();
+    if (!sidesAfter(before, after, console.options(), sides, isChanged) ||
+        !writeAll(folder.path(), name, bytes, sides)) {
+        console.error(t("%1: cannot be written").arg(after.file), t("-o PLAN.kwpx writes it as a package"));
+        return Console::CannotWrite;
     }
-    return csv::toBytes(table);
+    // What was written is read again: only a plan that comes back as it is now may replace the file.
+    Plan again;
+    Findings findings;
+    if (const int code = load(folder.filePath(name), console, again, findings))
+        return code;
+    if (again.withoutStart > 0)
+        plan::schedule(again, plan::AsGiven, nullptr);
+    plan::refresh(again, nullptr);
+    QStringList lost;
+    for (const diff::Change &change : diff::between(after, again, {}))
+        lost.append((change.before < 0 ? QString()
+                                       : taskref::named(*after.document, after.task(change.before)->ID) +
+                                             QLatin1String(": ")) +
+                    t(change.kind) + QLatin1Char(' ') + change.what);
+    if (!lost.isEmpty()) {
+        constexpr int mostNamed = 3;
+        console.error(t("%1: not written, for the file cannot say all of it: %2")
+                          .arg(after.file, QStringList(lost.mid(0, mostNamed)).join(QLatin1String("; "))),
+                      t("-o PLAN.kwpx writes it as a package"));
+        return Console::CannotWrite;
+    }
+    for (std::size_t i = 0; i < sides.size(); ++i) {
+        if (isChanged[i] && !console.replaceFile(sides[i].path, sides[i].bytes, true))
+            return Console::CannotWrite;
+        if (isChanged[i])
+            console.note(t("also written: %1").arg(sides[i].path));
+    }
+    return console.replaceFile(after.file, bytes, true) ? Console::Done : Console::CannotWrite;
 }
 }

@@ -20,7 +20,8 @@ constexpr qint64 mostBytes = 768LL << 20;
 void collect(const Findings &found, const QString &path, Findings &findings)
 {
     for (const Finding &finding : found.list())
-        findings.add(finding.place == path ? QString() : finding.place, finding.what, finding.hint);
+        findings.add(finding.kind, finding.place == path ? QString() : finding.place, finding.what,
+                     finding.hint);
 }
 
 // Standard input is read as a whole.

@@ -8,6 +8,7 @@
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/kwclock.h"
+#include "support/likeness.h"
 #include "taskref.h"
 #include "texts.h"
 #include <QBuffer>
@@ -73,7 +74,7 @@ bool chooseColumns(Console &console, const QStringList &keys, KWExportOptions &d
     for (const QString &key : keys) {
         const int at = known.indexOf(key.trimmed());
         if (at < 0) {
-            const QString guess = options::nearest(key, known);
+            const QString guess = likeness::nearest(key, known);
             return fail(console, t("no column '%1' can be drawn").arg(key),
                         guess.isEmpty() ? t("possible: %1").arg(known.join(QLatin1String(", ")))
                                         : t("did you mean '%1'?").arg(guess));

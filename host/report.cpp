@@ -1,9 +1,11 @@
 #include "report.h"
 #include "bars.h"
 #include "datetext.h"
+#include "edits/planreasons.h"
 #include "model/calendarhold.h"
 #include "model/kwtaskinfo.h"
 #include "sheettext.h"
+#include "taskref.h"
 #include "texts.h"
 #include "textwidth.h"
 #include "workingtime.h"
@@ -145,7 +147,7 @@ public:
             return isTaken;
         };
         if (!m_options.plain)
-            text += title(m_plan, m_times, m_style) + QLatin1Char('\n');
+            text += title(m_plan, m_times, m_style, m_width) + QLatin1Char('\n');
         addHeadings(text);
         for (const int pos : m_positions) {
             addRow(text, sheet, pos);
@@ -300,35 +302,83 @@ void countExceptions(const Plan &plan, const Range &range, int &holidays, int &e
     }
 }
 
-// From the first critical task to the project's end, in working days.
-QString criticalLength(const Plan &plan)
+// The critical task that begins first; null without one.
+const KWTaskInfo *firstCritical(const Plan &plan)
 {
-    quint32 first = 0;
+    const KWTaskInfo *first = nullptr;
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
         const KWTaskInfo *task = plan.task(pos);
-        if (task->CriticalPath && !task->isParent() && (first == 0 || task->Start < first))
-            first = task->Start;
+        if (task->CriticalPath && !task->isParent() && (!first || task->Start < first->Start))
+            first = task;
     }
+    return first;
+}
+
+// Working days from a moment to the project's end.
+QString lengthFrom(const Plan &plan, quint32 from)
+{
+    const quint32 finish = plan::lastFinish(plan);
     const double days =
-        first ? plan.document->getDurationValue(first, plan::lastFinish(plan), duration::Day, true) : 0;
+        from && from < finish ? plan.document->getDurationValue(from, finish, duration::Day, true) : 0;
     return QString::number(days) + QLatin1String(" d");
+}
+
+// Why the critical path is shorter than the plan; empty when it is not, or the reason is no single date.
+QString lateBeginning(const Plan &plan, const KWTaskInfo *first)
+{
+    constexpr int noChain = 1;
+    if (!first || plan::workingMinutes(plan, plan::firstStart(plan), first->Start) <= 0 ||
+        planreasons::of(*plan.document, first->ID, noChain).isDriven())
+        return QString();
+    return t("critical only from %1 on: %2 begins at its own date, not when another task ends")
+        .arg(datetext::dateText(shown::startOf(plan, first->Start).date, datetext::Weekday),
+             taskref::named(*plan.document, first->ID));
+}
+
+// The parts side by side, in as many lines as the width takes; a part that is wider breaks between its words.
+QString inLines(const QStringList &parts, int width)
+{
+    const QString gap = QStringLiteral("   ");
+    QString text;
+    int used = 0;
+    const auto add = [&](const QString &words, const QString &between) {
+        const int columns = textwidth::of(words);
+        const bool fits = used > 0 && used + between.size() + columns <= width;
+        text += (used == 0 ? QString() : fits ? between : QStringLiteral("\n")) + words;
+        used = fits ? used + between.size() + columns : columns;
+    };
+    for (const QString &part : parts) {
+        if (textwidth::of(part) <= width) {
+            add(part, gap);
+            continue;
+        }
+        const QStringList words = part.split(QLatin1Char(' '));
+        for (int i = 0; i < words.size(); ++i)
+            add(words.at(i), i == 0 ? gap : QStringLiteral(" "));
+    }
+    return text + QLatin1Char('\n');
 }
 }
 
-QString title(const Plan &plan, const shown::Times &times, const Style &style)
+QString title(const Plan &plan, const shown::Times &times, const Style &style, int width)
 {
-    const QString separator = QStringLiteral("   ");
-    QStringList first{style.toned(textwidth::oneLine(plan.name, style.ascii), Style::Bold),
-                      counted(plan.taskCount(), "%1 task", "%1 tasks")};
+    const QString name = textwidth::elided(textwidth::oneLine(plan.name, style.ascii), width, style.cut);
+    QStringList first{name, counted(plan.taskCount(), "%1 task", "%1 tasks")};
     const Range range = rangeOf(plan, times);
     QStringList second{t("time zone %1").arg(QString::fromLatin1(QTimeZone::systemTimeZoneId())),
                        workingtime::describe(workingtime::of(*plan.document))};
+    QString late;
     if (range.first.isValid()) {
         const bool sameYear = range.first.year() == range.last.year();
         first.append(datetext::dateText(range.first, datetext::Weekday | (sameYear ? 0 : datetext::Year)) +
                      QLatin1String(" - ") +
                      datetext::dateText(range.last, datetext::Weekday | datetext::Year));
-        first.append(t("critical path %1").arg(criticalLength(plan)));
+        const KWTaskInfo *critical = firstCritical(plan);
+        const QString length = lengthFrom(plan, plan::firstStart(plan));
+        const QString ofIt = lengthFrom(plan, critical ? critical->Start : 0);
+        first.append(length == ofIt ? t("length %1, all of it critical").arg(length)
+                                    : t("length %1, critical %2").arg(length, ofIt));
+        late = textwidth::oneLine(lateBeginning(plan, critical), style.ascii);
         const double cost = plan.document->getToltalCost();
         if (cost != 0)
             first.append(t("cost %1").arg(sheettext::moneyText(cost)));
@@ -340,7 +390,10 @@ QString title(const Plan &plan, const shown::Times &times, const Style &style)
         if (extraDays)
             second.append(counted(extraDays, "%1 extra working day", "%1 extra working days"));
     }
-    return first.join(separator) + QLatin1Char('\n') + second.join(separator) + QLatin1Char('\n');
+    QString text = inLines(first, width);
+    text.replace(0, name.size(), style.toned(name, Style::Bold));
+    text += inLines(second, width);
+    return late.isEmpty() ? text : text + inLines({late}, width);
 }
 
 int writeTable(Console &console, const Plan &plan, const Style &style)

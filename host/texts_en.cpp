@@ -198,7 +198,9 @@ Examples:
         {QStringLiteral("edit"), text(R"(kwgantt edit FILE EDIT - changes a plan
 kwgantt edit FILE --script FILE
 
-  -i, --in-place   writes the package FILE itself; other writers wait for each other
+  -i, --in-place   writes FILE itself, a package or a CSV plan; of a CSV plan the separator, the line ends, the mark at
+                   the beginning, all other columns and every cell that still holds stay as they are. Writers wait
+                   for each other
   --backup         keeps the file as it was before as FILE~
   -o OUT           writes another file; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)
   --dry-run        shows the changed plan and writes nothing
@@ -228,12 +230,12 @@ Tasks belong together by ID and name, then by a name that stands once, then by I
 is different; no difference means that the plans are alike in all that is saved but the widths of bars.
 
   --only LIST      only these, joined by commas: tasks, outline, names, dates, progress, cost, resources, links,
-                   texts, baseline, calendar, sheet, table
+                   texts, baseline, calendar, sheet, table, options
   added, gone      only one of the plans has the task
   renamed, placed  another name, another summary
   slipped, moved   it finishes later; its dates changed otherwise
   changed          duration, done, cost, resources, notes, predecessors, priority, baseline, hyperlinks; and of
-                   the plan its working time, resource sheet and columns
+                   the plan its working time, resource sheet, columns and options
   --json           for other programs
 )")},
         {QStringLiteral("baseline"), text(R"(kwgantt baseline FILE - how far the plan is from its baseline
@@ -241,7 +243,7 @@ kwgantt baseline FILE set|clear [TASK...]
 
 The baseline remembers dates and costs, of all tasks or of TASK with what is below it.
 
-  -i, --in-place   writes the package FILE itself (set, clear)
+  -i, --in-place   writes FILE itself, a package or a CSV plan, as 'kwgantt help edit' says (set, clear)
   --backup         keeps the file as it was before as FILE~
   -o OUT           writes another file
   --dry-run        shows the changed plan and writes nothing
@@ -257,7 +259,7 @@ among them stay. Assignments stay behind: they belong to the other plan's resour
 
   --before TASK    above this task of INTO
   --under TASK     as the last tasks below this one, expanded or collapsed; without either, at the end
-  -i, --in-place   writes the package INTO itself
+  -i, --in-place   writes INTO itself, a package or a CSV plan, as 'kwgantt help edit' says
   --backup         keeps the file as it was before as FILE~
   -o OUT           writes another file
   --dry-run        shows the changed plan and writes nothing
@@ -279,7 +281,25 @@ Examples:
     kwgantt completion zsh > ~/.zfunc/_kwgantt
     kwgantt completion fish > ~/.config/fish/completions/kwgantt.fish
 )")},
-        {QStringLiteral("formats"), text("kwgantt formats - what can be read and written\n")},
+        {QStringLiteral("formats"), text(R"(kwgantt formats - what can be read and written
+
+A format is found from the file's content when it is read, from its name when it is written.
+
+Dates:
+  2026-03-02       also 2026-3-2, 2.3.2026, 2 Mar 2026, March 2, 2026; a time may follow (2026-03-02T08:00, 2026-03-02
+                   17:00)
+  3/4/2026         has the day first where another date of the column can be nothing else, else the month
+  no time          a start is the beginning of its day, a finish the end
+  a number         in a workbook days since 1900 or 1904, as the workbook says
+  3d, 12h, 30min   lengths; also w, mon, q, y; a number alone counts days
+
+Predecessors of a CSV plan or a workbook are parted by semicolons: 7 is an ID where a CSV plan has these, else a row; #7 an
+ID, 1.2 an outline code, a name stands in quotes. Numbers of what is done are percent in a CSV plan.
+
+A package and project XML have no titles. The first row of a CSV plan and of each sheet of a workbook has them, in any case,
+with blanks and signs anywhere, in any order; columns with other titles are told and not read.
+
+)")},
         {QStringLiteral("columns"), text("kwgantt columns - what 'show --columns' can show\n")},
         {QStringLiteral("help"),
          text(R"(kwgantt help [COMMAND] - the commands, or one of them with its options

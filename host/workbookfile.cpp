@@ -42,7 +42,8 @@ void chooseColumns(const KWDocument &document)
 void collect(const Findings &found, const QString &path, Findings &findings)
 {
     for (const Finding &finding : found.list())
-        findings.add(finding.place == path ? QString() : finding.place, finding.what, finding.hint);
+        findings.add(finding.kind, finding.place == path ? QString() : finding.place, finding.what,
+                     finding.hint);
 }
 
 template <typename Engine>
@@ -82,8 +83,7 @@ int load(const QString &path, Console &console, Plan &plan, const ProjectStart &
         console.list(path, own);
         return Console::CannotRead;
     }
-    for (const Finding &finding : own.list())
-        findings.add(finding.place, finding.what, finding.hint);
+    findings.append(own);
     return Console::Done;
 }
 

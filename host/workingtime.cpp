@@ -1,8 +1,8 @@
 #include "workingtime.h"
 #include "model/kwdocument.h"
-#include "options.h"
 #include "schedule/kwcalendar.h"
 #include "support/findings.h"
+#include "support/likeness.h"
 #include "texts.h"
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -43,17 +43,25 @@ int weekdayNamed(const QString &word)
     return -1;
 }
 
-bool parseInterval(const QString &text, WorkingTime::Interval &interval)
+// Whether the text is two times of day; in any order.
+bool parseEnds(const QString &text, int &start, int &finish)
 {
     const QStringList ends = text.split(QLatin1Char('-'));
     if (ends.size() != 2)
         return false;
-    const int start = datetext::parseTimeOfDay(ends.at(0));
-    int finish = datetext::parseTimeOfDay(ends.at(1));
+    start = datetext::parseTimeOfDay(ends.at(0));
+    finish = datetext::parseTimeOfDay(ends.at(1));
     // A day that ends at midnight is written either way.
     if (finish == 0)
         finish = 86400;
-    if (start < 0 || finish <= start)
+    return start >= 0 && finish >= 0;
+}
+
+bool parseInterval(const QString &text, WorkingTime::Interval &interval)
+{
+    int start = 0;
+    int finish = 0;
+    if (!parseEnds(text, start, finish) || finish <= start)
         return false;
     interval = {quint32(start), quint32(finish)};
     return true;
@@ -138,16 +146,14 @@ void chooseHours(const std::array<Day, 7> &days, WorkingTime &result, Findings &
 
 bool readHours(const QString &text, std::vector<WorkingTime::Interval> &result)
 {
-    std::vector<WorkingTime::Interval> hours;
+    if (!hoursFault(text).isEmpty())
+        return false;
+    result.clear();
     for (const QString &part : text.split(QLatin1Char(','))) {
         WorkingTime::Interval interval;
-        if (!parseInterval(part, interval))
-            return false;
-        hours.push_back(interval);
+        parseInterval(part, interval);
+        result.push_back(interval);
     }
-    if (!inOrder(hours))
-        return false;
-    result = hours;
     return true;
 }
 
@@ -158,7 +164,7 @@ void tellUnknown(const QJsonObject &object, const QString &place, const QStringL
     for (const QString &key : object.keys()) {
         if (known.contains(key))
             continue;
-        const QString guess = options::nearest(key, known);
+        const QString guess = likeness::nearest(key, known);
         warnings.add(Finding::Lost, place, t("'%1' is not known: passed over").arg(key),
                      guess.isEmpty() ? t("known are %1").arg(known.join(QLatin1String(", ")))
                                      : t("did you mean '%1'?").arg(guess));
@@ -197,7 +203,7 @@ bool readExceptions(const QJsonArray &list, WorkingTime &result, Findings &warni
             }
             const QString written = fields.value(QLatin1String("hours")).toString();
             if (!written.isEmpty() && !readHours(written, hours)) {
-                error = t("exception %1: '%2' are not working hours").arg(i + 1).arg(written);
+                error = t("exception %1: %2").arg(QString::number(i + 1), hoursFault(written));
                 return false;
             }
         } else {
@@ -283,7 +289,7 @@ bool read(const QByteArray &json, WorkingTime &result, Findings &warnings, QStri
 
     const QJsonValue hours = root.value(QLatin1String("hours"));
     if (!hours.isUndefined() && !parseHours(hours.toString(), result)) {
-        error = hours.isString() ? t("'%1' are not working hours").arg(hours.toString())
+        error = hours.isString() ? t("'hours': %1").arg(hoursFault(hours.toString()))
                                  : t("'hours' are no text such as \"08:00-12:00,13:00-17:00\"");
         return false;
     }
@@ -369,6 +375,30 @@ bool parseDays(const QString &text, WorkingTime &result)
     }
     result.week = week;
     return true;
+}
+
+QString hoursFault(const QString &text)
+{
+    QString before;
+    int startBefore = 0;
+    int finishBefore = 0;
+    for (const QString &written : text.split(QLatin1Char(','))) {
+        const QString part = written.trimmed();
+        int start = 0;
+        int finish = 0;
+        if (!parseEnds(part, start, finish))
+            return t("'%1' is not from one time of day to another").arg(part);
+        if (finish <= start)
+            return t("'%1' ends before it begins").arg(part);
+        if (start < finishBefore)
+            return (finish <= startBefore ? t("'%1' is earlier than '%2' before it")
+                                          : t("'%1' overlaps '%2'"))
+                .arg(part, before);
+        before = part;
+        startBefore = start;
+        finishBefore = finish;
+    }
+    return QString();
 }
 
 bool parseHours(const QString &text, WorkingTime &result)

@@ -38,6 +38,8 @@ QByteArray toJson(const WorkingTime &workingTime);
 // "Mon-Fri", "Mon-Thu,Sat", "none"; "08:00-12:00,13:00-17:00"; "2026-12-25" or "2026-12-24..2026-12-31".
 bool parseDays(const QString &text, WorkingTime &result);
 bool parseHours(const QString &text, WorkingTime &result);
+// What is wrong with such hours; empty when parseHours() takes them.
+QString hoursFault(const QString &text);
 bool parseHoliday(const QString &text, WorkingTime &result);
 
 // A document's working time; the names and the start of the project are not part of it.

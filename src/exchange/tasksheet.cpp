@@ -321,7 +321,8 @@ bool TaskSheet::readPredecessor(const QString &part, QString &refusal)
     bool isNumber = false;
     const quint32 value = cellvalues::withPlainDigits(number).toUInt(&isNumber);
     if (!isNumber || value == 0) {
-        refusal = hasDot ? text("is an outline code, and no column has these") : text("is no task");
+        refusal = hasDot && !reading().isExact ? text("is an outline code, and no column has these")
+                                               : text("is no task");
         return false;
     }
     m_wanted.push_back({task, value, isId || (reading().linksById && hasField(columntypes::Id))});
