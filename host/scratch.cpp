@@ -51,14 +51,6 @@ void waitForTheEnd(sigset_t signals)
 
 Scratch::Scratch()
 {
-    QByteArray pattern = QFile::encodeName(QDir::tempPath()) + "/kwgantt-run-XXXXXX";
-    if (!mkdtemp(pattern.data()))
-        return; // whoever needs a temporary folder will tell
-    folderOfRun() = pattern;
-    qputenv("TMPDIR", pattern);
-    // Qt makes a folder of its own where the system gives none.
-    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
-        qputenv("XDG_RUNTIME_DIR", pattern);
     worker = pthread_self();
     sigset_t signals;
     sigemptyset(&signals);
@@ -68,7 +60,17 @@ Scratch::Scratch()
         if (sigaction(which, nullptr, &now) == 0 && now.sa_handler != SIG_IGN)
             sigaddset(&signals, which);
     }
+    // A signal that comes before the folder has its name waits for the thread.
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    QByteArray pattern = QFile::encodeName(QDir::tempPath()) + "/kwgantt-run-XXXXXX";
+    // Without a folder whoever needs one will tell.
+    if (mkdtemp(pattern.data())) {
+        folderOfRun() = pattern;
+        qputenv("TMPDIR", pattern);
+        // Qt makes a folder of its own where the system gives none.
+        if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR"))
+            qputenv("XDG_RUNTIME_DIR", pattern);
+    }
     std::thread(waitForTheEnd, signals).detach();
 }
 
