@@ -21,6 +21,7 @@ endif()
 function(kw_install_library target name)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${KW_SOVERSION} EXPORT_NAME ${name})
+    target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
     add_library(kwgantt::${name} ALIAS ${target})
     install(TARGETS ${target} EXPORT kwganttTargets
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development

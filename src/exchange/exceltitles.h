@@ -68,10 +68,10 @@ namespace exceltitles {
 enum Sheet { TaskSheet, ResourceSheet, AssignmentSheet, SheetCount };
 
 // The workbook's side of a sheet.
-QList<ExcelData *> &workbookTitles(Sheet sheet);
+KWGANTT_EXPORT QList<ExcelData *> &workbookTitles(Sheet sheet);
 // Appends a cell of row 1 to the workbook's side; columns count from 1, one below that is skipped.
-void addWorkbookTitle(Sheet sheet, int column, const QString &title);
+KWGANTT_EXPORT void addWorkbookTitle(Sheet sheet, int column, const QString &title);
 // The column type that a task title stands for; entries for levels and predecessors have type 0 of their own.
 // A title that is in no table falls back to the entry's type.
-int columnType(const ExcelData &title);
+KWGANTT_EXPORT int columnType(const ExcelData &title);
 }

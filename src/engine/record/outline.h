@@ -13,7 +13,7 @@ struct TaskRecord;
 namespace outline {
 
 // The tasks with their index. Refers to the list; valid while neither the list nor an ID changes.
-struct Tasks
+struct KWGANTT_EXPORT Tasks
 {
     const QList<TaskRecord *> &list;
     const TaskIndex &index;
@@ -22,23 +22,26 @@ struct Tasks
 
 // Descendants in pre-order, each once; a ring or a doubled child is entered only the first time.
 // The task itself is not part of the result.
-std::vector<TaskRecord *> descendants(const Tasks &tasks, const TaskRecord &task);
+KWGANTT_EXPORT std::vector<TaskRecord *> descendants(const Tasks &tasks, const TaskRecord &task);
 // Visits them in that order up to the first for which `visit` is true; whether there is one.
-bool anyDescendant(const Tasks &tasks, const TaskRecord &task,
-                   const std::function<bool(TaskRecord *)> &visit);
+KWGANTT_EXPORT bool anyDescendant(const Tasks &tasks, const TaskRecord &task,
+                                  const std::function<bool(TaskRecord *)> &visit);
 // Ancestors, nearest first; stops at an unknown ID and at a task met before, the task itself included.
-std::vector<TaskRecord *> ancestors(const Tasks &tasks, const TaskRecord &task);
+KWGANTT_EXPORT std::vector<TaskRecord *> ancestors(const Tasks &tasks, const TaskRecord &task);
 // These tasks and all above them, each once; the last in the list comes first, so that in a sound outline
 // what is below comes before what is above.
-std::vector<TaskRecord *> withAncestors(const Tasks &tasks, const std::vector<TaskRecord *> &changed);
+KWGANTT_EXPORT std::vector<TaskRecord *> withAncestors(const Tasks &tasks,
+                                                       const std::vector<TaskRecord *> &changed);
 // The nearest ancestor of a that is also one of b; null when there is none.
-TaskRecord *commonSummary(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b);
+KWGANTT_EXPORT TaskRecord *commonSummary(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b);
 
 // Gives a summary more children, one after the other as KWTaskInfo::addTaskInfoChildID would.
-void addChilds(const Tasks &tasks, TaskRecord &summary, const std::vector<TaskRecord *> &children);
-void removeChilds(TaskRecord &summary, const TaskIndex &ids);
+KWGANTT_EXPORT void addChilds(const Tasks &tasks, TaskRecord &summary,
+                              const std::vector<TaskRecord *> &children);
+KWGANTT_EXPORT void removeChilds(TaskRecord &summary, const TaskIndex &ids);
 // Cuts the links of tasks that leave, on the side of the tasks that stay.
-void cutLinks(const Tasks &tasks, const std::vector<TaskRecord *> &leaving, const TaskIndex &leavingIds);
+KWGANTT_EXPORT void cutLinks(const Tasks &tasks, const std::vector<TaskRecord *> &leaving,
+                             const TaskIndex &leavingIds);
 
 // Moves `count` entries one after the other from place `from` + i to place `to` + i; what lies outside the
 // list stays.

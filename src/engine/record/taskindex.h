@@ -1,9 +1,10 @@
 #pragma once
+#include "kwgantt_export.h"
 #include <QList>
 #include <vector>
 
 // Finds a task's place by its ID: the first one in list order. Also serves as a plain set of IDs.
-class TaskIndex
+class KWGANTT_EXPORT TaskIndex
 {
 public:
     TaskIndex() = default;

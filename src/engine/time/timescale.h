@@ -1,6 +1,7 @@
 #pragma once
 #include "engine/time/duration.h"
 #include "engine/time/worktime.h"
+#include "kwgantt_export.h"
 
 struct TaskRecord;
 
@@ -11,11 +12,11 @@ namespace timescale {
 // ---- Width ------------------------------------------------------------------------------------------------
 
 // Pixels of the whole chart, `units` being what UnitDates counts for the minor unit. 0..2147483647.
-int chartWidth(const worktime::WorkCalendar &calendar, unsigned int minor, int units, qint32 unitWidth,
-               double screenScale);
+KWGANTT_EXPORT int chartWidth(const worktime::WorkCalendar &calendar, unsigned int minor, int units,
+                              qint32 unitWidth, double screenScale);
 // How many units make a chart at least that wide; 0 when no number does.
-int unitsFor(const worktime::WorkCalendar &calendar, unsigned int minor, int width, qint32 unitWidth,
-             double screenScale);
+KWGANTT_EXPORT int unitsFor(const worktime::WorkCalendar &calendar, unsigned int minor, int width,
+                            qint32 unitWidth, double screenScale);
 
 // The stored choice of units and width.
 struct Zoom
@@ -29,21 +30,21 @@ constexpr qint32 middleUnit = 60;
 constexpr qint32 narrowUnit = 20;
 
 // Of duration::Unit; above that the stored values make no unit.
-unsigned int minorUnit(quint32 majorUnit, quint32 storedMinor);
+KWGANTT_EXPORT unsigned int minorUnit(quint32 majorUnit, quint32 storedMinor);
 // The minor unit for a project's length; keeps it where the major unit is too fine for that length.
-Zoom chosen(const LocalClock &clock, Zoom zoom, quint32 start, quint32 finish);
+KWGANTT_EXPORT Zoom chosen(const LocalClock &clock, Zoom zoom, quint32 start, quint32 finish);
 // The same chart, narrowed step by step until it is at most 1300 pixels wide (at 96 dpi) or cannot be
 // narrowed.
-Zoom narrowed(const worktime::WorkCalendar &calendar, Zoom zoom, quint32 start, quint32 finish,
-              double screenScale);
+KWGANTT_EXPORT Zoom narrowed(const worktime::WorkCalendar &calendar, Zoom zoom, quint32 start, quint32 finish,
+                             double screenScale);
 
 // ---- Mapping ----------------------------------------------------------------------------------------------
 
 // Truncated toward zero; the nearest number there is, 0 for none.
-int wholePixels(double x);
+KWGANTT_EXPORT int wholePixels(double x);
 
 // One scale, prepared for many questions. Positions are pixels from the chart's left edge.
-class Scale
+class KWGANTT_EXPORT Scale
 {
 public:
     Scale(const worktime::WorkCalendar &calendar, unsigned int minor, quint32 origin, quint32 lastUnit,

@@ -1,6 +1,7 @@
 #pragma once
 #include "engine/record/calendarrecord.h"
 #include "engine/time/localclock.h"
+#include "kwgantt_export.h"
 #include <QList>
 #include <array>
 #include <memory>
@@ -45,7 +46,7 @@ struct Breaks
 // A document's working time, compiled into tables by date, so that each question costs a few nanoseconds.
 // Immutable. The owner makes a new one when the digest of the source or the clock has changed.
 // Dates outside LocalClock's range count as its first or last one.
-class WorkCalendar
+class KWGANTT_EXPORT WorkCalendar
 {
 public:
     static constexpr int noDay = -1000000; // "there is no such working date"
@@ -170,15 +171,15 @@ inline HourPoint toHourClock(const WorkCalendar &calendar, qint64 daySecs)
 }
 // shown -> stored. Points after F land on a following chart day; points before S are returned as they are,
 // but continue below the midnight in documents of the old version.
-LocalClock::Wall toDayWall(const WorkCalendar &calendar, HourPoint shown);
+KWGANTT_EXPORT LocalClock::Wall toDayWall(const WorkCalendar &calendar, HourPoint shown);
 inline qint64 toDayClock(const WorkCalendar &calendar, HourPoint shown)
 {
     const LocalClock::Wall stored = toDayWall(calendar, shown);
     return calendar.clock().moment(stored.day, stored.secs);
 }
 // The same on moments: seconds since 1970 of the hour clock in local time. Clamped to 0..4294967295.
-quint32 secsDayTransHour(const WorkCalendar &calendar, quint32 secs);
-quint32 secsHourTransDay(const WorkCalendar &calendar, quint32 secs);
+KWGANTT_EXPORT quint32 secsDayTransHour(const WorkCalendar &calendar, quint32 secs);
+KWGANTT_EXPORT quint32 secsHourTransDay(const WorkCalendar &calendar, quint32 secs);
 
 // ---- Measures ---------------------------------------------------------------------------------------------
 
@@ -191,14 +192,14 @@ inline int dayBefore(LocalClock::Wall finish)
 // Working seconds between two points of the hour clock, a before b, days off not yet taken away: on one date
 // the seconds less its breaks; else the first date up to F, W hours for each date between, the last date from
 // S.
-qint64 workSecs(const WorkCalendar &calendar, HourPoint a, HourPoint b);
+KWGANTT_EXPORT qint64 workSecs(const WorkCalendar &calendar, HourPoint a, HourPoint b);
 // The dates off that count for that range: from a's date to the date of the second before b's day clock.
-int daysOffInside(const WorkCalendar &calendar, HourPoint a, HourPoint b);
+KWGANTT_EXPORT int daysOffInside(const WorkCalendar &calendar, HourPoint a, HourPoint b);
 // Working time between two points of the hour clock in hours, W hours less for each of those dates; never
 // below 0.
-double workHours(const WorkCalendar &calendar, HourPoint a, HourPoint b);
+KWGANTT_EXPORT double workHours(const WorkCalendar &calendar, HourPoint a, HourPoint b);
 
-quint32 totalDayOff(const WorkCalendar &calendar, quint32 startSecs, quint32 finishSecs);
+KWGANTT_EXPORT quint32 totalDayOff(const WorkCalendar &calendar, quint32 startSecs, quint32 finishSecs);
 
 // Working time between two stored points, days off apart so that nothing is rounded.
 struct WorkedTime
@@ -207,10 +208,11 @@ struct WorkedTime
     qint64 secsPerDay = 0; // what a day of it has; 0 when there are no working hours
     int daysOff = 0;
 };
-WorkedTime workedTime(const WorkCalendar &calendar, LocalClock::Wall start, LocalClock::Wall finish,
-                      unsigned int unit);
+KWGANTT_EXPORT WorkedTime workedTime(const WorkCalendar &calendar, LocalClock::Wall start,
+                                     LocalClock::Wall finish, unsigned int unit);
 // In working days, never below 0.
-double totalWorkDays(const WorkCalendar &calendar, quint32 startSecs, quint32 finishSecs, unsigned int unit);
+KWGANTT_EXPORT double totalWorkDays(const WorkCalendar &calendar, quint32 startSecs, quint32 finishSecs,
+                                    unsigned int unit);
 // Between two wall clocks, every date 24 hours long; may be negative.
 inline qint64 elapsedSecs(LocalClock::Wall start, LocalClock::Wall finish)
 {
