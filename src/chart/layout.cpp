@@ -368,12 +368,13 @@ Marks Layout::head(double x0, double x1) const
         marks.push_back(
             shape(Kind::Ground, Style::HeadGround, Shape::Rect, QRectF(x0, 0, x1 - x0, headHeight)));
     marks.push_back(line(Kind::Grid, Style::HeadLine, x0, headHeight, x1, headHeight));
+    Marks texts; // after the lines, so that what looks alike stands together
     for (const UnitSpan &span : headUnits(m_plan, m_head, x0, x1)) {
         const double width = span.x2 - span.x1;
         if (span.x1 > x0 && width >= m_plan.least)
             marks.push_back(line(Kind::Grid, Style::UnitLine, span.x1, lineHeight, span.x1, headHeight));
         if (!span.text.isEmpty())
-            marks.push_back(cellText(m_plan, Kind::HeadText,
+            texts.push_back(cellText(m_plan, Kind::HeadText,
                                      span.isOff ? Style::HeadUnitOff : Style::HeadUnit, AxisFont,
                                      Align::Centre, span.x1, width, lineHeight, lineHeight, span.text));
     }
@@ -381,10 +382,11 @@ Marks Layout::head(double x0, double x1) const
         if (span.x1 > x0 || span.x1 <= 0)
             marks.push_back(line(Kind::Grid, Style::MajorLine, span.x1, 0, span.x1, headHeight));
         if (!span.text.isEmpty())
-            marks.push_back(cellText(m_plan, Kind::HeadText, Style::HeadMajor, PeriodFont, Align::Left,
+            texts.push_back(cellText(m_plan, Kind::HeadText, Style::HeadMajor, PeriodFont, Align::Left,
                                      span.x1 + periodInset, span.x2 - span.x1 - periodInset, 0, lineHeight,
                                      span.text));
     }
+    marks.insert(marks.end(), texts.begin(), texts.end());
     if (m_plan.today >= x0 && m_plan.today <= x1) {
         // Hangs below the head, where it covers none of its texts.
         constexpr double half = 4.5;
@@ -511,7 +513,7 @@ Used usedIn(const Plan &plan)
     for (const Row &row : plan.rows) {
         const bool isTask = row.kind == RowKind::Task;
         used.done |= isTask && row.done > 0;
-        used.toDo |= isTask && !row.isCritical && row.done < row.x2 - row.x1;
+        used.toDo |= isTask && !row.isCritical && (row.done < row.x2 - row.x1 || !(row.done > 0));
         used.critical |= row.isCritical && row.kind != RowKind::Summary;
         used.slack |= row.hasSlack();
         used.baseline |= row.hasBaseline();

@@ -1,4 +1,5 @@
 #include "exchange/sheetreader.h"
+#include "format/wholenumber.h"
 #include <QLocale>
 #include <algorithm>
 
@@ -18,6 +19,8 @@ QString shown(const QString &text)
 QString textOfPercent(double fraction)
 {
     constexpr double whole = 100;
+    if (isPlainWhole(fraction * whole) && fraction * whole / whole == fraction)
+        return QString::number(qint64(fraction * whole));
     constexpr int digits = 15;
     const QString text = QString::number(fraction * whole, 'g', digits);
     return text.toDouble() / whole == fraction

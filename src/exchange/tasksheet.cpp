@@ -401,8 +401,12 @@ bool TaskSheet::readNumbers(const QString &list)
 // Named once, however often; in the order of the file.
 void TaskSheet::leaveOutRepeated(std::size_t first, const Cell &cell, const staged::Task &staged)
 {
-    constexpr std::size_t several = 2;
-    if (m_wanted.size() - first < several)
+    const auto begin = m_wanted.begin() + std::ptrdiff_t(first);
+    // Most lists ascend.
+    const bool ascends = std::adjacent_find(begin, m_wanted.end(), [](const Wanted &a, const Wanted &b) {
+                             return a.number >= b.number;
+                         }) == m_wanted.end();
+    if (ascends)
         return;
     QSet<quint64> named;
     const auto isRepeated = [&named](const Wanted &wanted) {
@@ -411,7 +415,7 @@ void TaskSheet::leaveOutRepeated(std::size_t first, const Cell &cell, const stag
         named.insert(key);
         return isKnown;
     };
-    const auto end = std::remove_if(m_wanted.begin() + std::ptrdiff_t(first), m_wanted.end(), isRepeated);
+    const auto end = std::remove_if(begin, m_wanted.end(), isRepeated);
     if (end != m_wanted.end() && !reading().isExact)
         report(staged.row, &cell, text("names a predecessor twice"), text("taken once"));
     m_wanted.erase(end, m_wanted.end());

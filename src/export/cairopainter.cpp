@@ -1,6 +1,8 @@
 #include "export/cairopainter.h"
 #include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <unordered_set>
 
 using chart::Kind;
 using chart::Mark;
@@ -12,6 +14,17 @@ namespace {
 constexpr double roundness = 0.5522847498; // of a curve that is a quarter of a circle
 // Numbers of cairo's have no room for the far ends of a long bar.
 constexpr double viewMargin = 100; // chart pixels
+
+// Places for each device unit that shapes stand on: few digits make a short file. Quarters of a point, and
+// finer ones where a pixel of the chart is small.
+double stepsOnPaper(double scale)
+{
+    constexpr double pointsPerUnit = 72 / 96.0, leastPerPixel = 1.5;
+    double perPoint = 4;
+    while (perPoint * pointsPerUnit * scale < leastPerPixel && perPoint < 256)
+        perPoint *= 2;
+    return perPoint * pointsPerUnit;
+}
 
 QRectF cutTo(const QRectF &rect, const QRectF &view)
 {
@@ -61,6 +74,7 @@ CairoPainter::CairoPainter(cairo_t *context, const chartstyle::Sheet &sheet, Tex
     , m_fonts(fonts)
     , m_device(device)
     , m_scale(scale)
+    , m_steps(device == Paper ? stepsOnPaper(scale) : 1)
 {
 }
 
@@ -99,8 +113,9 @@ void CairoPainter::paint(const chart::Marks &marks, const QPointF &offset, const
         if (mark.shape == Shape::Anchor)
             continue;
         if (mark.shape == Shape::Text) {
-            if (isIn(mark.rect, m_view))
-                drawText(mark);
+            while (end < marks.size() && marks[end].shape >= Shape::Text)
+                ++end;
+            drawTexts({&mark, &mark + (end - first)});
             continue;
         }
         while (end < marks.size() && end - first < longestRun && marks[end].kind == mark.kind &&
@@ -123,18 +138,23 @@ void CairoPainter::paint(const chart::Marks &marks, const QPointF &offset, const
     cairo_restore(m_context);
 }
 
-double CairoPainter::snapped(double position, double offset) const
+double CairoPainter::snapped(double position, double offset, double finer) const
 {
-    return (std::round(position * m_scale + offset) - offset) / m_scale;
+    const double steps = m_steps * finer;
+    return (std::round((position * m_scale + offset) * steps) / steps - offset) / m_scale;
+}
+
+double CairoPainter::snapped(double length) const
+{
+    return snapped(length, 0);
 }
 
 QRectF CairoPainter::snapped(const QRectF &rect) const
 {
-    if (m_device == Paper)
-        return rect;
     const double left = snapped(rect.left(), m_offset.x()), top = snapped(rect.top(), m_offset.y());
-    return QRectF(left, top, std::max(1 / m_scale, snapped(rect.right(), m_offset.x()) - left),
-                  std::max(1 / m_scale, snapped(rect.bottom(), m_offset.y()) - top));
+    const double least = 1 / (m_scale * m_steps);
+    return QRectF(left, top, std::max(least, snapped(rect.right(), m_offset.x()) - left),
+                  std::max(least, snapped(rect.bottom(), m_offset.y()) - top));
 }
 
 // Adds the outline of a closed shape to the current path.
@@ -142,24 +162,32 @@ void CairoPainter::trace(const Mark &mark, const QRectF &rect)
 {
     if (mark.shape == Shape::Polygon) {
         for (int i = 0; i < mark.points.size(); ++i) {
-            const QPointF corner = cutTo(mark.points.at(i), m_view);
+            QPointF corner = cutTo(mark.points.at(i), m_view);
+            if (m_device == Paper)
+                corner = QPointF(snapped(corner.x(), m_offset.x()), snapped(corner.y(), m_offset.y()));
             i == 0 ? cairo_move_to(m_context, corner.x(), corner.y())
                    : cairo_line_to(m_context, corner.x(), corner.y());
         }
         cairo_close_path(m_context);
         return;
     }
-    const double radius =
-        mark.shape == Shape::Rect
-            ? 0
-            : std::min({m_sheet.style(mark.style).radius, rect.width() / 2, rect.height() / 2});
+    double radius = mark.shape == Shape::Rect ? 0 : m_sheet.style(mark.style).radius;
+    if (m_device == Paper) {
+        // The corners of a bar that is hardly wider than they are would take most of a file.
+        const bool isSeen = rect.width() > 2 * radius && rect.height() > 2 * radius;
+        radius = isSeen ? snapped(radius) : 0;
+    } else {
+        radius = std::min({radius, rect.width() / 2, rect.height() / 2});
+    }
     if (!(radius > 0)) {
         cairo_rectangle(m_context, rect.x(), rect.y(), rect.width(), rect.height());
         return;
     }
     const double left = rect.left(), top = rect.top(), right = rect.right(), bottom = rect.bottom();
     const bool isRoundRight = mark.shape != Shape::LeftRoundRect;
-    const double reach = radius * (1 - roundness); // of a curve's handle from the corner
+    double reach = radius * (1 - roundness); // of a curve's handle from the corner
+    if (m_device == Paper)
+        reach = snapped(reach);
     const double turn = isRoundRight ? radius : 0;
     cairo_move_to(m_context, left + radius, top);
     cairo_line_to(m_context, right - turn, top);
@@ -268,7 +296,31 @@ void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
     const double inset = line.end.isNone() ? 0 : line.end.inset(line.width);
     const double reach = line.width * (1 + line.end.length + line.end.width);
     const QRectF seen = m_seen.adjusted(-reach, -reach, reach, reach);
+    const QList<double> dashes = format.dash.pixels(format.width);
+    const double period =
+        std::accumulate(dashes.begin(), dashes.end(), 0.0) * (dashes.size() % 2 == 1 ? 2 : 1);
     KWPath heads;
+    // Links of one predecessor begin alike, those to one successor end alike, and many only pass: what has
+    // been drawn is not drawn again.
+    std::unordered_set<quint64> drawn;
+    const auto isDrawn = [&](const QPointF &a, const QPointF &b, bool isLast) {
+        const bool isLevel = a.y() == b.y();
+        if (!isLevel && a.x() != b.x())
+            return false;
+        constexpr int bits = 20;
+        const auto number = [&](double at, double offset) {
+            const qint64 step = std::llround((at * m_scale + offset) * m_steps);
+            return quint64(step + (1 << (bits - 1))) & ((1 << bits) - 1);
+        };
+        const double dx = m_offset.x(), dy = m_offset.y();
+        const quint64 across = isLevel ? number(a.y(), dy) : number(a.x(), dx);
+        const quint64 from = isLevel ? number(a.x(), dx) : number(a.y(), dy);
+        const quint64 to = isLevel ? number(b.x(), dx) : number(b.y(), dy);
+        // An end with its head is another one than what passes there.
+        const bool turns = !isLast && from > to;
+        const quint64 key = ((across << bits | (turns ? to : from)) << bits | (turns ? from : to)) << 2;
+        return !drawn.insert(key | (isLevel ? 2 : 0) | (isLast ? 1 : 0)).second;
+    };
     for (const Mark &mark : run) {
         const int count = mark.points.size();
         if (count < 2 || !isIn(mark.rect, seen))
@@ -279,19 +331,25 @@ void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
         const QPointF toMiddle(isLevel ? 0 : shift, isUpright ? 0 : shift);
         const auto corner = [&](int number) {
             const QPointF at = cutTo(mark.points.at(number), m_view);
-            return m_device == Paper
-                       ? at
-                       : QPointF(snapped(at.x(), m_offset.x()), snapped(at.y(), m_offset.y())) + toMiddle;
+            return QPointF(snapped(at.x(), m_offset.x()), snapped(at.y(), m_offset.y())) + toMiddle;
         };
         QPointF before = corner(0);
+        if (period > 0) {
+            // Dashes stay where they are when the beginning is cut off: by whole ones.
+            const QPointF cutOff = cutTo(mark.points.at(0), m_view) - mark.points.at(0);
+            const double length = std::hypot(cutOff.x(), cutOff.y());
+            if (length > 0)
+                before -= cutOff * (std::fmod(length, period) / length);
+        }
         bool isOn = false; // at the end of the segment before
         for (int i = 1; i < count; ++i) {
             const QPointF at = corner(i);
-            if (isIn(QRectF(before, at).normalized(), seen)) {
+            const bool isLast = i + 1 == count;
+            if (isIn(QRectF(before, at).normalized(), seen) &&
+                !(mark.kind == Kind::Link && isDrawn(before, at, isLast))) {
                 if (!isOn)
                     cairo_move_to(m_context, before.x(), before.y());
                 isOn = true;
-                const bool isLast = i + 1 == count;
                 const double whole = isLast ? std::hypot(at.x() - before.x(), at.y() - before.y()) : 0;
                 // The line ends before the tip of its head.
                 const QPointF end = whole > 0 ? at - (at - before) * (std::min(inset, whole) / whole) : at;
@@ -303,16 +361,8 @@ void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
             }
             before = at;
         }
-        if (!line.dash.lengths.isEmpty()) {
-            // Dashes stay where they are when the beginning is cut off.
-            const QPointF cutOff = cutTo(mark.points.at(0), m_view) - mark.points.at(0);
-            format.dash.offset =
-                line.dash.offset + (std::abs(cutOff.x()) + std::abs(cutOff.y())) / format.width;
-            stroke(format);
-        }
     }
-    if (line.dash.lengths.isEmpty())
-        stroke(format);
+    stroke(format);
     if (heads.isEmpty())
         return;
     addPath(m_context, heads);
@@ -325,11 +375,25 @@ void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
     }
 }
 
-void CairoPainter::drawText(const Mark &mark)
+void CairoPainter::drawTexts(const Run &run)
 {
-    setColor(m_sheet.style(mark.style).text.color.color());
-    const double y = mark.rect.center().y() + chart::baselineShift(chart::pixelsOf(m_fonts[mark.font]));
-    m_shaper.draw(m_context, mark.rect.x(), y, mark.text, mark.font);
+    QColor color;
+    for (const Mark &mark : run) {
+        if (mark.shape != Shape::Text || !isIn(mark.rect, m_view))
+            continue;
+        const QColor its = m_sheet.style(mark.style).text.color.color();
+        if (its != color) {
+            m_shaper.finish(m_context);
+            setColor(color = its);
+        }
+        const double y = mark.rect.center().y() + chart::baselineShift(chart::pixelsOf(m_fonts[mark.font]));
+        constexpr double finer = 4; // or what is aligned on the right seems to stand unevenly
+        const QPointF at = m_device == Pixels ? QPointF(mark.rect.x(), y)
+                                              : QPointF(snapped(mark.rect.x(), m_offset.x(), finer),
+                                                        snapped(y, m_offset.y(), finer));
+        m_shaper.draw(m_context, at.x(), at.y(), mark.text, mark.font);
+    }
+    m_shaper.finish(m_context);
 }
 
 void CairoPainter::fillAreas(const Run &run, const QColor &color)

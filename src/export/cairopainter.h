@@ -10,7 +10,7 @@ class CairoPainter
 {
 public:
     enum Device {
-        Paper, // places stay as they are
+        Paper, // places are rounded to what can be seen
         Pixels // fills and fine lines stand on whole device pixels
     };
     // The context must outlive it. `scale` is device units for a pixel of the chart.
@@ -36,9 +36,10 @@ private:
     void strokeLines(const Run &run, const KWLineFormat &line);
     void fillAreas(const Run &run, const QColor &color);
     void paintShapes(const Run &run, const chartstyle::Style &style);
-    void drawText(const chart::Mark &mark);
+    void drawTexts(const Run &run);
     void setColor(const QColor &color);
-    double snapped(double position, double offset) const;
+    double snapped(double position, double offset, double finer = 1) const;
+    double snapped(double length) const;
     QRectF snapped(const QRectF &rect) const;
 
     cairo_t *m_context;
@@ -47,6 +48,7 @@ private:
     const std::vector<chart::Font> &m_fonts;
     Device m_device;
     double m_scale;
+    double m_steps; // places for each device unit
     QPointF m_offset;
     QRectF m_seen; // chart pixels that can be seen
     QRectF m_view; // the same with a margin

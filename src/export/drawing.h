@@ -26,6 +26,8 @@ struct GanttPdfExport::Drawing
 
     double from = 0, to = 0; // of one picture: the part of the axis
 
+    void paintBlock(cairo_t *context, const picture::Block &block, const QRectF &area, double ratio,
+                    CairoPainter::Device device);
     // The blocks on the ground; `area` and they are pixels at 96 dpi.
     void paintBlocks(cairo_t *context, const std::vector<picture::Block> &blocks, const QRectF &area,
                      double ratio, CairoPainter::Device device);

@@ -418,8 +418,14 @@ void addBookmarks(cairo_surface_t *surface, const PlanView &view, const chart::S
 
 void addAnchors(cairo_t *context, const picture::Block &block)
 {
+    const auto isAnchor = [](const chart::Mark &mark) { return mark.shape == chart::Shape::Anchor; };
+    if (std::none_of(block.marks.begin(), block.marks.end(), isAnchor))
+        return;
+    // A link that stands in no other tag refers to an object that cairo does not write.
+    constexpr const char *outer = "Document";
+    cairo_tag_begin(context, outer, nullptr);
     for (const chart::Mark &mark : block.marks) {
-        if (mark.shape != chart::Shape::Anchor)
+        if (!isAnchor(mark))
             continue;
         const QRectF rect =
             QRectF(mark.rect.topLeft() * block.scale + block.offset, mark.rect.size() * block.scale) &
@@ -435,7 +441,96 @@ void addAnchors(cairo_t *context, const picture::Block &block)
         cairo_tag_begin(context, CAIRO_TAG_LINK, attributes.constData());
         cairo_tag_end(context, CAIRO_TAG_LINK);
     }
+    cairo_tag_end(context, outer);
 }
+}
+
+namespace {
+
+// Blocks that look as on the sheet before. A file holds them once, however many sheets show them.
+class RepeatedBlocks
+{
+public:
+    RepeatedBlocks() = default;
+    ~RepeatedBlocks()
+    {
+        for (const Slot &slot : m_slots)
+            forget(slot);
+    }
+    RepeatedBlocks(const RepeatedBlocks &) = delete;
+    RepeatedBlocks &operator=(const RepeatedBlocks &) = delete;
+
+    // `paint` draws the block with the context's scale in force.
+    void paint(cairo_t *context, std::size_t number, const picture::Block &block,
+               const std::function<void(cairo_t *)> &paint)
+    {
+        if (!block.mayRepeat)
+            return paint(context);
+        if (number >= m_slots.size())
+            m_slots.resize(number + 1);
+        Slot &slot = m_slots[number];
+        const QByteArray look = lookOf(block);
+        if (look != slot.look) {
+            forget(slot);
+            slot = {look, nullptr};
+            return paint(context);
+        }
+        if (!slot.recorded) {
+            const cairo_rectangle_t area{block.clip.x(), block.clip.y(), block.clip.width(),
+                                         block.clip.height()};
+            slot.recorded = cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, &area);
+            cairo_t *recorder = cairo_create(slot.recorded);
+            paint(recorder);
+            cairo_destroy(recorder);
+        }
+        cairo_set_source_surface(context, slot.recorded, 0, 0);
+        cairo_paint(context);
+    }
+
+private:
+    struct Slot
+    {
+        QByteArray look;
+        cairo_surface_t *recorded = nullptr; // from the second sheet on
+    };
+    static void forget(const Slot &slot)
+    {
+        if (slot.recorded)
+            cairo_surface_destroy(slot.recorded);
+    }
+    static QByteArray lookOf(const picture::Block &block)
+    {
+        QByteArray look;
+        const auto add = [&look](double value) {
+            constexpr double parts = 1024; // of a pixel; less than that is rounding
+            const qint64 whole = std::llround(value * parts);
+            look.append(reinterpret_cast<const char *>(&whole), sizeof whole);
+        };
+        const auto addPoint = [&add](const QPointF &point) {
+            add(point.x());
+            add(point.y());
+        };
+        const auto addRect = [&addPoint](const QRectF &rect) {
+            addPoint(rect.topLeft());
+            addPoint(rect.bottomRight());
+        };
+        addPoint(block.offset);
+        addRect(block.clip);
+        add(block.scale);
+        for (const chart::Mark &mark : block.marks) {
+            const char kinds[] = {char(mark.kind), char(mark.style), char(mark.shape), char(mark.font)};
+            look.append(kinds, sizeof kinds);
+            addRect(mark.rect);
+            add(mark.points.size());
+            for (const QPointF &point : mark.points)
+                addPoint(point);
+            look += mark.text.toUtf8() + '\0';
+        }
+        return look;
+    }
+
+    std::vector<Slot> m_slots; // by number of the block on its sheet
+};
 }
 
 bool GanttPdfExport::writeSheets(Drawing &drawing, QIODevice &device)
@@ -464,13 +559,18 @@ bool GanttPdfExport::writeSheets(Drawing &drawing, QIODevice &device)
     describe(CAIRO_PDF_METADATA_CREATE_DATE, created.toString(QStringLiteral("yyyy-MM-ddTHH:mm:ssZ")));
     cairo_t *context = cairo_create(surface);
     addBookmarks(surface, drawing.view, drawing.sheets, drawing.paper);
+    RepeatedBlocks repeated;
     bool goesOn = true;
     for (int page = 0; page < pages && goesOn; ++page) {
         cairo_save(context);
         cairo_scale(context, pointsPerPixel, pointsPerPixel);
         const std::vector<picture::Block> blocks = blocksOfPage(drawing, page);
-        drawing.paintBlocks(context, blocks, QRectF(0, 0, drawing.paper.width, drawing.paper.height), 1,
-                            CairoPainter::Paper);
+        const QRectF area(0, 0, drawing.paper.width, drawing.paper.height);
+        drawing.paintBlocks(context, {}, area, 1, CairoPainter::Paper);
+        for (std::size_t i = 0; i < blocks.size(); ++i)
+            repeated.paint(context, i, blocks[i], [&](cairo_t *target) {
+                drawing.paintBlock(target, blocks[i], area, 1, CairoPainter::Paper);
+            });
         for (const picture::Block &block : blocks)
             addAnchors(context, block);
         cairo_restore(context);

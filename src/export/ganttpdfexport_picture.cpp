@@ -18,12 +18,17 @@ void GanttPdfExport::Drawing::paintBlocks(cairo_t *context, const std::vector<pi
 {
     CairoPainter(context, style, shaper, plan().fonts, device, ratio)
         .fillGround(QRectF(area.topLeft() * ratio, area.size() * ratio));
-    for (const picture::Block &block : blocks) {
-        CairoPainter painter(context, style, shaper, plan().fonts, device, block.scale * ratio);
-        const QRectF clip(block.clip.topLeft() * ratio, block.clip.size() * ratio);
-        painter.paint(block.marks, block.offset * ratio,
-                      clip & QRectF(area.topLeft() * ratio, area.size() * ratio));
-    }
+    for (const picture::Block &block : blocks)
+        paintBlock(context, block, area, ratio, device);
+}
+
+void GanttPdfExport::Drawing::paintBlock(cairo_t *context, const picture::Block &block, const QRectF &area,
+                                         double ratio, CairoPainter::Device device)
+{
+    CairoPainter painter(context, style, shaper, plan().fonts, device, block.scale * ratio);
+    const QRectF clip(block.clip.topLeft() * ratio, block.clip.size() * ratio);
+    painter.paint(block.marks, block.offset * ratio,
+                  clip & QRectF(area.topLeft() * ratio, area.size() * ratio));
 }
 
 QImage GanttPdfExport::Drawing::image(double width, double height, double ratio,

@@ -96,6 +96,15 @@ QByteArray compact(const char *text)
     return result;
 }
 
+// Blanks round these signs mean nothing; none of the script's texts has one of them between two blanks.
+QByteArray compactScript(const char *text)
+{
+    QByteArray result = compact(text);
+    for (const char *sign : {"=>", "=", "===", "!==", "&&", "||", "?", ">=", "<=", "+="})
+        result.replace(QByteArray(" ") + sign + ' ', sign);
+    return result.replace(") {", "){");
+}
+
 QByteArray compactStyle(const char *text)
 {
     QByteArray result = compact(text);
@@ -121,7 +130,7 @@ htmlpage::Result htmlpage::write(QIODevice &device, KWDocument &document, const 
     };
 
     const ThemePalette &palette = document.chosenTheme();
-    const QByteArray script = compact(htmlparts::script);
+    const QByteArray script = compactScript(htmlparts::script);
     const QByteArray hash = QCryptographicHash::hash(script, QCryptographicHash::Sha256).toBase64();
     const QString language = options.language.isEmpty() ? QStringLiteral("en") : options.language;
     put("<!DOCTYPE html>\n<html lang=\"" + language.toHtmlEscaped().toUtf8() +

@@ -1,6 +1,7 @@
 #include "export/picture.h"
 #include "chart/elide.h"
 #include <algorithm>
+#include <iterator>
 #include <numeric>
 
 using chart::Align;
@@ -57,7 +58,24 @@ struct Part
     int firstRow, lastRow;
     std::vector<int> columns;
     double x0, x1;
+    bool isSheet; // the lines under the rows are blocks of their own
 };
+
+// The lines that stand under everything else, as if their first row were the plan's first.
+Marks takeLines(Marks &marks, double top)
+{
+    const auto end = std::find_if(marks.begin(), marks.end(), [](const Mark &mark) {
+        return mark.kind != Kind::Grid && mark.kind != Kind::Shade;
+    });
+    Marks lines(std::make_move_iterator(marks.begin()), std::make_move_iterator(end));
+    marks.erase(marks.begin(), end);
+    for (Mark &line : lines) {
+        line.rect.translate(0, chart::headHeight - top);
+        for (QPointF &point : line.points)
+            point.ry() += chart::headHeight - top;
+    }
+    return lines;
+}
 
 double tableWidth(const Plan &plan, const std::vector<int> &columns)
 {
@@ -77,29 +95,33 @@ void addPart(std::vector<Block> &blocks, const chart::Layout &layout, const Part
     const double headBottom = place.y() + chart::headHeight * scale;
     // Half a line hangs over the lower edges.
     const double overhang = 0.5 * scale;
-    const auto add = [&](Marks marks, const QPointF &offset, double x, double y, double width,
-                         double height) {
-        blocks.push_back(
-            {std::move(marks), offset, QRectF(x, y, width * scale, height * scale + overhang), scale});
+    const auto add = [&](Marks marks, const QPointF &offset, double x, double y, double width, double height,
+                         bool mayRepeat) {
+        blocks.push_back({std::move(marks), offset, QRectF(x, y, width * scale, height * scale + overhang),
+                          scale, mayRepeat});
     };
-    const QPointF bodyShift(0, (chart::headHeight - top) * scale);
+    const auto addRows = [&](Marks marks, const QPointF &offset, double x, double width) {
+        if (part.isSheet)
+            add(takeLines(marks, top), offset, x, headBottom, width, rows, true);
+        add(std::move(marks), offset + QPointF(0, (chart::headHeight - top) * scale), x, headBottom, width,
+            rows, false);
+    };
     if (!part.columns.empty()) {
-        add(layout.table(part.firstRow, part.lastRow, part.columns, 0), place + bodyShift, place.x(),
-            headBottom, table, rows);
-        add(layout.tableHead(part.columns, 0), place, place.x(), place.y(), table, chart::headHeight);
+        addRows(layout.table(part.firstRow, part.lastRow, part.columns, 0), place, place.x(), table);
+        add(layout.tableHead(part.columns, 0), place, place.x(), place.y(), table, chart::headHeight, true);
     }
     if (chartWidth > 0) {
         const double x = place.x() + table * scale;
         const QPointF chartPlace = place + QPointF((table - part.x0) * scale, 0);
-        add(layout.body(part.firstRow, part.lastRow, part.x0, part.x1), chartPlace + bodyShift, x, headBottom,
-            chartWidth, rows);
+        addRows(layout.body(part.firstRow, part.lastRow, part.x0, part.x1), chartPlace, x, chartWidth);
         add(layout.head(part.x0, part.x1), chartPlace, x, place.y(), chartWidth,
-            chart::headHeight + chart::headOverhang);
+            chart::headHeight + chart::headOverhang, true);
         if (!part.columns.empty())
             blocks.push_back({{upright(table, 0, chart::headHeight + rows)},
                               place,
                               QRectF(x - scale, place.y(), 2 * scale, (chart::headHeight + rows) * scale),
-                              scale});
+                              scale,
+                              true});
     }
 }
 
@@ -128,7 +150,7 @@ std::vector<Block> sheet(const chart::Layout &layout, const chart::Sheets &sheet
     const Plan &plan = layout.plan();
     std::vector<Block> blocks;
     const QPointF place(paper.marginX, paper.marginY);
-    addPart(blocks, layout, {part.firstRow, part.lastRow, part.columns, part.x0, part.x1}, place,
+    addPart(blocks, layout, {part.firstRow, part.lastRow, part.columns, part.x0, part.x1, true}, place,
             sheets.scale);
     if (hasLegend && part.isLastDown && part.across == 0) {
         const double rows =
@@ -167,7 +189,7 @@ Whole whole(const chart::Layout &layout, double from, double to, const QString &
     const double below = plan.bottom;
     const double top = title.isEmpty() ? padding : padding + titleHeight;
     const QPointF place(padding, top);
-    addPart(result.blocks, layout, {0, int(plan.rows.size()) - 1, columns, from, to}, place, 1);
+    addPart(result.blocks, layout, {0, int(plan.rows.size()) - 1, columns, from, to, false}, place, 1);
     result.width = width + 2 * padding;
     result.height = top + below + padding;
     if (hasLegend) {

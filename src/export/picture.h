@@ -15,6 +15,7 @@ struct Block
     QPointF offset;
     QRectF clip;
     double scale = 1;
+    bool mayRepeat = false; // on the sheets below: it tells of no task
 };
 
 // The texts around the picture, with all signs replaced.

@@ -1,5 +1,6 @@
 #include "export/planview.h"
 #include "chart/axis.h"
+#include "chart/elide.h"
 #include "engine/record/outline.h"
 #include "engine/text/celltext.h"
 #include "engine/time/dayoff.h"
@@ -28,13 +29,15 @@ constexpr int longestReach = 2000; // rows that a link is followed
 QString safeAddress(const KWHyperlink &link)
 {
     constexpr int webPage = 3, longest = 2000;
-    const QUrl url((link.type == webPage ? link.getWebPageUrl() : link.address).trimmed(),
-                   QUrl::TolerantMode);
     static const QStringList schemes{QStringLiteral("http"), QStringLiteral("https"), QStringLiteral("ftp"),
                                      QStringLiteral("mailto")};
+    const auto isSafe = [](const QUrl &url) { return url.isValid() && schemes.contains(url.scheme()); };
+    QUrl url(link.address.trimmed(), QUrl::TolerantMode);
+    // An address of a page without a scheme gets one.
+    if (!isSafe(url) && link.type == webPage)
+        url = QUrl(link.getWebPageUrl().trimmed(), QUrl::TolerantMode);
     const QString address = QString::fromLatin1(url.toEncoded());
-    return url.isValid() && schemes.contains(url.scheme().toLower()) && address.size() <= longest ? address
-                                                                                                  : QString();
+    return isSafe(url) && address.size() <= longest ? address : QString();
 }
 
 // The task's default link, or the first that is safe.
@@ -372,7 +375,8 @@ void PlanView::makeRoom()
             continue;
         const QString label = labelOf(m_plan.firstRow + i);
         if (!label.isEmpty())
-            room = std::max(room, behind + gap + m_shaper.width(label.left(100), chart::LabelFont) -
+            room = std::max(room, behind + gap +
+                                      m_shaper.width(chart::oneLine(label.left(100)), chart::LabelFont) -
                                       m_plan.axis.width);
     }
     m_plan.room = std::min(room, widest);
@@ -542,8 +546,9 @@ void PlanView::fitColumns()
         for (const auto &[estimate, text] : longest) {
             constexpr double meanCharacter = 7.5;
             const double indent = estimate - text.size() * meanCharacter;
-            width = std::max(width, indent + m_shaper.width(text.left(200), head.isName ? chart::BoldCellFont
-                                                                                        : chart::CellFont));
+            width =
+                std::max(width, indent + m_shaper.width(chart::oneLine(text.left(200)),
+                                                        head.isName ? chart::BoldCellFont : chart::CellFont));
         }
         head.width = std::ceil(std::clamp(width + insets, narrowest, head.isName ? widestName : widestOther));
     }

@@ -1,4 +1,5 @@
 #include "export/textshaper.h"
+#include <algorithm>
 #include <fontconfig/fontconfig.h>
 
 namespace {
@@ -25,6 +26,20 @@ bool isChinese(const QString &text)
         }
     }
     return hasHan;
+}
+
+// Letters and signs of the European scripts, which stand in the order in which they are read. Whatever may
+// need more than a look into a font is left to pango's layout.
+bool isPlain(const QString &text)
+{
+    constexpr ushort blank = 0x20, del = 0x7f, noBreakBlank = 0xa0, softHyphen = 0xad, marks = 0x300,
+                     greek = 0x370, hebrew = 0x590, ellipsis = 0x2026, dash = 0x2013;
+    return std::all_of(text.begin(), text.end(), [](QChar c) {
+        const ushort code = c.unicode();
+        return (code >= blank && code < del) ||
+               (code >= noBreakBlank && code < marks && code != softHyphen) ||
+               (code >= greek && code < hebrew) || code == ellipsis || code == dash;
+    });
 }
 
 // Kept as long as the process: on a machine with many fonts it takes longer to sort them than to draw a plan.
@@ -98,9 +113,57 @@ void TextShaper::append(const chart::Font &font)
 
 void TextShaper::forget(Generation &generation)
 {
-    for (const Shaped &each : qAsConst(generation))
-        g_object_unref(each.layout);
+    for (const Shaped &each : qAsConst(generation)) {
+        if (each.layout)
+            g_object_unref(each.layout);
+        else
+            cairo_scaled_font_destroy(each.plain.font);
+    }
     generation.clear();
+}
+
+// Without the search for places to break lines, which takes longer than the shaping of a cell's text.
+bool TextShaper::shapePlain(Shaped &shaped, const QString &text, int font) const
+{
+    const chart::Font &format = m_fonts[std::size_t(font)];
+    if (format.underline || format.strikeOut || !isPlain(text))
+        return false;
+    Glyphs &plain = shaped.plain;
+    plain.bytes = text.toUtf8();
+    pango_context_set_font_description(m_context, m_descriptions[std::size_t(font)]);
+    PangoAttrList *none = pango_attr_list_new();
+    GList *items = pango_itemize_with_base_dir(m_context, PANGO_DIRECTION_LTR, plain.bytes.constData(), 0,
+                                               plain.bytes.size(), none, nullptr);
+    pango_attr_list_unref(none);
+    bool isDone = false;
+    if (items && !items->next) {
+        const PangoItem *item = static_cast<const PangoItem *>(items->data);
+        PangoGlyphString *glyphs = pango_glyph_string_new();
+        pango_shape_full(plain.bytes.constData(), plain.bytes.size(), plain.bytes.constData(),
+                         plain.bytes.size(), &item->analysis, glyphs);
+        isDone = glyphs->num_glyphs == text.size() && PANGO_IS_CAIRO_FONT(item->analysis.font);
+        int x = 0, place = 0; // pango's units and bytes
+        for (int i = 0; i < glyphs->num_glyphs && isDone; ++i) {
+            const PangoGlyphInfo &glyph = glyphs->glyphs[i];
+            const int bytes = text.at(i).unicode() < 0x80 ? 1 : text.at(i).unicode() < 0x800 ? 2 : 3;
+            isDone = glyphs->log_clusters[i] == place && glyph.glyph != PANGO_GLYPH_EMPTY &&
+                     !(glyph.glyph & PANGO_GLYPH_UNKNOWN_FLAG);
+            plain.glyphs.push_back({glyph.glyph, double(x + glyph.geometry.x_offset) / PANGO_SCALE,
+                                    double(glyph.geometry.y_offset) / PANGO_SCALE});
+            plain.clusters.push_back({bytes, 1});
+            x += glyph.geometry.width;
+            place += bytes;
+        }
+        shaped.width = double(x) / PANGO_SCALE;
+        if (isDone)
+            plain.font = cairo_scaled_font_reference(
+                pango_cairo_font_get_scaled_font(PANGO_CAIRO_FONT(item->analysis.font)));
+        pango_glyph_string_free(glyphs);
+    }
+    g_list_free_full(items, [](gpointer item) { pango_item_free(static_cast<PangoItem *>(item)); });
+    if (!isDone)
+        plain = Glyphs();
+    return isDone;
 }
 
 const TextShaper::Shaped &TextShaper::shaped(const QString &text, int font)
@@ -120,6 +183,13 @@ const TextShaper::Shaped &TextShaper::shaped(const QString &text, int font)
         return *m_young.insert(key, kept);
     }
     Shaped fresh;
+    if (!shapePlain(fresh, text, font))
+        shapeAny(fresh, text, font);
+    return *m_young.insert(key, fresh);
+}
+
+void TextShaper::shapeAny(Shaped &fresh, const QString &text, int font)
+{
     fresh.layout = pango_layout_new(m_context);
     pango_layout_set_font_description(fresh.layout, m_descriptions[std::size_t(font)]);
     pango_layout_set_single_paragraph_mode(fresh.layout, true);
@@ -143,7 +213,6 @@ const TextShaper::Shaped &TextShaper::shaped(const QString &text, int font)
     fresh.width = double(logical.width) / PANGO_SCALE;
     if (pango_layout_get_unknown_glyphs_count(fresh.layout) > 0 && m_textsWithGaps++ == 0)
         m_firstTextWithGaps = text;
-    return *m_young.insert(key, fresh);
 }
 
 double TextShaper::width(const QString &text, int font)
@@ -155,6 +224,34 @@ void TextShaper::draw(cairo_t *context, double x, double y, const QString &text,
 {
     if (text.isEmpty())
         return;
-    cairo_move_to(context, x, y);
-    pango_cairo_show_layout_line(context, pango_layout_get_line_readonly(shaped(text, font).layout, 0));
+    const Shaped &its = shaped(text, font);
+    if (its.layout) {
+        finish(context);
+        cairo_move_to(context, x, y);
+        pango_cairo_show_layout_line(context, pango_layout_get_line_readonly(its.layout, 0));
+        return;
+    }
+    if (m_waiting.font != its.plain.font)
+        finish(context);
+    if (!m_waiting.font)
+        m_waiting.font = cairo_scaled_font_reference(its.plain.font);
+    for (const cairo_glyph_t &glyph : its.plain.glyphs)
+        m_waiting.glyphs.push_back({glyph.index, x + glyph.x, y + glyph.y});
+    m_waiting.clusters.insert(m_waiting.clusters.end(), its.plain.clusters.begin(), its.plain.clusters.end());
+    m_waiting.bytes += its.plain.bytes;
+}
+
+void TextShaper::finish(cairo_t *context)
+{
+    if (!m_waiting.font)
+        return;
+    cairo_set_scaled_font(context, m_waiting.font);
+    cairo_show_text_glyphs(context, m_waiting.bytes.constData(), m_waiting.bytes.size(),
+                           m_waiting.glyphs.data(), int(m_waiting.glyphs.size()), m_waiting.clusters.data(),
+                           int(m_waiting.clusters.size()), cairo_text_cluster_flags_t(0));
+    cairo_scaled_font_destroy(m_waiting.font);
+    m_waiting.font = nullptr;
+    m_waiting.glyphs.clear();
+    m_waiting.clusters.clear();
+    m_waiting.bytes.resize(0);
 }

@@ -24,8 +24,11 @@ public:
     const std::vector<chart::Font> &fonts() const { return m_fonts; }
 
     double width(const QString &text, int font);
-    // The baseline begins at (x, y); the colour is the context's.
+    // The baseline begins at (x, y); the colour is the context's. What it draws may be kept back until
+    // `finish`, which comes before anything else is drawn or the colour changes: texts one after the other in
+    // the same font are one operation.
     void draw(cairo_t *context, double x, double y, const QString &text, int font);
+    void finish(cairo_t *context);
 
     // Characters without a picture in any font: how many texts had some, and the first of them.
     int textsWithGaps() const { return m_textsWithGaps; }
@@ -42,13 +45,24 @@ private:
     {
         return ::qHash(key.text, seed) ^ uint(key.font) * 2654435761u;
     }
+    // What one call of cairo's draws.
+    struct Glyphs
+    {
+        cairo_scaled_font_t *font = nullptr;
+        std::vector<cairo_glyph_t> glyphs;
+        std::vector<cairo_text_cluster_t> clusters;
+        QByteArray bytes; // UTF-8
+    };
     struct Shaped
     {
-        PangoLayout *layout = nullptr;
+        Glyphs plain;                  // of a text in one font from left to right, a glyph for each character
+        PangoLayout *layout = nullptr; // of any other
         double width = 0;
     };
     using Generation = QHash<Key, Shaped>;
     void append(const chart::Font &font);
+    bool shapePlain(Shaped &shaped, const QString &text, int font) const;
+    void shapeAny(Shaped &shaped, const QString &text, int font);
     const Shaped &shaped(const QString &text, int font);
     static void forget(Generation &generation);
 
@@ -58,6 +72,7 @@ private:
     std::vector<PangoFontDescription *> m_descriptions;
     // Texts used lately and those used before: a full generation takes the place of the older one.
     Generation m_young, m_old;
+    Glyphs m_waiting; // to be drawn
     int m_textsWithGaps = 0;
     QString m_firstTextWithGaps;
 };

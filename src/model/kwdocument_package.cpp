@@ -163,6 +163,22 @@ bool readXml(const QString &path, XmlTree &tree, Findings &findings)
            refuseReading(findings, path, QFileInfo(path).fileName(), error);
 }
 
+// The tasks of a file that is read in parts, with a look at all its elements.
+bool readTasks(const QString &path, XmlParts &parts, loadcheck::XmlLook &look, documentxml::ReadTasks &tasks)
+{
+    if (!parts.load(path, kwzip::maxEntryBytes, "TaskList") || !parts.root().is("Document"))
+        return false;
+    taskxml::FontMemo memo;
+    return look.lookAtElements(parts.root(), [&](const auto &visit) {
+        return parts.forEach([&](const TreeSource &element) {
+            TreeSource source = element;
+            tasks.push_back(std::make_unique<KWTaskInfo>());
+            taskxml::read(source, *tasks.back(), &memo);
+            visit(element);
+        });
+    });
+}
+
 // What unpacking left behind, checked once more: the archive may have been unpacked by another library's
 // code.
 bool isWithinLimits(const QString &folder, QString *error)
@@ -380,24 +396,39 @@ bool KWDocument::loadFromKWGT(const QString &path)
 
 bool KWDocument::loadDocument(const QString &folder, unsigned int)
 {
-    XmlTree tree;
+    const QString path = folder + latin1(documentFile);
+    const auto takeOver = [this](TreeSource root, loadcheck::XmlLook &look, documentxml::ReadTasks *tasks) {
+        m_loadedVersion = versionOf(root.text("Version").toString());
+        m_actions.prepareReplacement();
+        const bool wasModified = isModified();
+        documentxml::read(root, *this, tasks);
+        m_storedMidnights = loadcheck::midnights(root);
+        look.lookAtLists(root, *this);
+        loadcheck::lookAtDocument(root, *this, m_loadFindings);
+        showLostTasks(*this, m_loadFindings);
+        setModified(wasModified);
+        return true;
+    };
     m_loadFindings.clear();
-    if (!readXml(folder + latin1(documentFile), tree, m_loadFindings))
+    {
+        XmlParts parts;
+        documentxml::ReadTasks tasks;
+        loadcheck::XmlLook look(m_loadFindings);
+        if (readTasks(path, parts, look, tasks))
+            return takeOver(parts.root(), look, &tasks);
+    }
+    // As a whole it may be read all the same, and if not, it is told where.
+    m_loadFindings.clear();
+    XmlTree tree;
+    if (!readXml(path, tree, m_loadFindings))
         return false;
     TreeSource root = tree.root();
     if (!root.is("Document"))
         return refuseReading(m_loadFindings, folder, latin1(documentFile),
                              QStringLiteral("the root element is not \"Document\""));
-    m_loadedVersion = versionOf(root.text("Version").toString());
-    m_actions.prepareReplacement();
-    const bool wasModified = isModified();
-    documentxml::read(root, *this);
-    m_storedMidnights = loadcheck::midnights(root);
-    loadcheck::lookAtXml(root, *this, m_loadFindings);
-    loadcheck::lookAtDocument(root, *this, m_loadFindings);
-    showLostTasks(*this, m_loadFindings);
-    setModified(wasModified);
-    return true;
+    loadcheck::XmlLook look(m_loadFindings);
+    look.lookAtElements(root);
+    return takeOver(root, look, nullptr);
 }
 
 KWVersion KWDocument::versionOf(const QString &text)

@@ -5,6 +5,8 @@
 #include "settings/kwprintconfig_xml.h"
 #include "table/rowcolumndata_xml.h"
 #include <algorithm>
+#include <memory>
+#include <vector>
 
 // The whole project as the element of "document.xml", over any of the XML sinks and sources.
 namespace documentxml {
@@ -44,10 +46,18 @@ void write(Sink &sink, const KWDocument &document)
     sink.close();
 }
 
+// Tasks that have been read already, for files whose tree does not hold them.
+using ReadTasks = std::vector<std::unique_ptr<KWTaskInfo>>;
+
 template <typename Source>
-void readTasks(const Source &list, KWDocument &document)
+void readTasks(const Source &list, KWDocument &document, ReadTasks *tasks)
 {
     document.clearTaskInfoList();
+    if (tasks) {
+        for (std::unique_ptr<KWTaskInfo> &task : *tasks)
+            document.appendTaskInfoList(task.release());
+        return;
+    }
     taskxml::FontMemo memo;
     for (Source child = list.firstChild(); !child.isNull(); child = child.nextSibling()) {
         auto *task = new KWTaskInfo;
@@ -76,7 +86,7 @@ void readSheet(const Source &entries, ResourceInfoData &sheet)
 // Replaces what the element tells of. Nothing in here can fail: the caller has made sure that it is sound
 // XML.
 template <typename Source>
-void read(Source &root, KWDocument &document)
+void read(Source &root, KWDocument &document, ReadTasks *tasks = nullptr)
 {
     xmltext::read(root.text("DocGuid"), document.DocGuid);
     qDeleteAll(document.workTimes);
@@ -91,7 +101,7 @@ void read(Source &root, KWDocument &document)
         if (child.is("GanttOption"))
             optionsxml::readAll(child, document);
         else if (child.is("TaskList"))
-            readTasks(child, document);
+            readTasks(child, document, tasks);
         else if (child.is("ResourceInfo"))
             readSheet(child, *document.resourceInfoData());
         else if (child.is("RowColumn"))

@@ -10,6 +10,7 @@
 #include <QHash>
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <map>
 
 namespace loadcheck {
@@ -53,10 +54,18 @@ int elementsIn(pugi::xml_node element)
 
 // ---- Values -----------------------------------------------------------------------------------------------
 
-bool isDigits(const char *text, int size)
+bool isDigits(const char *text, int size, int most = 9)
 {
-    return size > 0 && size <= 9 &&
+    return size > 0 && size <= most &&
            std::all_of(text, text + size, [](char letter) { return letter >= '0' && letter <= '9'; });
+}
+
+// Ten digits that fit: moments have so many.
+bool isMoment(const char *text, int size)
+{
+    constexpr char greatest[] = "4294967295";
+    constexpr int digits = int(sizeof(greatest)) - 1;
+    return size == digits && isDigits(text, size, digits) && std::memcmp(text, greatest, digits) <= 0;
 }
 
 enum class Type { Whole, Short, Unsigned, Positive, Number };
@@ -65,6 +74,8 @@ bool isOf(Type type, const XmlText &text)
 {
     if (isDigits(text.data(), text.size()))
         return type != Type::Short || text.toInt() <= 32767;
+    if (type == Type::Unsigned && isMoment(text.data(), text.size()))
+        return true;
     bool ok = false;
     const QString number = text.toString();
     switch (type) {
@@ -156,19 +167,26 @@ QString badValue(Kind kind, const XmlText &text)
 
 // ---- The XML ----------------------------------------------------------------------------------------------
 
-class XmlLook
+}
+
+class XmlLook::Walk
 {
 public:
-    XmlLook(const KWDocument &document, Findings &findings)
-        : m_document(document)
-        , m_findings(findings)
+    explicit Walk(Findings &findings)
+        : m_findings(findings)
     {
     }
 
-    void run(pugi::xml_node root)
+    bool run(pugi::xml_node root, const Tasks &tasks)
     {
+        m_tasks = tasks;
         element(root, documentschema::document());
-        missingLists(root);
+        return m_goesOn;
+    }
+
+    void finish(pugi::xml_node root, const KWDocument &document)
+    {
+        missingLists(root, document);
         version(QString::fromUtf8(root.attribute("Version").value()));
         for (const auto &[key, seen] : m_repeated) {
             QString words = seen.words;
@@ -292,6 +310,19 @@ private:
             }
             element(child, *known, number);
         }
+        if (m_tasks && std::strcmp(schema.name, "TaskList") == 0)
+            m_goesOn = m_tasks([&](const TreeSource &task) { listed(task.node(), schema, ++number); });
+    }
+
+    // A child of a list that takes any name.
+    void listed(pugi::xml_node child, const Element &schema, int number)
+    {
+        const Element &known = schema.children.front();
+        if (std::strcmp(known.name, child.name()) != 0)
+            tellOnce(Finding::Changed, schema, child.name(),
+                     QStringLiteral("an element %1 is read as a '%2'")
+                         .arg(quoted(QString::fromUtf8(child.name())), QLatin1String(known.name)));
+        element(child, known, number);
     }
 
     static const Element *childOf(const Element &schema, const char *name)
@@ -334,7 +365,7 @@ private:
     }
 
     // Lists without entries are not written; what else is missing was taken away.
-    void missingLists(pugi::xml_node root)
+    void missingLists(pugi::xml_node root, const KWDocument &document)
     {
         bool hasAny = false;
         for (const Element &list : documentschema::document().children)
@@ -360,10 +391,10 @@ private:
         XmlText(text, int(std::strlen(text))).split(';', Qt::SkipEmptyParts, [&](const XmlText &) {
             ++heights;
         });
-        if (heights != 0 && heights != m_document.taskCount())
-            m_findings.add(m_document.taskCount() < heights ? Finding::Lost : Finding::Changed, QString(),
+        if (heights != 0 && heights != document.taskCount())
+            m_findings.add(document.taskCount() < heights ? Finding::Lost : Finding::Changed, QString(),
                            QStringLiteral("there are %1 tasks in the file and %2 row heights")
-                               .arg(m_document.taskCount())
+                               .arg(document.taskCount())
                                .arg(heights));
     }
 
@@ -387,11 +418,14 @@ private:
         const Element *schema;
         int number; // among its siblings, from 1
     };
-    const KWDocument &m_document;
     Findings &m_findings;
+    Tasks m_tasks;
+    bool m_goesOn = true;
     std::vector<Step> m_path;
     std::map<std::pair<const Element *, QByteArray>, Repeated> m_repeated;
 };
+
+namespace {
 
 // ---- The document -----------------------------------------------------------------------------------------
 
@@ -637,9 +671,21 @@ private:
 };
 }
 
-void lookAtXml(const TreeSource &root, const KWDocument &document, Findings &findings)
+XmlLook::XmlLook(Findings &findings)
+    : m_walk(std::make_unique<Walk>(findings))
 {
-    XmlLook(document, findings).run(root.node());
+}
+
+XmlLook::~XmlLook() = default;
+
+bool XmlLook::lookAtElements(const TreeSource &root, const Tasks &tasks)
+{
+    return m_walk->run(root.node(), tasks);
+}
+
+void XmlLook::lookAtLists(const TreeSource &root, const KWDocument &document)
+{
+    m_walk->finish(root.node(), document);
 }
 
 void lookAtDocument(const TreeSource &root, const KWDocument &document, Findings &findings)

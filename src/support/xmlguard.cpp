@@ -3,14 +3,22 @@
 
 namespace {
 
+bool isBlank(const char *at, const char *end)
+{
+    while (at != end && (*at == ' ' || *at == '\t' || *at == '\n' || *at == '\r'))
+        ++at;
+    return at == end;
+}
+
 // A walk over the bytes that only ever goes forward.
 class Scan
 {
 public:
-    explicit Scan(const QByteArray &text)
+    explicit Scan(const QByteArray &text, xmlguard::ListPlace *list = nullptr)
         : m_begin(text.constData())
         , m_at(m_begin)
         , m_end(m_begin + text.size())
+        , m_list(list)
     {
     }
 
@@ -23,10 +31,15 @@ private:
     bool skipPast(const char *mark, const char *whatIsOpen);
     bool markup();
     bool tag();
+    void noteStart(const char *end, bool isEmptyElement);
+    void noteEnd();
 
     const char *const m_begin;
     const char *m_at;
     const char *const m_end;
+    xmlguard::ListPlace *const m_list;
+    bool m_isInList = false;
+    int m_elements = 0; // of the list
     int m_depth = 0;
     int m_nodes = 0;
     QString m_error;
@@ -62,6 +75,8 @@ bool Scan::run()
             m_at = m_end;
             return m_depth == 0 || fail("the text ends inside an element");
         }
+        if (m_isInList && m_depth == 2)
+            m_list->hasText = m_list->hasText || !isBlank(m_at, next);
         m_at = next;
         if (!markup())
             return false;
@@ -89,6 +104,34 @@ bool Scan::markup()
     return tag();
 }
 
+// At a tag directly below the root or in the list, which ends at `end`.
+void Scan::noteStart(const char *end, bool isEmptyElement)
+{
+    constexpr int every = 256;
+    if (m_depth == 2) {
+        if (m_elements++ % every == 0)
+            m_list->starts.push_back(int(m_at - m_begin));
+        return;
+    }
+    const size_t length = std::strlen(m_list->name);
+    const char *const behind = m_at + 1 + length;
+    if (behind > end || std::memcmp(m_at + 1, m_list->name, length) != 0 ||
+        (*behind != '>' && *behind != '/' && *behind != ' ' && *behind != '\t' && *behind != '\n' &&
+         *behind != '\r'))
+        return;
+    ++m_list->lists;
+    if (!isEmptyElement && m_list->lists == 1) {
+        m_isInList = true;
+        m_list->begin = int(end + 1 - m_begin);
+    }
+}
+
+void Scan::noteEnd()
+{
+    m_isInList = false;
+    m_list->end = int(m_at - m_begin);
+}
+
 // What ends a run of plain bytes inside a tag.
 const struct TagMarks
 {
@@ -114,6 +157,10 @@ bool Scan::tag()
             const bool isEmptyElement = !isEndTag && p[-1] == '/';
             if (isEndTag && --m_depth < 0)
                 return fail("an end tag without its element");
+            if (isEndTag && m_isInList && m_depth == 1)
+                noteEnd();
+            if (!isEndTag && m_list && (m_depth == 1 || (m_isInList && m_depth == 2)))
+                noteStart(p, isEmptyElement);
             if (!isEndTag && ++m_depth > xmlguard::maxDepth)
                 return fail("elements are nested too deep");
             if (isEmptyElement)
@@ -207,9 +254,15 @@ bool xmlguard::isSoundText(const QByteArray &text, QString *error)
 
 bool xmlguard::isSafe(const QByteArray &text, QString *error)
 {
+    ListPlace none;
+    return isSafe(text, none, error);
+}
+
+bool xmlguard::isSafe(const QByteArray &text, ListPlace &list, QString *error)
+{
     if (!isSoundText(text, error))
         return false;
-    Scan scan(text);
+    Scan scan(text, list.name ? &list : nullptr);
     if (scan.run())
         return true;
     if (error)

@@ -1,4 +1,5 @@
 #include "support/xmltext.h"
+#include <array>
 #include <charconv>
 #include <cmath>
 
@@ -14,6 +15,15 @@ bool isShortNumber(const char *data, int size)
             return false;
     }
     return true;
+}
+
+// Ten digits may fit.
+bool isMoment(const char *data, int size)
+{
+    constexpr char greatest[] = "4294967295";
+    constexpr int digits = int(sizeof(greatest)) - 1;
+    return size == digits && isShortNumber(data, digits - 1) && data[digits - 1] >= '0' &&
+           data[digits - 1] <= '9' && std::memcmp(data, greatest, digits) <= 0;
 }
 
 quint32 shortNumber(const char *data, int size)
@@ -42,7 +52,8 @@ qint32 XmlText::toInt() const
 
 quint32 XmlText::toUInt() const
 {
-    return isShortNumber(m_data, m_size) ? shortNumber(m_data, m_size) : toString().toUInt();
+    return isShortNumber(m_data, m_size) || isMoment(m_data, m_size) ? shortNumber(m_data, m_size)
+                                                                     : toString().toUInt();
 }
 
 double XmlText::toDouble() const
@@ -65,10 +76,34 @@ bool XmlText::operator==(const char *text) const
     return std::strlen(text) == size_t(m_size) && std::memcmp(m_data, text, size_t(m_size)) == 0;
 }
 
+namespace {
+
+// A text of a few bytes, as slack and names of resources are, stands in many records: those that were read
+// last exist once.
+QString shortText(const char *data, int size)
+{
+    struct Known
+    {
+        quint64 bytes = 0;
+        int size = 0;
+        QString text;
+    };
+    constexpr int bits = 10;
+    static std::array<Known, 1 << bits> known;
+    quint64 bytes = 0;
+    std::memcpy(&bytes, data, size_t(size));
+    Known &one = known[size_t((bytes * 0x9e3779b97f4a7c15ULL) >> (64 - bits))];
+    if (one.bytes != bytes || one.size != size)
+        one = {bytes, size, QString::fromUtf8(data, size)};
+    return one.text;
+}
+}
+
 void xmltext::read(const XmlText &text, QString &value)
 {
-    if (!text.isEmpty())
-        value = text.toString();
+    if (text.isEmpty())
+        return;
+    value = text.size() <= int(sizeof(quint64)) ? shortText(text.data(), text.size()) : text.toString();
 }
 
 void xmltext::read(const XmlText &text, qint16 &value)

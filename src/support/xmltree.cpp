@@ -95,15 +95,22 @@ pugi::xml_node nextNode(pugi::xml_node node, pugi::xml_node root)
     }
     return pugi::xml_node();
 }
-}
 
-bool XmlTree::parse(const QByteArray &bytes, QString *error)
+// Text between the elements belongs to no document of ours; it is kept all the same, to find it outside the
+// root, where no XML may have any.
+constexpr unsigned int options = pugi::parse_escapes | pugi::parse_wconv_attribute | pugi::parse_eol;
+
+// The element, if there is one below `root` with an attribute twice.
+pugi::xml_node unsoundBelow(pugi::xml_node root, AttributeCheck &check)
 {
-    m_bytes = bytes;
-    return build(error);
+    for (pugi::xml_node node = root; node; node = nextNode(node, root)) {
+        if (node.type() == pugi::node_element && !check.isSound(node))
+            return node;
+    }
+    return pugi::xml_node();
 }
 
-bool XmlTree::load(const QString &path, qint64 maxBytes, QString *error)
+bool readFile(const QString &path, qint64 maxBytes, QByteArray &bytes, QString *error)
 {
     // A pipe would block and a device never ends.
     QFile file(path);
@@ -113,20 +120,26 @@ bool XmlTree::load(const QString &path, qint64 maxBytes, QString *error)
         return fail(error, file.errorString());
     if (file.size() > maxBytes)
         return fail(error, QStringLiteral("too large"));
-    m_bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return fail(error, file.errorString());
-    return build(error);
+    bytes = file.readAll();
+    return file.error() == QFileDevice::NoError || fail(error, file.errorString());
+}
+}
+
+bool XmlTree::parse(const QByteArray &bytes, QString *error)
+{
+    m_bytes = bytes;
+    m_document.reset();
+    return xmlguard::isSafe(m_bytes, error) && build(error);
+}
+
+bool XmlTree::load(const QString &path, qint64 maxBytes, QString *error)
+{
+    m_document.reset();
+    return readFile(path, maxBytes, m_bytes, error) && xmlguard::isSafe(m_bytes, error) && build(error);
 }
 
 bool XmlTree::build(QString *error)
 {
-    m_document.reset();
-    if (!xmlguard::isSafe(m_bytes, error))
-        return false;
-    // Text between the elements belongs to no document of ours; it is kept all the same, to find it outside
-    // the root, where no XML may have any.
-    constexpr unsigned int options = pugi::parse_escapes | pugi::parse_wconv_attribute | pugi::parse_eol;
     const pugi::xml_parse_result result =
         m_document.load_buffer_inplace(m_bytes.data(), size_t(m_bytes.size()), options, pugi::encoding_utf8);
     if (!result) {
@@ -142,11 +155,39 @@ bool XmlTree::build(QString *error)
         }
     }
     AttributeCheck check;
-    for (pugi::xml_node node = root; node; node = nextNode(node, root)) {
-        if (node.type() == pugi::node_element && !check.isSound(node)) {
-            const QString name = QString::fromUtf8(node.name());
-            m_document.reset();
-            return fail(error, QLatin1String("an attribute stands twice in the element ") + name);
+    if (const pugi::xml_node unsound = unsoundBelow(root, check)) {
+        const QString name = QString::fromUtf8(unsound.name());
+        m_document.reset();
+        return fail(error, QLatin1String("an attribute stands twice in the element ") + name);
+    }
+    return true;
+}
+
+bool XmlParts::load(const QString &path, qint64 maxBytes, const char *list)
+{
+    m_list = xmlguard::ListPlace();
+    m_list.name = list;
+    if (!readFile(path, maxBytes, m_bytes, nullptr) || !xmlguard::isSafe(m_bytes, m_list) ||
+        m_list.lists != 1 || m_list.hasText || m_list.starts.empty())
+        return false;
+    m_outer.m_bytes = m_bytes.left(m_list.begin) + m_bytes.mid(m_list.end);
+    return m_outer.build(nullptr);
+}
+
+bool XmlParts::forEach(const std::function<void(const TreeSource &)> &visit)
+{
+    AttributeCheck check;
+    pugi::xml_document part;
+    for (size_t i = 0; i < m_list.starts.size(); ++i) {
+        const int begin = i == 0 ? m_list.begin : m_list.starts[i];
+        const int end = i + 1 < m_list.starts.size() ? m_list.starts[i + 1] : m_list.end;
+        if (!part.load_buffer_inplace(m_bytes.data() + begin, size_t(end - begin),
+                                      options | pugi::parse_fragment, pugi::encoding_utf8))
+            return false;
+        for (pugi::xml_node node : part.children()) {
+            if (node.type() != pugi::node_element || unsoundBelow(node, check))
+                return false;
+            visit(TreeSource(node));
         }
     }
     return true;
