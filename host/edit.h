@@ -39,8 +39,8 @@ struct VerbInfo
     QString arguments;
 };
 QVector<VerbInfo> all();
-// Does one edit and records it, so that it can be undone; what it had to take away is added to `lost`. False with a
-// fault; the plan is as it was then.
+// Does one edit and records it, so that it can be undone; what it had to take away is added to `lost`. False
+// with a fault; the plan is as it was then.
 bool run(Plan &plan, const QStringList &words, options::Fault &fault, QStringList &lost);
 
 // Something that an edit had to take away.

@@ -33,8 +33,8 @@ Page parsed(const QString &text);
 Page page(const QString &command);
 // Each line at most so many columns wide; a word that is longer is cut.
 QString shown(const Page &page, int columns);
-// What a command's page says of an option ("--width"), or else that of "show", whose options others share, or the
-// overview; empty when all are silent.
+// What a command's page says of an option ("--width"), or else that of "show", whose options others share, or
+// the overview; empty when all are silent.
 QString meaningOf(const QString &command, const QString &option);
 // In the language of man(7).
 QByteArray manualPage(const QString &command);

@@ -22,7 +22,7 @@ struct Side
 };
 std::vector<Side> sidesOf(const Plan &plan, const QString &path);
 
-// Writes an edited CSV plan into its file and what changed beside it; everything else stays as it was written.
-// `before` is the file as it stands. Not 0: an exit code, after telling why nothing was written.
+// Writes an edited CSV plan into its file and what changed beside it; everything else stays as it was
+// written. `before` is the file as it stands. Not 0: an exit code, after telling why nothing was written.
 int saveRows(Console &console, Plan &before, const Plan &after);
 }

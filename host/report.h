@@ -14,8 +14,8 @@ namespace report {
 // name an unknown column or range.
 int writeTable(Console &console, const Plan &plan, const Style &style);
 
-// "Pump replacement   7 tasks   Mon 5 Jan - Wed 21 Jan 2026   length 11.5 d, all of it critical", the line about
-// the calendar, and why the critical path begins late.
+// "Pump replacement   7 tasks   Mon 5 Jan - Wed 21 Jan 2026   length 11.5 d, all of it critical", the line
+// about the calendar, and why the critical path begins late.
 QString title(const Plan &plan, const shown::Times &times, const Style &style, int width);
 
 // What schedule() moved and because of what, and a sentence that sums it up.

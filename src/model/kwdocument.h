@@ -56,8 +56,8 @@ public:
     // Name of the time zone in which the plan's moments are meant ("Europe/Berlin"). Kept for the host, which
     // fills it and works in it (support/zonescope.h); travels with the package. Empty when nobody has said.
     QString TimeZone;
-    // What people call the plan, on one line. Kept for the host and travels with the package; empty: the file's
-    // name says it.
+    // What people call the plan, on one line. Kept for the host and travels with the package; empty: the
+    // file's name says it.
     QString PlanName;
     bool WorkDay[7] = {true, true, true, true, true, false, false}; // Monday first
     quint32 MajorUnit = duration::Week;

@@ -26,14 +26,15 @@ std::unique_ptr<Project> pumpProject()
                                     {2, QStringLiteral("Start")},
                                     {3, QStringLiteral("Finish")},
                                     {7, QStringLiteral("Resources")}};
-    auto project = std::make_unique<Project>("Mon-Fri 8-12 13-17, start 2026-01-05, off 2026-01-14, work 2026-01-17 8-12 13-17",
-                                             "Design\n"
-                                             "  Requirements 2d 100%\n"
-                                             "  Sketch 3d 40% after Requirements\n"
-                                             "Order parts 2d after Requirements\n"
-                                             "Build 5d after Sketch, Order parts\n"
-                                             "Test 12h after Build\n"
-                                             "Handover milestone after Test\n");
+    auto project = std::make_unique<Project>(
+        "Mon-Fri 8-12 13-17, start 2026-01-05, off 2026-01-14, work 2026-01-17 8-12 13-17",
+        "Design\n"
+        "  Requirements 2d 100%\n"
+        "  Sketch 3d 40% after Requirements\n"
+        "Order parts 2d after Requirements\n"
+        "Build 5d after Sketch, Order parts\n"
+        "Test 12h after Build\n"
+        "Handover milestone after Test\n");
     project->schedule();
     return project;
 }
