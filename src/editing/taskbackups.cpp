@@ -144,7 +144,7 @@ auto &sequenceOf(Block &block)
 }
 
 template <typename Stored, typename Value>
-Stored packed(const Value &value)
+Stored inBlock(const Value &value)
 {
     if constexpr (std::is_same_v<Stored, quint32>)
         return quint32(value);
@@ -182,7 +182,7 @@ void append(const KWTaskInfo &task, double rowHeight, Block &block)
             return;
         using Value = std::decay_t<decltype(fields::plain(task.*member))>;
         auto &values = sequenceOf<Value>(block);
-        values.push_back(packed<std::decay_t<decltype(values[0])>>(fields::plain(task.*member)));
+        values.push_back(inBlock<std::decay_t<decltype(values[0])>>(fields::plain(task.*member)));
     });
     if (block.fields & rowHeightBit)
         block.doubles.push_back(rowHeight);

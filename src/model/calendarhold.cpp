@@ -3,7 +3,8 @@
 
 namespace {
 
-CalendarHold *innermost = nullptr;
+// Of this thread: documents of other threads have holds that end in an order of their own.
+thread_local CalendarHold *innermost = nullptr;
 }
 
 CalendarHold::CalendarHold(const KWDocument &document)
