@@ -4,6 +4,7 @@
 #include "edits/settle.h"
 #include "edits/starttogether.h"
 #include "engine/time/shownmoment.h"
+#include "engine/time/timescale.h"
 #include "model/calendarhold.h"
 #include "model/kwtaskinfo.h"
 #include "plan.h"
@@ -14,9 +15,8 @@ namespace plan {
 
 void countSlackIn(Plan &plan, unsigned int unit)
 {
-    // The stored form of a minor unit below the week.
     plan.document->MajorUnit = duration::Week;
-    plan.document->MinorUnit = unit - duration::Week - 1;
+    plan.document->MinorUnit = timescale::storedMinor(duration::Week, unit);
 }
 
 quint32 startSecs(KWDocument &document, const datetext::Moment &moment)

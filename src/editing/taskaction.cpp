@@ -353,7 +353,7 @@ public:
         KWTaskInfo *task = m_document.getTaskInfoByID(id);
         if (!task || task->isParent() || !m_ids.add(id))
             return;
-        const bool tellsThem = task->Resources == names::ofAssignments(*task);
+        const bool tellsThem = names::areOfAssignments(task->Resources, *task);
         m_tasks.push_back({task, cost::ofAssignments(m_measures, *task), tellsThem});
     }
 
@@ -418,20 +418,28 @@ private:
     std::vector<Task> m_tasks;
 };
 
+std::vector<int> otherwiseNamed(const KWDocument &document)
+{
+    std::vector<int> places;
+    for (int pos = 0; pos < document.taskCount(); ++pos) {
+        if (names::isOtherwiseNamed(*document.taskList()[pos]))
+            places.push_back(pos);
+    }
+    return places;
+}
+
 // The names texts of a whole list that came back: of leaves with assignments, and of the summaries above
 // them. Others have texts that somebody typed.
-void namesFollow(KWDocument &document)
+void namesFollow(KWDocument &document, const std::vector<int> &otherwiseNamed)
 {
     std::vector<TaskRecord *> renamed;
-    for (KWTaskInfo *task : document.taskList()) {
-        if (task->isParent() || !task->isHaveResource())
-            continue;
-        const QString text = names::ofAssignments(*task);
-        if (task->Resources == text)
-            continue;
-        task->Resources = text;
+    for (const int pos : otherwiseNamed) {
+        TaskRecord *task = document.taskList()[pos];
+        task->Resources = names::ofAssignments(*task);
         renamed.push_back(task);
     }
+    if (renamed.empty())
+        return;
     CostPass pass = costsOf(document);
     const outline::Tasks tasks = document.outline();
     const std::vector<TaskRecord *> concerned = outline::withAncestors(tasks, renamed);
@@ -486,7 +494,9 @@ void TaskAction::restore(const Backups &backups, const Backups &current)
         assigned.follow(backups.tasks, !backups.sheet);
     backups.tasks.restore(document);
     if (!withTasks) {
-        namesFollow(document);
+        // Single tasks that were recorded as well have come back over it.
+        const bool isAsRecorded = backups.assignments.empty() && backups.tasks.isEmpty();
+        namesFollow(document, isAsRecorded ? backups.allTasks->otherwiseNamed() : otherwiseNamed(document));
         document.actionManager().setSnapshot(*backups.allTasks);
         document.taskCollection()->updateRageAndTaskPoint();
     }

@@ -38,6 +38,7 @@ public:
     // Whether the task is recorded, changed or not.
     bool contains(quint32 id) const;
     std::size_t size() const { return m_whole.size(); } // of the whole records
+    bool isEmpty() const { return m_whole.empty() && m_blocks.empty(); }
     // The first record of a task stays.
     void add(const KWDocument &document, const KWTaskInfo &task);
     // Late dates of a task whose other values did not change. Once the edit is made; of a task that is

@@ -1,5 +1,6 @@
 #include "editing/tasksnapshot.h"
 #include "editing/samevalues.h"
+#include "engine/cost/names.h"
 #include "engine/record/fieldxml.h"
 #include "engine/record/resource.h"
 #include "engine/record/taskfields.h"
@@ -16,6 +17,22 @@ struct TaskSnapshot::Copy
 {
     KWTaskInfo task;
     double rowHeight = 0;
+    bool isOtherwiseNamed = false; // see otherwiseNamed()
+};
+
+// Some tasks that stand one behind the other.
+struct TaskSnapshot::Block
+{
+    std::vector<std::shared_ptr<const Copy>> copies;
+    bool hasOtherwiseNamed = false;
+
+    std::size_t size() const { return copies.size(); }
+    const Copy &operator[](std::size_t i) const { return *copies[i]; }
+    void lookForOtherwiseNamed()
+    {
+        hasOtherwiseNamed = std::any_of(copies.begin(), copies.end(),
+                                        [](const auto &copy) { return copy->isOtherwiseNamed; });
+    }
 };
 
 namespace {
@@ -108,7 +125,7 @@ public:
             const std::size_t first = next;
             int end = m_tasks.size();
             for (; next < m_earlier.size(); ++next) {
-                const int place = m_index.posOf(m_earlier[next]->front()->task.ID);
+                const int place = m_index.posOf((*m_earlier[next])[0].task.ID);
                 if (place >= pos && standsAt(*m_earlier[next], place)) {
                     end = place;
                     break;
@@ -126,7 +143,7 @@ private:
         if (int(block.size()) > m_tasks.size() - pos)
             return false;
         for (std::size_t i = 0; i < block.size(); ++i) {
-            if (m_tasks[pos + int(i)]->ID != block[i]->task.ID.value())
+            if (m_tasks[pos + int(i)]->ID != block[i].task.ID.value())
                 return false;
         }
         return true;
@@ -142,6 +159,7 @@ private:
         auto copy = std::make_shared<Copy>();
         copyTask(*m_tasks[pos], copy->task);
         copy->rowHeight = rowHeightAt(m_heights, pos);
+        copy->isOtherwiseNamed = names::isOtherwiseNamed(copy->task);
         return copy;
     }
 
@@ -150,12 +168,14 @@ private:
     {
         std::shared_ptr<Block> changed;
         for (std::size_t i = 0; i < before->size(); ++i) {
-            if (isRight(*(*before)[i], pos + int(i)))
+            if (isRight((*before)[i], pos + int(i)))
                 continue;
             if (!changed)
                 changed = std::make_shared<Block>(*before);
-            (*changed)[i] = newCopy(pos + int(i));
+            changed->copies[i] = newCopy(pos + int(i));
         }
+        if (changed)
+            changed->lookForOtherwiseNamed();
         m_made.m_blocks.push_back(changed ? changed : before);
     }
 
@@ -165,7 +185,7 @@ private:
     {
         std::unordered_map<quint32, std::shared_ptr<const Copy>> known;
         for (std::size_t i = firstGivenUp; i < afterGivenUp; ++i) {
-            for (const auto &copy : *m_earlier[i])
+            for (const auto &copy : m_earlier[i]->copies)
                 known.emplace(copy->task.ID, copy);
         }
         const int count = end - pos;
@@ -173,12 +193,13 @@ private:
         for (int block = 0; block < blocks; ++block) {
             const int blockEnd = end - int(qint64(count) * (blocks - 1 - block) / blocks);
             auto made = std::make_shared<Block>();
-            made->reserve(std::size_t(blockEnd - pos));
+            made->copies.reserve(std::size_t(blockEnd - pos));
             for (; pos < blockEnd; ++pos) {
                 const auto found = known.find(m_tasks[pos]->ID);
                 std::shared_ptr<const Copy> copy = found != known.end() ? found->second : farCopy(pos);
-                made->push_back(copy && isRight(*copy, pos) ? copy : newCopy(pos));
+                made->copies.push_back(copy && isRight(*copy, pos) ? copy : newCopy(pos));
             }
+            made->lookForOtherwiseNamed();
             m_made.m_blocks.push_back(std::move(made));
         }
     }
@@ -191,7 +212,7 @@ private:
         if (!m_far) {
             m_far.emplace();
             for (const auto &block : m_earlier) {
-                for (const auto &copy : *block)
+                for (const auto &copy : block->copies)
                     m_far->emplace(copy->task.ID, &copy);
             }
         }
@@ -240,7 +261,7 @@ public:
     {
         const auto after = std::upper_bound(m_firstPos.begin(), m_firstPos.end(), pos);
         const std::size_t block = std::size_t(after - m_firstPos.begin()) - 1;
-        return (*m_snapshot.m_blocks[block])[std::size_t(pos - m_firstPos[block])].get();
+        return &(*m_snapshot.m_blocks[block])[std::size_t(pos - m_firstPos[block])];
     }
 
 private:
@@ -270,7 +291,7 @@ void TaskSnapshot::restore(KWDocument &document, const TaskSnapshot &now) const
     for (const auto &block : m_blocks) {
         const int blockPos = places.posOf(*block);
         for (std::size_t i = 0; i < block->size(); ++i) {
-            const Copy &copy = *(*block)[i];
+            const Copy &copy = (*block)[i];
             heights.append(copy.rowHeight);
             if (blockPos >= 0) {
                 restored.append(tasks[blockPos + int(i)]);
@@ -297,7 +318,7 @@ void TaskSnapshot::restoreAssignments(KWDocument &document, const TaskSnapshot &
     const TaskIndex &index = document.taskIndex();
     TaskIndex restored;
     for (const auto &block : m_blocks) {
-        for (const auto &copy : *block) {
+        for (const auto &copy : block->copies) {
             const int pos = index.posOf(copy->task.ID);
             if (pos < 0 || !restored.add(copy->task.ID) || places.copyAt(pos) == copy.get())
                 continue;
@@ -312,4 +333,18 @@ void TaskSnapshot::restoreAssignments(KWDocument &document, const TaskSnapshot &
         task->clearResources();
         task->Resources.clear();
     }
+}
+
+std::vector<int> TaskSnapshot::otherwiseNamed() const
+{
+    std::vector<int> places;
+    int pos = 0;
+    for (const auto &block : m_blocks) {
+        for (std::size_t i = 0; block->hasOtherwiseNamed && i < block->size(); ++i) {
+            if ((*block)[i].isOtherwiseNamed)
+                places.push_back(pos + int(i));
+        }
+        pos += int(block->size());
+    }
+    return places;
 }

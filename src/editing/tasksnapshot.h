@@ -23,12 +23,14 @@ public:
     // The assignments and their names text alone, of the tasks that are in the document; those that are not
     // in here get none.
     void restoreAssignments(KWDocument &document, const TaskSnapshot &now) const;
+    // The places of the tasks that names::isOtherwiseNamed() is true for.
+    std::vector<int> otherwiseNamed() const;
 
 private:
     class Maker;
     class Places;
     struct Copy;
-    using Block = std::vector<std::shared_ptr<const Copy>>;
+    struct Block;
 
     std::vector<std::shared_ptr<const Block>> m_blocks;
     int m_count = 0;

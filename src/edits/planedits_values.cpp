@@ -7,6 +7,7 @@
 #include "engine/network/links.h"
 #include "engine/network/rollup.h"
 #include "engine/time/duration.h"
+#include "engine/time/timescale.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
@@ -315,8 +316,7 @@ EditAnswer PlanEdits::setOptions(const PlanOptions &options)
     take(options.finishDate, document.FinishDate);
     take(options.majorUnit, document.MajorUnit);
     if (options.minorUnit)
-        document.MinorUnit =
-            *options.minorUnit - document.MajorUnit - 1; // stored as the distance from the major one
+        document.MinorUnit = timescale::storedMinor(document.MajorUnit, *options.minorUnit);
     take(options.unitWidth, document.UnitWidth);
     take(options.autoZoom, document.AutoZoom);
     take(options.autoProgress, document.Auto);

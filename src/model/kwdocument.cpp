@@ -4,8 +4,8 @@
 #include "model/calendarhold.h"
 #include "model/kwdocument_caches.h"
 #include "model/kwtaskinfo.h"
+#include "model/worktimesource.h"
 #include "resources/resourceinfodata.h"
-#include "schedule/kwcalendar.h"
 #include "schedule/kwtaskcollection.h"
 #include "table/rowcolumndata.h"
 #include <QFile>
@@ -65,7 +65,7 @@ const worktime::WorkCalendar &KWDocument::workCalendar() const
 {
     if (const worktime::WorkCalendar *const held = CalendarHold::of(*this))
         return *held;
-    return m_caches->calendar.get({WorkDay, workTimes, {calendars.begin(), calendars.end()}, s_isOldVersion});
+    return m_caches->calendar.get(worktimeSource(*this));
 }
 
 // ---- The task list ----------------------------------------------------------------------------------------

@@ -9,7 +9,7 @@
 #include "model/changewatch.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
-#include "schedule/kwcalendar.h"
+#include "model/worktimesource.h"
 #include "support/kwclock.h"
 #include <algorithm>
 
@@ -50,11 +50,7 @@ latedates::Kept &KWTaskCollection::keptLateDates()
     // A calendar made anew may stand where another one stood.
     const KWDocument &document = *m_document;
     const worktime::WorkCalendar *calendar = &document.workCalendar();
-    const quint64 digest =
-        worktime::WorkCalendar::digest({document.WorkDay,
-                                        document.workTimes,
-                                        {document.calendars.begin(), document.calendars.end()},
-                                        KWDocument::s_isOldVersion});
+    const quint64 digest = worktime::WorkCalendar::digest(worktimeSource(document));
     std::shared_ptr<const LocalClock> clock = LocalClock::current();
     LateDates &late = *m_lateDates;
     if (late.calendar != calendar || late.digest != digest || late.clock != clock) {

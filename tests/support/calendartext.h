@@ -19,10 +19,7 @@ public:
     CalendarText(const CalendarText &) = delete;
     CalendarText &operator=(const CalendarText &) = delete;
 
-    worktime::Source source() const
-    {
-        return {workingDays, hours, {exceptions.begin(), exceptions.end()}, oldVersion};
-    }
+    worktime::Source source() const { return {workingDays, hours, exceptions, oldVersion}; }
     worktime::WorkCalendar compile() const { return worktime::WorkCalendar(source(), LocalClock::current()); }
 
     bool workingDays[7] = {};

@@ -65,9 +65,10 @@ SlowCalendar::SlowCalendar(const worktime::Source &source)
     , m_oldVersion(source.oldVersion)
 {
     std::copy(source.workingDays, source.workingDays + 7, m_workingDays);
-    for (const CalendarRecord *c : source.exceptions)
-        m_exceptions.push_back(
-            {c->startDate, c->finishDate, c->isException, c->isWork, intervals(c->dayTimes)});
+    for (int place = 0; place < source.exceptions.size(); ++place) {
+        const CalendarRecord &c = *source.exceptions[place];
+        m_exceptions.push_back({c.startDate, c.finishDate, c.isException, c.isWork, intervals(c.dayTimes)});
+    }
     if (!m_hours.empty()) {
         const int minutes = m_hours.back().finishSecs / 60;
         startHour = std::min(24, m_hours.front().startSecs / 3600);

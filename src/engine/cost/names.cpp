@@ -49,6 +49,33 @@ QString ofAssignments(const TaskRecord &task)
     return text;
 }
 
+bool areOfAssignments(const QString &text, const TaskRecord &task)
+{
+    constexpr QLatin1String separator("; ");
+    QStringView rest(text);
+    bool isFirst = true;
+    for (const Resource *resource : task.resourceList) {
+        const QStringView name = QStringView(resource->name).trimmed();
+        if (name.isEmpty())
+            continue;
+        if (!isFirst) {
+            if (!rest.startsWith(separator))
+                return false;
+            rest = rest.mid(separator.size());
+        }
+        if (!rest.startsWith(name))
+            return false;
+        rest = rest.mid(name.size());
+        isFirst = false;
+    }
+    return rest.isEmpty();
+}
+
+bool isOtherwiseNamed(const TaskRecord &task)
+{
+    return !task.isParent() && task.isHaveResource() && !areOfAssignments(task.Resources, task);
+}
+
 QString Unique::different(const QString &name) const
 {
     QString candidate = name;

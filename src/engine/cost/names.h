@@ -28,6 +28,9 @@ private:
 
 // What a task without children shows: the trimmed names of its assignments, repeated ones as well.
 QString ofAssignments(const TaskRecord &task);
+bool areOfAssignments(const QString &text, const TaskRecord &task); // whether it is that
+// It has assignments and shows something else.
+bool isOtherwiseNamed(const TaskRecord &task);
 
 int idAfter(int id); // no ID comes after the greatest number: that one itself
 // One more than the greatest ID of the entries and than 0.

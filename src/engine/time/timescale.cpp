@@ -62,7 +62,7 @@ bool narrow(Zoom &zoom)
         // Stored values that make no unit: on to the finest one, if the major unit has any.
         if (zoom.majorUnit >= Minute)
             return false;
-        zoom.storedMinor = Minute - (zoom.majorUnit == 0 ? 0 : zoom.majorUnit + 1);
+        zoom.storedMinor = storedMinor(zoom.majorUnit, Minute);
     } else if (zoom.storedMinor > 0) {
         --zoom.storedMinor;
     } else {
@@ -100,6 +100,11 @@ unsigned int minorUnit(quint32 majorUnit, quint32 storedMinor)
     // documents depend on it.
     const quint64 unit = majorUnit == 0 ? storedMinor : quint64(majorUnit) + storedMinor + 1;
     return unsigned(std::min<quint64>(unit, std::numeric_limits<unsigned int>::max()));
+}
+
+quint32 storedMinor(quint32 majorUnit, unsigned int minor)
+{
+    return majorUnit == 0 ? minor : minor - majorUnit - 1;
 }
 
 Zoom chosen(const LocalClock &clock, Zoom zoom, quint32 start, quint32 finish)

@@ -31,6 +31,8 @@ constexpr qint32 narrowUnit = 20;
 
 // Of duration::Unit; above that the stored values make no unit.
 KWGANTT_EXPORT unsigned int minorUnit(quint32 majorUnit, quint32 storedMinor);
+// The other way, for a minor unit that is finer than the major one.
+KWGANTT_EXPORT quint32 storedMinor(quint32 majorUnit, unsigned int minor);
 // The minor unit for a project's length; keeps it where the major unit is too fine for that length.
 KWGANTT_EXPORT Zoom chosen(const LocalClock &clock, Zoom zoom, quint32 start, quint32 finish);
 // The same chart, narrowed step by step until it is at most 1300 pixels wide (at 96 dpi) or cannot be

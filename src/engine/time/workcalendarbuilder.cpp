@@ -106,13 +106,22 @@ public:
     {
         hours();
         weekdays();
-        if (m_source.exceptions.empty())
+        if (m_source.exceptions.isEmpty())
             return;
         breaksOfExceptions();
         hoursOfExceptions();
     }
 
 private:
+    template <typename Visit>
+    void forEachException(Visit visit) const
+    {
+        for (int place = 0; place < m_source.exceptions.size(); ++place) {
+            if (const CalendarRecord *exception = m_source.exceptions[place])
+                visit(*exception);
+        }
+    }
+
     void hours()
     {
         const QList<KWDayTime *> &hours = m_source.hours;
@@ -154,12 +163,13 @@ private:
         std::vector<char> works(dayCount);
         for (int place = 0; place < dayCount; ++place)
             works[size_t(place)] = m_source.workingDays[LocalClock::weekday(place + LocalClock::firstDay)];
-        if (!m_source.exceptions.empty()) {
+        if (!m_source.exceptions.isEmpty()) {
             FirstCome dates;
-            for (const CalendarRecord *exception : m_source.exceptions)
-                if (exception && exception->isException)
-                    dates.take(coveredDates(*exception),
-                               [&](int place) { works[size_t(place)] = exception->isWork; });
+            forEachException([&](const CalendarRecord &exception) {
+                if (exception.isException)
+                    dates.take(coveredDates(exception),
+                               [&](int place) { works[size_t(place)] = exception.isWork; });
+            });
         }
 
         m_calendar.m_offBefore.reserve(size_t(dayCount) + 1);
@@ -179,27 +189,27 @@ private:
     // exception.
     void breaksOfExceptions()
     {
-        const auto hasBreaks = [](const CalendarRecord *calendar) {
-            return calendar && intervalCount(calendar->dayTimes) >= 2;
+        const auto hasBreaks = [](const CalendarRecord &calendar) {
+            return intervalCount(calendar.dayTimes) >= 2;
         };
-        const std::vector<const CalendarRecord *> &exceptions = m_source.exceptions;
-        if (std::none_of(exceptions.begin(), exceptions.end(), hasBreaks))
+        bool anyHasBreaks = false;
+        forEachException(
+            [&](const CalendarRecord &exception) { anyHasBreaks = anyHasBreaks || hasBreaks(exception); });
+        if (!anyHasBreaks)
             return;
         m_calendar.m_breaksOfDay.assign(size_t(dayCount), 0);
         FirstCome dates;
-        for (const CalendarRecord *exception : exceptions) {
-            if (!exception)
-                continue;
+        forEachException([&](const CalendarRecord &exception) {
             const bool own = hasBreaks(exception);
             int set = 0;
-            dates.take(coveredDates(*exception), [&](int place) {
+            dates.take(coveredDates(exception), [&](int place) {
                 if (own && set == 0) {
                     set = int(m_calendar.m_breaks.size());
-                    m_calendar.m_breaks.push_back(breaksOf(exception->dayTimes));
+                    m_calendar.m_breaks.push_back(breaksOf(exception.dayTimes));
                 }
                 m_calendar.m_breaksOfDay[size_t(place)] = set;
             });
-        }
+        });
     }
 
     void hoursOfExceptions()
@@ -207,13 +217,13 @@ private:
         // Begins minus ends of the ranges that add an hour, by hour and date.
         std::array<std::vector<int>, 24> added;
         quint32 addedHours = 0;
-        for (const CalendarRecord *exception : m_source.exceptions) {
-            if (!exception || !exception->isException)
-                continue;
-            const quint32 mask = hoursMaskOf(exception->dayTimes);
-            const Range range = coveredDates(*exception);
+        forEachException([&](const CalendarRecord &exception) {
+            if (!exception.isException)
+                return;
+            const quint32 mask = hoursMaskOf(exception.dayTimes);
+            const Range range = coveredDates(exception);
             if (mask == 0 || range.first > range.last)
-                continue;
+                return;
             addedHours |= mask;
             for (unsigned int hour = 0; hour < 24; ++hour) {
                 if (!(mask >> hour & 1u))
@@ -223,7 +233,7 @@ private:
                 ++added[hour][size_t(range.first)];
                 --added[hour][size_t(range.last) + 1];
             }
-        }
+        });
         if (addedHours == 0)
             return;
         m_calendar.m_extraHours.assign(size_t(dayCount), 0);
@@ -308,15 +318,21 @@ quint64 WorkCalendar::digest(const Source &source)
     mix(flags);
     mixHours(source.hours);
     mix(quint64(source.exceptions.size()));
-    for (const CalendarRecord *exception : source.exceptions) {
+    for (int place = 0; place < source.exceptions.size(); ++place) {
+        const CalendarRecord *exception = source.exceptions[place];
         if (!exception) {
             mix(4);
             continue;
         }
         // Dates that share their lower 32 bits lie eleven million years apart.
-        mix(quint64(exception->startDate.toJulianDay()) << 32 | quint32(exception->finishDate.toJulianDay()));
-        mix(quint64(exception->isException) | quint64(exception->isWork) << 1);
-        mixHours(exception->dayTimes);
+        const quint64 dates =
+            quint64(exception->startDate.toJulianDay()) << 32 | quint32(exception->finishDate.toJulianDay());
+        const quint64 kind = quint64(exception->isException) | quint64(exception->isWork) << 1 |
+                             quint64(exception->dayTimes.size()) << 2;
+        // One round for both: nearly all exceptions have no hours, and each round waits for the one before.
+        mix(dates * 0x9e3779b97f4a7c15ULL + kind * 0xd6e8feb86659fd93ULL);
+        if (!exception->dayTimes.isEmpty())
+            mixHours(exception->dayTimes);
     }
     return state;
 }

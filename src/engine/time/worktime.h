@@ -25,12 +25,36 @@ struct HourPoint
     qint64 secs = 0;
 };
 
+// A list of pointers to any class that is a CalendarRecord, read where it stands: it must outlive this.
+class Exceptions
+{
+public:
+    template <typename List>
+    Exceptions(const List &list)
+        : m_list(&list)
+        , m_size(int(list.size()))
+        , m_at([](const void *of, int place) -> const CalendarRecord * {
+            return (*static_cast<const List *>(of))[place];
+        })
+    {
+    }
+
+    int size() const { return m_size; }
+    bool isEmpty() const { return m_size == 0; }
+    const CalendarRecord *operator[](int place) const { return m_at(m_list, place); } // may be null
+
+private:
+    const void *m_list;
+    int m_size;
+    const CalendarRecord *(*m_at)(const void *list, int place);
+};
+
 // What the model is made from; refers to the document's working days, hours and exceptions.
 struct Source
 {
     const bool *workingDays = nullptr; // seven flags, Monday first
     const QList<KWDayTime *> &hours;
-    std::vector<const CalendarRecord *> exceptions; // the first one that covers a date decides
+    Exceptions exceptions; // the first one that covers a date decides
     bool oldVersion = false;
 };
 

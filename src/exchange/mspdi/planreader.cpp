@@ -97,8 +97,7 @@ worktime::WorkCalendar compiled(const staged::Calendar &calendar)
             exception->dayTimes.append(new KWDayTime(interval.startSecs, interval.finishSecs));
         exceptions.append(exception);
     }
-    worktime::WorkCalendar result({calendar.week.data(), hours, {exceptions.cbegin(), exceptions.cend()}},
-                                  LocalClock::current());
+    worktime::WorkCalendar result({calendar.week.data(), hours, exceptions}, LocalClock::current());
     qDeleteAll(hours);
     for (CalendarRecord *exception : qAsConst(exceptions))
         qDeleteAll(exception->dayTimes);
