@@ -97,6 +97,15 @@ void TaskAction::addChangeTaskInfo(KWTaskInfo *task)
         m_backups->tasks.add(*document(), *task);
 }
 
+void TaskAction::addMovedTask(TaskRecord &task)
+{
+    if (!document() || m_backups->allTasks)
+        return;
+    m_backups->tasks.addMoved(task);
+    if (task.isHaveResource())
+        addTaskAllResources(asTask(&task));
+}
+
 void TaskAction::addTaskInfoHyperlink(KWTaskInfo *task)
 {
     addChangeTaskInfo(task); // the hyperlinks are among the values

@@ -6,6 +6,7 @@
 
 class KWTaskInfo;
 class TaskBackups;
+struct TaskRecord;
 struct LateValues;
 enum class Bars;
 
@@ -26,7 +27,9 @@ public:
 
     // ---- Recorders ----------------------------------------------------------------------------------------
     void addChangeTaskInfo(KWTaskInfo *task); // all values of one task but its assignments
-    bool isExist(quint32 taskID) const;       // whether the values of that task are recorded
+    // See TaskBackups::addMoved; with its assignments where it has any.
+    void addMovedTask(TaskRecord &task);
+    bool isExist(quint32 taskID) const; // whether the values of that task are recorded
     void addTaskInfoHyperlink(KWTaskInfo *task);
     void addTaskAllResources(KWTaskInfo *task); // all assignments of one task
     // The task, what a change of it can push, and the summaries above all of these: values, assignments and

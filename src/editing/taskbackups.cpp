@@ -257,17 +257,25 @@ bool TaskBackups::contains(quint32 id) const
 
 void TaskBackups::add(const KWDocument &document, const KWTaskInfo &task)
 {
-    if ((m_closedIds && m_closedIds->contains(task.ID)) || !m_ids.add(task.ID))
+    if ((m_closedIds && m_closedIds->contains(task.ID)) || !m_ids.add(task.ID, IsWhole))
         return;
     m_whole.emplace_back();
     copyValues(task, m_whole.back().task);
     m_whole.back().rowHeight = rowHeightOf(document, task.ID);
 }
 
+void TaskBackups::addMoved(const TaskRecord &task)
+{
+    if ((m_closedIds && m_closedIds->contains(task.ID)) || !m_ids.add(task.ID, IsMoved))
+        return;
+    m_moved.push_back({task.ID, task.Start, task.Finish, task.DurationSecs, task.Percent, task.Cost,
+                       task.Work, task.RemainingCost});
+}
+
 void TaskBackups::addLate(const KWDocument &document, const LateValues &before)
 {
     const KWTaskInfo *task = document.getTaskInfoByID(before.id);
-    if (!task || contains(before.id))
+    if (!task || m_ids.posOf(before.id) == IsWhole || (m_closedIds && m_closedIds->contains(before.id)))
         return;
     const bool differs[] = {before.lateStart != task->LateStart, before.lateFinish != task->LateFinish,
                             !isSame(before.earlySlack, task->EarlySlack),
@@ -304,10 +312,43 @@ TaskBackups::Block &TaskBackups::blockOf(quint64 fields)
     return *m_blocks.back();
 }
 
+// Packs what changed of the tasks that were only moved.
+void TaskBackups::keepMoves(const KWDocument &document)
+{
+    KWTaskInfo old;
+    for (const Moved &moved : m_moved) {
+        const KWTaskInfo *task = document.getTaskInfoByID(moved.id);
+        if (!task)
+            continue;
+        quint64 fields = 0;
+        const auto compare = [&](auto member, auto value, quint64 bit) {
+            if (isSame(fields::plain(task->*member), value))
+                return;
+            fields |= bit;
+            old.*member = value;
+        };
+        compare(&TaskRecord::Start, moved.start, bitOf(&TaskRecord::Start));
+        compare(&TaskRecord::Finish, moved.finish, bitOf(&TaskRecord::Finish));
+        compare(&TaskRecord::DurationSecs, moved.durationSecs, bitOf(&TaskRecord::DurationSecs));
+        compare(&TaskRecord::Percent, moved.percent, bitOf(&TaskRecord::Percent));
+        compare(&TaskRecord::Cost, moved.cost, bitOf(&TaskRecord::Cost));
+        compare(&TaskRecord::Work, moved.work, bitOf(&TaskRecord::Work));
+        compare(&TaskRecord::RemainingCost, moved.remainingCost, bitOf(&TaskRecord::RemainingCost));
+        if (!fields)
+            continue;
+        old.ID = moved.id;
+        append(old, 0, blockOf(fields));
+    }
+    m_moved = {};
+}
+
 void TaskBackups::keepChanges(const KWDocument &document, Bars barsToo)
 {
     std::vector<quint32> ids;
-    ids.reserve(m_whole.size());
+    ids.reserve(m_whole.size() + m_moved.size());
+    for (const Moved &moved : m_moved)
+        ids.push_back(moved.id);
+    keepMoves(document);
     std::deque<Whole> missing;
     for (Whole &whole : m_whole) {
         ids.push_back(whole.task.ID);

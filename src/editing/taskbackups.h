@@ -38,18 +38,23 @@ public:
     // Whether the task is recorded, changed or not.
     bool contains(quint32 id) const;
     std::size_t size() const { return m_whole.size(); } // of the whole records
-    bool isEmpty() const { return m_whole.empty() && m_blocks.empty(); }
+    bool isEmpty() const { return m_whole.empty() && m_moved.empty() && m_blocks.empty(); }
     // The first record of a task stays.
     void add(const KWDocument &document, const KWTaskInfo &task);
-    // Late dates of a task whose other values did not change. Once the edit is made; of a task that is
-    // recorded they are known already.
+    // Of a task that is only moved: its dates, and the numbers that follow from these. Nothing else of it may
+    // change before the edit is made.
+    void addMoved(const TaskRecord &task);
+    // Late dates and slack, for tasks whose other values do not change as well. Once the edit is made; where
+    // the whole task is recorded they are known already.
     void addLate(const KWDocument &document, const LateValues &before);
-    // The records while they are whole, in the order in which they came.
+    // Calls visit(id, start, finish) with the dates of each task that is recorded while the edit is open.
     template <typename Visit>
-    void forEachWhole(Visit visit) const
+    void forEachDates(Visit visit) const
     {
         for (const Whole &whole : m_whole)
-            visit(whole.task);
+            visit(whole.task.ID, whole.task.Start, whole.task.Finish);
+        for (const Moved &moved : m_moved)
+            visit(moved.id, moved.start, moved.finish);
     }
 
     // The edit is made: what equals the document is dropped. A task that is not there keeps its record for
@@ -65,12 +70,21 @@ private:
         KWTaskInfo task; // has no assignments
         double rowHeight = 0;
     };
+    struct Moved
+    {
+        quint32 id, start, finish, durationSecs;
+        double percent, cost, work, remainingCost;
+    };
     struct Block;
     class Ids;
+    // How a task is recorded: what its ID stands for in m_ids.
+    enum Kind { IsWhole, IsMoved };
 
+    void keepMoves(const KWDocument &document);
     Block &blockOf(quint64 fields);
 
     std::deque<Whole> m_whole;
+    std::vector<Moved> m_moved;             // while the edit is open
     TaskIndex m_ids;                        // of those that were recorded while the edit was open
     std::shared_ptr<const Ids> m_closedIds; // afterwards
     std::vector<std::unique_ptr<Block>> m_blocks;

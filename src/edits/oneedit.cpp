@@ -209,7 +209,12 @@ EditAnswer OneEdit::finish()
     dropUnsuitedLinks();
     const QVector<quint32> edited = changes.tasks;
     settling::Replaced replaced;
-    replaced.before = [this](TaskRecord &task) { keepTask(task); };
+    // What follows from dates, lengths and links alone are other dates and numbers.
+    constexpr unsigned onlyMoves = settling::Dates | settling::Length | settling::Progress | settling::Links;
+    if (changes.what & ~onlyMoves)
+        replaced.before = [this](TaskRecord &task) { keepTask(task); };
+    else
+        replaced.before = [this](TaskRecord &task) { m_record->addMovedTask(task); };
     const QVector<settling::Push> pushes =
         settling::settle(document(), changes, m_hasAllTasks ? nullptr : &replaced);
     document().setModified(true);
@@ -233,10 +238,10 @@ std::vector<OneEdit::Dates> OneEdit::datesBefore() const
         return m_datesBefore;
     const outline::Tasks all = tasks();
     std::vector<Dates> dates;
-    m_record->singleTasks().forEachWhole([&](const TaskRecord &old) {
-        const TaskRecord *task = all.byId(old.ID);
-        if (task && (task->Start != old.Start || task->Finish != old.Finish))
-            dates.push_back({old.ID, old.Start, old.Finish});
+    m_record->singleTasks().forEachDates([&](quint32 id, quint32 start, quint32 finish) {
+        const TaskRecord *task = all.byId(id);
+        if (task && (task->Start != start || task->Finish != finish))
+            dates.push_back({id, start, finish});
     });
     std::sort(dates.begin(), dates.end(),
               [&](const Dates &a, const Dates &b) { return all.index.posOf(a.id) < all.index.posOf(b.id); });
@@ -246,9 +251,9 @@ std::vector<OneEdit::Dates> OneEdit::datesBefore() const
 void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited)
 {
     const outline::Tasks all = tasks();
-    std::unordered_map<quint32, quint32> pushedBy;
-    for (const settling::Push &push : pushes)
-        pushedBy[push.task] = push.pushedBy;
+    TaskIndex pushed; // each is there once
+    for (int i = 0; i < pushes.size(); ++i)
+        pushed.add(pushes[i].task, i);
     TaskIndex editedIds;
     for (const quint32 id : edited)
         editedIds.add(id);
@@ -265,10 +270,10 @@ void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<qui
         move.oldFinish = old.finish;
         move.start = task->Start;
         move.finish = task->Finish;
-        const auto push = pushedBy.find(old.id);
-        if (push != pushedBy.end()) {
+        const int push = pushed.posOf(old.id);
+        if (push >= 0) {
             move.cause = EditMove::Pushed;
-            move.pushedBy = push->second;
+            move.pushedBy = pushes[push].pushedBy;
         } else if (editedIds.contains(old.id)) {
             move.cause = EditMove::Edited;
         } else {

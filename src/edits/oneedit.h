@@ -3,7 +3,6 @@
 #include "edits/settle.h"
 #include "edits/stepaction.h"
 #include "engine/record/outline.h"
-#include <unordered_map>
 #include <vector>
 
 class KWTaskInfo;

@@ -20,7 +20,6 @@
 #include <algorithm>
 #include <cstring>
 #include <optional>
-#include <unordered_map>
 
 namespace settling {
 
@@ -122,10 +121,7 @@ public:
         drawChart();
         if (!(m_what & AsItStands))
             m_document.setModified(true);
-        QVector<Push> pushes;
-        for (const auto &[task, pushedBy] : m_pushedBy)
-            pushes.append({task, pushedBy});
-        return pushes;
+        return m_pushes;
     }
 
 private:
@@ -165,8 +161,11 @@ private:
     void remember(const std::vector<push::Move> &moves)
     {
         for (const push::Move &move : moves) {
-            if (move.pushedBy)
-                m_pushedBy[move.task->ID] = move.pushedBy->ID;
+            if (!move.pushedBy)
+                continue;
+            if (m_pushed.add(move.task->ID, m_pushes.size()))
+                m_pushes.append({move.task->ID, 0});
+            m_pushes[m_pushed.posOf(move.task->ID)].pushedBy = move.pushedBy->ID;
         }
     }
 
@@ -228,7 +227,8 @@ private:
                 break;
             std::vector<push::Move> moves;
             moved = push::along(m_calendar, m_tasks, m_hourScale, links, push::Undated::Stay, &moves,
-                                m_replaced ? m_replaced->before : push::BeforeChange());
+                                m_replaced ? m_replaced->before : push::BeforeChange(),
+                                &m_collection.keptNetwork());
             remember(moves);
             if (moved.empty())
                 break;
@@ -518,7 +518,8 @@ private:
     TaskSet m_touched;    // whose dates may have become others
     TaskSet m_progressed; // whose percent may have become another
     std::vector<quint32> m_lengthsBefore;
-    std::unordered_map<quint32, quint32> m_pushedBy;
+    TaskIndex m_pushed; // places in m_pushes
+    QVector<Push> m_pushes;
     std::optional<Span> m_span; // where late dates were worked out
 };
 

@@ -1,6 +1,7 @@
 // The chart's time axis: range, unit boundaries, width, bar points.
 #include "schedule/kwtaskcollection.h"
 #include "engine/network/keptlatedates.h"
+#include "engine/network/keptnetwork.h"
 #include "engine/record/outline.h"
 #include "engine/record/taskahead.h"
 #include "engine/time/timerange.h"
@@ -60,6 +61,13 @@ latedates::Kept &KWTaskCollection::keptLateDates()
         late.clock = std::move(clock);
     }
     return late.kept;
+}
+
+linkgraph::KeptNetwork &KWTaskCollection::keptNetwork()
+{
+    if (!m_network)
+        m_network = std::make_unique<linkgraph::KeptNetwork>();
+    return *m_network;
 }
 
 // ---- Range ------------------------------------------------------------------------------------------------

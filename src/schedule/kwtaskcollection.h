@@ -12,6 +12,9 @@ struct TaskRecord;
 namespace latedates {
 class Kept;
 }
+namespace linkgraph {
+class KeptNetwork;
+}
 namespace outline {
 struct Tasks;
 }
@@ -147,6 +150,8 @@ public:
     timescale::Scale scale() const;
     // The late dates as they were worked out last, for passes that follow an edit. There must be a document.
     latedates::Kept &keptLateDates();
+    // What follows what, as it was found last.
+    linkgraph::KeptNetwork &keptNetwork();
     // After a task's dates changed: its duration, its assignments' work, its bar and its widths.
     void refreshTask(KWTaskInfo *task);
 
@@ -174,4 +179,5 @@ private:
     quint32 m_maxDateFinish = 0;
     int m_totalWidth = 100;
     std::unique_ptr<LateDates> m_lateDates; // null until they are asked for
+    std::unique_ptr<linkgraph::KeptNetwork> m_network;
 };

@@ -125,12 +125,17 @@ EventNetwork::EventNetwork(const outline::Tasks &tasks)
 }
 
 EventNetwork::EventNetwork(const outline::Tasks &tasks, const std::vector<int> &starts)
+    : EventNetwork(tasks, starts, std::size_t(-1))
+{
+}
+
+EventNetwork::EventNetwork(const outline::Tasks &tasks, const std::vector<int> &starts, std::size_t mostNodes)
     : m_tasks(tasks)
     , m_nodeOfEvent(zeroed(2 * tasks.list.size()), std::free)
 {
     for (const int pos : starts)
         add(pos, false);
-    expandAll();
+    expandAll(mostNodes);
 }
 
 // A task without children has one event.
@@ -149,9 +154,9 @@ int EventNetwork::add(int pos, bool end)
     return number - 1;
 }
 
-void EventNetwork::expandAll()
+void EventNetwork::expandAll(std::size_t mostNodes)
 {
-    for (size_t i = 0; i < m_nodes.size(); ++i) {
+    for (size_t i = 0; i < m_nodes.size() && m_nodes.size() <= mostNodes; ++i) {
         const Node node = m_nodes[i];
         int links = 0;
         forEachFollower(m_tasks, node.pos, node.ends, [&](int pos, bool isEnd, bool isLink) {

@@ -43,6 +43,9 @@ public:
     explicit EventNetwork(const outline::Tasks &tasks);
     // Only what follows from the begins of some tasks.
     EventNetwork(const outline::Tasks &tasks, const std::vector<int> &starts);
+    // The same, given up, and of no use, where it has more nodes than these.
+    EventNetwork(const outline::Tasks &tasks, const std::vector<int> &starts, std::size_t mostNodes);
+    bool isWhole() const { return m_graph.first.size() > m_nodes.size(); }
 
     const std::vector<Node> &nodes() const { return m_nodes; }
     const Graph &graph() const { return m_graph; }
@@ -55,7 +58,7 @@ private:
     int find(int pos, bool end) const { return slot(pos, end) - 1; }
     int &slot(int pos, bool end) const;
     int add(int pos, bool end);
-    void expandAll();
+    void expandAll(std::size_t mostNodes = std::size_t(-1));
 
     const outline::Tasks m_tasks;
     std::vector<Node> m_nodes;

@@ -1,9 +1,13 @@
 #include "engine/network/push.h"
+#include "engine/network/keptnetwork.h"
 #include "engine/network/linkgraph.h"
 #include "engine/network/moves.h"
 #include "engine/network/rollup.h"
 #include "engine/record/taskrecord.h"
+#include <QtAlgorithms>
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 namespace push {
 
@@ -37,17 +41,24 @@ public:
         , m_network(network)
         , m_schedule(schedule)
         , m_state(network.nodes().size())
+        , m_open(m_state.size() / bitsOfWord + 1)
     {
+        for (std::size_t rank = 0; rank < schedule.order.size(); ++rank)
+            m_state[schedule.order[rank]].rank = int(rank);
     }
 
-    // A predecessor's finish for the task that begins at the node; the latest one counts.
+    // A predecessor's finish for the task that begins at the node. The latest one counts, of equal ones that
+    // of the first task.
     void offer(int node, int predecessor, quint32 finish)
     {
         State &state = m_state[node];
-        if (finish > state.finish) {
-            state.finish = finish;
-            state.predecessor = predecessor;
-        }
+        // None is the last of all.
+        if (finish < state.finish ||
+            (finish == state.finish && unsigned(predecessor) >= unsigned(state.predecessor)))
+            return;
+        state.finish = finish;
+        state.predecessor = predecessor;
+        open(node);
     }
 
     // Every task pushes its successors.
@@ -55,17 +66,19 @@ public:
     {
         m_fromAll = m_remembers = true;
         rollUpAll();
-        run();
+        for (const int node : m_schedule.order)
+            happen(node);
     }
     // Only tasks that were passed push their successors.
     void run()
     {
-        for (const int node : m_schedule.order) {
-            const EventNetwork::Node &event = m_network.nodes()[node];
-            if (event.begins)
-                place(node);
-            if (event.ends)
-                end(node);
+        for (std::size_t word = 0; word < m_open.size(); ++word) {
+            while (m_open[word] != 0) {
+                const std::size_t rank = word * bitsOfWord + qCountTrailingZeroBits(m_open[word]);
+                m_open[word] &= m_open[word] - 1;
+                m_at = int(rank);
+                happen(m_schedule.order[rank]);
+            }
         }
     }
 
@@ -93,10 +106,12 @@ public:
     TaskRecord &task(int node) const { return *m_tasks.list[m_network.nodes()[node].pos]; }
 
 private:
+    static constexpr std::size_t bitsOfWord = 64;
     struct State
     {
         quint32 finish = 0;      // of the latest predecessor so far
         int predecessor = none;  // its place in the list
+        int rank = 0;            // place in the order
         bool pushed = false;     // at the begin
         bool passed = false;     // at the end: the dates were set in this pass
         bool carried = false;    // at the end: moved with a summary above
@@ -107,6 +122,30 @@ private:
         int pos;
         quint32 start, finish;
     };
+
+    // Something comes to the node. Each is looked at once: what stands before the one that is being looked at
+    // is of a damaged outline.
+    void open(int node)
+    {
+        const int rank = m_state[node].rank;
+        if (rank > m_at)
+            m_open[std::size_t(rank) / bitsOfWord] |= quint64(1) << std::size_t(rank) % bitsOfWord;
+    }
+
+    void pass(int node)
+    {
+        m_state[node].passed = true;
+        open(node);
+    }
+
+    void happen(int node)
+    {
+        const EventNetwork::Node &event = m_network.nodes()[node];
+        if (event.begins)
+            place(node);
+        if (event.ends)
+            end(node);
+    }
 
     // The dates of a task before its first change.
     void remember(int pos)
@@ -199,10 +238,11 @@ private:
         if (!holds(state.finish, summary.Start))
             placeContent(summary, below, state.finish);
         state.pushed = true;
-        m_state[m_network.endOfBegin(node)].passed = true;
+        pass(m_network.endOfBegin(node));
         for (const TaskRecord *moved : below) {
             const int end = m_network.endOf(m_tasks.index.posOf(moved->ID));
-            m_state[end].passed = m_state[end].carried = true;
+            m_state[end].carried = true;
+            pass(end);
         }
     }
 
@@ -236,7 +276,7 @@ private:
                 offer(graph.targets[edge], event.pos, ending.Finish);
         }
         if (passed && firstOther < graph.first[node + 1])
-            m_state[graph.targets[firstOther]].passed = true;
+            pass(graph.targets[firstOther]);
     }
 
     const WorkCalendar &m_calendar;
@@ -249,23 +289,67 @@ private:
     bool m_remembers = false;
     const BeforeChange *m_before = nullptr;
     std::vector<State> m_state;
+    std::vector<quint64> m_open; // a bit for each place in the order
+    int m_at = none;             // the place that is being looked at
     std::vector<Old> m_old;
 };
 
-// Whether the predecessor's link to the task that begins at the node counts. When the push would come back to
-// the predecessor, it has to be a link that is no part of a ring.
-bool canPush(const EventNetwork &network, const Schedule &schedule, int predecessorPos, int successorNode)
+// Which links count for a push that starts with some tasks.
+class Counting
 {
-    const int node = predecessorPos < 0 ? none : network.endOf(predecessorPos);
-    if (node == none)
-        return true;
-    const int first = network.graph().first[node];
-    for (int edge = first; edge < first + network.nodes()[node].linkCount; ++edge) {
-        if (network.graph().targets[edge] == successorNode)
-            return schedule.deadEdge.empty() || !schedule.deadEdge[edge];
+public:
+    Counting(const EventNetwork &network, const Schedule &schedule, const std::vector<int> &starts)
+        : m_network(network)
+        , m_schedule(schedule)
+        , m_starts(starts)
+    {
     }
-    return false;
-}
+
+    // The predecessor's link to the task that begins at the node. When the push would come back to the
+    // predecessor, it has to be a link that is no part of a ring.
+    bool operator()(int predecessorPos, int successorNode)
+    {
+        const int node = predecessorPos < 0 ? none : m_network.endOf(predecessorPos);
+        if (node == none)
+            return true;
+        const linkgraph::Graph &graph = m_network.graph();
+        const int first = graph.first[node];
+        for (int edge = first; edge < first + m_network.nodes()[node].linkCount; ++edge) {
+            if (graph.targets[edge] == successorNode)
+                return m_schedule.deadEdge.empty() || !m_schedule.deadEdge[edge];
+        }
+        return !isReached(node); // a link of a summary above, or one that is not in the lists
+    }
+
+private:
+    // Whether the push can come there.
+    bool isReached(int node)
+    {
+        if (m_reached.empty()) {
+            m_reached.assign(m_network.nodes().size(), 0);
+            std::vector<int> open;
+            const auto reach = [&](int each) {
+                if (!std::exchange(m_reached[each], 1))
+                    open.push_back(each);
+            };
+            for (const int pos : m_starts)
+                reach(m_network.beginOf(pos));
+            while (!open.empty()) {
+                const int each = open.back();
+                open.pop_back();
+                const linkgraph::Graph &graph = m_network.graph();
+                for (int edge = graph.first[each]; edge < graph.first[each + 1]; ++edge)
+                    reach(graph.targets[edge]);
+            }
+        }
+        return m_reached[node];
+    }
+
+    const EventNetwork &m_network;
+    const Schedule &m_schedule;
+    const std::vector<int> &m_starts;
+    std::vector<char> m_reached; // by node; empty until it is asked for
+};
 
 int posOf(const outline::Tasks &tasks, const TaskRecord &task)
 {
@@ -290,7 +374,7 @@ quint32 target(quint32 finish)
 
 std::vector<TaskRecord *> along(const WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
                                 const std::vector<Link> &links, Undated undated, std::vector<Move> *moves,
-                                const BeforeChange &before)
+                                const BeforeChange &before, linkgraph::KeptNetwork *kept)
 {
     struct Ends
     {
@@ -313,15 +397,27 @@ std::vector<TaskRecord *> along(const WorkCalendar &calendar, const outline::Tas
     if (early.empty())
         return passed;
 
-    const EventNetwork network(tasks, starts);
-    const Schedule order = linkgraph::schedule(network, tasks);
+    // Where a push can reach little, its own network costs less than a look at the whole plan.
+    constexpr std::size_t leastTasks = 16;
+    const std::size_t mostNodes = kept ? std::size_t(tasks.list.size()) / leastTasks : std::size_t(-1);
+    std::optional<EventNetwork> own(std::in_place, tasks, starts, mostNodes);
+    std::optional<Schedule> ownOrder;
+    if (own->isWhole()) {
+        ownOrder = linkgraph::schedule(*own, tasks);
+    } else {
+        own.reset();
+        kept->update(tasks);
+    }
+    const EventNetwork &network = own ? *own : kept->network();
+    const Schedule &order = own ? *ownOrder : kept->schedule();
     Pass pass(calendar, tasks, hourScale, undated, network, order);
     if (moves)
         pass.rememberMoves();
     pass.announceTo(before);
+    Counting counts(network, order, starts);
     for (const Ends &link : early) {
         const int node = network.beginOf(link.successor);
-        if (canPush(network, order, link.predecessor, node))
+        if (counts(link.predecessor, node))
             pass.offer(node, link.predecessor, link.finish);
     }
     pass.run();

@@ -9,6 +9,10 @@ struct TaskRecord;
 // Moves tasks that start before their predecessors finish. A push goes on to the successors of what it moved,
 // to what lies below a moved summary and to the summaries above, whose successors it reaches. Nothing is ever
 // pulled earlier. Dates only: no chart, no assignments.
+namespace linkgraph {
+class KeptNetwork;
+}
+
 namespace push {
 
 // Pixels and minutes may round a finish, so a start is late enough up to this many seconds before it.
@@ -39,12 +43,13 @@ struct Move
 // Returns the tasks that this passed, summaries above them included; none when nothing had to move. A link
 // that cannot hold pushes nothing; one that is not in the lists pushes nevertheless. `moves` gets the tasks
 // that were pushed or carried along to other dates, in list order. `before` hears of each task whose dates
-// may change, before they do.
+// may change, before they do. `kept` is the plan's network as far as the caller knows it from earlier pushes;
+// one that can reach much of the plan takes it from there.
 using BeforeChange = std::function<void(TaskRecord &)>;
 std::vector<TaskRecord *> along(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks,
                                 bool hourScale, const std::vector<Link> &links,
                                 Undated undated = Undated::Move, std::vector<Move> *moves = nullptr,
-                                const BeforeChange &before = {});
+                                const BeforeChange &before = {}, linkgraph::KeptNetwork *kept = nullptr);
 // Rolls every summary up and pushes every successor. Returns the tasks that were pushed or carried along to
 // other dates, in list order.
 std::vector<Move> all(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, bool hourScale,
