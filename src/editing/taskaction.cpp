@@ -2,6 +2,7 @@
 #include "editing/actionmanager.h"
 #include "editing/optionbackup.h"
 #include "editing/renamebackup.h"
+#include "editing/rowbackup.h"
 #include "editing/samevalues.h"
 #include "editing/sheetbackup.h"
 #include "editing/taskbackups.h"
@@ -24,6 +25,7 @@ struct TaskAction::Backups
     std::vector<UndoTaskResources> assignments;
     TaskIndex assignmentIds;
     std::optional<TaskSnapshot> allTasks;
+    std::optional<RowBackup> rows;
     std::optional<optionbackup::Chart> chart;
     std::optional<UndoOptionItemData> options;
     std::optional<optionbackup::Identity> identity;
@@ -150,6 +152,21 @@ void TaskAction::backupAllTaskData()
     backupChart();
 }
 
+bool TaskAction::backupRows()
+{
+    if (!document() || document()->taskIndex().size() != document()->taskCount())
+        return false;
+    if (!m_backups->rows)
+        m_backups->rows.emplace(*document());
+    return true;
+}
+
+void TaskAction::addLeavingTask(const KWTaskInfo &task)
+{
+    if (m_backups->rows)
+        m_backups->rows->addLeaving(task);
+}
+
 void TaskAction::backupChart()
 {
     if (document() && !m_backups->chart)
@@ -220,6 +237,8 @@ void TaskAction::backupWholeDocument()
 void TaskAction::close(Bars bars)
 {
     Backups &backups = *m_backups;
+    if (document() && backups.rows)
+        backups.rows->keepChanges(*document());
     // Each of these gives tasks other values when it comes back, which their own records then put right.
     if (!document() || backups.allTasks || backups.sheet || !backups.entries.empty() ||
         !backups.names.empty() || backups.options || backups.identity)
@@ -265,6 +284,7 @@ void TaskAction::clearUndoItemDatas()
     m_backups->assignments.clear();
     m_backups->assignmentIds = TaskIndex();
     m_backups->allTasks.reset();
+    m_backups->rows.reset();
     m_backups->chart.reset();
 }
 
@@ -302,6 +322,8 @@ TaskAction::Backups TaskAction::now() const
         current.allTasks = document.actionManager().takeSnapshot();
     else
         addSingleTasks(current);
+    if (m_backups->rows)
+        current.rows = m_backups->rows->now(document);
     if (m_backups->chart)
         current.chart = optionbackup::chartOf(document);
     if (m_backups->options)
@@ -333,13 +355,15 @@ void TaskAction::addSingleTasks(Backups &current) const
 
 namespace {
 
-void restoreAllTasks(KWDocument &document, const TaskSnapshot &backup, const TaskSnapshot &current)
+// What gives the list other tasks; the active one stays it where it is there afterwards.
+template <typename Restore>
+void restoreList(KWDocument &document, Restore restore)
 {
     KWTaskCollection &collection = *document.taskCollection();
     const KWTaskInfo *active = collection.getTaskInfoActive();
     const quint32 activeId = active ? active->ID.value() : 0;
     collection.setTaskInfoActive(nullptr);
-    backup.restore(document, current);
+    restore();
     if (active)
         collection.setTaskInfoActive(document.getTaskInfoByID(activeId));
 }
@@ -486,7 +510,9 @@ void TaskAction::restore(const Backups &backups, const Backups &current)
     if (backups.columns)
         setColumns(*backups.columns, *document.rowColumnData());
     if (backups.allTasks)
-        restoreAllTasks(document, *backups.allTasks, *current.allTasks);
+        restoreList(document, [&] { backups.allTasks->restore(document, *current.allTasks); });
+    else if (backups.rows)
+        restoreList(document, [&] { backups.rows->restore(document); });
 
     // Every task has its own assignments back already; else the sheet's come first, then those of single
     // tasks, which are exact, and last the values that are recorded.

@@ -37,6 +37,10 @@ public:
     void backupAffected(KWTaskInfo *task);
     // Every task with all that belongs to it. An action that has this leaves single tasks aside.
     void backupAllTaskData();
+    // The order of the list and the heights of its rows, and of tasks that leave it all that belongs to them.
+    // False where several tasks have one ID: then every task has to be recorded.
+    bool backupRows();
+    void addLeavingTask(const KWTaskInfo &task); // after that, and before anything changes
     void backupAllColData();
     void addDocResource(ResourceInfo *info); // one entry of the sheet with its assignments
     void backupAllDocResources();            // the whole sheet and every task's assignments

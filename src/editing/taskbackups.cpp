@@ -1,5 +1,6 @@
 #include "editing/taskbackups.h"
 #include "editing/samevalues.h"
+#include "editing/taskcopy.h"
 #include "engine/record/fieldxml.h"
 #include "engine/record/taskfields.h"
 #include "model/kwdocument.h"
@@ -165,14 +166,6 @@ void setRowHeight(KWDocument &document, quint32 id, double height)
         document.rowColumnData()->replaceRowHeight(document.getPosByID(id), height);
 }
 
-// All but the assignments.
-void copyValues(const KWTaskInfo &from, KWTaskInfo &to)
-{
-    fields::copy(fields::taskFields, fields::Copy, from, to);
-    to.font = from.font;
-    to.hyperlinks.assign(from.hyperlinks);
-}
-
 template <typename Block>
 void append(const KWTaskInfo &task, double rowHeight, Block &block)
 {
@@ -260,7 +253,7 @@ void TaskBackups::add(const KWDocument &document, const KWTaskInfo &task)
     if ((m_closedIds && m_closedIds->contains(task.ID)) || !m_ids.add(task.ID, IsWhole))
         return;
     m_whole.emplace_back();
-    copyValues(task, m_whole.back().task);
+    taskcopy::values(task, m_whole.back().task);
     m_whole.back().rowHeight = rowHeightOf(document, task.ID);
 }
 
@@ -355,7 +348,7 @@ void TaskBackups::keepChanges(const KWDocument &document, Bars barsToo)
         const KWTaskInfo *task = document.getTaskInfoByID(whole.task.ID);
         if (!task) {
             missing.emplace_back();
-            copyValues(whole.task, missing.back().task);
+            taskcopy::values(whole.task, missing.back().task);
             missing.back().rowHeight = whole.rowHeight;
             continue;
         }
@@ -380,7 +373,7 @@ TaskBackups TaskBackups::now(const KWDocument &document) const
     for (const Whole &whole : m_whole) {
         const KWTaskInfo *task = document.getTaskInfoByID(whole.task.ID);
         current.m_whole.emplace_back();
-        copyValues(task ? *task : whole.task, current.m_whole.back().task);
+        taskcopy::values(task ? *task : whole.task, current.m_whole.back().task);
         current.m_whole.back().rowHeight = task ? rowHeightOf(document, task->ID) : whole.rowHeight;
     }
     for (const std::unique_ptr<Block> &block : m_blocks) {
@@ -410,7 +403,7 @@ void TaskBackups::restore(KWDocument &document) const
 {
     for (const Whole &whole : m_whole) {
         if (KWTaskInfo *task = document.getTaskInfoByID(whole.task.ID)) {
-            copyValues(whole.task, *task);
+            taskcopy::values(whole.task, *task);
             setRowHeight(document, whole.task.ID, whole.rowHeight);
         }
     }

@@ -1,5 +1,6 @@
 #include "editing/tasksnapshot.h"
 #include "editing/samevalues.h"
+#include "editing/taskcopy.h"
 #include "engine/cost/names.h"
 #include "engine/record/fieldxml.h"
 #include "engine/record/resource.h"
@@ -71,24 +72,6 @@ bool isSameTask(const KWTaskInfo &a, const KWTaskInfo &b)
 
 // ---- Copying ----------------------------------------------------------------------------------------------
 
-void setAssignments(const QList<Resource *> &from, KWTaskInfo &to)
-{
-    if (isSame(from, to.resourceList))
-        return;
-    to.clearResources();
-    to.resourceList = Resource::cloneResources(from);
-}
-
-// Everything, with assignments of its own.
-void copyTask(const KWTaskInfo &from, KWTaskInfo &to)
-{
-    fields::copy(fields::taskFields, fields::Copy, from, to);
-    to.font = from.font;
-    if (!isSame(from.hyperlinks, to.hyperlinks))
-        to.hyperlinks.assign(from.hyperlinks);
-    setAssignments(from.resourceList, to);
-}
-
 double rowHeightAt(const QList<double> &heights, int pos)
 {
     return heights.value(pos, RowColumnData::defaultRowHeight);
@@ -157,7 +140,7 @@ private:
     std::shared_ptr<const Copy> newCopy(int pos) const
     {
         auto copy = std::make_shared<Copy>();
-        copyTask(*m_tasks[pos], copy->task);
+        taskcopy::all(*m_tasks[pos], copy->task);
         copy->rowHeight = rowHeightAt(m_heights, pos);
         copy->isOtherwiseNamed = names::isOtherwiseNamed(copy->task);
         return copy;
@@ -303,7 +286,7 @@ void TaskSnapshot::restore(KWDocument &document, const TaskSnapshot &now) const
                 isTaken[std::size_t(pos)] = true;
             restored.append(isThere ? tasks[pos] : new KWTaskInfo);
             if (!isThere || places.copyAt(pos) != &copy)
-                copyTask(copy.task, *restored.last());
+                taskcopy::all(copy.task, *restored.last());
         }
     }
     if (heights != oldHeights)
@@ -323,7 +306,7 @@ void TaskSnapshot::restoreAssignments(KWDocument &document, const TaskSnapshot &
             if (pos < 0 || !restored.add(copy->task.ID) || places.copyAt(pos) == copy.get())
                 continue;
             KWTaskInfo &task = *document.getTaskInfoAt(pos);
-            setAssignments(copy->task.resourceList, task);
+            taskcopy::assignments(copy->task.resourceList, task);
             task.Resources = copy->task.Resources;
         }
     }

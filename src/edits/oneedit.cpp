@@ -72,10 +72,12 @@ void OneEdit::begin(unsigned backups, Reach reach)
         m_step.wasModified = document().isModified();
     constexpr unsigned int noFlags = 0;
     m_record = std::make_unique<TaskAction>(&document(), m_step.name, noFlags);
-    m_hasAllTasks = backups & AllTasks;
     m_reach = reach;
     TaskAction &action = *m_record;
-    if (backups & AllTasks)
+    m_hasAllTasks = (backups & AllTasks) || ((backups & Rows) && !action.backupRows());
+    if (backups & Rows)
+        action.backupChart();
+    if (m_hasAllTasks)
         action.backupAllTaskData();
     if (backups & Sheet)
         action.backupAllDocResources();
@@ -123,8 +125,16 @@ void OneEdit::keepReach(TaskRecord &task)
         keepTask(*below);
 }
 
+void OneEdit::keepLeaving(TaskRecord &task)
+{
+    if (!m_hasAllTasks)
+        m_record->addLeavingTask(*asTask(&task));
+}
+
 void OneEdit::keepTask(TaskRecord &task)
 {
+    if (m_hasAllTasks)
+        return;
     m_record->addChangeTaskInfo(asTask(&task));
     if (task.isHaveResource())
         m_record->addTaskAllResources(asTask(&task));
@@ -165,6 +175,7 @@ void OneEdit::takeFromSummaries()
         KWTaskInfo *task = this->task(id);
         if (!task || !task->isParent())
             continue;
+        keepTask(*task);
         task->Milestone = false;
         if (baselines::has(*task)) {
             lose(EditLoss::Baseline, *task, task->BaselineCost);
@@ -185,6 +196,8 @@ void OneEdit::dropUnsuitedLinks()
     const auto dropUnsuited = [&](TaskRecord *predecessor, TaskRecord *successor) {
         if (!predecessor || !successor || links::fault(all, *predecessor, *successor) == LinkRefusal::None)
             return;
+        keepTask(*predecessor);
+        keepTask(*successor);
         predecessor->Depends.removeOne(successor->ID);
         successor->Predecessors.removeOne(predecessor->ID);
         lose(EditLoss::Link, *successor, {}, predecessor->ID);

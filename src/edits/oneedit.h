@@ -40,7 +40,8 @@ public:
     QString nameOf(const TaskRecord &task) const;
 
     // ---- Recording ---------------------------------------------------------------------------------------
-    enum Backup : unsigned { SingleTasks = 0, AllTasks = 1, Sheet = 2, Options = 4, Columns = 8 };
+    // Rows: tasks come, go or change places; all other changes of tasks are recorded one by one.
+    enum Backup : unsigned { SingleTasks = 0, AllTasks = 1, Sheet = 2, Options = 4, Columns = 8, Rows = 16 };
     enum Reach { MovesTasks, MovesNothing };
     // Begins the edit: what is kept of all that it changes. Without AllTasks single tasks follow.
     void begin(unsigned backups, Reach reach = MovesTasks);
@@ -49,6 +50,8 @@ public:
     // What goes along with the dates or links of the task. What follows from them is kept while it is
     // settled.
     void keepReach(TaskRecord &task);
+    void keepTask(TaskRecord &task);    // all of one, and nothing else
+    void keepLeaving(TaskRecord &task); // one that leaves the list, before anything changes
 
     // ---- Changing ----------------------------------------------------------------------------------------
     settling::Changes changes;
@@ -75,7 +78,6 @@ private:
         quint32 finish;
     };
     void keepDates();
-    void keepTask(TaskRecord &task);
     void takeFromSummaries();
     void dropUnsuitedLinks();
     void listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited);

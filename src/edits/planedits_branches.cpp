@@ -48,9 +48,11 @@ EditAnswer insertBranches(OneEdit &edit, const QByteArray &bytes, bool withAssig
                           const Target &target, const KWDocument *source)
 {
     KWDocument &document = edit.document();
-    edit.begin(backups | OneEdit::AllTasks);
-    if (target.parent)
+    edit.begin(backups);
+    if (target.parent) {
+        edit.keepTask(*target.parent);
         edit.mayBecomeSummary(*target.parent);
+    }
     const QList<quint32> tops = document.clipbdManager().insertBranches(bytes, withAssignments, target.pos,
                                                                         asTask(target.parent), target.child);
     if (tops.isEmpty())
@@ -79,7 +81,7 @@ EditAnswer pasteAt(OneEdit &edit, const Target &target)
     const QByteArray bytes = edit.document().clipbdManager().clipboardBytes(isOwn);
     if (bytes.isEmpty())
         return edit.refuse(EditRefusal::NothingToPaste);
-    return insertBranches(edit, bytes, isOwn, 0, target, nullptr);
+    return insertBranches(edit, bytes, isOwn, OneEdit::Rows, target, nullptr);
 }
 
 EditAnswer copyFrom(OneEdit &edit, const KWDocument &source, const QVector<quint32> &ids,
@@ -97,7 +99,7 @@ EditAnswer copyFrom(OneEdit &edit, const KWDocument &source, const QVector<quint
     // Reading the branches of a document changes nothing of it.
     const QByteArray bytes = const_cast<KWDocument &>(source).clipbdManager().branches(tops);
     constexpr bool withAssignments = true;
-    return insertBranches(edit, bytes, withAssignments, OneEdit::Sheet, target, &source);
+    return insertBranches(edit, bytes, withAssignments, OneEdit::AllTasks | OneEdit::Sheet, target, &source);
 }
 }
 

@@ -10,7 +10,6 @@
 #include "support/kwclock.h"
 #include "table/rowcolumndata.h"
 #include <algorithm>
-#include <unordered_map>
 
 using outlineplaces::Target;
 
@@ -54,10 +53,12 @@ EditAnswer insertAt(OneEdit &edit, const Target &target, const KWTaskInfo *like,
     KWDocument &document = edit.document();
     if (!taskvalues::judge(edit, nullptr, values))
         return edit.answer;
-    edit.begin(OneEdit::AllTasks);
+    edit.begin(OneEdit::Rows);
     const bool sameLength = target.parent && target.parent == like && !like->isParent();
-    if (target.parent)
+    if (target.parent) {
+        edit.keepTask(*target.parent);
         edit.mayBecomeSummary(*target.parent);
+    }
     auto *task = new KWTaskInfo;
     task->ID = document.nextTaskID();
     task->ParentID = target.parent ? target.parent->ID.value() : 0;
@@ -133,21 +134,26 @@ void takeOut(OneEdit &edit, const TaskIndex &leaving)
     const auto isGone = [&](quint32 id) { return leaving.contains(id); };
     std::vector<TaskRecord *> lifted;
     for (TaskRecord *task : tasks.list) {
-        for (QList<quint32> *links : {&task->Depends, &task->Predecessors}) {
-            if (std::any_of(links->cbegin(), links->cend(), isGone))
-                links->erase(std::remove_if(links->begin(), links->end(), isGone), links->end());
-        }
         if (leaving.contains(task->ID)) {
+            edit.keepLeaving(*task);
             if (task->isHaveResource())
                 edit.changes.what |= settling::Assignments;
             continue;
         }
+        for (QList<quint32> *links : {&task->Depends, &task->Predecessors}) {
+            if (std::any_of(links->cbegin(), links->cend(), isGone)) {
+                edit.keepTask(*task);
+                links->erase(std::remove_if(links->begin(), links->end(), isGone), links->end());
+            }
+        }
         if (std::any_of(task->Childs.cbegin(), task->Childs.cend(), isGone)) {
+            edit.keepTask(*task);
             task->Childs = remaining(tasks, task->Childs, leaving);
             edit.childrenChanged(task);
         }
         if (!leaving.contains(task->ParentID))
             continue;
+        edit.keepReach(*task);
         // The nearest summary above that stays; all between them leave.
         const KWTaskInfo *parent = edit.parentOf(*task);
         while (parent && leaving.contains(parent->ID))
@@ -184,7 +190,7 @@ EditAnswer PlanEdits::remove(const QVector<quint32> &ids)
                 leaving.add(below->ID);
         }
     }
-    edit.begin(OneEdit::AllTasks);
+    edit.begin(OneEdit::Rows);
     takeOut(edit, leaving);
     return edit.finish();
 }
@@ -201,7 +207,7 @@ EditAnswer PlanEdits::cut(const QVector<quint32> &ids)
         for (const TaskRecord *below : outline::descendants(edit.tasks(), *task))
             leaving.add(below->ID);
     }
-    edit.begin(OneEdit::AllTasks);
+    edit.begin(OneEdit::Rows);
     takeOut(edit, leaving);
     return edit.finish();
 }
@@ -214,6 +220,11 @@ namespace {
 // among its children.
 void hang(OneEdit &edit, KWTaskInfo &task, KWTaskInfo *old, KWTaskInfo *parent, int place)
 {
+    edit.keepReach(task);
+    for (KWTaskInfo *summary : {old, parent}) {
+        if (summary)
+            edit.keepTask(*summary);
+    }
     task.ParentID = parent ? parent->ID.value() : 0;
     if (parent)
         parent->Childs.insert(place, task.ID);
@@ -229,14 +240,20 @@ void hang(OneEdit &edit, KWTaskInfo &task, KWTaskInfo *old, KWTaskInfo *parent, 
 // For each of the tasks the sibling before it that is none of them; refuses where there is none.
 std::vector<KWTaskInfo *> newParents(OneEdit &edit, const std::vector<KWTaskInfo *> &tasks)
 {
-    TaskIndex placeOf; // among the tasks
-    for (std::size_t i = 0; i < tasks.size(); ++i)
+    TaskIndex placeOf;    // among the tasks
+    TaskIndex siblingsOf; // the parents of these, as places in `last`
+    for (std::size_t i = 0; i < tasks.size(); ++i) {
         placeOf.add(tasks[i]->ID, int(i));
+        siblingsOf.add(tasks[i]->ParentID, siblingsOf.size());
+    }
     std::vector<KWTaskInfo *> parents(tasks.size());
-    std::unordered_map<quint32, KWTaskInfo *> last; // by their parent
+    std::vector<KWTaskInfo *> last(std::size_t(siblingsOf.size()));
     for (KWTaskInfo *task : edit.document().taskList()) {
+        const int siblings = siblingsOf.posOf(task->ParentID);
+        if (siblings < 0)
+            continue;
         const int place = placeOf.posOf(task->ID);
-        KWTaskInfo *&before = last[task->ParentID];
+        KWTaskInfo *&before = last[std::size_t(siblings)];
         if (place < 0) {
             before = task;
             continue;
@@ -266,15 +283,17 @@ EditAnswer PlanEdits::indent(const QVector<quint32> &ids)
     const std::vector<KWTaskInfo *> parents = newParents(edit, tasks);
     if (edit.isRefused())
         return edit.answer;
-    edit.begin(OneEdit::AllTasks);
+    edit.begin(OneEdit::Rows);
     TaskIndex moving;
     for (const KWTaskInfo *task : tasks)
         moving.add(task->ID);
     for (std::size_t i = 0; i < tasks.size(); ++i) {
         KWTaskInfo &task = *tasks[i];
         KWTaskInfo *old = edit.parentOf(task);
-        if (old && old->Childs.contains(task.ID))
+        if (old && old->Childs.contains(task.ID)) {
+            edit.keepTask(*old);
             outline::removeChilds(*old, moving); // all of them at once
+        }
         edit.mayBecomeSummary(*parents[i]);
         edit.mayNotSuitLinks(*parents[i]);
         hang(edit, task, old, parents[i], parents[i]->Childs.size());
@@ -296,7 +315,7 @@ EditAnswer PlanEdits::outdent(const QVector<quint32> &ids)
         if (!edit.parentOf(*task))
             return edit.refuse(EditRefusal::TopLevel, {edit.nameOf(*task)});
     }
-    edit.begin(OneEdit::AllTasks);
+    edit.begin(OneEdit::Rows);
     // The last one first: it would become a child of the one before it for a moment, which then were a
     // summary.
     std::reverse(tasks.begin(), tasks.end());
@@ -308,6 +327,7 @@ EditAnswer PlanEdits::outdent(const QVector<quint32> &ids)
             edit.mayBecomeSummary(*task);
             edit.mayNotSuitLinks(*task);
         }
+        edit.keepReach(*parent);
         parent->Childs = parent->Childs.mid(0, place);
         parent->removeTaskChildIDByID(task->ID);
         for (const quint32 id : followers) {
@@ -333,7 +353,9 @@ EditAnswer PlanEdits::move(quint32 id, int places)
     if (!outlineplaces::sibling(edit.tasks(), *task, places))
         return edit.refuse(places < 0 ? EditRefusal::NoTaskBefore : EditRefusal::NoTaskAfter,
                            {edit.nameOf(*task)});
-    edit.begin(OneEdit::AllTasks);
+    edit.begin(OneEdit::Rows);
+    if (KWTaskInfo *parent = edit.parentOf(*task))
+        edit.keepTask(*parent);
     KWDocument &document = edit.document();
     for (; places < 0; ++places) {
         const TaskRecord *before = outlineplaces::sibling(edit.tasks(), *task, -1);

@@ -379,6 +379,8 @@ private:
         for (TaskRecord *task : isWhole() ? m_touched.tasks() : changedTasks()) {
             if (task->isParent())
                 continue;
+            if (m_what & Outline)
+                before(*task); // a summary that lost its last child
             if (sumLeaf(measures, *task))
                 changed.push_back(task);
             if (withNames && (task->isHaveResource() || ((m_what & Assignments) && m_named.contains(*task))))
