@@ -58,6 +58,25 @@ quint32 after(const WorkCalendar &calendar, quint32 start, double value, unsigne
                     worktime::clampSecs(qint64(start) + milestoneSecs));
 }
 
+// A finish is shown cut to the minute and a length rounded to it: where the work ends on half a minute, as
+// behind a clock change, they lie a minute apart and stand for the half between them. 0 where they do not.
+quint32 halfMinuteOn(const WorkCalendar &calendar, quint32 start, const Moment &finish,
+                     const staged::Task &task)
+{
+    constexpr int halfMinute = 30;
+    constexpr double lengthDigits = 1e-4;
+    if (finish.kind != Moment::Shown || !finish.hasTime || finish.secs % (2 * halfMinute) != 0)
+        return 0;
+    const shownmoment::Moment half{finish.day, int(finish.secs) + halfMinute, true};
+    const quint32 found = shownmoment::finish(calendar, half, DaysOff::StayOn);
+    const shownmoment::Moment shown = shownmoment::ofFinish(calendar, found);
+    const double length = duration::ofTask(calendar, start, found, task.task->DurationUnits);
+    const bool isBoth = shown.day == finish.day &&
+                        shown.secs / (2 * halfMinute) * (2 * halfMinute) == int(finish.secs) &&
+                        std::fabs(length - task.length->value) < lengthDigits;
+    return isBoth ? found : 0;
+}
+
 Dates milestoneAt(const WorkCalendar &calendar, const Moment &moment, quint32 projectStart)
 {
     Dates dates;
@@ -132,8 +151,9 @@ Dates of(const WorkCalendar &calendar, const staged::Task &task, quint32 project
             return dates;
         }
         if (lengthRule == LengthRule::Decides) {
-            dates.finish = walked;
-            dates.remark = Remark::FinishContradicts;
+            const quint32 half = halfMinuteOn(calendar, dates.start, finish, task);
+            dates.finish = half > 0 ? half : walked;
+            dates.remark = half > 0 ? Remark::None : Remark::FinishContradicts;
         } else if (std::fabs(length - task.length->value) > shownLength(unit)) {
             dates.remark = Remark::LengthContradicts;
         }

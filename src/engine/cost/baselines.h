@@ -2,7 +2,7 @@
 #include <QString>
 #include <vector>
 
-class TaskRecord;
+struct TaskRecord;
 
 // Baselines of summaries: what those leaves have together that have one.
 namespace baselines {

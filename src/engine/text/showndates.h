@@ -6,7 +6,7 @@
 #include <QList>
 #include <vector>
 
-class TaskRecord;
+struct TaskRecord;
 
 // The starts and finishes of all tasks as people are to see them.
 //
