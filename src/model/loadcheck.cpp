@@ -493,8 +493,8 @@ private:
             "has no length",
             "overlaps one before it: the hours of both count",
             "lies before one that stands ahead of it: breaks are counted in the order of the list",
-            "is not made of whole hours: the hours that it touches at its end do not count, those at its "
-            "beginning do",
+            ("is not made of whole hours: the hours that it touches at its end do not count, those at its "
+             "beginning do"),
         };
         const QVector<dayhours::Found> found = dayhours::faults(hours);
         for (const dayhours::Found &one : found)

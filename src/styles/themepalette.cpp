@@ -35,8 +35,8 @@ const QStringList &ThemePalette::colorNames()
 {
     static const QStringList list = [] {
         QStringList all;
-        for (const char *name : names)
-            all.append(QString::fromLatin1(name));
+        for (const char *each : names)
+            all.append(QString::fromLatin1(each));
         return all;
     }();
     return list;
