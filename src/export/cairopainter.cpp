@@ -14,16 +14,16 @@ namespace {
 constexpr double roundness = 0.5522847498; // of a curve that is a quarter of a circle
 // Numbers of cairo's have no room for the far ends of a long bar.
 constexpr double viewMargin = 100; // chart pixels
+constexpr double pointsPerUnit = 72 / 96.0;
+constexpr double dotsPerPoint = 8; // of a printer, about: what is finer only makes a long file
 
-// Places for each device unit that shapes stand on: few digits make a short file. Quarters of a point, and
-// finer ones where a pixel of the chart is small.
+// Places for each device unit that shapes stand on: quarters of a point. Dates are told apart by dots where a
+// pixel of the chart is small.
+constexpr double fewSteps = 4 * pointsPerUnit;
 double stepsOnPaper(double scale)
 {
-    constexpr double pointsPerUnit = 72 / 96.0, leastPerPixel = 1.5;
-    double perPoint = 4;
-    while (perPoint * pointsPerUnit * scale < leastPerPixel && perPoint < 256)
-        perPoint *= 2;
-    return perPoint * pointsPerUnit;
+    constexpr double leastPerPixel = 1.5;
+    return fewSteps * scale < leastPerPixel ? dotsPerPoint * pointsPerUnit : fewSteps;
 }
 
 QRectF cutTo(const QRectF &rect, const QRectF &view)
@@ -45,25 +45,6 @@ bool isIn(const QRectF &rect, const QRectF &view)
            rect.top() <= view.bottom();
 }
 
-void addPath(cairo_t *context, const KWPath &path)
-{
-    path.forEach([context](KWPath::Kind kind, const QPointF *at) {
-        switch (kind) {
-        case KWPath::MoveTo:
-            cairo_move_to(context, at[0].x(), at[0].y());
-            break;
-        case KWPath::LineTo:
-            cairo_line_to(context, at[0].x(), at[0].y());
-            break;
-        case KWPath::CurveTo:
-            cairo_curve_to(context, at[0].x(), at[0].y(), at[1].x(), at[1].y(), at[2].x(), at[2].y());
-            break;
-        case KWPath::Close:
-            cairo_close_path(context);
-            break;
-        }
-    });
-}
 }
 
 CairoPainter::CairoPainter(cairo_t *context, const chartstyle::Sheet &sheet, TextShaper &shaper,
@@ -75,6 +56,7 @@ CairoPainter::CairoPainter(cairo_t *context, const chartstyle::Sheet &sheet, Tex
     , m_device(device)
     , m_scale(scale)
     , m_steps(device == Paper ? stepsOnPaper(scale) : 1)
+    , m_stepsDown(device == Paper ? fewSteps : 1)
 {
 }
 
@@ -138,10 +120,22 @@ void CairoPainter::paint(const chart::Marks &marks, const QPointF &offset, const
     cairo_restore(m_context);
 }
 
+namespace {
+
+double onSteps(double position, double scale, double offset, double steps)
+{
+    return (std::round((position * scale + offset) * steps) / steps - offset) / scale;
+}
+}
+
 double CairoPainter::snapped(double position, double offset, double finer) const
 {
-    const double steps = m_steps * finer;
-    return (std::round((position * m_scale + offset) * steps) / steps - offset) / m_scale;
+    return onSteps(position, m_scale, offset, m_steps * finer);
+}
+
+double CairoPainter::snappedDown(double position) const
+{
+    return onSteps(position, m_scale, m_offset.y(), m_stepsDown);
 }
 
 double CairoPainter::snapped(double length) const
@@ -149,12 +143,39 @@ double CairoPainter::snapped(double length) const
     return snapped(length, 0);
 }
 
+double CairoPainter::dotted(double position, double offset) const
+{
+    return m_device == Paper ? onSteps(position, m_scale, offset, dotsPerPoint * pointsPerUnit) : position;
+}
+
+void CairoPainter::addPath(const KWPath &path)
+{
+    path.forEach([this](KWPath::Kind kind, const QPointF *at) {
+        const auto x = [&](int number) { return dotted(at[number].x(), m_offset.x()); };
+        const auto y = [&](int number) { return dotted(at[number].y(), m_offset.y()); };
+        switch (kind) {
+        case KWPath::MoveTo:
+            cairo_move_to(m_context, x(0), y(0));
+            break;
+        case KWPath::LineTo:
+            cairo_line_to(m_context, x(0), y(0));
+            break;
+        case KWPath::CurveTo:
+            cairo_curve_to(m_context, x(0), y(0), x(1), y(1), x(2), y(2));
+            break;
+        case KWPath::Close:
+            cairo_close_path(m_context);
+            break;
+        }
+    });
+}
+
 QRectF CairoPainter::snapped(const QRectF &rect) const
 {
-    const double left = snapped(rect.left(), m_offset.x()), top = snapped(rect.top(), m_offset.y());
-    const double least = 1 / (m_scale * m_steps);
+    const double left = snapped(rect.left(), m_offset.x()), top = snappedDown(rect.top());
+    const double least = 1 / (m_scale * m_steps), leastDown = 1 / (m_scale * m_stepsDown);
     return QRectF(left, top, std::max(least, snapped(rect.right(), m_offset.x()) - left),
-                  std::max(least, snapped(rect.bottom(), m_offset.y()) - top));
+                  std::max(leastDown, snappedDown(rect.bottom()) - top));
 }
 
 // Adds the outline of a closed shape to the current path.
@@ -164,7 +185,7 @@ void CairoPainter::trace(const Mark &mark, const QRectF &rect)
         for (int i = 0; i < mark.points.size(); ++i) {
             QPointF corner = cutTo(mark.points.at(i), m_view);
             if (m_device == Paper)
-                corner = QPointF(snapped(corner.x(), m_offset.x()), snapped(corner.y(), m_offset.y()));
+                corner = QPointF(snapped(corner.x(), m_offset.x()), snappedDown(corner.y()));
             i == 0 ? cairo_move_to(m_context, corner.x(), corner.y())
                    : cairo_line_to(m_context, corner.x(), corner.y());
         }
@@ -331,7 +352,7 @@ void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
         const QPointF toMiddle(isLevel ? 0 : shift, isUpright ? 0 : shift);
         const auto corner = [&](int number) {
             const QPointF at = cutTo(mark.points.at(number), m_view);
-            return QPointF(snapped(at.x(), m_offset.x()), snapped(at.y(), m_offset.y())) + toMiddle;
+            return QPointF(snapped(at.x(), m_offset.x()), snappedDown(at.y())) + toMiddle;
         };
         QPointF before = corner(0);
         if (period > 0) {
@@ -353,7 +374,7 @@ void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
                 const double whole = isLast ? std::hypot(at.x() - before.x(), at.y() - before.y()) : 0;
                 // The line ends before the tip of its head.
                 const QPointF end = whole > 0 ? at - (at - before) * (std::min(inset, whole) / whole) : at;
-                cairo_line_to(m_context, end.x(), end.y());
+                cairo_line_to(m_context, dotted(end.x(), m_offset.x()), dotted(end.y(), m_offset.y()));
                 if (isLast && whole > 0 && !line.end.isNone())
                     heads.addPath(line.end.path(before, at, line.width));
             } else {
@@ -365,7 +386,7 @@ void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
     stroke(format);
     if (heads.isEmpty())
         return;
-    addPath(m_context, heads);
+    addPath(heads);
     if (line.end.isFilled()) {
         setColor(line.color.color());
         cairo_fill(m_context);
@@ -388,9 +409,9 @@ void CairoPainter::drawTexts(const Run &run)
         }
         const double y = mark.rect.center().y() + chart::baselineShift(chart::pixelsOf(m_fonts[mark.font]));
         constexpr double finer = 4; // or what is aligned on the right seems to stand unevenly
-        const QPointF at = m_device == Pixels ? QPointF(mark.rect.x(), y)
-                                              : QPointF(snapped(mark.rect.x(), m_offset.x(), finer),
-                                                        snapped(y, m_offset.y(), finer));
+        const QPointF at = m_device == Pixels
+                               ? QPointF(mark.rect.x(), y)
+                               : QPointF(snapped(mark.rect.x(), m_offset.x(), finer), snappedDown(y));
         m_shaper.draw(m_context, at.x(), at.y(), mark.text, mark.font);
     }
     m_shaper.finish(m_context);
@@ -411,12 +432,20 @@ void CairoPainter::paintShapes(const Run &run, const chartstyle::Style &style)
 {
     const bool hasLine = !style.line.isNone(), hasFill = !style.fill.isNone();
     // An outline lies inside the shape.
-    const double inset = hasLine ? style.line.width / 2 : 0;
+    const double inset = hasLine ? dotted(style.line.width / 2, 0) : 0;
     const bool isPlain = style.fill.type == KWPaint::Solid;
     for (const Mark &mark : run) {
-        if (!isIn(mark.rect, m_view))
+        // Progress of less than a dot lies under the outline of its bar.
+        const bool isHidden =
+            m_device == Paper && mark.kind == Kind::Progress && mark.rect.width() * m_scale * m_steps < 1;
+        if (isHidden || !isIn(mark.rect, m_view))
             continue;
-        const QRectF rect = snapped(cutTo(mark.rect, m_view));
+        QRectF rect = snapped(cutTo(mark.rect, m_view));
+        // Bars of one height stay of one, wherever on the steps they begin.
+        if (m_device == Paper && mark.shape != Shape::Rect)
+            rect.setHeight(
+                std::max(1 / (m_scale * m_stepsDown),
+                         onSteps(std::min(mark.rect.height(), m_view.height()), m_scale, 0, m_stepsDown)));
         trace(mark, QRectF(rect.x() + inset, rect.y() + inset, std::max(0.0, rect.width() - 2 * inset),
                            std::max(0.0, rect.height() - 2 * inset)));
         if (!hasFill || isPlain)

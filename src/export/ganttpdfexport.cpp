@@ -402,8 +402,8 @@ void addBookmarks(cairo_surface_t *surface, const PlanView &view, const chart::S
             paper.marginY +
             (chart::headHeight + at.top - plan.at(sheets.parts[part].firstRow).top) * sheets.scale;
         const QByteArray place = "page=" + QByteArray::number(int(part) + 1) + " pos=[" +
-                                 QByteArray::number(paper.marginX * pointsPerPixel, 'f', 2) + ' ' +
-                                 QByteArray::number(y * pointsPerPixel, 'f', 2) + ']';
+                                 QByteArray::number(int(paper.marginX * pointsPerPixel)) + ' ' +
+                                 QByteArray::number(int(y * pointsPerPixel)) + ']';
         QString name = chart::oneLine(view.nameOf(row)).left(200);
         if (name.trimmed().isEmpty())
             name = QStringLiteral("\u2013");
