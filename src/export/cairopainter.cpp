@@ -15,15 +15,17 @@ constexpr double roundness = 0.5522847498; // of a curve that is a quarter of a 
 // Numbers of cairo's have no room for the far ends of a long bar.
 constexpr double viewMargin = 100; // chart pixels
 constexpr double pointsPerUnit = 72 / 96.0;
-constexpr double dotsPerPoint = 8; // of a printer, about: what is finer only makes a long file
+constexpr double dotsPerPoint = 8; // of a printer, about
 
-// Places for each device unit that shapes stand on: quarters of a point. Dates are told apart by dots where a
-// pixel of the chart is small.
-constexpr double fewSteps = 4 * pointsPerUnit;
+// Places for each device unit that shapes stand on: few digits make a short file. Quarters of a point, and
+// finer ones where a pixel of the chart is smaller than those.
 double stepsOnPaper(double scale)
 {
-    constexpr double leastPerPixel = 1.5;
-    return fewSteps * scale < leastPerPixel ? dotsPerPoint * pointsPerUnit : fewSteps;
+    constexpr double leastPerPixel = 1;
+    double perPoint = 4;
+    while (perPoint * pointsPerUnit * scale < leastPerPixel && perPoint < 256)
+        perPoint *= 2;
+    return perPoint * pointsPerUnit;
 }
 
 QRectF cutTo(const QRectF &rect, const QRectF &view)
@@ -56,7 +58,6 @@ CairoPainter::CairoPainter(cairo_t *context, const chartstyle::Sheet &sheet, Tex
     , m_device(device)
     , m_scale(scale)
     , m_steps(device == Paper ? stepsOnPaper(scale) : 1)
-    , m_stepsDown(device == Paper ? fewSteps : 1)
 {
 }
 
@@ -133,11 +134,6 @@ double CairoPainter::snapped(double position, double offset, double finer) const
     return onSteps(position, m_scale, offset, m_steps * finer);
 }
 
-double CairoPainter::snappedDown(double position) const
-{
-    return onSteps(position, m_scale, m_offset.y(), m_stepsDown);
-}
-
 double CairoPainter::snapped(double length) const
 {
     return snapped(length, 0);
@@ -145,7 +141,9 @@ double CairoPainter::snapped(double length) const
 
 double CairoPainter::dotted(double position, double offset) const
 {
-    return m_device == Paper ? onSteps(position, m_scale, offset, dotsPerPoint * pointsPerUnit) : position;
+    return m_device == Paper
+               ? onSteps(position, m_scale, offset, std::max(m_steps, dotsPerPoint * pointsPerUnit))
+               : position;
 }
 
 void CairoPainter::addPath(const KWPath &path)
@@ -172,10 +170,10 @@ void CairoPainter::addPath(const KWPath &path)
 
 QRectF CairoPainter::snapped(const QRectF &rect) const
 {
-    const double left = snapped(rect.left(), m_offset.x()), top = snappedDown(rect.top());
-    const double least = 1 / (m_scale * m_steps), leastDown = 1 / (m_scale * m_stepsDown);
+    const double left = snapped(rect.left(), m_offset.x()), top = snapped(rect.top(), m_offset.y());
+    const double least = 1 / (m_scale * m_steps);
     return QRectF(left, top, std::max(least, snapped(rect.right(), m_offset.x()) - left),
-                  std::max(leastDown, snappedDown(rect.bottom()) - top));
+                  std::max(least, snapped(rect.bottom(), m_offset.y()) - top));
 }
 
 // Adds the outline of a closed shape to the current path.
@@ -185,7 +183,7 @@ void CairoPainter::trace(const Mark &mark, const QRectF &rect)
         for (int i = 0; i < mark.points.size(); ++i) {
             QPointF corner = cutTo(mark.points.at(i), m_view);
             if (m_device == Paper)
-                corner = QPointF(snapped(corner.x(), m_offset.x()), snappedDown(corner.y()));
+                corner = QPointF(snapped(corner.x(), m_offset.x()), snapped(corner.y(), m_offset.y()));
             i == 0 ? cairo_move_to(m_context, corner.x(), corner.y())
                    : cairo_line_to(m_context, corner.x(), corner.y());
         }
@@ -352,7 +350,7 @@ void CairoPainter::strokeLines(const Run &run, const KWLineFormat &line)
         const QPointF toMiddle(isLevel ? 0 : shift, isUpright ? 0 : shift);
         const auto corner = [&](int number) {
             const QPointF at = cutTo(mark.points.at(number), m_view);
-            return QPointF(snapped(at.x(), m_offset.x()), snappedDown(at.y())) + toMiddle;
+            return QPointF(snapped(at.x(), m_offset.x()), snapped(at.y(), m_offset.y())) + toMiddle;
         };
         QPointF before = corner(0);
         if (period > 0) {
@@ -409,9 +407,9 @@ void CairoPainter::drawTexts(const Run &run)
         }
         const double y = mark.rect.center().y() + chart::baselineShift(chart::pixelsOf(m_fonts[mark.font]));
         constexpr double finer = 4; // or what is aligned on the right seems to stand unevenly
-        const QPointF at = m_device == Pixels
-                               ? QPointF(mark.rect.x(), y)
-                               : QPointF(snapped(mark.rect.x(), m_offset.x(), finer), snappedDown(y));
+        const QPointF at = m_device == Pixels ? QPointF(mark.rect.x(), y)
+                                              : QPointF(snapped(mark.rect.x(), m_offset.x(), finer),
+                                                        snapped(y, m_offset.y()));
         m_shaper.draw(m_context, at.x(), at.y(), mark.text, mark.font);
     }
     m_shaper.finish(m_context);
@@ -440,12 +438,7 @@ void CairoPainter::paintShapes(const Run &run, const chartstyle::Style &style)
             m_device == Paper && mark.kind == Kind::Progress && mark.rect.width() * m_scale * m_steps < 1;
         if (isHidden || !isIn(mark.rect, m_view))
             continue;
-        QRectF rect = snapped(cutTo(mark.rect, m_view));
-        // Bars of one height stay of one, wherever on the steps they begin.
-        if (m_device == Paper && mark.shape != Shape::Rect)
-            rect.setHeight(
-                std::max(1 / (m_scale * m_stepsDown),
-                         onSteps(std::min(mark.rect.height(), m_view.height()), m_scale, 0, m_stepsDown)));
+        const QRectF rect = snapped(cutTo(mark.rect, m_view));
         trace(mark, QRectF(rect.x() + inset, rect.y() + inset, std::max(0.0, rect.width() - 2 * inset),
                            std::max(0.0, rect.height() - 2 * inset)));
         if (!hasFill || isPlain)

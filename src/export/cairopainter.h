@@ -39,10 +39,9 @@ private:
     void drawTexts(const Run &run);
     void setColor(const QColor &color);
     double snapped(double position, double offset, double finer = 1) const;
-    double snappedDown(double position) const;
     double snapped(double length) const;
     QRectF snapped(const QRectF &rect) const;
-    // On paper the nearest of a printer's dots, with that offset on the sheet.
+    // On paper the nearest of a printer's dots or of the steps, with that offset on the sheet.
     double dotted(double position, double offset) const;
     void addPath(const KWPath &path);
 
@@ -52,8 +51,7 @@ private:
     const std::vector<chart::Font> &m_fonts;
     Device m_device;
     double m_scale;
-    double m_steps;     // places for each device unit across
-    double m_stepsDown; // and down
+    double m_steps; // places for each device unit
     QPointF m_offset;
     QRectF m_seen; // chart pixels that can be seen
     QRectF m_view; // the same with a margin

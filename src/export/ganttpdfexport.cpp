@@ -3,6 +3,7 @@
 #include "chart/elide.h"
 #include "export/cairopainter.h"
 #include "export/drawing.h"
+#include "export/pdfpacker.h"
 #include "format/unitutil.h"
 #include "model/kwdocument.h"
 #include "schedule/kwtaskcollection.h"
@@ -375,6 +376,13 @@ cairo_status_t writeBytes(void *closure, const unsigned char *bytes, unsigned in
                : CAIRO_STATUS_WRITE_ERROR;
 }
 
+cairo_status_t packBytes(void *closure, const unsigned char *bytes, unsigned int size)
+{
+    auto *packer = static_cast<PdfPacker *>(closure);
+    return packer->write(reinterpret_cast<const char *>(bytes), int(size)) ? CAIRO_STATUS_SUCCESS
+                                                                           : CAIRO_STATUS_WRITE_ERROR;
+}
+
 // The summaries as bookmarks, one in the other as in the outline.
 void addBookmarks(cairo_surface_t *surface, const PlanView &view, const chart::Sheets &sheets,
                   const printsheet::Paper &paper)
@@ -546,8 +554,11 @@ bool GanttPdfExport::writeSheets(Drawing &drawing, QIODevice &device)
                            .arg(proposed.down)
                            .arg(comfortableText));
     }
+    PdfPacker packer(device);
+    const bool isPacked = PdfPacker::isOfUse();
     cairo_surface_t *surface = cairo_pdf_surface_create_for_stream(
-        writeBytes, &device, drawing.paper.width * pointsPerPixel, drawing.paper.height * pointsPerPixel);
+        isPacked ? packBytes : writeBytes, isPacked ? static_cast<void *>(&packer) : &device,
+        drawing.paper.width * pointsPerPixel, drawing.paper.height * pointsPerPixel);
     const QDateTime created = epochStamp().isValid() ? epochStamp() : stamp().toUTC();
     const auto describe = [surface](cairo_pdf_metadata_t what, const QString &text) {
         if (!text.isEmpty())
@@ -583,8 +594,10 @@ bool GanttPdfExport::writeSheets(Drawing &drawing, QIODevice &device)
     const cairo_status_t drawn = cairo_status(context);
     cairo_destroy(context);
     cairo_surface_finish(surface);
-    const cairo_status_t finished = cairo_surface_status(surface);
+    cairo_status_t finished = cairo_surface_status(surface);
     cairo_surface_destroy(surface);
+    if (finished == CAIRO_STATUS_SUCCESS && isPacked && !packer.finish())
+        finished = CAIRO_STATUS_WRITE_ERROR;
     if (drawn != CAIRO_STATUS_SUCCESS || finished != CAIRO_STATUS_SUCCESS) {
         m_findings.add(QString(), QStringLiteral("cannot be written: %1")
                                       .arg(QString::fromUtf8(cairo_status_to_string(
