@@ -57,6 +57,7 @@ QString lastFile()
 int main(int argc, char **argv)
 {
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    texts::chooseFromEnvironment();
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromUtf8(argv[i]));
@@ -106,6 +107,7 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(QStringLiteral("kwgantt"));
     QApplication::setDesktopFileName(QStringLiteral("kwgantt-desktop"));
     QApplication::setWindowIcon(icons::program());
+    QCoreApplication::installTranslator(texts::translator());
     texts::fillLibraryTables();
 
     auto *window = new MainWindow;

@@ -80,11 +80,12 @@ QString summaryText(const Plan &plan, const Style &style, int width, int finding
         return number > 0 ? QStringList(counted(number, one, many)) : QStringList();
     };
     const int levels = plan.document->getMaxLevel();
-    counts(some(summaries, "%1 summary task", "%1 summary tasks") +
-           some(levels > 1 ? levels : 0, "%1 level", "%1 levels"));
-    counts(some(milestones, "%1 milestone", "%1 milestones") +
-           some(begun, "%1 task begun", "%1 tasks begun"));
-    counts(some(plan.links, "%1 link", "%1 links") + some(plan.refusedLinks, "%1 refused", "%1 refused"));
+    counts(some(summaries, QT_TR_NOOP("%1 summary task"), QT_TR_NOOP("%1 summary tasks")) +
+           some(levels > 1 ? levels : 0, QT_TR_NOOP("%1 level"), QT_TR_NOOP("%1 levels")));
+    counts(some(milestones, QT_TR_NOOP("%1 milestone"), QT_TR_NOOP("%1 milestones")) +
+           some(begun, QT_TR_NOOP("%1 task begun"), QT_TR_NOOP("%1 tasks begun")));
+    counts(some(plan.links, QT_TR_NOOP("%1 link"), QT_TR_NOOP("%1 links")) +
+           some(plan.refusedLinks, QT_TR_NOOP("%1 refused"), QT_TR_NOOP("%1 refused")));
     if (plan.withoutStart)
         line(counted(plan.withoutStart, "%1 task without a start: scheduling places it",
                      "%1 tasks without a start: scheduling places them"));

@@ -136,7 +136,7 @@ bool beginsLabel(const Axis &axis, const QDate &date, bool isFirst)
 
 QString labelText(const Axis &axis, const QDate &date)
 {
-    const QString month = texts::current().months.value(date.month() - 1);
+    const QString month = englishTexts().months.value(date.month() - 1);
     switch (axis.unit) {
     case Hour:
     case Day:
@@ -153,9 +153,9 @@ QString letterOf(const Axis &axis, const QDate &date)
 {
     switch (axis.unit) {
     case Day:
-        return texts::current().weekdayLetters.value(date.dayOfWeek() - 1);
+        return englishTexts().weekdayLetters.value(date.dayOfWeek() - 1);
     case Month:
-        return texts::current().months.value(date.month() - 1).left(1);
+        return englishTexts().months.value(date.month() - 1).left(1);
     case Quarter:
         return QString::number((date.month() + 2) / 3);
     default:

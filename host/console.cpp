@@ -122,8 +122,9 @@ void Console::list(const QString &file, const Findings &findings)
         // What holds for several in a row stands below the last of them.
         const bool isShared = i + 1 < shown && list.at(i + 1).hint == finding.hint;
         error(file + QLatin1String(": ") +
-                  (finding.place.isEmpty() ? QString() : finding.place + QLatin1String(": ")) + finding.what,
-              isShared ? QString() : finding.hint);
+                  (finding.place.isEmpty() ? QString() : texts::said(finding.place) + QLatin1String(": ")) +
+                  texts::said(finding.what),
+              isShared ? QString() : texts::said(finding.hint));
     }
     if (findings.count() > shown)
         error(t("%1: %2 more like these").arg(file, grouped(findings.count() - shown)),

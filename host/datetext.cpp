@@ -56,7 +56,7 @@ QString dateText(const QDate &date, int style)
 {
     if (!date.isValid())
         return QString();
-    const LanguageTexts &language = texts::current();
+    const EnglishTexts &language = englishTexts();
     const civildate::Date parts = civildate::of(int(date.toJulianDay() - julianDayOf1970));
     constexpr int usualLength = 16;
     QString text;

@@ -89,7 +89,7 @@ QString momentText(const Plan &plan, quint32 secs)
 }
 
 const Value values[] = {
-    {"duration", "dates",
+    {QT_TR_NOOP("duration"), "dates",
      [](const Plan &plan, int pos) {
          const KWTaskInfo *task = plan.task(pos);
          return task->isParent()
@@ -97,15 +97,16 @@ const Value values[] = {
                     : datetext::durationText(KWTaskInfo::getDurValueByTaskInfo(plan.document.get(), task),
                                              task->DurationUnits);
      }},
-    {"done", "progress",
+    {QT_TR_NOOP("done"), "progress",
      [](const Plan &plan, int pos) {
          return QString::number(qRound(plan.task(pos)->Percent * 100)) + QLatin1Char('%');
      }},
-    {"cost", "cost", [](const Plan &plan, int pos) { return sheettext::moneyText(plan.task(pos)->Cost); }},
-    {"resources", "resources",
+    {QT_TR_NOOP("cost"), "cost",
+     [](const Plan &plan, int pos) { return sheettext::moneyText(plan.task(pos)->Cost); }},
+    {QT_TR_NOOP("resources"), "resources",
      [](const Plan &plan, int pos) { return csvplan::resourceNames(*plan.document, *plan.task(pos)); }},
-    {"notes", "texts", [](const Plan &plan, int pos) { return plan.task(pos)->Notes; }},
-    {"predecessors", "links",
+    {QT_TR_NOOP("notes"), "texts", [](const Plan &plan, int pos) { return plan.task(pos)->Notes; }},
+    {QT_TR_NOOP("predecessors"), "links",
      [](const Plan &plan, int pos) {
          QStringList names;
          for (const quint32 id : plan.task(pos)->Predecessors) {
@@ -115,11 +116,11 @@ const Value values[] = {
          names.sort();
          return names.join(QLatin1String("; "));
      }},
-    {"milestone", "dates",
+    {QT_TR_NOOP("milestone"), "dates",
      [](const Plan &plan, int pos) { return plan.task(pos)->Milestone ? t("yes") : t("no"); }},
-    {"priority", "texts",
+    {QT_TR_NOOP("priority"), "texts",
      [](const Plan &plan, int pos) { return QString::number(plan.task(pos)->Priority); }},
-    {"hyperlinks", "texts",
+    {QT_TR_NOOP("hyperlinks"), "texts",
      [](const Plan &plan, int pos) {
          QStringList links;
          for (int i = 0; i < plan.task(pos)->hyperlinks.count(); ++i) {
@@ -130,11 +131,12 @@ const Value values[] = {
          }
          return links.join(QLatin1String("; "));
      }},
-    {"baseline start", "baseline",
+    {QT_TR_NOOP("baseline start"), "baseline",
      [](const Plan &plan, int pos) { return momentText(plan, plan.task(pos)->BaseStart); }},
-    {"baseline finish", "baseline",
+    {QT_TR_NOOP("baseline finish"), "baseline",
      [](const Plan &plan, int pos) { return momentText(plan, plan.task(pos)->BaseFinish); }},
-    {"baseline cost", "baseline", [](const Plan &plan, int pos) { return plan.task(pos)->BaselineCost; }},
+    {QT_TR_NOOP("baseline cost"), "baseline",
+     [](const Plan &plan, int pos) { return plan.task(pos)->BaselineCost; }},
 };
 
 // Texts that belong to the plan and not to a task, by what they are called.
@@ -187,15 +189,15 @@ QVector<QPair<const char *, QString>> optionsOf(const Plan &plan)
 {
     const KWDocument &document = *plan.document;
     const auto flag = [](bool value) { return value ? t("yes") : t("no"); };
-    return {{"unit", datetext::durationText(1, document.ProjectUnit)},
-            {"unit width", QString::number(document.UnitWidth)},
-            {"auto zoom", flag(document.AutoZoom)},
-            {"auto progress", flag(document.Auto)},
-            {"theme", QString::number(document.ThemeIndex)},
-            {"baseline cost of the plan", sheettext::numberText(document.BaselineCost)},
-            {"start of the plan", momentText(plan, document.StartDate)},
-            {"finish of the plan", momentText(plan, document.FinishDate)},
-            {"scale",
+    return {{QT_TR_NOOP("unit"), datetext::durationText(1, document.ProjectUnit)},
+            {QT_TR_NOOP("unit width"), QString::number(document.UnitWidth)},
+            {QT_TR_NOOP("auto zoom"), flag(document.AutoZoom)},
+            {QT_TR_NOOP("auto progress"), flag(document.Auto)},
+            {QT_TR_NOOP("theme"), QString::number(document.ThemeIndex)},
+            {QT_TR_NOOP("baseline cost of the plan"), sheettext::numberText(document.BaselineCost)},
+            {QT_TR_NOOP("start of the plan"), momentText(plan, document.StartDate)},
+            {QT_TR_NOOP("finish of the plan"), momentText(plan, document.FinishDate)},
+            {QT_TR_NOOP("scale"),
              plan.isPackage ? QStringLiteral("%1/%2").arg(plan.majorUnit).arg(plan.minorUnit) : QString()}};
 }
 
@@ -246,7 +248,7 @@ public:
         for (int pos = 0; pos < m_after.taskCount(); ++pos) {
             const int old = m_older[std::size_t(pos)];
             if (old == nobody) {
-                add("added", "tasks", nobody, pos, QString());
+                add(QT_TR_NOOP("added"), "tasks", nobody, pos, QString());
                 continue;
             }
             stays[std::size_t(old)] = true;
@@ -254,18 +256,20 @@ public:
         }
         for (int pos = 0; pos < m_before.taskCount(); ++pos)
             if (!stays[std::size_t(pos)])
-                add("gone", "tasks", pos, nobody, QString());
+                add(QT_TR_NOOP("gone"), "tasks", pos, nobody, QString());
         const std::vector<bool> moved = reordered(m_older);
         for (int pos = 0; pos < m_after.taskCount(); ++pos)
             if (moved[std::size_t(pos)])
-                add("placed", "outline", m_older[std::size_t(pos)], pos,
+                add(QT_TR_NOOP("placed"), "outline", m_older[std::size_t(pos)], pos,
                     t("row %1").arg(
                         arrow(QString::number(m_older[std::size_t(pos)] + 1), QString::number(pos + 1))));
-        compareText("working time", "calendar", workingtime::describe(workingtime::of(*m_before.document)),
+        compareText(QT_TR_NOOP("working time"), "calendar",
+                    workingtime::describe(workingtime::of(*m_before.document)),
                     workingtime::describe(workingtime::of(*m_after.document)));
-        compareLists("exception", "calendar", exceptionsOf(m_before), exceptionsOf(m_after));
-        compareLists("resource", "sheet", sheetOf(m_before), sheetOf(m_after));
-        compareText("order of the columns", "table", columnsOf(m_before, true).join(QLatin1String(", ")),
+        compareLists(QT_TR_NOOP("exception"), "calendar", exceptionsOf(m_before), exceptionsOf(m_after));
+        compareLists(QT_TR_NOOP("resource"), "sheet", sheetOf(m_before), sheetOf(m_after));
+        compareText(QT_TR_NOOP("order of the columns"), "table",
+                    columnsOf(m_before, true).join(QLatin1String(", ")),
                     columnsOf(m_after, true).join(QLatin1String(", ")));
         const QStringList wereShown = columnsOf(m_before, false);
         const QStringList areShown = columnsOf(m_after, false);
@@ -288,14 +292,14 @@ private:
     void compareText(const char *name, const char *topic, const QString &was, const QString &is)
     {
         if (was != is)
-            add("changed", topic, nobody, nobody, t(name) + QLatin1Char(' ') + arrow(was, is));
+            add(QT_TR_NOOP("changed"), topic, nobody, nobody, t(name) + QLatin1Char(' ') + arrow(was, is));
     }
     void addColumns(const QString &words, QStringList titles, const QStringList &others)
     {
         for (const QString &title : others)
             titles.removeAll(title);
         if (!titles.isEmpty())
-            add("changed", "table", nobody, nobody, words.arg(titles.join(QLatin1String(", "))));
+            add(QT_TR_NOOP("changed"), "table", nobody, nobody, words.arg(titles.join(QLatin1String(", "))));
     }
     void compareLists(const char *name, const char *topic, const QStringList &was, const QStringList &is)
     {
@@ -303,27 +307,28 @@ private:
         const QSet<QString> now(is.begin(), is.end());
         for (const QString &one : was)
             if (!now.contains(one))
-                add("gone", topic, nobody, nobody, t(name) + QLatin1Char(' ') + one);
+                add(QT_TR_NOOP("gone"), topic, nobody, nobody, t(name) + QLatin1Char(' ') + one);
         for (const QString &one : is)
             if (!old.contains(one))
-                add("added", topic, nobody, nobody, t(name) + QLatin1Char(' ') + one);
+                add(QT_TR_NOOP("added"), topic, nobody, nobody, t(name) + QLatin1Char(' ') + one);
     }
 
     void compare(int old, int pos)
     {
         if (nameOf(m_before, old) != nameOf(m_after, pos))
-            add("renamed", "names", old, pos, arrow(nameOf(m_before, old), nameOf(m_after, pos)));
+            add(QT_TR_NOOP("renamed"), "names", old, pos, arrow(nameOf(m_before, old), nameOf(m_after, pos)));
         const int oldParent = m_before.posOf(m_before.task(old)->ParentID);
         const int newParent = m_after.posOf(m_after.task(pos)->ParentID);
         if (oldParent != (newParent < 0 ? nobody : m_older[std::size_t(newParent)]))
-            add("placed", "outline", old, pos,
+            add(QT_TR_NOOP("placed"), "outline", old, pos,
                 newParent < 0 ? t("at the top") : t("below \"%1\"").arg(nameOf(m_after, newParent)));
         compareDates(old, pos);
         for (const Value &value : values) {
             const QString was = value.text(m_before, old);
             const QString is = value.text(m_after, pos);
             if (was != is)
-                add("changed", value.topic, old, pos, t(value.name) + QLatin1Char(' ') + arrow(was, is));
+                add(QT_TR_NOOP("changed"), value.topic, old, pos,
+                    t(value.name) + QLatin1Char(' ') + arrow(was, is));
         }
     }
 
@@ -347,11 +352,11 @@ private:
         const bool isStartMoved = m_oldTimes.start(old) != m_newTimes.start(pos);
         const QString reason = calendarReason(old, pos, isStartMoved);
         if (oldFinish != newFinish)
-            add(oldFinish < newFinish ? "slipped" : "moved", "dates", old, pos,
+            add(oldFinish < newFinish ? QT_TR_NOOP("slipped") : QT_TR_NOOP("moved"), "dates", old, pos,
                 t("finish %1").arg(arrow(oldFinish.text(), newFinish.text())) +
                     (isStartMoved ? QString() : reason));
         if (isStartMoved)
-            add("moved", "dates", old, pos,
+            add(QT_TR_NOOP("moved"), "dates", old, pos,
                 t("start %1").arg(arrow(m_oldTimes.start(old).text(), m_newTimes.start(pos).text())) +
                     reason);
     }

@@ -88,16 +88,17 @@ constexpr int most = 1000000000;
 
 constexpr OptionField optionTable[] = {
     {"unit", "y|q|mon|w|d|h|min", readUnit},
-    {"start", "DATE", readDate<&PlanOptions::startDate>, "a date such as 2026-02-28"},
-    {"finish", "DATE", readDate<&PlanOptions::finishDate>, "a date such as 2026-02-28"},
+    {"start", "DATE", readDate<&PlanOptions::startDate>, QT_TR_NOOP("a date such as 2026-02-28")},
+    {"finish", "DATE", readDate<&PlanOptions::finishDate>, QT_TR_NOOP("a date such as 2026-02-28")},
     {"scale", "week/day", readScale},
     {"unit-width", "PIXELS", readNumber<qint32, &PlanOptions::unitWidth, 1, 10000>,
-     "a number from 1 to 10,000"},
+     QT_TR_NOOP("a number from 1 to 10,000")},
     {"auto-zoom", "yes|no", readFlag<&PlanOptions::autoZoom>},
     {"auto-progress", "yes|no", readFlag<&PlanOptions::autoProgress>},
-    {"theme", "NUMBER", readNumber<qint32, &PlanOptions::theme, 0, 1000>, "a number from 0 to 1,000"},
+    {"theme", "NUMBER", readNumber<qint32, &PlanOptions::theme, 0, 1000>,
+     QT_TR_NOOP("a number from 0 to 1,000")},
     {"baseline-cost", "NUMBER", readNumber<double, &PlanOptions::baselineCost, -most, most>,
-     "an amount such as 12000.50"},
+     QT_TR_NOOP("an amount such as 12000.50")},
 };
 }
 

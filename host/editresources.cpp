@@ -65,12 +65,12 @@ struct SheetField
 };
 
 constexpr SheetField sheetFields[] = {
-    {"type", readParsed<qint32, &Values::type, sheettext::parseType>, "write work or material"},
+    {"type", readParsed<qint32, &Values::type, sheettext::parseType>, QT_TR_NOOP("write work or material")},
     {"rate", readRate<&Values::cost, &Values::costUnit>,
-     "write it as 50/h, 400/d, 8000/m, or 2.5 for a material"},
-    {"overtime", readRate<&Values::overtimeCost, &Values::overtimeUnit>, "write it as 70/h"},
-    {"per-use", readParsed<double, &Values::costPer, sheettext::parseMoney>, "write a number"},
-    {"units", readParsed<double, &Values::units, sheettext::parseUnits>, "write it as 200%"},
+     QT_TR_NOOP("write it as 50/h, 400/d, 8000/m, or 2.5 for a material")},
+    {"overtime", readRate<&Values::overtimeCost, &Values::overtimeUnit>, QT_TR_NOOP("write it as 70/h")},
+    {"per-use", readParsed<double, &Values::costPer, sheettext::parseMoney>, QT_TR_NOOP("write a number")},
+    {"units", readParsed<double, &Values::units, sheettext::parseUnits>, QT_TR_NOOP("write it as 200%")},
     {"group", readText<&Values::group>, ""},
     {"email", readText<&Values::email>, ""},
     {"notes", readText<&Values::notes>, ""},

@@ -9,7 +9,7 @@
 bool Edit::take(const EditAnswer &answer)
 {
     if (!answer.isDone())
-        return refuse(answer.sentence(), answer.hint());
+        return refuse(texts::said(answer.sentence()), texts::said(answer.hint()));
     for (const EditLoss &loss : answer.losses)
         lost.append(editverbs::lossText(document, loss));
     return true;
@@ -113,7 +113,7 @@ bool setValues(Edit &edit, const editline::Pairs &pairs)
                                      [](const auto &pair) { return pair.first == QLatin1String("finish"); });
     return edit.refuse(
         t("'%1' lies before the start of %2").arg(finish->second, taskref::named(edit.document, task.ID)),
-        answer.hint());
+        texts::said(answer.hint()));
 }
 
 bool rename(Edit &edit)
@@ -195,56 +195,63 @@ struct Verb
 constexpr int any = -1;
 
 constexpr Verb verbs[] = {
-    {"add", NoTask, 0, any, add, "[NAME] [FIELD=VALUE...]", "a task at the end, beside the last one"},
+    {"add", NoTask, 0, any, add, "[NAME] [FIELD=VALUE...]",
+     QT_TR_NOOP("a task at the end, beside the last one")},
     {"insert", OneTask, 0, any, insert<PlanEdits::Above>, "TASK [NAME] [FIELD=VALUE...]",
-     "a task above TASK"},
+     QT_TR_NOOP("a task above TASK")},
     {"sub", OneTask, 0, any, insert<PlanEdits::FirstChild>, "TASK [NAME] [FIELD=VALUE...]",
-     "a task as the first one below TASK"},
+     QT_TR_NOOP("a task as the first one below TASK")},
     {"remove", SomeTasks, 0, 0, onShownTasks<&PlanEdits::remove>, "TASK...",
-     "a collapsed summary goes with what is below it, the tasks below another one move up"},
-    {"indent", SomeTasks, 0, 0, onShownTasks<&PlanEdits::indent>, "TASK...", "below the task before it"},
+     QT_TR_NOOP("a collapsed summary goes with what is below it, the tasks below another one move up")},
+    {"indent", SomeTasks, 0, 0, onShownTasks<&PlanEdits::indent>, "TASK...",
+     QT_TR_NOOP("below the task before it")},
     {"outdent", SomeTasks, 0, 0, onShownTasks<&PlanEdits::outdent>, "TASK...",
-     "one level up; the tasks that follow it on its level go below it"},
-    {"move", OneTask, 1, 2, move, "TASK up|down [N]", "among the tasks of its summary"},
-    {"expand", SomeTasks, 0, 0, onTasks<&PlanEdits::expand>, "TASK...", "shows what is below"},
-    {"collapse", SomeTasks, 0, 0, onTasks<&PlanEdits::collapse>, "TASK...", "hides what is below"},
+     QT_TR_NOOP("one level up; the tasks that follow it on its level go below it")},
+    {"move", OneTask, 1, 2, move, "TASK up|down [N]", QT_TR_NOOP("among the tasks of its summary")},
+    {"expand", SomeTasks, 0, 0, onTasks<&PlanEdits::expand>, "TASK...", QT_TR_NOOP("shows what is below")},
+    {"collapse", SomeTasks, 0, 0, onTasks<&PlanEdits::collapse>, "TASK...",
+     QT_TR_NOOP("hides what is below")},
     {"rename", OneTask, 1, 1, rename, "TASK NAME", ""},
     {"set", OneTask, 1, any, set, "TASK FIELD=VALUE...",
-     "dates push what waits for the task; the fields are listed below"},
+     QT_TR_NOOP("dates push what waits for the task; the fields are listed below")},
     {"link", TaskAndMore, 0, 0, onTasks<&PlanEdits::link>, "TASK TASK...",
-     "each one waits for the one before it"},
+     QT_TR_NOOP("each one waits for the one before it")},
     {"unlink", SomeTasks, 0, 0, unlink, "TASK [TASK...]",
-     "the links from each to the next; of one task, all its links"},
+     QT_TR_NOOP("the links from each to the next; of one task, all its links")},
     {"assign", OneTask, 1, 2, assign, "TASK RESOURCE [UNITS]",
-     "UNITS: 50% of the time, or a number of a material"},
-    {"unassign", OneTask, 0, 1, unassign, "TASK [RESOURCE]", "one resource, or all"},
+     QT_TR_NOOP("UNITS: 50% of the time, or a number of a material")},
+    {"unassign", OneTask, 0, 1, unassign, "TASK [RESOURCE]", QT_TR_NOOP("one resource, or all")},
     {"resource add", NoTask, 1, any, addResource, "NAME [FIELD=VALUE...]",
      "type=work|material rate=50/h overtime=70/h per-use=20 units=100% group= email= notes="},
-    {"resource set", NoTask, 2, any, setResource, "NAME FIELD=VALUE...", "the assignments follow"},
-    {"resource remove", NoTask, 1, 1, removeResource, "NAME", "with its assignments"},
-    {"resource rename", NoTask, 2, 2, renameResource, "NAME NAME", "the assignments follow"},
+    {"resource set", NoTask, 2, any, setResource, "NAME FIELD=VALUE...",
+     QT_TR_NOOP("the assignments follow")},
+    {"resource remove", NoTask, 1, 1, removeResource, "NAME", QT_TR_NOOP("with its assignments")},
+    {"resource rename", NoTask, 2, 2, renameResource, "NAME NAME", QT_TR_NOOP("the assignments follow")},
     {"calendar days", NoTask, 1, 1, setDays, "Mon-Fri",
-     "tasks keep their working time and move off the days off"},
+     QT_TR_NOOP("tasks keep their working time and move off the days off")},
     {"calendar hours", NoTask, 1, 1, setHours, "08:00-12:00,13:00-17:00", ""},
-    {"calendar holiday", NoTask, 1, 2, addHoliday, "DATE[..DATE] [NAME]", "days off"},
+    {"calendar holiday", NoTask, 1, 2, addHoliday, "DATE[..DATE] [NAME]", QT_TR_NOOP("days off")},
     {"calendar workday", NoTask, 1, 2, addWorkday, "DATE[..DATE] [NAME]",
-     "days that work, whatever the week says"},
-    {"calendar remove", NoTask, 1, 1, removeException, "DATE", "the holiday or workday that holds the date"},
-    {"option", NoTask, 1, any, setOptions, "OPTION=VALUE...", "the options are listed below"},
-    {"column", NoTask, 2, 2, setColumn, "TITLE show|hide|PIXELS", "a column of the task table"},
+     QT_TR_NOOP("days that work, whatever the week says")},
+    {"calendar remove", NoTask, 1, 1, removeException, "DATE",
+     QT_TR_NOOP("the holiday or workday that holds the date")},
+    {"option", NoTask, 1, any, setOptions, "OPTION=VALUE...", QT_TR_NOOP("the options are listed below")},
+    {"column", NoTask, 2, 2, setColumn, "TITLE show|hide|PIXELS", QT_TR_NOOP("a column of the task table")},
     {"baseline set", AnyTasks, 0, 0, onTasks<&PlanEdits::setBaseline>, "[TASK...]",
-     "remembers dates and cost, of all tasks or of branches"},
+     QT_TR_NOOP("remembers dates and cost, of all tasks or of branches")},
     {"baseline clear", AnyTasks, 0, 0, onTasks<&PlanEdits::clearBaseline>, "[TASK...]", ""},
-    {"schedule", NoTask, 0, 0, schedule, "", "moves every task behind its predecessors"},
+    {"schedule", NoTask, 0, 0, schedule, "", QT_TR_NOOP("moves every task behind its predecessors")},
     {"copy", SomeTasks, 0, 0, onShownTasks<&PlanEdits::copy>, "TASK...",
-     "the tasks with all that is below them"},
-    {"cut", SomeTasks, 0, 0, onShownTasks<&PlanEdits::cut>, "TASK...", "the same, and removes them"},
-    {"paste", MaybeTask, 0, 0, paste, "[TASK]", "above TASK, or at the end, with new IDs and names"},
+     QT_TR_NOOP("the tasks with all that is below them")},
+    {"cut", SomeTasks, 0, 0, onShownTasks<&PlanEdits::cut>, "TASK...",
+     QT_TR_NOOP("the same, and removes them")},
+    {"paste", MaybeTask, 0, 0, paste, "[TASK]",
+     QT_TR_NOOP("above TASK, or at the end, with new IDs and names")},
     {"paste under", OneTask, 0, 0, pasteUnder, "TASK",
-     "the same as the last tasks below TASK; hidden when it is collapsed"},
+     QT_TR_NOOP("the same as the last tasks below TASK; hidden when it is collapsed")},
     {"undo", NoTask, 0, 1, undo, "[N]",
-     "in a script: takes the last N edits above it back, of the 60 that are kept"},
-    {"redo", NoTask, 0, 1, redo, "[N]", "in a script: makes them again"},
+     QT_TR_NOOP("in a script: takes the last N edits above it back, of the 60 that are kept")},
+    {"redo", NoTask, 0, 1, redo, "[N]", QT_TR_NOOP("in a script: makes them again")},
 };
 
 // "resource add" is one verb in two words.
@@ -348,7 +355,7 @@ QVector<VerbInfo> all()
 QString helpText()
 {
     constexpr int indentColumns = 4;
-    QString text;
+    QString text = t("Edits:") + QLatin1Char('\n');
     for (const Verb &verb : verbs) {
         text += QLatin1String("  ") + usage(verb) + QLatin1Char('\n');
         if (*verb.meaning)

@@ -129,12 +129,14 @@ private:
     {
         if (m_task->Milestone)
             return t("no time: it is a milestone");
-        static const char *const one[] = {"%1 year",          "%1 quarter",     "%1 month",
-                                          "%1 working week",  "%1 working day", "%1 working hour",
-                                          "%1 working minute"};
-        static const char *const many[] = {"%1 years",          "%1 quarters",     "%1 months",
-                                           "%1 working weeks",  "%1 working days", "%1 working hours",
-                                           "%1 working minutes"};
+        static const char *const one[] = {QT_TR_NOOP("%1 year"),          QT_TR_NOOP("%1 quarter"),
+                                          QT_TR_NOOP("%1 month"),         QT_TR_NOOP("%1 working week"),
+                                          QT_TR_NOOP("%1 working day"),   QT_TR_NOOP("%1 working hour"),
+                                          QT_TR_NOOP("%1 working minute")};
+        static const char *const many[] = {QT_TR_NOOP("%1 years"),          QT_TR_NOOP("%1 quarters"),
+                                           QT_TR_NOOP("%1 months"),         QT_TR_NOOP("%1 working weeks"),
+                                           QT_TR_NOOP("%1 working days"),   QT_TR_NOOP("%1 working hours"),
+                                           QT_TR_NOOP("%1 working minutes")};
         const unsigned int unit = qMin(m_task->DurationUnits, 6u);
         const double value = KWTaskInfo::getDurValueByTaskInfo(m_plan.document.get(), m_task);
         const QString number = QString::number(value, 'g', 6);
@@ -206,8 +208,8 @@ private:
         const int tightest = m_plan.tightest[std::size_t(m_pos)];
         const KWTaskInfo *urgent = m_plan.task(tightest);
         if (m_task->isParent())
-            return t(urgent->CriticalPath ? "yes: %1 below it is (slack %2)"
-                                          : "no: %1 below it has %2 to spare, and no task less")
+            return (urgent->CriticalPath ? t("yes: %1 below it is (slack %2)")
+                                         : t("no: %1 below it has %2 to spare, and no task less"))
                 .arg(named(tightest), urgent->LateSlack);
         if (m_task->CriticalPath)
             return t("yes: finishing later moves the project finish (slack %1)").arg(m_task->LateSlack);
@@ -276,7 +278,9 @@ QVector<Line> task(const Plan &plan, int pos)
 
 QString text(const QVector<Line> &lines, const Style &style)
 {
-    constexpr int labelColumns = 15;
+    int labelColumns = 15; // more where a language has longer words
+    for (const Line &line : lines)
+        labelColumns = qMax(labelColumns, textwidth::of(line.label) + 1);
     QString text;
     for (const Line &line : lines) {
         const QString words = textwidth::oneLine(line.text, style.ascii);

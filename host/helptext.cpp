@@ -220,12 +220,21 @@ QString titlesText()
 
 Page page(const QString &command)
 {
-    const QMap<QString, QString> &topics = texts::current().help;
+    const QMap<QString, QString> &topics = englishTexts().help;
     if (!topics.contains(command))
         return Page();
-    Page result = parsed(topics.value(command) + (command == QLatin1String("edit") ? editverbs::helpText()
-                                                  : command == QLatin1String("formats") ? titlesText()
-                                                                                        : QString()));
+    Page result = parsed(topics.value(command));
+    result.meaning = t(result.meaning);
+    for (Block &block : result.blocks) {
+        if (block.kind == Block::Example)
+            continue;
+        block.term = t(block.term);
+        block.text = t(block.text);
+    }
+    if (command == QLatin1String("edit"))
+        result.blocks += parsed(editverbs::helpText()).blocks;
+    if (command == QLatin1String("formats"))
+        result.blocks += parsed(titlesText()).blocks;
     if (!command.isEmpty())
         return result;
     QVector<Block> commands{{Block::Heading, QString(), t("Commands")}};

@@ -21,37 +21,37 @@ QString words(const KWDocument &document, const plancheck::Finding &finding)
             .arg(document.getTaskInfoAt(finding.pos)->ID.value())
             .arg(finding.other + 1);
     case plancheck::UnknownSummary:
-        return id("its summary %1 does not exist");
+        return id(QT_TR_NOOP("its summary %1 does not exist"));
     case plancheck::AboveItsSummary:
-        return id("it stands above its summary %1");
+        return id(QT_TR_NOOP("it stands above its summary %1"));
     case plancheck::UnnamedBySummary:
-        return id("its summary %1 does not name it");
+        return id(QT_TR_NOOP("its summary %1 does not name it"));
     case plancheck::WrongLevel:
         return t("level %1 where the outline has %2")
             .arg(document.getTaskInfoAt(finding.pos)->Level)
             .arg(finding.other);
     case plancheck::DoubledChild:
-        return id("it names %1 twice as its subtask");
+        return id(QT_TR_NOOP("it names %1 twice as its subtask"));
     case plancheck::UnknownChild:
-        return id("its subtask %1 does not exist");
+        return id(QT_TR_NOOP("its subtask %1 does not exist"));
     case plancheck::ChildOfAnother: {
         const KWTaskInfo *child = document.getTaskInfoByID(finding.other);
         return t("its subtask %1 belongs to %2").arg(finding.other).arg(child ? child->ParentID : 0);
     }
     case plancheck::WrongHider:
-        return id("it is hidden by %1, which is no collapsed summary");
+        return id(QT_TR_NOOP("it is hidden by %1, which is no collapsed summary"));
     case plancheck::UnknownPredecessor:
-        return id("its predecessor %1 does not exist");
+        return id(QT_TR_NOOP("its predecessor %1 does not exist"));
     case plancheck::UnknownSuccessor:
-        return id("its successor %1 does not exist");
+        return id(QT_TR_NOOP("its successor %1 does not exist"));
     case plancheck::OwnPredecessor:
         return t("it is its own predecessor");
     case plancheck::OwnSuccessor:
         return t("it is its own successor");
     case plancheck::OneSidedPredecessor:
-        return id("its predecessor %1 does not know of the link");
+        return id(QT_TR_NOOP("its predecessor %1 does not know of the link"));
     case plancheck::OneSidedSuccessor:
-        return id("its successor %1 does not know of the link");
+        return id(QT_TR_NOOP("its successor %1 does not know of the link"));
     case plancheck::AssignedSummary:
         return t("a summary with resources of its own");
     case plancheck::UnknownResource:

@@ -214,7 +214,7 @@ bool save(Console &console, Plan &plan, const QString &path, bool overwrite)
     }
     if (document.saveTo(path, false, true))
         return true;
-    console.error(t("%1: cannot be written: %2").arg(path, KWZip::lastError()),
+    console.error(t("%1: cannot be written: %2").arg(path, texts::said(KWZip::lastError())),
                   t("the folder must exist and have room; nothing was changed"));
     return false;
 }

@@ -25,6 +25,20 @@ void logMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
         std::fprintf(stderr, "kwgantt: %s\n", qUtf8Printable(text));
 }
 
+// What is wrong with the other arguments is told in the language that is asked for, so this comes before
+// them.
+void guessLanguage(const QStringList &arguments)
+{
+    texts::chooseFromEnvironment();
+    const QLatin1String option("--lang");
+    for (int i = 0; i < arguments.size(); ++i) {
+        if (arguments.at(i) == option)
+            texts::choose(arguments.value(i + 1));
+        else if (arguments.at(i).startsWith(option + QLatin1Char('=')))
+            texts::choose(arguments.at(i).mid(option.size() + 1));
+    }
+}
+
 bool chooseLanguage(Console &console)
 {
     const QString wanted = console.options().language;
@@ -97,6 +111,7 @@ int run(int argc, char **argv, bool &hasLostReader)
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromUtf8(argv[i]));
+    guessLanguage(arguments);
 
     Console console;
     // Closing the pipe ends the program, but only after it has cleaned up.

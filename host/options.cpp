@@ -248,7 +248,7 @@ const Option optionTable[] = {
      }},
     {"width", "", "N", Showing,
      [](Options &o, const QString &v) { return setNumber(o.width, v, narrowest, widest); },
-     "a whole number from 20 to 10,000"},
+     QT_TR_NOOP("a whole number from 20 to 10,000")},
     {"scale", "", "auto|hour|day|week|month|quarter|year", Showing | Drawing, setScale},
     {"range", "", "DATE..DATE", Showing | Drawing,
      [](Options &o, const QString &v) {
@@ -257,7 +257,7 @@ const Option optionTable[] = {
      }},
     {"level", "", "N", Showing | Drawing,
      [](Options &o, const QString &v) { return setNumber(o.level, v, 1, deepest); },
-     "a whole number from 1 to 1,000"},
+     QT_TR_NOOP("a whole number from 1 to 1,000")},
     {"all", "", nullptr, Showing, [](Options &o, const QString &) { return o.all = true; }},
     {"critical", "", nullptr, Showing | Drawing, [](Options &o, const QString &) { return o.critical = true; }},
     {"no-bars", "", nullptr, Showing,
@@ -317,7 +317,7 @@ const Option optionTable[] = {
     {"trim", "", nullptr, Drawing, [](Options &o, const QString &) { return o.drawing.trim = true; }},
     {"unit-width", "", "N", Drawing,
      [](Options &o, const QString &v) { return setNumber(o.drawing.unitWidth, v, 1, widest); },
-     "a whole number from 1 to 10,000"},
+     QT_TR_NOOP("a whole number from 1 to 10,000")},
     {"paper", "", "A4|A3|297x210mm", Drawing,
      [](Options &o, const QString &v) {
          o.drawing.paper = v;
@@ -337,7 +337,7 @@ const Option optionTable[] = {
          return !v.isEmpty();
      }},
     {"zoom", "", "N", Drawing, [](Options &o, const QString &v) { return setNumber(o.drawing.zoom, v, 10, 400); },
-     "percent, from 10 to 400"},
+     QT_TR_NOOP("percent, from 10 to 400")},
     {"ratio", "", "1..4", Drawing,
      [](Options &o, const QString &v) {
          bool ok = false;
@@ -391,14 +391,14 @@ const Option optionTable[] = {
          o.mostCost = v;
          return (o.check = true) && ok;
      },
-     "an amount such as 12000.50"},
+     QT_TR_NOOP("an amount such as 12000.50")},
     {"no-critical-slip", "", "PERCENT", Gating,
      [](Options &o, const QString &v) {
          bool ok = false;
          o.mostSlip = v.endsWith(QLatin1Char('%')) ? v.chopped(1) : v;
          return o.mostSlip.toDouble(&ok) >= 0 && ok && (o.check = true);
      },
-     "a number from 0, such as 5%"},
+     QT_TR_NOOP("a number from 0, such as 5%")},
     {"only", "", differences, Comparing,
      [](Options &o, const QString &v) {
          o.only += v.split(QLatin1Char(','));

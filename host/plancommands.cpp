@@ -213,7 +213,8 @@ int copyBranch(Console &console)
                    : edits.copyBranches(*from.document, branches, place,
                                         options.before.isEmpty() ? PlanEdits::LastChild : PlanEdits::Above);
     if (!answer.isDone()) {
-        console.error(into.file + QLatin1String(": ") + answer.sentence(), answer.hint());
+        console.error(into.file + QLatin1String(": ") + texts::said(answer.sentence()),
+                      texts::said(answer.hint()));
         return Console::WrongUse;
     }
     QStringList lost;

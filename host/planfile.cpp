@@ -128,7 +128,7 @@ int readText(const QString &path, Console &console, csv::Text &text)
                    [&console, total](qint64 done) { console.progress(t("reading"), done, total); }))
         return Console::Done;
     const QString place = fault.line > 0 ? t("line %1").arg(fault.line) + QLatin1String(": ") : QString();
-    console.error(path + QLatin1String(": ") + place + fault.what, fault.hint);
+    console.error(path + QLatin1String(": ") + place + texts::said(fault.what), texts::said(fault.hint));
     return Console::CannotRead;
 }
 

@@ -255,9 +255,9 @@ private:
         QString text;
         int used = 0;
         for (const QString &meaning :
-             {entry(m_style.done, "done"), entry(m_style.toDo, "to do"), entry(m_style.slack, "slack"),
-              entry(m_style.dayOff, "day off"), entry(m_style.milestone, "milestone"),
-              t("! critical: a delay moves the finish")}) {
+             {entry(m_style.done, QT_TR_NOOP("done")), entry(m_style.toDo, QT_TR_NOOP("to do")),
+              entry(m_style.slack, QT_TR_NOOP("slack")), entry(m_style.dayOff, QT_TR_NOOP("day off")),
+              entry(m_style.milestone, QT_TR_NOOP("milestone")), t("! critical: a delay moves the finish")}) {
             const int columns = gap.size() + textwidth::of(meaning);
             const bool fits = used == 0 || used + columns <= m_width;
             text += (used == 0 ? QString() : fits ? gap : QStringLiteral("\n")) + meaning;

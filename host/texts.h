@@ -1,16 +1,19 @@
 #pragma once
-#include <QHash>
 #include <QMap>
 #include <QString>
 #include <QStringList>
 
+class QTranslator;
+
 // What the program says, in the user's language.
 //
-// English sentences stand where they are said, inside t(); a further language is one more file that fills a
-// LanguageTexts with its tables and its sentences, and one more line in texts.cpp.
-struct LanguageTexts
+// English sentences stand where they are said, inside t(); a table marks its own with QT_TR_NOOP and they go
+// through t() when they are shown. The other languages are the catalogues in translations/, which Qt Linguist
+// edits and `tools/texts` keeps in step with the sources; what has no translation stays English.
+//
+// Dates, numbers, titles in files, commands and options are the same in every language.
+struct EnglishTexts
 {
-    QString code;                              // "en"
     QMap<unsigned int, QString> longUnitNames; // by duration unit
     QMap<int, QString> columnTitles;           // by the table's column type
     QMap<int, QString> resourceTitles;         // of a workbook's sheet of resources, by field
@@ -21,23 +24,37 @@ struct LanguageTexts
     QStringList weekdays;                      // seven short names, Monday first
     QStringList weekdayLetters;                // the same in one column each
     QMap<QString, QString> help;               // by command; "" is the overview
-    QHash<QByteArray, QString> sentences;      // by the English sentence; missing ones stay English
 };
 
-const LanguageTexts &englishTexts();
+const EnglishTexts &englishTexts();
+
+// Every wording of the library's findings and refusals, %1 to %9 for what it puts into them. Ends with null.
+extern const char *const libraryWords[];
 
 namespace texts {
 
-// False when the program does not speak that language; nothing changes then.
+// The language of "de", "zh_CN" or "en_GB.UTF-8". False when the program does not speak it; nothing changes
+// then.
 bool choose(const QString &language);
+// The one that the environment asks for, else English. As with other programs, LANGUAGE is a list of wishes
+// that counts where LC_ALL, LC_MESSAGES and LANG name a language at all.
+void chooseFromEnvironment();
 QStringList languages();
-const LanguageTexts &current();
-// Fills the library's tables that a host has to fill.
+// "de"
+QString chosen();
+// Fills the library's tables that a host has to fill. They stand in files and are English in every language.
 void fillLibraryTables();
+// What the library said, which is English with its gaps filled, in the chosen language; unchanged when no
+// catalogue has it.
+QString said(const QString &english);
+// For the tr() of a window: the chosen language, whatever the context. Lives as long as the program.
+QTranslator *translator();
 }
 
 // A sentence in the chosen language.
 QString t(const char *english);
+// A text of the tables above, such as a column's title.
+QString t(const QString &english);
 // "1 task", "7 tasks": the form for the number, which stands at %1.
 QString counted(qint64 number, const char *one, const char *many);
 // Whole numbers with groups of three: 8,020.

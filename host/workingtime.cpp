@@ -37,7 +37,7 @@ int weekdayNamed(const QString &word)
     for (int day = 0; day < 7; ++day) {
         if (lower.size() >= 3 && QLatin1String(weekdays[day]).startsWith(lower))
             return day;
-        if (lower == texts::current().weekdays.value(day).toLower())
+        if (lower == englishTexts().weekdays.value(day).toLower())
             return day;
     }
     return -1;
@@ -139,7 +139,7 @@ void chooseHours(const std::array<Day, 7> &days, WorkingTime &result, Findings &
     result.hours = best->hours;
     for (std::size_t i = 0; i < days.size(); ++i)
         if (days[i].works && !days[i].hours.empty() && !(days[i].hours == result.hours))
-            warnings.add(t("calendar, %1").arg(texts::current().weekdays.value(int(i))),
+            warnings.add(t("calendar, %1").arg(englishTexts().weekdays.value(int(i))),
                          t("hours %1 are read as %2").arg(hoursText(days[i].hours), hoursText(result.hours)),
                          t("every working day has the same hours"));
 }
@@ -433,7 +433,7 @@ WorkingTime of(const KWDocument &document)
 
 QString describe(const WorkingTime &workingTime)
 {
-    const QStringList &names = texts::current().weekdays;
+    const QStringList &names = englishTexts().weekdays;
     QStringList days;
     for (int day = 0; day < 7; ++day) {
         if (!workingTime.week[std::size_t(day)])
