@@ -275,6 +275,10 @@ int preview(Console &console, const Plan &plan, GanttPdfExport &drawing)
     const QSize sheets = drawing.sheetCounts();
     const QSizeF paper = drawing.pageSize();
     const double text = std::round(drawing.smallestText() * 10) / 10;
+    // The name after -o says what would be drawn: nothing is written there.
+    Options options = console.options();
+    options.output.clear();
+    console.follow(options);
     return written(console, (t("%1 of %2 x %3 mm, %4 across and %5 down; the smallest text is %6 points high")
                                  .arg(counted(pages, "%1 sheet", "%1 sheets"))
                                  .arg(paper.width())
