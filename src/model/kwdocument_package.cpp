@@ -6,6 +6,7 @@
 #include "kwzip.h"
 #include "model/kwdocument_xml.h"
 #include "model/loadcheck.h"
+#include "model/taskscan.h"
 #include "runinglog.h"
 #include "support/kwlimits.h"
 #include "support/xmlguard.h"
@@ -169,8 +170,19 @@ bool readTasks(const QString &path, XmlParts &parts, loadcheck::XmlLook &look, d
     if (!parts.load(path, kwzip::maxEntryBytes, "TaskList") || !parts.root().is("Document"))
         return false;
     taskxml::FontMemo memo;
+    TaskScan scan;
     return look.lookAtElements(parts.root(), [&](const auto &visit) {
-        return parts.forEach([&](const TreeSource &element) {
+        const TreeSource nothingToSee{pugi::xml_node()};
+        const auto take = [&](const char *at) {
+            auto task = std::make_unique<KWTaskInfo>();
+            const char *const end = scan.read(at, *task);
+            if (end) {
+                tasks.push_back(std::move(task));
+                visit(nothingToSee);
+            }
+            return end;
+        };
+        return parts.forEach(take, [&](const TreeSource &element) {
             TreeSource source = element;
             tasks.push_back(std::make_unique<KWTaskInfo>());
             taskxml::read(source, *tasks.back(), &memo);

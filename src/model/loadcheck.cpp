@@ -76,6 +76,8 @@ bool isOf(Type type, const XmlText &text)
         return type != Type::Short || text.toInt() <= 32767;
     if (type == Type::Unsigned && isMoment(text.data(), text.size()))
         return true;
+    if (type == Type::Number && text.isPlainNumber())
+        return true;
     bool ok = false;
     const QString number = text.toString();
     switch (type) {
@@ -165,9 +167,14 @@ QString badValue(Kind kind, const XmlText &text)
     return {};
 }
 
-// ---- The XML ----------------------------------------------------------------------------------------------
-
 }
+
+bool isOfKind(Kind kind, const XmlText &text)
+{
+    return badValue(kind, text).isEmpty();
+}
+
+// ---- The XML ----------------------------------------------------------------------------------------------
 
 class XmlLook::Walk
 {
@@ -318,6 +325,8 @@ private:
     void listed(pugi::xml_node child, const Element &schema, int number)
     {
         const Element &known = schema.children.front();
+        if (!child)
+            return;
         if (std::strcmp(known.name, child.name()) != 0)
             tellOnce(Finding::Changed, schema, child.name(),
                      QStringLiteral("an element %1 is read as a '%2'")

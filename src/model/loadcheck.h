@@ -1,4 +1,5 @@
 #pragma once
+#include "model/documentschema.h"
 #include "support/xmlsource.h"
 #include <QString>
 #include <QVector>
@@ -12,6 +13,9 @@ class KWDocument;
 // here stands what it passed over, and what it took instead.
 namespace loadcheck {
 
+// Whether a value is read as it stands.
+bool isOfKind(documentschema::Kind kind, const XmlText &text);
+
 // What the file's XML holds beside what reading takes: unknown elements and attributes, values that are none
 // of their kind, lists that stand twice or are not there.
 class XmlLook
@@ -20,7 +24,8 @@ public:
     explicit XmlLook(Findings &findings); // not owned
     ~XmlLook();
 
-    // Calls back for each task of a file whose tasks do not stand in its tree; false when it cannot go on.
+    // Calls back for each task of a file whose tasks do not stand in its tree, with a null source for one
+    // that needs no look; false when it cannot go on.
     using Tasks = std::function<bool(const std::function<void(const TreeSource &)> &)>;
     // First the elements; whether it could go on.
     bool lookAtElements(const TreeSource &root, const Tasks &tasks = nullptr);

@@ -35,6 +35,20 @@ inline const char *escapeOf(ushort unit)
     }
 }
 
+// What escapeOf wrote; behind it, or null where something else stands.
+inline const char *readEscape(const char *at, char &sign)
+{
+    for (const char each : {'&', '<', '"', '\t', '\n', '\r'}) {
+        const char *const escape = escapeOf(ushort(each));
+        const size_t length = std::strlen(escape);
+        if (std::strncmp(at, escape, length) == 0) {
+            sign = each;
+            return at + length;
+        }
+    }
+    return nullptr;
+}
+
 // One character, as UTF-8 or escaped; nothing for one that XML cannot carry. Moves `at` past it.
 inline char *character(char *to, const ushort *&at, const ushort *end)
 {

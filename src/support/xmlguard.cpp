@@ -107,7 +107,7 @@ bool Scan::markup()
 // At a tag directly below the root or in the list, which ends at `end`.
 void Scan::noteStart(const char *end, bool isEmptyElement)
 {
-    constexpr int every = 256;
+    constexpr int every = 32;
     if (m_depth == 2) {
         if (m_elements++ % every == 0)
             m_list->starts.push_back(int(m_at - m_begin));

@@ -23,7 +23,7 @@ struct ListPlace
     int begin = -1;             // of what is in it, behind its tag; -1: nothing
     int end = -1;
     bool hasText = false;    // between the elements
-    std::vector<int> starts; // of its first element and of those some hundreds behind
+    std::vector<int> starts; // of its first element and of every 32nd behind
 };
 // The same, and finds the list on the way.
 bool isSafe(const QByteArray &text, ListPlace &list, QString *error = nullptr);

@@ -56,16 +56,31 @@ quint32 XmlText::toUInt() const
                                                                      : toString().toUInt();
 }
 
+namespace {
+
+// Whether all of the text is one; then it is finite, too.
+bool readPlainDecimal(const char *data, int size, double &number)
+{
+    if (!isPlainDecimal(data, size))
+        return false;
+    const auto [end, fault] = std::from_chars(data, data + size, number);
+    return fault == std::errc() && end == data + size;
+}
+}
+
+bool XmlText::isPlainNumber() const
+{
+    double number = 0;
+    return readPlainDecimal(m_data, m_size, number);
+}
+
 double XmlText::toDouble() const
 {
     if (isShortNumber(m_data, m_size))
         return shortNumber(m_data, m_size);
-    if (isPlainDecimal(m_data, m_size)) {
-        double number = 0;
-        const auto [end, fault] = std::from_chars(m_data, m_data + m_size, number);
-        if (fault == std::errc() && end == m_data + m_size)
-            return std::isfinite(number) ? number : 0;
-    }
+    double plain = 0;
+    if (readPlainDecimal(m_data, m_size, plain))
+        return plain;
     bool isNumber = false;
     const double number = toString().toDouble(&isNumber);
     return isNumber && std::isfinite(number) ? number : 0;
@@ -78,23 +93,25 @@ bool XmlText::operator==(const char *text) const
 
 namespace {
 
+using Words = std::array<quint64, 2>;
+
 // A text of a few bytes, as slack and names of resources are, stands in many records: those that were read
 // last exist once.
 QString shortText(const char *data, int size)
 {
     struct Known
     {
-        quint64 bytes = 0;
+        Words words = {};
         int size = 0;
         QString text;
     };
     constexpr int bits = 10;
     static std::array<Known, 1 << bits> known;
-    quint64 bytes = 0;
-    std::memcpy(&bytes, data, size_t(size));
-    Known &one = known[size_t((bytes * 0x9e3779b97f4a7c15ULL) >> (64 - bits))];
-    if (one.bytes != bytes || one.size != size)
-        one = {bytes, size, QString::fromUtf8(data, size)};
+    Words words = {};
+    std::memcpy(words.data(), data, size_t(size));
+    Known &one = known[size_t(((words[0] ^ words[1] * 31) * 0x9e3779b97f4a7c15ULL) >> (64 - bits))];
+    if (one.words != words || one.size != size)
+        one = {words, size, QString::fromUtf8(data, size)};
     return one.text;
 }
 }
@@ -103,7 +120,7 @@ void xmltext::read(const XmlText &text, QString &value)
 {
     if (text.isEmpty())
         return;
-    value = text.size() <= int(sizeof(quint64)) ? shortText(text.data(), text.size()) : text.toString();
+    value = text.size() <= int(sizeof(Words)) ? shortText(text.data(), text.size()) : text.toString();
 }
 
 void xmltext::read(const XmlText &text, qint16 &value)

@@ -34,6 +34,8 @@ public:
     qint32 toInt() const;
     quint32 toUInt() const;
     double toDouble() const;
+    // A finite number in decimal digits, which has no other reading.
+    bool isPlainNumber() const;
     bool operator==(const char *text) const;
 
     // Calls visit(part) for the texts between the separators.

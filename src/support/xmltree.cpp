@@ -110,6 +110,13 @@ pugi::xml_node unsoundBelow(pugi::xml_node root, AttributeCheck &check)
     return pugi::xml_node();
 }
 
+char *skipBlanks(char *at, const char *end)
+{
+    while (at != end && (*at == ' ' || *at == '\n' || *at == '\r' || *at == '\t'))
+        ++at;
+    return at;
+}
+
 bool readFile(const QString &path, qint64 maxBytes, QByteArray &bytes, QString *error)
 {
     // A pipe would block and a device never ends.
@@ -174,15 +181,20 @@ bool XmlParts::load(const QString &path, qint64 maxBytes, const char *list)
     return m_outer.build(nullptr);
 }
 
-bool XmlParts::forEach(const std::function<void(const TreeSource &)> &visit)
+bool XmlParts::forEach(const Take &take, const std::function<void(const TreeSource &)> &visit)
 {
     AttributeCheck check;
     pugi::xml_document part;
     for (size_t i = 0; i < m_list.starts.size(); ++i) {
-        const int begin = i == 0 ? m_list.begin : m_list.starts[i];
-        const int end = i + 1 < m_list.starts.size() ? m_list.starts[i + 1] : m_list.end;
-        if (!part.load_buffer_inplace(m_bytes.data() + begin, size_t(end - begin),
-                                      options | pugi::parse_fragment, pugi::encoding_utf8))
+        char *at = m_bytes.data() + (i == 0 ? m_list.begin : m_list.starts[i]);
+        char *const end = m_bytes.data() + (i + 1 < m_list.starts.size() ? m_list.starts[i + 1] : m_list.end);
+        at = skipBlanks(at, end);
+        while (const char *const behind = at == end ? nullptr : take(at))
+            at = skipBlanks(m_bytes.data() + (behind - m_bytes.constData()), end);
+        if (at == end)
+            continue;
+        if (!part.load_buffer_inplace(at, size_t(end - at), options | pugi::parse_fragment,
+                                      pugi::encoding_utf8))
             return false;
         for (pugi::xml_node node : part.children()) {
             if (node.type() != pugi::node_element || unsoundBelow(node, check))

@@ -30,7 +30,7 @@ private:
 };
 
 // The same file in parts: a tree without what stands in one long list below the root, and the elements of
-// that list, some hundreds at a time. It takes a third of the memory, and what is read stays in the
+// that list, some at a time. It takes a third of the memory, and what is read stays in the
 // processor's cache.
 class XmlParts
 {
@@ -38,9 +38,12 @@ public:
     // False for what XmlTree refuses, and where there is no such list or more than one: XmlTree tells more.
     bool load(const QString &path, qint64 maxBytes, const char *list);
     TreeSource root() const { return m_outer.root(); }
-    // Each element of the list, once; it is gone when `visit` returns. False when they are no sound XML, or
-    // there is something else between them: what was visited is not to be used.
-    bool forEach(const std::function<void(const TreeSource &)> &visit);
+    // Each element of the list, once; it is gone when `visit` returns. `take` is asked first, with the text
+    // from where the element stands: it takes it and returns where it ends, or returns null and the element
+    // is visited. False when they are no sound XML, or there is something else between them: what was visited
+    // or taken is not to be used.
+    using Take = std::function<const char *(const char *)>;
+    bool forEach(const Take &take, const std::function<void(const TreeSource &)> &visit);
 
 private:
     QByteArray m_bytes;

@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <memory>
+#include <random>
 
 namespace {
 
@@ -156,6 +157,72 @@ INSTANTIATE_TEST_SUITE_P(
               "hours is "
               "counted\n"}),
     caseName<Fault>);
+
+// Tasks are read from the text where it is as saving writes it, and from a tree otherwise: whatever stands
+// there, both make the same tasks of it and tell the same.
+TEST(ReadTasks, FromTheTextAreThoseFromATree)
+{
+    const ZoneScope zone("UTC");
+    const QTemporaryDir box;
+    const auto load = [&box](const QByteArray &xml, KWDocument &document) {
+        folder::put(box.path() + QStringLiteral("/document.xml"), xml);
+        return document.loadDocument(box.path() + QLatin1Char('/'), 0);
+    };
+    const auto saved = [&box](const KWDocument &document) {
+        EXPECT_TRUE(document.saveDocument(box.path() + QLatin1Char('/')));
+        return folder::get(box.path() + QStringLiteral("/document.xml"));
+    };
+    KWDocument document;
+    ASSERT_TRUE(load(plan, document));
+    document.getTaskInfoAt(0)->Notes =
+        QString::fromUtf8("<a> & \"b\"\t\r\nÄ工 'c' &amp; 12345678901234567890");
+    document.getTaskInfoAt(1)->CountWidth = 1.5e-7;
+    const QByteArray written = saved(document);
+    const std::vector<QByteArray> pieces{"&",
+                                         "&amp;",
+                                         "&#xa;",
+                                         "&#10;",
+                                         "\n",
+                                         " ",
+                                         "\"",
+                                         "'",
+                                         "-1",
+                                         "1;;2",
+                                         "<",
+                                         "/",
+                                         ">",
+                                         "=",
+                                         "x",
+                                         "1e5",
+                                         "5.",
+                                         "0x1",
+                                         "999999999999",
+                                         "<!---->",
+                                         " Name=\"a\"",
+                                         " Odd=\"1\"",
+                                         "<Format Bold=\"1\"/>"};
+    const int begin = written.indexOf("<TaskList>");
+    const int size = written.indexOf("</TaskList>") - begin;
+    std::mt19937 random(7);
+    int readable = 0;
+    for (int round = 0; round < 3000; ++round) {
+        QByteArray xml = written;
+        for (int change = int(random() % 3); change > 0; --change)
+            xml.replace(begin + int(random() % unsigned(size)), int(random() % 3),
+                        pieces[random() % pieces.size()]);
+        QByteArray byTree = xml;
+        byTree.replace("<Task ", "<Task\n ");
+        KWDocument fromText, fromTree;
+        const bool isRead = load(xml, fromText);
+        readable += isRead;
+        ASSERT_EQ(load(byTree, fromTree), isRead) << xml.toStdString();
+        if (!isRead)
+            continue;
+        ASSERT_EQ(told(fromText), told(fromTree)) << xml.toStdString();
+        ASSERT_EQ(saved(fromText), saved(fromTree)) << xml.toStdString();
+    }
+    EXPECT_GT(readable, 500);
+}
 
 // The zone's name and the plan's are parts of the package, and what else is there and goes is told.
 TEST(PackageZone, TravelsWithTheNameAndOtherPartsAreTold)

@@ -4,6 +4,7 @@
 #include "format/unitutil.h"
 #include "support/xmlsink.h"
 #include "support/xmlsource.h"
+#include <vector>
 
 // The rows of a field table as attributes, over any of the XML sinks and sources.
 namespace fields {
@@ -86,6 +87,25 @@ void read(TreeSource &source, const Table &table, Record &record)
     forEach(table, Xml, [&](const auto &row) {
         const char *const value = values[i++];
         readOne(row, XmlText(value, int(std::strlen(value))), scale, record);
+    });
+}
+
+// The text of one attribute, wherever it stands.
+struct Piece
+{
+    const char *data = "";
+    int size = 0;
+};
+
+// The same from the texts of all rows, empty where there is none.
+template <typename Table, typename Record>
+void readAll(const std::vector<Piece> &texts, const Table &table, Record &record)
+{
+    const double scale = UnitUtil::dpiScale96();
+    size_t i = 0;
+    forEach(table, Xml, [&](const auto &row) {
+        const Piece &text = texts[i++];
+        readOne(row, XmlText(text.data, text.size), scale, record);
     });
 }
 
