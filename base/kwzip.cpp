@@ -1,5 +1,6 @@
 #include "kwzip.h"
 #include "kwfilepathmanager.h"
+#include "quickdeflate.h"
 #include "support/atomicfile.h"
 #include "support/kwlimits.h"
 #include "support/ziprules.h"
@@ -11,8 +12,10 @@
 #include <QVector>
 #include <algorithm>
 #include <climits>
+#include <cstring>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <sys/stat.h>
 #include <zip.h>
 
@@ -204,6 +207,23 @@ bool Unpacker::makeFolder(const QString &path)
     return true;
 }
 
+// The whole entry at once; nothing where that is not possible, or there is something wrong with it: reading
+// it piece by piece tells what.
+std::optional<QByteArray> wholeEntry(zip_t *archive, zip_uint64_t index, const kwzip::Entry &entry)
+{
+    zip_stat_t stat;
+    constexpr zip_uint64_t needed = ZIP_STAT_COMP_METHOD | ZIP_STAT_CRC;
+    if (entry.bytes <= 0 || entry.bytes > kwzip::maxWholeBytes || entry.packedBytes > kwzip::maxWholeBytes ||
+        zip_stat_index(archive, index, 0, &stat) != 0 || (stat.valid & needed) != needed ||
+        stat.comp_method != ZIP_CM_DEFLATE)
+        return std::nullopt;
+    const OpenEntry packed(zip_fopen_index(archive, index, ZIP_FL_COMPRESSED));
+    QByteArray bytes(int(entry.packedBytes), Qt::Uninitialized);
+    if (!packed || zip_fread(packed.get(), bytes.data(), zip_uint64_t(bytes.size())) != bytes.size())
+        return std::nullopt;
+    return kwzip::unpackWhole(bytes, entry.bytes, stat.crc);
+}
+
 bool Unpacker::unpack(zip_t *archive, zip_uint64_t index, const kwzip::Entry &entry)
 {
     const QString place = placeOf(entry);
@@ -220,6 +240,12 @@ bool Unpacker::unpack(zip_t *archive, zip_uint64_t index, const kwzip::Entry &en
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return fail(entry.name, file.errorString());
     m_made.append(place);
+    if (const std::optional<QByteArray> whole = wholeEntry(archive, index, entry)) {
+        if (file.write(*whole) != whole->size())
+            return fail(entry.name, file.errorString());
+        file.close();
+        return file.error() == QFileDevice::NoError || fail(entry.name, file.errorString());
+    }
     QByteArray buffer(64 << 10, Qt::Uninitialized);
     qint64 bytes = 0;
     while (true) {
@@ -289,7 +315,93 @@ bool collect(const QString &folder, QVector<Source> &sources)
     return true;
 }
 
-bool addTo(zip_t *archive, const Source &source, zip_int32_t method)
+// Bytes that are packed already, for the library that writes the archive. It owns the object.
+class PackedSource
+{
+public:
+    static zip_source_t *make(zip_t *archive, const kwzip::Packed &packed)
+    {
+        auto *state = new PackedSource(packed);
+        zip_source_t *const source = zip_source_function(archive, call, state);
+        if (!source)
+            delete state;
+        return source;
+    }
+
+private:
+    explicit PackedSource(const kwzip::Packed &packed)
+        : m_packed(packed)
+    {
+    }
+
+    static zip_int64_t call(void *state, void *data, zip_uint64_t size, zip_source_cmd_t command)
+    {
+        auto &self = *static_cast<PackedSource *>(state);
+        switch (command) {
+        case ZIP_SOURCE_OPEN:
+            self.m_at = 0;
+            return 0;
+        case ZIP_SOURCE_READ: {
+            const int count =
+                int(qMin<zip_uint64_t>(size, zip_uint64_t(self.m_packed.bytes.size() - self.m_at)));
+            std::memcpy(data, self.m_packed.bytes.constData() + self.m_at, size_t(count));
+            self.m_at += count;
+            return count;
+        }
+        case ZIP_SOURCE_CLOSE:
+            return 0;
+        case ZIP_SOURCE_STAT: {
+            auto &stat = *static_cast<zip_stat_t *>(data);
+            zip_stat_init(&stat);
+            stat.size = zip_uint64_t(self.m_packed.unpackedBytes);
+            stat.comp_size = zip_uint64_t(self.m_packed.bytes.size());
+            stat.crc = self.m_packed.crc;
+            stat.comp_method = ZIP_CM_DEFLATE;
+            stat.encryption_method = ZIP_EM_NONE;
+            stat.valid = ZIP_STAT_SIZE | ZIP_STAT_COMP_SIZE | ZIP_STAT_CRC | ZIP_STAT_COMP_METHOD |
+                         ZIP_STAT_ENCRYPTION_METHOD;
+            return sizeof(stat);
+        }
+        case ZIP_SOURCE_ERROR: {
+            constexpr int none[] = {ZIP_ER_OK, 0};
+            std::memcpy(data, none, sizeof(none));
+            return sizeof(none);
+        }
+        case ZIP_SOURCE_FREE:
+            delete &self;
+            return 0;
+        case ZIP_SOURCE_SUPPORTS:
+            return zip_source_make_command_bitmap(ZIP_SOURCE_OPEN, ZIP_SOURCE_READ, ZIP_SOURCE_CLOSE,
+                                                  ZIP_SOURCE_STAT, ZIP_SOURCE_ERROR, ZIP_SOURCE_FREE,
+                                                  ZIP_SOURCE_SUPPORTS, -1);
+        default:
+            return -1;
+        }
+    }
+
+    const kwzip::Packed m_packed;
+    int m_at = 0;
+};
+
+// Null where the file has to be packed piece by piece. `room` is how many packed bytes may still be held in
+// memory.
+zip_source_t *packedFile(zip_t *archive, const QString &path, qint64 &room)
+{
+    QFile file(path);
+    if (room <= 0 || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
+        file.size() > kwzip::maxWholeBytes)
+        return nullptr;
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return nullptr;
+    const std::optional<kwzip::Packed> packed = kwzip::packWhole(bytes);
+    if (!packed)
+        return nullptr;
+    room -= packed->bytes.size();
+    return PackedSource::make(archive, *packed);
+}
+
+bool addTo(zip_t *archive, const Source &source, zip_int32_t method, qint64 &room)
 {
     const bool isFolder = source.name.endsWith('/');
     zip_int64_t index = -1;
@@ -297,8 +409,9 @@ bool addTo(zip_t *archive, const Source &source, zip_int32_t method)
         index = zip_dir_add(archive, source.name.constData(), ZIP_FL_ENC_UTF_8);
     } else {
         constexpr zip_int64_t toTheEnd = 0;
-        zip_source_t *content =
-            zip_source_file(archive, QFile::encodeName(source.path).constData(), 0, toTheEnd);
+        zip_source_t *content = method == ZIP_CM_DEFLATE ? packedFile(archive, source.path, room) : nullptr;
+        if (!content)
+            content = zip_source_file(archive, QFile::encodeName(source.path).constData(), 0, toTheEnd);
         if (content)
             index = zip_file_add(archive, source.name.constData(), content, ZIP_FL_ENC_UTF_8);
         if (content && index < 0)
@@ -319,8 +432,9 @@ bool write(const QString &path, const QVector<Source> &sources, zip_int32_t meth
     Archive archive = openArchive(path, ZIP_CREATE | ZIP_TRUNCATE);
     if (!archive)
         return false;
+    qint64 room = kwzip::maxWholeBytes;
     for (const Source &source : sources) {
-        if (!addTo(archive.get(), source, method))
+        if (!addTo(archive.get(), source, method, room))
             return fail(source.name, QString::fromUtf8(zip_strerror(archive.get())));
     }
     // Everything is read, packed and written here.

@@ -98,7 +98,7 @@ build() {
 
 tools_packages=(g++ cmake ninja-build pkg-config)
 # The fonts are for pictures: without any there is nothing to draw texts with.
-library_packages=(qtbase5-dev libzip-dev libpugixml-dev libcairo2-dev libpango1.0-dev fonts-dejavu-core tzdata)
+library_packages=(qtbase5-dev libzip-dev libdeflate-dev libpugixml-dev libcairo2-dev libpango1.0-dev fonts-dejavu-core tzdata)
 test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev castxml python3)
 desktop_packages=(xvfb xauth) # ./test --long opens the window on a screen of its own
 browser_packages=(chromium fonts-dejavu-core) # ./test --long uses the pages that are rendered
