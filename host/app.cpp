@@ -244,6 +244,7 @@ int load(Console &console)
             return checked.code;
         return written(console, checked.data, checked.code);
     }
+    Plan::isLast = false;
     const bool isJson = options.format == Options::Json;
     QByteArray data = isJson ? "[\n" : "";
     int worst = Console::Done;

@@ -63,9 +63,13 @@ public:
                 m_cells[std::size_t(i)] = {&symbol, tone};
     }
 
-    QString text() const
+    void addTo(QString &line) const
     {
-        QString line;
+        if (!m_style.color) {
+            for (const Cell &cell : m_cells)
+                line += *cell.symbol;
+            return;
+        }
         for (std::size_t i = 0; i < m_cells.size();) {
             QString run;
             const Style::Tone tone = m_cells[i].tone;
@@ -73,7 +77,6 @@ public:
                 run += *m_cells[i].symbol;
             line += m_style.toned(run, tone);
         }
-        return line;
     }
 
 private:
@@ -124,11 +127,12 @@ void paintTask(Line &line, const Plan &plan, const KWTaskInfo &task, const Axis 
 }
 }
 
-QString bar(const Plan &plan, const shown::Times &times, const Axis &axis, int pos, const Style &style)
+void add(QString &text, const Plan &plan, const shown::Times &times, const Axis &axis, int pos,
+         const Style &style)
 {
     Line line(axis, style);
     if (axis.isEmpty())
-        return QString();
+        return;
     const KWTaskInfo *task = plan.task(pos);
     const qint64 start =
         axis::secsOf(KWTaskCollection::moveForwarstartOnDayOff(plan.document.get(), task->Start, true));
@@ -143,6 +147,6 @@ QString bar(const Plan &plan, const shown::Times &times, const Axis &axis, int p
     } else {
         paintTask(line, plan, *task, axis, columns, style);
     }
-    return line.text();
+    line.addTo(text);
 }
 }

@@ -7,6 +7,7 @@
 // The bars of a plan in terminal columns.
 namespace bars {
 
-// A task's bar under an axis, with colours.
-QString bar(const Plan &plan, const shown::Times &times, const axis::Axis &axis, int pos, const Style &style);
+// A task's bar under an axis, with colours, behind what the text holds.
+void add(QString &text, const Plan &plan, const shown::Times &times, const axis::Axis &axis, int pos,
+         const Style &style);
 }

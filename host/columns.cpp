@@ -4,6 +4,7 @@
 #include "model/kwtaskinfo.h"
 #include "sheettext.h"
 #include "texts.h"
+#include <charconv>
 
 namespace columns {
 
@@ -24,189 +25,208 @@ int secsOfDay(const Plan &plan, bool isStart)
 }
 
 // The time stands beside the date only where it is not the day's beginning or end.
-QString momentText(const Sheet &sheet, const shown::Clock &clock, bool isStart)
+void addMoment(QString &text, const Sheet &sheet, const shown::Clock &clock, bool isStart)
 {
-    QString text =
-        datetext::dateText(clock.date, datetext::TwoDigitDay | (sheet.showYears ? datetext::Year : 0));
+    datetext::addDate(text, clock.date, datetext::TwoDigitDay | (sheet.showYears ? datetext::Year : 0));
     if (clock.secs != usualSecs(sheet, isStart))
         text += QLatin1Char(' ') + datetext::timeText(clock.secs);
-    return text;
+}
+
+void addNumber(QString &text, qint64 number)
+{
+    constexpr int most = 20;
+    char digits[most];
+    const char *const end = std::to_chars(digits, digits + most, number).ptr;
+    text += QLatin1String(digits, int(end - digits));
 }
 
 // "1.5 d" as "1.5d"; nothing to spare is a plain 0.
-QString compactSlack(const QString &slack)
+void addCompactSlack(QString &text, const QString &slack)
 {
     const int blank = slack.indexOf(QLatin1Char(' '));
-    if (blank < 0)
-        return slack;
-    const QStringRef number = slack.leftRef(blank);
-    return number == QLatin1String("0") ? number.toString() : QString(slack).remove(QLatin1Char(' '));
+    if (blank == 1 && slack.at(0) == QLatin1Char('0')) {
+        text += slack.at(0);
+        return;
+    }
+    for (const QChar sign : slack) {
+        if (sign != QLatin1Char(' '))
+            text += sign;
+    }
 }
 
-QString tagsText(const Plan &plan, const QList<quint32> &ids)
+void addTags(QString &text, const Plan &plan, const QList<quint32> &ids)
 {
-    QStringList tags;
-    for (const quint32 id : ids)
-        tags.append(QString::number(plan.document->getTagByTaskID(id)));
-    return tags.join(QLatin1Char(';'));
+    for (int i = 0; i < ids.size(); ++i) {
+        if (i > 0)
+            text += QLatin1Char(';');
+        addNumber(text, plan.document->getTagByTaskID(ids.at(i)));
+    }
 }
 
-QString wbsText(const Sheet &sheet, int pos)
+void addWbs(const Sheet &sheet, int pos, QString &text)
 {
-    return sheet.plan.imported.codes.value(sheet.plan.task(pos)->ID);
+    text += sheet.plan.imported.codes.value(sheet.plan.task(pos)->ID);
 }
 
-QString idText(const Sheet &sheet, int pos)
+void addId(const Sheet &sheet, int pos, QString &text)
 {
-    return QString::number(sheet.plan.task(pos)->ID);
+    addNumber(text, sheet.plan.task(pos)->ID);
 }
 
-QString numberText(const Sheet &, int pos)
+void addPosition(const Sheet &, int pos, QString &text)
 {
-    return QString::number(pos + 1);
+    addNumber(text, pos + 1);
 }
 
-QString markText(const Sheet &sheet, int pos)
+void addMark(const Sheet &sheet, int pos, QString &text)
 {
-    return sheet.plan.urgent(pos)->CriticalPath ? QStringLiteral("!") : QString();
+    if (sheet.plan.urgent(pos)->CriticalPath)
+        text += QLatin1Char('!');
 }
 
-QString nameText(const Sheet &sheet, int pos)
+void addName(const Sheet &sheet, int pos, QString &text)
 {
     const KWTaskInfo *task = sheet.plan.task(pos);
     const int indent = qBound(0, task->Level - 1, deepestIndent) * blanksPerLevel;
-    return QString(indent, QLatin1Char(' ')) +
-           (task->isParent() ? sheet.expanded + QLatin1Char(' ')
-                             : QString(blanksPerLevel, QLatin1Char(' '))) +
-           task->Name.trimmed();
+    const int blanks = indent + (task->isParent() ? 0 : blanksPerLevel);
+    for (int i = 0; i < blanks; ++i)
+        text += QLatin1Char(' ');
+    if (task->isParent()) {
+        text += sheet.expanded;
+        text += QLatin1Char(' ');
+    }
+    text += task->Name.trimmed();
 }
 
-QString levelText(const Sheet &sheet, int pos)
+void addLevel(const Sheet &sheet, int pos, QString &text)
 {
-    return QString::number(sheet.plan.task(pos)->Level);
+    addNumber(text, sheet.plan.task(pos)->Level);
 }
 
-QString startText(const Sheet &sheet, int pos)
+void addStart(const Sheet &sheet, int pos, QString &text)
 {
     const shown::Clock start = sheet.times.start(pos);
     // A milestone's finish says its time.
     if (start == sheet.times.finish(pos))
-        return momentText(sheet, {start.date, usualSecs(sheet, true)}, true);
-    return momentText(sheet, start, true);
+        addMoment(text, sheet, {start.date, usualSecs(sheet, true)}, true);
+    else
+        addMoment(text, sheet, start, true);
 }
 
-QString finishText(const Sheet &sheet, int pos)
+void addFinish(const Sheet &sheet, int pos, QString &text)
 {
-    return momentText(sheet, sheet.times.finish(pos), false);
+    addMoment(text, sheet, sheet.times.finish(pos), false);
 }
 
-QString durationText(const Sheet &sheet, int pos)
+void addDuration(const Sheet &sheet, int pos, QString &text)
 {
     const KWTaskInfo *task = sheet.plan.task(pos);
-    if (task->Milestone && !task->isParent())
-        return QString();
-    return datetext::durationText(KWTaskInfo::getDurValueByTaskInfo(sheet.plan.document.get(), task),
-                                  task->DurationUnits);
+    if (!task->Milestone || task->isParent())
+        text += datetext::durationText(KWTaskInfo::getDurValueByTaskInfo(sheet.plan.document.get(), task),
+                                       task->DurationUnits);
 }
 
-QString doneText(const Sheet &sheet, int pos)
+void addDone(const Sheet &sheet, int pos, QString &text)
 {
     const KWTaskInfo *task = sheet.plan.task(pos);
     if (task->Milestone && !task->isParent() && task->Percent == 0)
-        return QString();
-    return QString::number(qRound(task->Percent * 100)) + QLatin1Char('%');
+        return;
+    addNumber(text, qRound(task->Percent * 100));
+    text += QLatin1Char('%');
 }
 
-QString slackText(const Sheet &sheet, int pos)
+void addSlack(const Sheet &sheet, int pos, QString &text)
 {
-    return compactSlack(sheet.plan.urgent(pos)->LateSlack);
+    addCompactSlack(text, sheet.plan.urgent(pos)->LateSlack);
 }
 
-QString startSlackText(const Sheet &sheet, int pos)
+void addStartSlack(const Sheet &sheet, int pos, QString &text)
 {
-    return compactSlack(sheet.plan.task(pos)->EarlySlack);
+    addCompactSlack(text, sheet.plan.task(pos)->EarlySlack);
 }
 
-QString lateStartText(const Sheet &sheet, int pos)
+void addLateStart(const Sheet &sheet, int pos, QString &text)
 {
-    return momentText(sheet, sheet.times.lateStart(pos), true);
+    addMoment(text, sheet, sheet.times.lateStart(pos), true);
 }
 
-QString lateFinishText(const Sheet &sheet, int pos)
+void addLateFinish(const Sheet &sheet, int pos, QString &text)
 {
-    return momentText(sheet, sheet.times.lateFinish(pos), false);
+    addMoment(text, sheet, sheet.times.lateFinish(pos), false);
 }
 
-QString predecessorsText(const Sheet &sheet, int pos)
+void addPredecessors(const Sheet &sheet, int pos, QString &text)
 {
-    return tagsText(sheet.plan, sheet.plan.task(pos)->Predecessors);
+    addTags(text, sheet.plan, sheet.plan.task(pos)->Predecessors);
 }
 
-QString successorsText(const Sheet &sheet, int pos)
+void addSuccessors(const Sheet &sheet, int pos, QString &text)
 {
-    return tagsText(sheet.plan, sheet.plan.task(pos)->Depends);
+    addTags(text, sheet.plan, sheet.plan.task(pos)->Depends);
 }
 
-QString resourcesText(const Sheet &sheet, int pos)
+void addResources(const Sheet &sheet, int pos, QString &text)
 {
-    return sheet.plan.task(pos)->Resources;
+    text += sheet.plan.task(pos)->Resources;
 }
 
-QString notesText(const Sheet &sheet, int pos)
+void addNotes(const Sheet &sheet, int pos, QString &text)
 {
-    return sheet.plan.task(pos)->Notes;
+    text += sheet.plan.task(pos)->Notes;
 }
 
-QString workText(const Sheet &sheet, int pos)
+void addWork(const Sheet &sheet, int pos, QString &text)
 {
-    return DataFormat::formatNumber(plan::workHours(sheet.plan, *sheet.plan.task(pos)), 0, 2, 1) +
-           QLatin1Char('h');
+    text += DataFormat::formatNumber(plan::workHours(sheet.plan, *sheet.plan.task(pos)), 0, 2, 1) +
+            QLatin1Char('h');
 }
 
 template <double TaskRecord::*member>
-QString costText(const Sheet &sheet, int pos)
+void addCost(const Sheet &sheet, int pos, QString &text)
 {
-    return sheettext::moneyText(sheet.plan.task(pos)->*member);
+    text += sheettext::moneyText(sheet.plan.task(pos)->*member);
 }
 
-QString baseCostText(const Sheet &sheet, int pos)
+void addBaseCost(const Sheet &sheet, int pos, QString &text)
 {
-    const QString &text = sheet.plan.task(pos)->BaselineCost;
-    return text.isEmpty() ? text : sheettext::moneyText(text.toDouble());
+    const QString &cost = sheet.plan.task(pos)->BaselineCost;
+    if (!cost.isEmpty())
+        text += sheettext::moneyText(cost.toDouble());
 }
 
 template <quint32 TaskRecord::*member, shown::Clock (*clock)(const Plan &, quint32)>
-QString baseText(const Sheet &sheet, int pos)
+void addBase(const Sheet &sheet, int pos, QString &text)
 {
     const quint32 secs = sheet.plan.task(pos)->*member;
-    return secs == 0 ? QString() : momentText(sheet, clock(sheet.plan, secs), clock == shown::startOf);
+    if (secs != 0)
+        addMoment(text, sheet, clock(sheet.plan, secs), clock == shown::startOf);
 }
 
 constexpr Column table[] = {
-    {"number", "#", true, numberText},
-    {"critical", "", false, markText},
-    {"id", QT_TR_NOOP("ID"), true, idText},
-    {"wbs", QT_TR_NOOP("WBS"), false, wbsText},
-    {"level", QT_TR_NOOP("Level"), true, levelText},
-    {"name", QT_TR_NOOP("Task"), false, nameText},
-    {"start", QT_TR_NOOP("Start"), false, startText},
-    {"finish", QT_TR_NOOP("Finish"), false, finishText},
-    {"duration", QT_TR_NOOP("Dur"), true, durationText},
-    {"done", QT_TR_NOOP("Done"), true, doneText},
-    {"slack", QT_TR_NOOP("Slack"), true, slackText},
-    {"start-slack", QT_TR_NOOP("Start slack"), true, startSlackText},
-    {"late-start", QT_TR_NOOP("Late start"), false, lateStartText},
-    {"late-finish", QT_TR_NOOP("Late finish"), false, lateFinishText},
-    {"predecessors", QT_TR_NOOP("After"), false, predecessorsText},
-    {"successors", QT_TR_NOOP("Before"), false, successorsText},
-    {"resources", QT_TR_NOOP("Resources"), false, resourcesText},
-    {"work", QT_TR_NOOP("Work"), true, workText},
-    {"cost", QT_TR_NOOP("Cost"), true, costText<&KWTaskInfo::Cost>},
-    {"remaining", QT_TR_NOOP("Remaining"), true, costText<&KWTaskInfo::RemainingCost>},
-    {"base-start", QT_TR_NOOP("Base start"), false, baseText<&KWTaskInfo::BaseStart, shown::startOf>},
-    {"base-finish", QT_TR_NOOP("Base finish"), false, baseText<&KWTaskInfo::BaseFinish, shown::endOf>},
-    {"base-cost", QT_TR_NOOP("Base cost"), true, baseCostText},
-    {"notes", QT_TR_NOOP("Notes"), false, notesText},
+    {"number", "#", true, addPosition},
+    {"critical", "", false, addMark},
+    {"id", QT_TR_NOOP("ID"), true, addId},
+    {"wbs", QT_TR_NOOP("WBS"), false, addWbs},
+    {"level", QT_TR_NOOP("Level"), true, addLevel},
+    {"name", QT_TR_NOOP("Task"), false, addName},
+    {"start", QT_TR_NOOP("Start"), false, addStart},
+    {"finish", QT_TR_NOOP("Finish"), false, addFinish},
+    {"duration", QT_TR_NOOP("Dur"), true, addDuration},
+    {"done", QT_TR_NOOP("Done"), true, addDone},
+    {"slack", QT_TR_NOOP("Slack"), true, addSlack},
+    {"start-slack", QT_TR_NOOP("Start slack"), true, addStartSlack},
+    {"late-start", QT_TR_NOOP("Late start"), false, addLateStart},
+    {"late-finish", QT_TR_NOOP("Late finish"), false, addLateFinish},
+    {"predecessors", QT_TR_NOOP("After"), false, addPredecessors},
+    {"successors", QT_TR_NOOP("Before"), false, addSuccessors},
+    {"resources", QT_TR_NOOP("Resources"), false, addResources},
+    {"work", QT_TR_NOOP("Work"), true, addWork},
+    {"cost", QT_TR_NOOP("Cost"), true, addCost<&KWTaskInfo::Cost>},
+    {"remaining", QT_TR_NOOP("Remaining"), true, addCost<&KWTaskInfo::RemainingCost>},
+    {"base-start", QT_TR_NOOP("Base start"), false, addBase<&KWTaskInfo::BaseStart, shown::startOf>},
+    {"base-finish", QT_TR_NOOP("Base finish"), false, addBase<&KWTaskInfo::BaseFinish, shown::endOf>},
+    {"base-cost", QT_TR_NOOP("Base cost"), true, addBaseCost},
+    {"notes", QT_TR_NOOP("Notes"), false, addNotes},
 };
 }
 

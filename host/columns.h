@@ -25,7 +25,7 @@ struct Column
     const char *key;     // what the user writes to ask for it
     const char *heading; // English; empty for the marks
     bool alignRight;
-    QString (*text)(const Sheet &sheet, int pos);
+    void (*add)(const Sheet &sheet, int pos, QString &text); // behind what the text holds
 };
 
 const Column *named(const QString &key);

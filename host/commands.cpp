@@ -115,7 +115,9 @@ int writePlan(Console &console, Plan &plan)
                    ? Console::Done
                    : Console::CannotWrite;
     if (options.format == Options::Json)
-        return written(console, machine::json(plan));
+        return console.write([&](const Console::Take &take) { return machine::writeJson(plan, take); })
+                   ? Console::Done
+                   : Console::CannotWrite;
     return report::writeTable(console, plan, styleOf(console));
 }
 

@@ -52,15 +52,12 @@ QString durationText(double value, unsigned int unit)
     return DataFormat::formatNumber(value, 0, decimals, 1) + QLatin1String(shortNames[qMin(unit, 6u)]);
 }
 
-QString dateText(const QDate &date, int style)
+void addDate(QString &text, const QDate &date, int style)
 {
     if (!date.isValid())
-        return QString();
+        return;
     const EnglishTexts &language = englishTexts();
     const civildate::Date parts = civildate::of(int(date.toJulianDay() - julianDayOf1970));
-    constexpr int usualLength = 16;
-    QString text;
-    text.reserve(usualLength);
     if (style & Weekday)
         text += language.weekdays.value(date.dayOfWeek() - 1) + QLatin1Char(' ');
     if (parts.day >= 10 || style & TwoDigitDay)
@@ -72,6 +69,15 @@ QString dateText(const QDate &date, int style)
         text += QLatin1Char(' ');
         text += QString::number(parts.year);
     }
+}
+
+QString dateText(const QDate &date, int style)
+{
+    constexpr int usualLength = 16;
+    QString text;
+    if (date.isValid())
+        text.reserve(usualLength);
+    addDate(text, date, style);
     return text;
 }
 

@@ -42,6 +42,8 @@ QString durationText(double value, unsigned int unit);
 // "05 Jan", "5 Jan", "Mon 5 Jan", with the year behind them when asked for.
 enum Style { Plain = 0, TwoDigitDay = 1, Weekday = 2, Year = 4 };
 QString dateText(const QDate &date, int style);
+// The same behind what the text holds.
+void addDate(QString &text, const QDate &date, int style);
 // "08:00"; a day's end at midnight reads "24:00".
 QString timeText(int secsOfDay);
 }

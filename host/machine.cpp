@@ -1,5 +1,6 @@
 #include "machine.h"
 #include "exchange/csvplan.h"
+#include "model/calendarhold.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
@@ -8,6 +9,7 @@
 #include "support/findings.h"
 #include "workingtime.h"
 #include <QTimeZone>
+#include <algorithm>
 
 namespace machine {
 
@@ -81,25 +83,40 @@ QByteArray moveJson(const Plan &plan, const Plan::Move &move)
     text += ", \"pushedBy\": " + (move.pushedBy ? QByteArray::number(move.pushedBy) : QByteArray("null"));
     return text + "}";
 }
+
+// The text in quotes, behind what the bytes hold.
+void addJsonText(QByteArray &bytes, const QByteArray &utf8)
+{
+    const auto isEscaped = [](char sign) {
+        return sign == '"' || sign == '\\' || (uchar(sign) < 0x20) || sign == 0x7F;
+    };
+    bytes += '"';
+    if (std::none_of(utf8.begin(), utf8.end(), isEscaped)) {
+        bytes += utf8;
+        bytes += '"';
+        return;
+    }
+    for (const char sign : utf8) {
+        if (sign == '"' || sign == '\\')
+            bytes.append('\\').append(sign);
+        else if (sign == '\n')
+            bytes += "\\n";
+        else if (sign == '\t')
+            bytes += "\\t";
+        else if (isEscaped(sign))
+            bytes += "\\u" + QByteArray::number(sign, 16).rightJustified(4, '0');
+        else
+            bytes += sign;
+    }
+    bytes += '"';
+}
 }
 
 QByteArray jsonText(const QString &text)
 {
-    QString escaped;
-    escaped.reserve(text.size() + 2);
-    for (const QChar c : text) {
-        if (c == QLatin1Char('"') || c == QLatin1Char('\\'))
-            escaped += QLatin1Char('\\') + c;
-        else if (c == QLatin1Char('\n'))
-            escaped += QLatin1String("\\n");
-        else if (c == QLatin1Char('\t'))
-            escaped += QLatin1String("\\t");
-        else if (c.unicode() < 0x20 || c.unicode() == 0x7F)
-            escaped += QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
-        else
-            escaped += c;
-    }
-    return '"' + escaped.toUtf8() + '"';
+    QByteArray bytes;
+    addJsonText(bytes, text.toUtf8());
+    return bytes;
 }
 
 bool writeCsv(const Plan &plan, const std::function<bool(const QByteArray &)> &take)
@@ -107,27 +124,55 @@ bool writeCsv(const Plan &plan, const std::function<bool(const QByteArray &)> &t
     return csvplan::Rows(*plan.document, from(plan)).write(take);
 }
 
-QByteArray json(const Plan &plan)
+bool writeJson(const Plan &plan, const std::function<bool(const QByteArray &)> &take)
 {
+    constexpr int pieceBytes = 256 << 10;
+    const CalendarHold hold(*plan.document);
     const csvplan::Rows rows(*plan.document, from(plan));
     const std::vector<csvplan::Column> &columns = csvplan::columns();
-    QByteArray bytes = "{\n" + planMembers(plan) + ",\n  \"tasks\": [";
+    QByteArray bytes;
+    bytes.reserve(pieceBytes + pieceBytes / 4);
+    const auto isTaken = [&bytes, &take] {
+        if (bytes.size() < pieceBytes)
+            return true;
+        const bool goesOn = take(bytes);
+        bytes.resize(0);
+        return goesOn;
+    };
+    bytes += "{\n" + planMembers(plan) + ",\n  \"tasks\": [";
+    QByteArray cell;
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
-        QByteArrayList members;
+        bytes += pos ? ",\n    {" : "\n    {";
         for (std::size_t column = 0; column < columns.size(); ++column) {
-            const QString text = rows.text(pos, column);
-            members.append('"' + QByteArray(columns[column].name) +
-                           "\": " + (columns[column].isNumber ? text.toUtf8() : jsonText(text)));
+            bytes += column ? ", \"" : "\"";
+            bytes += columns[column].name;
+            bytes += "\": ";
+            if (columns[column].isNumber) {
+                rows.add(pos, column, bytes);
+                continue;
+            }
+            cell.resize(0);
+            rows.add(pos, column, cell);
+            addJsonText(bytes, cell);
         }
-        for (const Field &field : fields)
-            members.append('"' + QByteArray(field.name) +
-                           "\": " + csvplan::numberText(field.number(plan, *plan.task(pos))).toUtf8());
-        bytes += (pos ? ",\n    {" : "\n    {") + members.join(", ") + '}';
+        for (const Field &field : fields) {
+            bytes += ", \"";
+            bytes += field.name;
+            bytes += "\": ";
+            bytes += csvplan::numberText(field.number(plan, *plan.task(pos))).toLatin1();
+        }
+        bytes += '}';
+        if (!isTaken())
+            return false;
     }
     bytes += "\n  ],\n  \"moved\": [";
-    for (std::size_t i = 0; i < plan.moves.size(); ++i)
+    for (std::size_t i = 0; i < plan.moves.size(); ++i) {
         bytes += (i ? ",\n" : "\n") + moveJson(plan, plan.moves[i]);
-    return bytes + "\n  ]\n}\n";
+        if (!isTaken())
+            return false;
+    }
+    bytes += "\n  ]\n}\n";
+    return take(bytes);
 }
 
 namespace {

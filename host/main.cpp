@@ -1,6 +1,7 @@
 #include "app.h"
 #include "console.h"
 #include "datetext.h"
+#include "plan.h"
 #include "runinglog.h"
 #include "scratch.h"
 #include "support/kwclock.h"
@@ -139,6 +140,7 @@ int run(int argc, char **argv, bool &hasLostReader)
     // Never deleted: the offscreen platform loses its screen when it is torn down, which leak checks report.
     new QGuiApplication(argc, argv);
     texts::fillLibraryTables();
+    Plan::isLast = true;
     const int code = runCommand(console);
     hasLostReader = console.hasLostReader();
     return code;

@@ -11,6 +11,20 @@
 #include "texts.h"
 #include <QHash>
 
+bool Plan::isLast = false;
+
+Plan::~Plan()
+{
+    struct Kept
+    {
+        std::unique_ptr<KWDocument> document;
+        ImportedPlan imported;
+    };
+    static std::vector<Kept> *const kept = new std::vector<Kept>;
+    if (isLast)
+        kept->push_back({std::move(document), std::move(imported)});
+}
+
 namespace plan {
 
 void countSlackIn(Plan &plan, unsigned int unit)

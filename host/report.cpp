@@ -149,8 +149,10 @@ public:
         if (!m_options.plain)
             text += title(m_plan, m_times, m_style, m_width) + QLatin1Char('\n');
         addHeadings(text);
+        QString cell;
+        cell.reserve(usualUnits);
         for (const int pos : m_positions) {
-            addRow(text, sheet, pos);
+            addRow(text, cell, sheet, pos);
             if (text.size() >= pieceUnits && !flush())
                 return false;
         }
@@ -163,18 +165,28 @@ public:
     }
 
 private:
-    QString cellOf(const ShownColumn &column, const columns::Sheet &sheet, int pos) const
+    // Into a text whose memory is used again; its width.
+    int cellOf(const ShownColumn &column, const columns::Sheet &sheet, int pos, QString &cell) const
     {
-        return textwidth::oneLine(column.column->text(sheet, pos), m_style.ascii);
+        cell.resize(0);
+        column.column->add(sheet, pos, cell);
+        if (textwidth::isPlain(cell))
+            return cell.size();
+        cell = textwidth::oneLine(cell, m_style.ascii);
+        const int width = textwidth::of(cell);
+        cell.reserve(usualUnits);
+        return width;
     }
 
     void measure()
     {
         const columns::Sheet sheet(m_plan, m_times, m_showYears, m_style.expanded);
+        QString cell;
+        cell.reserve(usualUnits);
         for (ShownColumn &column : m_columns) {
             column.width = textwidth::of(column.heading);
             for (const int pos : m_positions)
-                column.width = qMax(column.width, textwidth::of(cellOf(column, sheet, pos)));
+                column.width = qMax(column.width, cellOf(column, sheet, pos, cell));
             // The mark keeps its place where no task has one.
             if (column.heading.isEmpty())
                 column.width = qMax(column.width, 1);
@@ -227,22 +239,44 @@ private:
         text += trimmedRight(line);
     }
 
-    void addRow(QString &text, const columns::Sheet &sheet, int pos) const
+    void addRow(QString &text, QString &cell, const columns::Sheet &sheet, int pos) const
     {
         const KWTaskInfo *task = m_plan.task(pos);
-        QString line;
+        const int begin = text.size();
         for (const ShownColumn &column : m_columns) {
-            QString cell = cellOf(column, sheet, pos);
-            if (isName(column))
+            int width = cellOf(column, sheet, pos, cell);
+            if (isName(column) && width > column.width) {
                 cell = textwidth::elided(cell, column.width, m_style.cut);
-            const QString padded = textwidth::padded(cell, column.width, column.column->alignRight);
+                width = textwidth::of(cell);
+            }
             const bool isMark = *column.column->heading == '\0';
             const Style::Tone tone = isMark ? Style::Critical : task->isParent() ? Style::Bold : Style::Plain;
-            line += m_style.toned(padded, isMark || isName(column) ? tone : Style::Plain) + blank();
+            if (m_style.color && (isMark || isName(column))) {
+                text += m_style.toned(textwidth::padded(cell, column.width, column.column->alignRight), tone);
+            } else {
+                if (column.column->alignRight)
+                    addBlanks(text, column.width - width);
+                text += cell;
+                if (!column.column->alignRight)
+                    addBlanks(text, column.width - width);
+            }
+            addBlanks(text, gapColumns);
         }
-        if (m_withBars)
-            line += m_style.line + bars::bar(m_plan, m_times, m_axis, pos, m_style);
-        text += trimmedRight(line);
+        if (m_withBars) {
+            text += m_style.line;
+            bars::add(text, m_plan, m_times, m_axis, pos, m_style);
+        }
+        int end = text.size();
+        while (end > begin && text.at(end - 1) == QLatin1Char(' '))
+            --end;
+        text.truncate(end);
+        text += QLatin1Char('\n');
+    }
+
+    static void addBlanks(QString &text, int count)
+    {
+        for (; count > 0; --count)
+            text += QLatin1Char(' ');
     }
 
     // As many meanings in a line as fit.
@@ -275,6 +309,8 @@ private:
             --length;
         return line.left(length) + QLatin1Char('\n');
     }
+
+    static constexpr int usualUnits = 128; // of a cell at most
 
     const Plan &m_plan;
     const shown::Times &m_times;
@@ -362,6 +398,7 @@ QString inLines(const QStringList &parts, int width)
 
 QString title(const Plan &plan, const shown::Times &times, const Style &style, int width)
 {
+    const CalendarHold hold(*plan.document);
     const QString name = textwidth::elided(textwidth::oneLine(plan.name, style.ascii), width, style.cut);
     QStringList first{name, counted(plan.taskCount(), "%1 task", "%1 tasks")};
     const Range range = rangeOf(plan, times);

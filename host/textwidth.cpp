@@ -52,13 +52,6 @@ char32_t nextCharacter(const QString &text, int &at)
     return high.unicode();
 }
 
-// Nothing but what every terminal shows in one column each.
-bool isPlain(const QString &text)
-{
-    return std::all_of(text.begin(), text.end(),
-                       [](QChar sign) { return sign.unicode() >= 0x20 && sign.unicode() <= 0x7E; });
-}
-
 // Where the text must end to fill at most `columns`; marks that combine with the last character stay with it.
 int lengthFitting(const QString &text, int columns)
 {
@@ -88,6 +81,12 @@ int ofCharacter(char32_t character)
     if (character >= joiningHangul.first && character <= joiningHangul.last)
         return 0;
     return isWide(character) ? 2 : 1;
+}
+
+bool isPlain(const QString &text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar sign) { return sign.unicode() >= 0x20 && sign.unicode() <= 0x7E; });
 }
 
 int of(const QString &text)

@@ -330,11 +330,16 @@ bool Rows::isCritical(int pos) const
 QString Rows::text(int pos, std::size_t column) const
 {
     QByteArray bytes;
+    add(pos, column, bytes);
+    return QString::fromUtf8(bytes);
+}
+
+void Rows::add(int pos, std::size_t column, QByteArray &bytes) const
+{
     Text out(bytes);
     cells[column].add({m_document, m_document.workCalendar(), m_imported, m_dates,
                        *m_document.getTaskInfoAt(pos), pos, m_start, isCritical(pos)},
                       out);
-    return QString::fromUtf8(bytes);
 }
 
 bool Rows::write(const std::function<bool(const QByteArray &)> &take) const

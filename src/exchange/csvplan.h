@@ -32,6 +32,8 @@ class KWGANTT_EXPORT Rows
 public:
     Rows(KWDocument &document, const ImportedPlan &imported);
     QString text(int pos, std::size_t column) const;
+    // The same in UTF-8, behind what the bytes hold.
+    void add(int pos, std::size_t column, QByteArray &bytes) const;
     // The file, titles first, piece by piece; ends where `take` answers false.
     bool write(const std::function<bool(const QByteArray &)> &take) const;
     QByteArray bytes() const;

@@ -34,7 +34,8 @@ int levelOfCode(const QString &code)
     int level = 1;
     bool isDigitBefore = false;
     for (const QChar sign : code.trimmed()) {
-        if (sign.isDigit()) {
+        const bool isPlainDigit = sign >= QLatin1Char('0') && sign <= QLatin1Char('9');
+        if (isPlainDigit || sign.isDigit()) {
             isDigitBefore = true;
         } else if (sign == QLatin1Char('.') && isDigitBefore) {
             ++level;
