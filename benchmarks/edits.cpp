@@ -111,10 +111,7 @@ void measureReach(int tasks)
     document->taskCollection()->pushAllSuccessors();
     PlanEdits(*document, QStringLiteral("Edit")).schedule(PlanEdits::AsGiven);
     ActionManager &actions = document->actionManager();
-    int middle = document->taskCount() / 2;
-    while (document->getTaskInfoAt(middle)->isParent())
-        ++middle;
-    int loose = middle; // the leaf at the end of its chain that can finish latest without consequences
+    int loose = 0; // the leaf at the end of its chain that can finish latest without consequences
     qint64 most = -1;
     for (int pos = 0; pos < document->taskCount(); ++pos) {
         const KWTaskInfo &task = *document->getTaskInfoAt(pos);
@@ -124,7 +121,7 @@ void measureReach(int tasks)
         most = slack;
         loose = pos;
     }
-    double days = 10;
+    double days = 60;
     int moved = 0;
     const auto stretch = [&](int pos) {
         TaskValues values;
@@ -134,7 +131,24 @@ void measureReach(int tasks)
                     .moves.size();
     };
     const auto longer = [&days] { days += 1; };
-    for (const auto &[name, pos] : {std::pair{"few", loose}, {"the middle", middle}, {"all", first}}) {
+    // The leaf that takes along the number of tasks nearest to a tenth of all.
+    int middle = first;
+    int nearest = tasks;
+    constexpr int tries = 40;
+    for (int i = 1; i < tries; ++i) {
+        int pos = int(qint64(tasks) * i / tries);
+        while (document->getTaskInfoAt(pos)->isParent())
+            ++pos;
+        stretch(pos);
+        longer();
+        stretch(pos); // it has used up its slack
+        if (std::abs(moved - tasks / 10) < nearest) {
+            nearest = std::abs(moved - tasks / 10);
+            middle = pos;
+        }
+        actions.undo(2);
+    }
+    for (const auto &[name, pos] : {std::pair{"few", loose}, {"a tenth", middle}, {"all", first}}) {
         const double edit = best(runs, longer, [&, at = pos] { stretch(at); });
         const double undo = best(
             runs, [&] { actions.redo(); }, [&] { actions.undo(1); });
@@ -159,6 +173,36 @@ void measureReach(int tasks)
     KWTaskInfo &task = *document->getTaskInfoAt(first);
     stack("60 of them by hand", [&] { stretchByHand(*document, task, days); });
     std::fflush(stdout);
+}
+
+// A thousand leaves copied, pasted in the middle and cut again.
+void measureClipboard(KWDocument &document, quint32 beside)
+{
+    constexpr int few = 9;
+    constexpr int count = 1000;
+    const int tasks = document.taskCount();
+    QVector<quint32> ids;
+    for (int pos = tasks / 3; ids.size() < count && pos < tasks; ++pos) {
+        const KWTaskInfo &task = *document.getTaskInfoAt(pos);
+        if (!task.isParent())
+            ids.append(task.ID);
+    }
+    const auto nothing = [] {};
+    const auto undo = [&] { document.actionManager().undo(1); };
+    const auto line = [tasks](const char *name, double seconds) {
+        std::printf("%-34s %8d %11.6f s\n", name, tasks, seconds);
+    };
+    line("copy 1,000 tasks",
+         best(few, nothing, [&] { PlanEdits(document, QStringLiteral("Edit")).copy(ids); }));
+    const auto paste = [&] { PlanEdits(document, QStringLiteral("Edit")).paste(beside, PlanEdits::Below); };
+    paste();
+    line("paste 1,000 tasks", best(few, undo, paste));
+    line("undo of that", best(
+                             few, [&] { document.actionManager().redo(); }, undo));
+    const auto cut = [&] { PlanEdits(document, QStringLiteral("Edit")).cut(ids); };
+    cut();
+    line("cut 1,000 tasks", best(few, undo, cut));
+    undo();
 }
 
 void measure(int tasks, int assignmentsPerLeaf)
@@ -209,6 +253,7 @@ void measure(int tasks, int assignmentsPerLeaf)
     compare(
         "insert a task in the middle", tasks, nothing, [&] { insertByHand(*document, row); },
         [&] { PlanEdits(*document, QStringLiteral("Edit")).insert(id, PlanEdits::Above); });
+    measureClipboard(*document, id);
     const int inner = middleRow(*document);
     const quint32 innerId = document->getTaskInfoByRow(inner)->ID;
     const auto undo = [&] { document->actionManager().undo(1); };
