@@ -332,7 +332,7 @@ void TaskBackups::keepMoves(const KWDocument &document)
         old.ID = moved.id;
         append(old, 0, blockOf(fields));
     }
-    m_moved = {};
+    m_moved = std::vector<Moved>(); // gives its memory back
 }
 
 void TaskBackups::keepChanges(const KWDocument &document, Bars barsToo)

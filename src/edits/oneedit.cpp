@@ -251,14 +251,21 @@ std::vector<OneEdit::Dates> OneEdit::datesBefore() const
         return m_datesBefore;
     const outline::Tasks all = tasks();
     std::vector<Dates> dates;
+    std::vector<int> at(std::size_t(all.list.size()), -1); // which of them, by place in the list
     m_record->singleTasks().forEachDates([&](quint32 id, quint32 start, quint32 finish) {
-        const TaskRecord *task = all.byId(id);
-        if (task && (task->Start != start || task->Finish != finish))
-            dates.push_back({id, start, finish});
+        const int pos = all.index.posOf(id);
+        if (pos < 0 || (all.list[pos]->Start == start && all.list[pos]->Finish == finish))
+            return;
+        at[std::size_t(pos)] = int(dates.size());
+        dates.push_back({id, start, finish});
     });
-    std::sort(dates.begin(), dates.end(),
-              [&](const Dates &a, const Dates &b) { return all.index.posOf(a.id) < all.index.posOf(b.id); });
-    return dates;
+    std::vector<Dates> inOrder;
+    inOrder.reserve(dates.size());
+    for (const int each : at) {
+        if (each >= 0)
+            inOrder.push_back(dates[std::size_t(each)]);
+    }
+    return inOrder;
 }
 
 void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited)

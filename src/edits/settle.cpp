@@ -43,22 +43,33 @@ bool isSame(double a, double b)
     return std::memcmp(&a, &b, sizeof a) == 0;
 }
 
-// Tasks, each once, in the order in which they came.
+// Tasks of a list, each once, in the order in which they came.
 class TaskSet
 {
 public:
+    explicit TaskSet(const Tasks &all)
+        : m_all(all)
+        , m_isIn(std::size_t(all.list.size()))
+    {
+    }
+
     bool add(TaskRecord *task)
     {
-        if (!m_ids.add(task->ID))
+        const std::size_t pos = placeOf(*task);
+        if (m_isIn[pos])
             return false;
+        m_isIn[pos] = true;
         m_tasks.push_back(task);
         return true;
     }
-    bool contains(const TaskRecord &task) const { return m_ids.contains(task.ID); }
+    bool contains(const TaskRecord &task) const { return m_isIn[placeOf(task)]; }
     const std::vector<TaskRecord *> &tasks() const { return m_tasks; }
 
 private:
-    TaskIndex m_ids;
+    std::size_t placeOf(const TaskRecord &task) const { return std::size_t(m_all.index.posOf(task.ID)); }
+
+    const Tasks &m_all;
+    std::vector<bool> m_isIn; // by place
     std::vector<TaskRecord *> m_tasks;
 };
 
@@ -88,6 +99,10 @@ public:
         , m_hourScale(document.getMinorUnit() >= duration::Hour)
         , m_what(changes.what)
         , m_replaced(replaced)
+        , m_named(m_tasks)
+        , m_summaries(m_tasks)
+        , m_touched(m_tasks)
+        , m_progressed(m_tasks)
     {
         for (const quint32 id : changes.tasks) {
             if (TaskRecord *task = m_tasks.byId(id))
@@ -232,9 +247,13 @@ private:
             remember(moves);
             if (moved.empty())
                 break;
-            for (TaskRecord *task : moved)
+            // A push leaves no successor of what it passed too early, but for summaries that grow with it.
+            grown.clear();
+            for (TaskRecord *task : moved) {
                 touch(task);
-            grown = moved;
+                if (task->isParent())
+                    grown.push_back(task);
+            }
         }
     }
 

@@ -19,6 +19,8 @@ KWDocument::Caches &KWDocument::withIndex() const
         caches.lowestFreeId = 1;
         caches.indexedAt = m_idRevision;
     }
+    if (caches.indexed == 0)
+        caches.records.reserve(m_tasks.size());
     for (; caches.indexed < m_tasks.size(); ++caches.indexed) {
         KWTaskInfo *task = m_tasks[caches.indexed];
         caches.index.add(task->ID, caches.indexed);

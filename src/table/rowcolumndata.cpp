@@ -189,11 +189,14 @@ QString tablexml::heightsText(const QList<double> &heights)
 {
     constexpr int digits = 6;
     QString text;
+    QString last; // mostly they are the same
     for (int pos = 0; pos < heights.size(); ++pos) {
         if (pos > 0)
             text += QLatin1Char(';');
         const double height = heights[pos];
-        text += QString::number(std::isfinite(height) ? height : 0.0, 'g', digits);
+        if (pos == 0 || height != heights[pos - 1] || height == 0)
+            last = QString::number(std::isfinite(height) ? height : 0.0, 'g', digits);
+        text += last;
     }
     return text;
 }

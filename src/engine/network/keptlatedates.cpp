@@ -63,17 +63,65 @@ bool Kept::findChanges(const outline::Tasks &tasks)
     return true;
 }
 
-// What the tasks are and how they hang together; nothing is filled in yet.
+namespace {
+
+// Where tasks stood in an earlier list. Most of them follow each other there as they do now.
+template <typename Known>
+class OldPlaces
+{
+public:
+    explicit OldPlaces(const std::vector<Known> &known)
+        : m_known(known)
+    {
+    }
+
+    int posOf(quint32 id) // -1: nowhere
+    {
+        if (m_next < m_known.size() && m_known[m_next].id == id)
+            return int(m_next++);
+        for (; m_indexed < m_known.size(); ++m_indexed)
+            m_index.add(m_known[m_indexed].id, int(m_indexed));
+        const int pos = m_index.posOf(id);
+        if (pos >= 0)
+            m_next = std::size_t(pos) + 1;
+        return pos;
+    }
+
+private:
+    const std::vector<Known> &m_known;
+    std::size_t m_next = 0;
+    std::size_t m_indexed = 0;
+    TaskIndex m_index;
+};
+}
+
+// What the tasks are and how they hang together. Nothing is filled in yet: of those that were there before,
+// all of which the values depend on but the project's finish, nothing will have to be.
 void Kept::beginAnew(const outline::Tasks &tasks)
 {
     const std::size_t count = std::size_t(tasks.list.size());
+    std::vector<Known> oldKnown = std::move(m_known);
+    const std::vector<quint32> oldLengths = std::move(m_lengths);
+    const std::vector<Tail> oldTails = std::move(m_tails);
+    OldPlaces<Known> oldPlaces(oldKnown);
+    std::vector<int> oldPos(count);
     m_span = Span();
-    m_known.assign(count, Known());
+    m_known.clear();
+    m_known.reserve(count);
     m_lengths.assign(count, 0);
     m_parents.assign(count, -1);
     for (std::size_t pos = 0; pos < count; ++pos) {
         const TaskRecord &task = *tasks.list[int(pos)];
-        Known &known = m_known[pos];
+        int &old = oldPos[pos] = oldPlaces.posOf(task.ID);
+        const Known *before = old < 0 ? nullptr : &oldKnown[std::size_t(old)];
+        const bool hasDates = before && before->start == task.Start && before->finish == task.Finish;
+        if (hasDates && before->hasBegun == hasBegun(task) && areIn(task, before->values)) {
+            m_known.push_back(*before);
+        } else {
+            m_known.emplace_back();
+            old = -1;
+        }
+        Known &known = m_known.back();
         known.id = task.ID;
         known.parent = task.ParentID;
         known.links = task.Depends;
@@ -83,7 +131,7 @@ void Kept::beginAnew(const outline::Tasks &tasks)
             m_parents[pos] = tasks.index.posOf(task.ParentID);
         if (!rollup::isDated(task))
             continue;
-        m_lengths[pos] = m_late->length(task);
+        m_lengths[pos] = old < 0 ? m_late->length(task) : oldLengths[std::size_t(old)];
         m_span.start = m_span.start == 0 ? task.Start : std::min(m_span.start, task.Start);
         m_span.finish = std::max(m_span.finish, task.Finish);
     }
@@ -117,8 +165,12 @@ void Kept::beginAnew(const outline::Tasks &tasks)
     m_toFill.clear();
     m_changedDates.clear();
     m_changedValues.clear();
-    for (int pos = 0; pos < int(count); ++pos)
-        addWork(pos);
+    for (std::size_t pos = 0; pos < count; ++pos) {
+        const int old = oldPos[pos];
+        if (old < 0 || oldTails[std::size_t(old)].kind != m_tails[pos].kind ||
+            oldTails[std::size_t(old)].secs != m_tails[pos].secs)
+            addWork(int(pos));
+    }
 }
 
 void Kept::addWork(int pos)
@@ -212,7 +264,7 @@ Kept::Span Kept::update(const outline::Tasks &tasks, const worktime::WorkCalenda
     for (const int pos : m_changedValues)
         addWork(pos);
     followTails();
-    if (m_projectFinish != m_span.finish && !isAnew) {
+    if (m_projectFinish != m_span.finish) {
         for (int pos = 0; pos < tasks.list.size(); ++pos)
             addWork(pos);
     }

@@ -294,61 +294,58 @@ private:
     std::vector<Old> m_old;
 };
 
-// Which links count for a push that starts with some tasks.
+// Whether a predecessor's link to the task that begins at a node counts. When the push would come back to the
+// predecessor, it has to be a link that is no part of a ring.
 class Counting
 {
 public:
-    Counting(const EventNetwork &network, const Schedule &schedule, const std::vector<int> &starts)
+    Counting(const EventNetwork &network, const Schedule &schedule)
         : m_network(network)
         , m_schedule(schedule)
-        , m_starts(starts)
+        , m_rank(schedule.deadEdge.empty() ? network.nodes().size() : 0)
     {
+        for (std::size_t rank = 0; rank < schedule.order.size() && !m_rank.empty(); ++rank)
+            m_rank[std::size_t(schedule.order[rank])] = int(rank);
     }
 
-    // The predecessor's link to the task that begins at the node. When the push would come back to the
-    // predecessor, it has to be a link that is no part of a ring.
-    bool operator()(int predecessorPos, int successorNode)
+    bool operator()(int predecessorPos, int successorNode) const
     {
         const int node = predecessorPos < 0 ? none : m_network.endOf(predecessorPos);
         if (node == none)
             return true;
+        // Without rings a link that is in the lists leads onward in the order.
+        if (!m_rank.empty())
+            return m_rank[node] < m_rank[successorNode] || !isReached(node, successorNode);
         const linkgraph::Graph &graph = m_network.graph();
         const int first = graph.first[node];
         for (int edge = first; edge < first + m_network.nodes()[node].linkCount; ++edge) {
             if (graph.targets[edge] == successorNode)
-                return m_schedule.deadEdge.empty() || !m_schedule.deadEdge[edge];
+                return !m_schedule.deadEdge[edge];
         }
-        return !isReached(node); // a link of a summary above, or one that is not in the lists
+        return false;
     }
 
 private:
-    // Whether the push can come there.
-    bool isReached(int node)
+    bool isReached(int node, int from) const
     {
-        if (m_reached.empty()) {
-            m_reached.assign(m_network.nodes().size(), 0);
-            std::vector<int> open;
-            const auto reach = [&](int each) {
-                if (!std::exchange(m_reached[each], 1))
-                    open.push_back(each);
-            };
-            for (const int pos : m_starts)
-                reach(m_network.beginOf(pos));
-            while (!open.empty()) {
-                const int each = open.back();
-                open.pop_back();
-                const linkgraph::Graph &graph = m_network.graph();
-                for (int edge = graph.first[each]; edge < graph.first[each + 1]; ++edge)
-                    reach(graph.targets[edge]);
+        std::vector<char> isSeen(m_rank.size(), 0);
+        std::vector<int> open{from};
+        while (!open.empty() && !isSeen[node]) {
+            const int each = open.back();
+            open.pop_back();
+            const linkgraph::Graph &graph = m_network.graph();
+            for (int edge = graph.first[each]; edge < graph.first[each + 1]; ++edge) {
+                const int target = graph.targets[edge];
+                if (m_rank[target] <= m_rank[node] && !std::exchange(isSeen[target], 1))
+                    open.push_back(target);
             }
         }
-        return m_reached[node];
+        return isSeen[node];
     }
 
     const EventNetwork &m_network;
     const Schedule &m_schedule;
-    const std::vector<int> &m_starts;
-    std::vector<char> m_reached; // by node; empty until it is asked for
+    std::vector<int> m_rank; // by node; empty with rings
 };
 
 int posOf(const outline::Tasks &tasks, const TaskRecord &task)
@@ -400,21 +397,27 @@ std::vector<TaskRecord *> along(const WorkCalendar &calendar, const outline::Tas
     // Where a push can reach little, its own network costs less than a look at the whole plan.
     constexpr std::size_t leastTasks = 16;
     const std::size_t mostNodes = kept ? std::size_t(tasks.list.size()) / leastTasks : std::size_t(-1);
-    std::optional<EventNetwork> own(std::in_place, tasks, starts, mostNodes);
-    std::optional<Schedule> ownOrder;
-    if (own->isWhole()) {
-        ownOrder = linkgraph::schedule(*own, tasks);
-    } else {
+    std::optional<EventNetwork> own;
+    if (starts.size() <= mostNodes)
+        own.emplace(tasks, starts, mostNodes);
+    if (own && !own->isWhole())
         own.reset();
+    if (!own) {
         kept->update(tasks);
+        // Which links of rings count depends on where a push starts.
+        if (!kept->schedule().deadEdge.empty())
+            own.emplace(tasks, starts);
     }
+    std::optional<Schedule> ownOrder;
+    if (own)
+        ownOrder = linkgraph::schedule(*own, tasks);
     const EventNetwork &network = own ? *own : kept->network();
     const Schedule &order = own ? *ownOrder : kept->schedule();
     Pass pass(calendar, tasks, hourScale, undated, network, order);
     if (moves)
         pass.rememberMoves();
     pass.announceTo(before);
-    Counting counts(network, order, starts);
+    const Counting counts(network, order);
     for (const Ends &link : early) {
         const int node = network.beginOf(link.successor);
         if (counts(link.predecessor, node))

@@ -2,6 +2,7 @@
 #include "engine/record/idlist.h"
 #include "engine/record/rowfont.h"
 #include "engine/record/taskrecord.h"
+#include <QtAlgorithms>
 
 namespace outline {
 
@@ -78,20 +79,34 @@ std::vector<TaskRecord *> ancestors(const Tasks &tasks, const TaskRecord &task)
 
 std::vector<TaskRecord *> withAncestors(const Tasks &tasks, const std::vector<TaskRecord *> &changed)
 {
-    TaskIndex seen;
-    std::vector<int> found;
+    // A bit for each place: few changed tasks cost little, and many need no sorting.
+    constexpr int bitsOfWord = 64;
+    std::vector<quint64> found(std::size_t(tasks.list.size() / bitsOfWord + 1));
+    std::size_t count = 0;
+    const auto isNew = [&](int pos) {
+        quint64 &word = found[std::size_t(pos / bitsOfWord)];
+        const quint64 bit = quint64(1) << pos % bitsOfWord;
+        const bool known = word & bit;
+        word |= bit;
+        count += known ? 0 : 1;
+        return !known;
+    };
     for (const TaskRecord *task : changed) {
         int pos = tasks.index.posOf(task->ID);
-        while (pos >= 0 && seen.add(tasks.list[pos]->ID)) {
-            found.push_back(pos);
+        while (pos >= 0 && isNew(pos)) {
             const quint32 parent = tasks.list[pos]->ParentID;
             pos = parent == 0 ? -1 : tasks.index.posOf(parent);
         }
     }
-    std::sort(found.rbegin(), found.rend());
     std::vector<TaskRecord *> ordered;
-    for (const int pos : found)
-        ordered.push_back(tasks.list[pos]);
+    ordered.reserve(count);
+    for (int word = int(found.size()) - 1; word >= 0; --word) {
+        for (quint64 bits = found[std::size_t(word)]; bits != 0;) {
+            const int bit = bitsOfWord - 1 - int(qCountLeadingZeroBits(bits));
+            bits &= ~(quint64(1) << bit);
+            ordered.push_back(tasks.list[word * bitsOfWord + bit]);
+        }
+    }
     return ordered;
 }
 
