@@ -4,6 +4,7 @@
 #include "kwgantt_export.h"
 #include <QList>
 #include <array>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -25,28 +26,39 @@ struct HourPoint
     qint64 secs = 0;
 };
 
-// A list of pointers to any class that is a CalendarRecord, read where it stands: it must outlive this.
+// Pointers to exceptions in a list of pointers to any class that is a CalendarRecord, read where they stand:
+// the list must outlive this. Each look at the working time reads them all.
 class Exceptions
 {
 public:
-    template <typename List>
-    Exceptions(const List &list)
-        : m_list(&list)
-        , m_size(int(list.size()))
-        , m_at([](const void *of, int place) -> const CalendarRecord * {
-            return (*static_cast<const List *>(of))[place];
-        })
+    template <typename Exception>
+    Exceptions(const QList<Exception *> &list)
+        : m_first(list.isEmpty() ? nullptr : &*list.begin())
+        , m_size(list.size())
     {
+        // Where the record stands in the exception is the same for all of them.
+        for (int place = 0; place < m_size && m_offset < 0; ++place) {
+            if (const Exception *exception = list[place])
+                m_offset =
+                    int(reinterpret_cast<const char *>(static_cast<const CalendarRecord *>(exception)) -
+                        reinterpret_cast<const char *>(exception));
+        }
     }
 
     int size() const { return m_size; }
     bool isEmpty() const { return m_size == 0; }
-    const CalendarRecord *operator[](int place) const { return m_at(m_list, place); } // may be null
+    const CalendarRecord *operator[](int place) const // may be null
+    {
+        const char *exception = nullptr;
+        std::memcpy(&exception, static_cast<const char *>(m_first) + std::size_t(place) * sizeof(exception),
+                    sizeof(exception));
+        return exception ? reinterpret_cast<const CalendarRecord *>(exception + m_offset) : nullptr;
+    }
 
 private:
-    const void *m_list;
+    const void *m_first;
     int m_size;
-    const CalendarRecord *(*m_at)(const void *list, int place);
+    int m_offset = -1; // bytes; not known without exceptions
 };
 
 // What the model is made from; refers to the document's working days, hours and exceptions.
