@@ -64,6 +64,7 @@ set(kw_module_headers
     support/findings.h
     support/kwclock.h
     support/kwlimits.h
+    support/longwork.h
     table/customtable.h
     table/rowcolumndata.h)
 if(KW_WITH_EXPORT)

@@ -52,6 +52,7 @@ constexpr Text texts[] = {
     {EditRefusal::BadWidth, "that is no width of a column", "write a number of pixels up to 10000"},
     {EditRefusal::NothingToPaste, "nothing to paste", "copy or cut tasks first"},
     {EditRefusal::ClipboardFailed, "the tasks cannot be copied", ""},
+    {EditRefusal::GivenUp, "cancelled: the plan is as it was", ""},
 };
 
 QMap<EditRefusal, QString> table(const char *const Text::*member)

@@ -44,7 +44,8 @@ enum class EditRefusal {
     NoSuchColumn,
     BadWidth,
     NothingToPaste,
-    ClipboardFailed
+    ClipboardFailed,
+    GivenUp // by the host, see LongWork
 };
 
 // One task whose dates an edit changed.

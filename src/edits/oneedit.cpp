@@ -7,6 +7,7 @@
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
+#include "support/longwork.h"
 #include <algorithm>
 
 OneEdit::OneEdit(EditStep &step)
@@ -70,6 +71,7 @@ void OneEdit::begin(unsigned backups, Reach reach)
 {
     if (m_step.records.empty())
         m_step.wasModified = document().isModified();
+    m_wasModified = document().isModified();
     constexpr unsigned int noFlags = 0;
     m_record = std::make_unique<TaskAction>(&document(), m_step.name, noFlags);
     m_reach = reach;
@@ -230,12 +232,26 @@ EditAnswer OneEdit::finish()
         replaced.before = [this](TaskRecord &task) { m_record->addMovedTask(task); };
     const QVector<settling::Push> pushes =
         settling::settle(document(), changes, m_hasAllTasks ? nullptr : &replaced);
+    if (LongWork::wasGivenUp())
+        return takeBack(replaced.lateValues);
     document().setModified(true);
     listMoves(pushes, edited);
     m_record->addLateValues(replaced.lateValues);
     m_record->close(Bars::Follow);
     m_step.records.push_back(std::move(m_record));
     return answer;
+}
+
+// What was settled up to here goes with the edit.
+EditAnswer OneEdit::takeBack(const std::vector<LateValues> &lateValues)
+{
+    m_record->addLateValues(lateValues);
+    m_record->close(Bars::Follow);
+    std::vector<std::unique_ptr<TaskAction>> records;
+    records.push_back(std::move(m_record));
+    StepAction(&document(), m_step.name, std::move(records)).unExecute();
+    document().setModified(m_wasModified);
+    return refuse(EditRefusal::GivenUp);
 }
 
 EditAnswer OneEdit::finishRows()

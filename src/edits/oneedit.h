@@ -6,6 +6,7 @@
 #include <vector>
 
 class KWTaskInfo;
+struct LateValues;
 struct TaskRecord;
 
 // The step that is being made.
@@ -82,10 +83,12 @@ private:
     void dropUnsuitedLinks();
     void listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited);
     std::vector<Dates> datesBefore() const;
+    EditAnswer takeBack(const std::vector<LateValues> &lateValues);
 
     EditStep &m_step;
     std::unique_ptr<TaskAction> m_record;
     bool m_hasAllTasks = false;
+    bool m_wasModified = false;
     Reach m_reach = MovesTasks;
     std::vector<Dates> m_datesBefore; // of all tasks, where all of them are kept
     std::vector<quint32> m_newSummaries;

@@ -17,6 +17,7 @@
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/kwclock.h"
+#include "support/longwork.h"
 #include <algorithm>
 #include <cstring>
 #include <optional>
@@ -116,21 +117,31 @@ public:
 
     QVector<Push> run()
     {
+        enum { Begun, Moved, Summed, Found, Done };
+        const auto goesOn = [](int done) { return LongWork::goesOn(LongWork::Scheduling, done, Done); };
+        if (!goesOn(Begun))
+            return {};
         if (m_what & AsItStands)
             rollUpAll();
         else if (isWhole())
             moveAll();
         else if (m_what & movesTasks)
             moveReached();
+        if (!goesOn(Moved))
+            return {};
         measure();
         sumPercents();
         if (!(m_what & AsItStands))
             sumMoney();
         sumBaselines();
+        if (!goesOn(Summed))
+            return {};
         if (m_what & movesTasks)
             findLateDates();
         else
             refreshSlack();
+        if (!goesOn(Found))
+            return {};
         if (m_what & (Outline | Everything))
             emboldenSummaries();
         drawChart();

@@ -8,6 +8,7 @@
 #include "model/kwtaskinfo.h"
 #include "support/atomicfile.h"
 #include "support/kwlimits.h"
+#include "support/longwork.h"
 #include <QFile>
 #include <QFileInfo>
 #include <cmath>
@@ -71,6 +72,7 @@ void followSubtasks(KWDocument &document, const mspdi::PlanOfFile &plan, mspdi::
     before.reserve(std::size_t(document.taskCount()));
     for (const KWTaskInfo *task : document.taskList())
         before.push_back({task->Start, task->Finish});
+    const LongWork toTheEnd; // the plan has been replaced already
     settling::settle(document, {settling::AsItStands, {}, {}});
     const worktime::WorkCalendar &calendar = document.workCalendar();
     for (int pos = 0; pos < document.taskCount(); ++pos) {

@@ -13,6 +13,7 @@
 #include "schedule/kwtaskcollection.h"
 #include "support/kwclock.h"
 #include "support/likeness.h"
+#include "support/longwork.h"
 #include "table/rowcolumndata.h"
 #include <QMap>
 #include <QPair>
@@ -817,6 +818,8 @@ bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading
         sheetrows::Reader &reader = *readers[sheet];
         Source *source = book.sheets[std::size_t(sheet)];
         const bool isRead = source && reader.read(*source);
+        if (LongWork::wasGivenUp())
+            return false;
         setTitles(Sheet(sheet), reader.titles());
         if (sheet == exceltitles::TaskSheet) {
             if (!isRead || !reader.isKnown()) {

@@ -1,5 +1,6 @@
 #include "exchange/sheetreader.h"
 #include "format/wholenumber.h"
+#include "support/longwork.h"
 #include <QLocale>
 #include <algorithm>
 
@@ -44,7 +45,11 @@ bool Reader::read(Source &source)
     if (source.rowsAtMost() > 0)
         expectRows(source.rowsAtMost());
     Row row;
-    while (source.next(row)) {
+    constexpr qint64 rowsBetween = 256;
+    for (qint64 done = 0; source.next(row); ++done) {
+        if (done % rowsBetween == 0 &&
+            !LongWork::goesOn(LongWork::Reading, done, qint64(source.rowsAtMost())))
+            return false;
         row.line = row.line > 0 ? row.line : row.number;
         if (!m_reading.isExact)
             showPercentages(row);

@@ -9,6 +9,7 @@
 #include "model/taskscan.h"
 #include "runinglog.h"
 #include "support/kwlimits.h"
+#include "support/longwork.h"
 #include "support/xmlguard.h"
 #include "support/xmlsink.h"
 #include "support/xmltree.h"
@@ -429,6 +430,8 @@ bool KWDocument::loadDocument(const QString &folder, unsigned int)
         if (readTasks(path, parts, look, tasks))
             return takeOver(parts.root(), look, &tasks);
     }
+    if (LongWork::wasGivenUp())
+        return refuseReading(m_loadFindings, folder, latin1(documentFile), QStringLiteral("given up"));
     // As a whole it may be read all the same, and if not, it is told where.
     m_loadFindings.clear();
     XmlTree tree;

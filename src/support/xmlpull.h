@@ -23,6 +23,8 @@ public:
     // as they are written, and control characters, which are left out.
     int oddReferences() const { return m_oddReferences; }
     QString error() const { return m_error; } // why it failed; empty when it did not
+    qint64 bytes() const { return m_bytes.size(); }
+    qint64 bytesRead() const { return m_at - m_bytes.constData(); }
     // ---- At Begin and End ---------------------------------------------------------------------------------
     bool is(std::string_view name) const { return m_name == name; }
     std::string_view name() const { return m_name; }

@@ -1,4 +1,5 @@
 #include "support/xmltree.h"
+#include "support/longwork.h"
 #include "support/xmlguard.h"
 #include <QFile>
 #include <QFileInfo>
@@ -186,6 +187,8 @@ bool XmlParts::forEach(const Take &take, const std::function<void(const TreeSour
     AttributeCheck check;
     pugi::xml_document part;
     for (size_t i = 0; i < m_list.starts.size(); ++i) {
+        if (!LongWork::goesOn(LongWork::Reading, i == 0 ? m_list.begin : m_list.starts[i], m_list.end))
+            return false;
         char *at = m_bytes.data() + (i == 0 ? m_list.begin : m_list.starts[i]);
         char *const end = m_bytes.data() + (i + 1 < m_list.starts.size() ? m_list.starts[i + 1] : m_list.end);
         at = skipBlanks(at, end);

@@ -1,5 +1,6 @@
 #include "exchange/mspdi/recordreader.h"
 #include "support/kwlimits.h"
+#include "support/longwork.h"
 #include "support/xmlpull.h"
 #include <QTextCodec>
 #include <algorithm>
@@ -111,6 +112,12 @@ private:
         isRead = true;
         m_list = which;
         while (m_limit.isEmpty()) {
+            constexpr std::size_t recordsBetween = 256;
+            if (records.size() % recordsBetween == 0 &&
+                !LongWork::goesOn(LongWork::Reading, m_xml.bytesRead(), m_xml.bytes())) {
+                m_limit = QStringLiteral("given up");
+                break;
+            }
             const XmlPull::Token token = m_xml.next();
             if (token == XmlPull::Text)
                 continue;
