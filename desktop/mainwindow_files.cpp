@@ -1,0 +1,155 @@
+// Plans that are opened, saved and left.
+#include "edits/planreasons.h"
+#include "mainwindow.h"
+#include "quoted.h"
+#include "settings/kwrecentfilemanager.h"
+#include "views/notebar.h"
+#include "views/planchart.h"
+#include <QAction>
+#include <QApplication>
+#include <QFileInfo>
+#include <QMenu>
+
+bool MainWindow::openFile(const QString &path)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QString error;
+    const bool isOpen = m_session.open(path, error);
+    QApplication::restoreOverrideCursor();
+    if (!isOpen) {
+        tellRefusal(error, QString());
+        return false;
+    }
+    addRecent(path);
+    const int early = planreasons::earlyTaskCount(m_session.document());
+    if (m_session.tasksWithoutStart() > 0)
+        m_note->say(tr("%1 tasks had no start and were scheduled.").arg(m_session.tasksWithoutStart()));
+    else if (early > 0)
+        m_note->say(early == 1 ? tr("One task starts before a task that it waits for ends.")
+                               : tr("%1 tasks start before a task that they wait for ends.").arg(early),
+                    NoteBar::Told, tr("Schedule"), [this] { schedule(); });
+    if (!m_session.otherUser().isEmpty())
+        m_note->say(tr("The plan is also open in %1: whoever saves last wins.").arg(m_session.otherUser()),
+                    NoteBar::Refused);
+    return true;
+}
+
+void MainWindow::startAnew()
+{
+    m_session.startAnew();
+    m_note->say(
+        tr("Three tasks to try things on: type over a name, drag a bar, draw from one bar to another. "
+           "Ctrl+Shift+P finds every command."));
+}
+
+void MainWindow::offerCopies()
+{
+    for (const recovery::Copy &copy : recovery::abandoned()) {
+        const QMessageBox::StandardButton answer =
+            m_ask(tr("%1 was open when the program ended without closing it.").arg(quoted(copy.name)),
+                  tr("There is a copy of %1, with what had not been saved. Open it? Discard takes it away, "
+                     "Cancel keeps it for the next start.")
+                      .arg(copy.when.toString(QStringLiteral("yyyy-MM-dd HH:mm"))),
+                  QMessageBox::Open | QMessageBox::Discard | QMessageBox::Cancel);
+        if (answer == QMessageBox::Discard)
+            recovery::discard(copy);
+        if (answer != QMessageBox::Open)
+            continue;
+        QString error;
+        if (!m_session.openCopy(copy, error))
+            tellRefusal(error, QString());
+        else
+            m_note->say(tr("This is the copy. Saving it replaces the plan's own file."));
+        return;
+    }
+}
+
+void MainWindow::newPlan()
+{
+    if (mayLeave())
+        startAnew();
+}
+
+bool MainWindow::mayLeave()
+{
+    m_chart->leaveDrag();
+    if (!m_session.isModified())
+        return true;
+    switch (m_ask(tr("Save the changes to %1?").arg(quoted(m_session.name())), QString(),
+                  QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel)) {
+    case QMessageBox::Save:
+        save();
+        return !m_session.isModified();
+    case QMessageBox::Discard:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void MainWindow::save()
+{
+    if (m_session.path().isEmpty()) {
+        saveAs();
+        return;
+    }
+    if (m_session.wasChangedMeanwhile() &&
+        m_ask(tr("%1 was changed by another program since it was opened.").arg(quoted(m_session.name())),
+              tr("Saving replaces what was written there."),
+              QMessageBox::Save | QMessageBox::Cancel) != QMessageBox::Save)
+        return;
+    saveTo(m_session.path());
+}
+
+bool MainWindow::saveTo(const QString &path)
+{
+    QString error;
+    if (!m_session.save(path, error)) {
+        tellRefusal(error, QString());
+        return false;
+    }
+    addRecent(path);
+    m_note->say(tr("Saved."));
+    QTimer::singleShot(2500, m_note, [this] {
+        if (m_note->text() == tr("Saved."))
+            m_note->hide();
+    });
+    return true;
+}
+
+void MainWindow::checkFile()
+{
+    if (m_hasAskedAboutFile || !m_session.wasChangedMeanwhile())
+        return;
+    m_hasAskedAboutFile = true;
+    m_note->say(
+        tr("%1 was changed by another program.").arg(quoted(m_session.name())), NoteBar::Refused,
+        tr("Open it again"), [this] { openFile(m_session.path()); }, tr("Keep mine"),
+        [this] { m_session.acceptChangeMeanwhile(); });
+}
+
+void MainWindow::addRecent(const QString &path)
+{
+    KWRecentFileManager recent;
+    recent.load();
+    recent.addFile(QFileInfo(path).absoluteFilePath());
+    recent.save();
+}
+
+void MainWindow::fillRecent()
+{
+    m_recent->clear();
+    KWRecentFileManager recent;
+    recent.load();
+    for (const QString &path : recent.recentFiles()) {
+        const QFileInfo info(path);
+        QAction *action = m_recent->addAction(QStringLiteral("%1   (%2)").arg(info.fileName(), info.path()));
+        action->setEnabled(info.exists());
+        connect(action, &QAction::triggered, this, [this, path] {
+            if (mayLeave())
+                openFile(path);
+        });
+    }
+    if (m_recent->isEmpty())
+        m_recent->addAction(tr("None yet"))->setEnabled(false);
+}
