@@ -10,6 +10,7 @@
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwtaskcollection.h"
+#include "support/longwork.h"
 #include "support/savedtext.h"
 #include "table/rowcolumndata.h"
 #include <QClipboard>
@@ -94,7 +95,11 @@ public:
         const std::string before = savedText(m_document);
         const bool wasModified = chance(50);
         m_document.setModified(wasModified);
+        int stepsLeft = any(8) == 0 ? any(5) : -1;
+        const LongWork impatient([&stepsLeft](LongWork::Stage, qint64, qint64) { return stepsLeft-- != 0; });
         const EditAnswer answer = edit(edits);
+        if (impatient.isGivenUp() != (answer.refusal == EditRefusal::GivenUp))
+            found += "given up without being refused, or the other way round\n";
         const bool isChanged = savedText(m_document) != before;
         if (!answer.isDone())
             m_log += "   refused: " + answer.sentence().toStdString() + "\n";
