@@ -14,6 +14,7 @@
 #include "views/plantable.h"
 #include <QApplication>
 #include <QFile>
+#include <QProcess>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <unistd.h>
@@ -190,6 +191,25 @@ void measure(Report &report, int tasks)
     session.dropTrial();
     document.setModified(false);
 }
+
+constexpr char firstWindow[] = "--first-window";
+
+// What a process of its own has taken when its window is painted, and where it has none.
+void measureStart(Report &report, const QString &program)
+{
+    const auto run = [&program](const char *argument) {
+        QProcess process;
+        process.start(program, {QLatin1String(argument)});
+        process.waitForFinished();
+        return process.readAllStandardOutput().toDouble();
+    };
+    double shown = 1e9, alone = 1e9;
+    for (int i = 0; i < 5; ++i) {
+        shown = qMin(run(firstWindow), shown);
+        alone = qMin(run("--no-window"), alone);
+    }
+    report.line("from start to first window", 3, shown, alone);
+}
 }
 
 int main(int argc, char **argv)
@@ -200,7 +220,19 @@ int main(int argc, char **argv)
     const QTemporaryDir configuration;
     KWFilePathManager::setConfigRoot(configuration.path());
     texts::fillLibraryTables();
+    if (argc > 1) {
+        // The program as it begins, and an application that shows nothing beside it.
+        if (QLatin1String(argv[1]) == QLatin1String(firstWindow)) {
+            auto *window = new MainWindow;
+            window->show();
+            QApplication::processEvents();
+        }
+        std::printf("%.6f\n", processorSeconds());
+        std::fflush(stdout);
+        _exit(0);
+    }
     Report report;
+    measureStart(report, QString::fromLocal8Bit(argv[0]));
     for (const int tasks : {1000, 10000, 100000})
         measure(report, tasks);
     return 0;
