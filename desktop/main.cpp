@@ -114,8 +114,13 @@ int main(int argc, char **argv)
     window->show();
     const QString path =
         parser.positionalArguments().isEmpty() ? lastFile() : parser.positionalArguments().first();
-    if (!path.isEmpty() && !parser.isSet(anew))
+    if (!path.isEmpty() && !parser.isSet(anew)) {
+        // A large plan takes a moment; the window is there before.
+        constexpr qint64 largeBytes = 1 << 20;
+        if (QFileInfo(path).size() > largeBytes)
+            QApplication::processEvents();
         window->openFile(path);
+    }
     window->offerCopies();
     return QApplication::exec();
 }

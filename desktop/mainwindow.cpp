@@ -6,6 +6,7 @@
 #include "quoted.h"
 #include "schedule/kwtaskcollection.h"
 #include "views/celldelegate.h"
+#include "views/filterpanel.h"
 #include "views/findingspanel.h"
 #include "views/icons.h"
 #include "views/notebar.h"
@@ -15,6 +16,7 @@
 #include "views/reasonspanel.h"
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
@@ -40,6 +42,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_note(new NoteBar)
     , m_reasons(new ReasonsPanel(m_session, this))
     , m_findings(new FindingsPanel(this))
+    , m_filter(new FilterPanel(m_session, this))
     , m_status(new QLabel)
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -49,6 +52,7 @@ MainWindow::MainWindow(QWidget *parent)
         box.setInformativeText(more);
         return QMessageBox::StandardButton(box.exec());
     };
+    m_open = [](const QUrl &url) { return QDesktopServices::openUrl(url); };
     makeLayout();
     makeActions();
     connect(&m_session, &Session::stateChanged, this, &MainWindow::updateState);
@@ -86,6 +90,9 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_reasons, &ReasonsPanel::jumped, this, &MainWindow::jumpTo);
     connect(m_reasons, &QDockWidget::visibilityChanged, this,
             [this] { action("show-reasons")->setChecked(!m_reasons->isHidden()); });
+    connect(m_filter, &FilterPanel::jumped, this, &MainWindow::jumpTo);
+    connect(m_filter, &QDockWidget::visibilityChanged, this,
+            [this] { action("show-filter")->setChecked(!m_filter->isHidden()); });
     connect(m_findings, &FindingsPanel::jumped, this, [this](int number, bool isOfFile) {
         // A file may have lines that are no task.
         const int place = isOfFile ? m_session.plan().imported.rows.indexOf(number) : -1;
@@ -97,7 +104,10 @@ MainWindow::MainWindow(QWidget *parent)
         if (m_session.isModified())
             m_session.keepCopy();
     });
-    m_copyTime.start(copyMilliseconds);
+    setCopyInterval(copyMilliseconds);
+    m_session.setWatcher([this](const QString &what, const std::function<void()> &work) {
+        watch(tr("%1…").arg(what), Busy::Changes, work);
+    });
     restoreSettings();
     updateTheme();
     startAnew();
@@ -109,8 +119,10 @@ MainWindow::~MainWindow()
     m_session.disconnect();
     m_table->selectionModel()->disconnect(this);
     m_reasons->disconnect(this);
+    m_filter->disconnect(this);
     delete centralWidget();
     delete m_reasons;
+    delete m_filter;
     delete m_model;
 }
 
@@ -131,6 +143,7 @@ void MainWindow::makeLayout()
     layout->addWidget(m_note);
     setCentralWidget(middle);
     addDockWidget(Qt::RightDockWidgetArea, m_reasons);
+    addDockWidget(Qt::RightDockWidgetArea, m_filter);
     addDockWidget(Qt::BottomDockWidgetArea, m_findings);
     statusBar()->addWidget(m_status, 1);
     m_status->setAccessibleName(tr("State of the plan"));

@@ -1,4 +1,5 @@
 #pragma once
+#include "dialogs/busy.h"
 #include "documents/session.h"
 #include "views/picture.h"
 #include <QMainWindow>
@@ -6,14 +7,18 @@
 #include <QTimer>
 #include <functional>
 
+class FilterPanel;
+class FindDialog;
 class FindingsPanel;
 class NoteBar;
 class PlanChart;
 class PlanModel;
 class PlanTable;
 class QLabel;
+class QUrl;
 class QSplitter;
 class ReasonsPanel;
+class KWTaskInfo;
 namespace cellinput {
 struct Outcome;
 }
@@ -33,6 +38,7 @@ public:
     NoteBar *note() const { return m_note; }
     ReasonsPanel *reasons() const { return m_reasons; }
     FindingsPanel *findingsPanel() const { return m_findings; }
+    FilterPanel *filterPanel() const { return m_filter; }
     QAction *action(const char *name) const;
 
     bool openFile(const QString &path);
@@ -43,6 +49,11 @@ public:
     using Asker = std::function<QMessageBox::StandardButton(const QString &text, const QString &more,
                                                             QMessageBox::StandardButtons buttons)>;
     void setAsker(const Asker &asker) { m_ask = asker; }
+    // What shows pages and mails that users open.
+    using Opener = std::function<bool(const QUrl &url)>;
+    void setOpener(const Opener &opener) { m_open = opener; }
+    // Between the copies that are kept for a crash, while the plan is modified; a minute.
+    void setCopyInterval(int milliseconds) { m_copyTime.start(milliseconds); }
 
     // ---- What the actions do, in the order of their table
     // --------------------------------------------------
@@ -66,8 +77,10 @@ public:
     void selectAll();
     void findAsk();
     void findNext();
+    void replaceAsk();
     void goTo();
     void editCell();
+    void openLink();
     void insertAbove();
     void insertBelow();
     void insertChild();
@@ -95,6 +108,7 @@ public:
     void applySwitches();
     void nextLabels();
     void toggleReasons();
+    void toggleFilter();
     void goToDriver();
     void commandPalette();
     void keys();
@@ -103,6 +117,8 @@ public:
     bool saveTo(const QString &path);
     bool exportTo(const QString &path); // by the suffix
     bool findText(const QString &text, bool isFromNext);
+    // In names and notes, as one step; how many tasks have another text now.
+    int replaceText(const QString &text, const QString &by, Qt::CaseSensitivity sensitivity);
     void jumpTo(quint32 id); // unfolds what hides it
 
 protected:
@@ -131,8 +147,12 @@ private:
     QVector<quint32> chosen() const;
     void insert(PlanEdits::Place place);
     void toggleFold(quint32 id);
+    void showFind(bool isReplacing);
+    bool hasText(const KWTaskInfo &task, const QString &text) const;
     void foldEverything(bool isFolded);
     void checkFile();
+    // Work that may last, watched and given up by the user.
+    void watch(const QString &what, Busy::Plan plan, const std::function<void()> &work);
 
     Session m_session;
     Picture m_picture;
@@ -143,11 +163,15 @@ private:
     NoteBar *m_note;
     ReasonsPanel *m_reasons;
     FindingsPanel *m_findings;
+    FilterPanel *m_filter;
     QLabel *m_status;
+    FindDialog *m_find = nullptr;
     QMenu *m_recent = nullptr;
-    QTimer m_copyTime;
+    QTimer m_copyTime{this};
     Asker m_ask;
+    Opener m_open;
     QString m_searched;
+    Qt::CaseSensitivity m_searchedCase = Qt::CaseInsensitive;
     quint32 m_finish = 0; // of the project, before the last edit
     bool m_hasAskedAboutFile = false;
 };

@@ -21,7 +21,6 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QProgressDialog>
 #include <QTextBrowser>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -97,15 +96,13 @@ bool MainWindow::exportTo(const QString &path)
         drawing.options.theme = KWExportOptions::Light;
         drawing.options.highlight = false;
         drawing.options.title = QFileInfo(m_session.name()).completeBaseName();
-        QProgressDialog progress(tr("Drawing…"), tr("Cancel"), 0, 0, this);
-        progress.setWindowModality(Qt::WindowModal);
-        drawing.progress = [&progress](int done, int total) {
-            progress.setMaximum(total);
-            progress.setValue(done);
-            return !progress.wasCanceled();
-        };
-        const bool isWritten = row.write(drawing, path);
-        progress.reset();
+        bool isWritten = false;
+        {
+            Busy busy(this, tr("Drawing…"), Busy::Stays);
+            const Session::Hold hold(m_session);
+            drawing.progress = [&busy](int done, int total) { return busy.step(done, total); };
+            isWritten = row.write(drawing, path);
+        }
         QStringList words;
         for (const Finding &finding : drawing.findings().list())
             words.append(finding.hint.isEmpty() ? finding.what

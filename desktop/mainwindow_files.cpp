@@ -12,12 +12,15 @@
 
 bool MainWindow::openFile(const QString &path)
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    m_chart->leaveDrag();
     QString error;
-    const bool isOpen = m_session.open(path, error);
+    bool isOpen = false;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    watch(tr("Opening %1…").arg(QFileInfo(path).fileName()), Busy::Stays,
+          [&] { isOpen = m_session.open(path, error); });
     QApplication::restoreOverrideCursor();
     if (!isOpen) {
-        tellRefusal(error, QString());
+        tellRefusal(error.isEmpty() ? tr("cancelled: the plan that was open stays") : error, QString());
         return false;
     }
     addRecent(path);
@@ -32,6 +35,13 @@ bool MainWindow::openFile(const QString &path)
         m_note->say(tr("The plan is also open in %1: whoever saves last wins.").arg(m_session.otherUser()),
                     NoteBar::Refused);
     return true;
+}
+
+void MainWindow::watch(const QString &what, Busy::Plan plan, const std::function<void()> &work)
+{
+    Busy busy(this, what, plan);
+    const Session::Hold hold(m_session);
+    busy.watch(work);
 }
 
 void MainWindow::startAnew()
@@ -56,8 +66,11 @@ void MainWindow::offerCopies()
         if (answer != QMessageBox::Open)
             continue;
         QString error;
-        if (!m_session.openCopy(copy, error))
-            tellRefusal(error, QString());
+        bool isOpen = false;
+        watch(tr("Opening %1…").arg(copy.name), Busy::Stays,
+              [&] { isOpen = m_session.openCopy(copy, error); });
+        if (!isOpen)
+            tellRefusal(error.isEmpty() ? tr("cancelled: the copy is kept") : error, QString());
         else
             m_note->say(tr("This is the copy. Saving it replaces the plan's own file."));
         return;

@@ -1,8 +1,11 @@
 // The actions that find places and change what is seen.
+#include "dialogs/finddialog.h"
+#include "documents/weblink.h"
 #include "edits/planreasons.h"
 #include "mainwindow.h"
 #include "model/kwtaskinfo.h"
 #include "quoted.h"
+#include "views/filterpanel.h"
 #include "views/notebar.h"
 #include "views/planchart.h"
 #include "views/plantable.h"
@@ -45,27 +48,54 @@ bool MainWindow::findText(const QString &text, bool isFromNext)
     const QList<KWTaskInfo *> &tasks = m_session.document().taskList();
     if (text.isEmpty() || tasks.isEmpty())
         return false;
+    // As far as the chosen task, which may be the only one.
     const int begin = qMax(0, m_session.document().getPosByID(m_table->currentTask())) + (isFromNext ? 1 : 0);
     for (int i = 0; i < tasks.size(); ++i) {
         const KWTaskInfo &task = *tasks.at((begin + i) % tasks.size());
-        for (const QString &words : {task.Name, task.Notes, task.Resources}) {
-            if (words.contains(text, Qt::CaseInsensitive)) {
-                jumpTo(task.ID);
-                return true;
-            }
+        if (hasText(task, text)) {
+            jumpTo(task.ID);
+            return true;
         }
     }
     tellRefusal(tr("no task has %1 in it").arg(quoted(text)), QString());
     return false;
 }
 
+bool MainWindow::hasText(const KWTaskInfo &task, const QString &text) const
+{
+    return task.Name.contains(text, m_searchedCase) || task.Notes.contains(text, m_searchedCase) ||
+           task.Resources.contains(text, m_searchedCase);
+}
+
 void MainWindow::findAsk()
 {
-    bool ok = false;
-    const QString text = QInputDialog::getText(this, tr("Find"), tr("Text in names, notes and resources:"),
-                                               QLineEdit::Normal, m_searched, &ok);
-    if (ok)
-        findText(text, true);
+    showFind(false);
+}
+
+void MainWindow::replaceAsk()
+{
+    showFind(true);
+}
+
+void MainWindow::showFind(bool isReplacing)
+{
+    if (!m_find) {
+        m_find = new FindDialog(this);
+        const auto follow = [this](bool matchesCase) {
+            m_searchedCase = matchesCase ? Qt::CaseSensitive : Qt::CaseInsensitive;
+        };
+        connect(m_find, &FindDialog::findWanted, this, [this, follow](const QString &text, bool matchesCase) {
+            follow(matchesCase);
+            m_find->say(findText(text, true) ? QString() : m_note->text());
+        });
+        connect(m_find, &FindDialog::replaceWanted, this,
+                [this, follow](const QString &text, const QString &by, bool matchesCase) {
+                    follow(matchesCase);
+                    replaceText(text, by, m_searchedCase);
+                    m_find->say(m_note->text());
+                });
+    }
+    m_find->begin(m_searched, isReplacing);
 }
 
 void MainWindow::findNext()
@@ -139,4 +169,37 @@ void MainWindow::nextLabels()
 void MainWindow::toggleReasons()
 {
     m_reasons->setVisible(action("show-reasons")->isChecked());
+}
+
+void MainWindow::toggleFilter()
+{
+    m_filter->setVisible(action("show-filter")->isChecked());
+}
+
+// Nothing of a plan is opened unless the user asks for it, and then only what cannot run anything.
+void MainWindow::openLink()
+{
+    const KWTaskInfo *task = m_session.document().getTaskInfoByID(m_table->currentTask());
+    QStringList addresses;
+    for (int i = 0; task && i < task->hyperlinks.count(); ++i)
+        addresses.append(task->hyperlinks.getAt(i)->address.trimmed());
+    if (addresses.isEmpty()) {
+        tellRefusal(tr("the task has no hyperlink"), tr("the column of hyperlinks takes addresses"));
+        return;
+    }
+    QString address = addresses.first();
+    if (addresses.size() > 1) {
+        bool ok = false;
+        address = QInputDialog::getItem(this, tr("Open link"), tr("Address:"), addresses, 0, false, &ok);
+        if (!ok)
+            return;
+    }
+    const QUrl url = weblink::openable(address);
+    if (url.isEmpty())
+        tellRefusal(tr("%1 is not opened").arg(quoted(address)),
+                    tr("only pages (http, https, ftp) and mail addresses are"));
+    else if (m_open(url))
+        m_note->say(tr("Opened %1.").arg(url.toDisplayString()));
+    else
+        tellRefusal(tr("no program here opens %1").arg(quoted(url.toDisplayString())), QString());
 }

@@ -1,6 +1,7 @@
 // The actions that change the plan.
 #include "mainwindow.h"
 #include "model/kwtaskinfo.h"
+#include "quoted.h"
 #include "views/notebar.h"
 #include "views/planmodel.h"
 #include "views/plantable.h"
@@ -186,6 +187,39 @@ void MainWindow::milestone()
     values.isMilestone = first && !first->Milestone;
     perform(*values.isMilestone ? tr("Make milestone") : tr("Make task"),
             [&](PlanEdits &edits) { return edits.set(ids, values); });
+}
+
+int MainWindow::replaceText(const QString &text, const QString &by, Qt::CaseSensitivity sensitivity)
+{
+    QVector<std::pair<quint32, TaskValues>> changes;
+    for (const KWTaskInfo *task : m_session.document().taskList()) {
+        TaskValues values;
+        const auto replace = [&](const QString &before, std::optional<QString> &after) {
+            if (before.contains(text, sensitivity))
+                after = QString(before).replace(text, by, sensitivity);
+        };
+        replace(task->Name, values.name);
+        replace(task->Notes, values.notes);
+        if (!text.isEmpty() && (values.name || values.notes))
+            changes.append({task->ID, values});
+    }
+    if (changes.isEmpty()) {
+        tellRefusal(tr("no name and no note has %1 in it").arg(quoted(text)), QString());
+        return 0;
+    }
+    const EditAnswer answer = perform(tr("Replace"), [&](PlanEdits &edits) {
+        EditAnswer all;
+        for (const auto &[id, values] : qAsConst(changes))
+            if (all.isDone())
+                Session::join(all, edits.set({id}, values));
+        return all;
+    });
+    if (!answer.isDone())
+        return 0;
+    m_note->say(changes.size() == 1 ? tr("Replaced in one task.")
+                                    : tr("Replaced in %1 tasks.").arg(changes.size()),
+                NoteBar::Told, tr("Undo"), [this] { undo(); });
+    return changes.size();
 }
 
 void MainWindow::done()

@@ -1,6 +1,7 @@
 // What the window says of an edit.
-#include "mainwindow.h"
 #include "datetext.h"
+#include "documents/cellinput.h"
+#include "mainwindow.h"
 #include "model/kwtaskinfo.h"
 #include "quoted.h"
 #include "views/notebar.h"

@@ -42,6 +42,8 @@ const std::vector<Row> &rows()
         {"find", Edit, T("&Find…"), "Ctrl+F", BeginsGroup,
          T("looks for a text in names, notes and resources"), &W::findAsk},
         {"find-next", Edit, T("Find &next"), "F3", 0, T("goes to the next place"), &W::findNext},
+        {"replace", Edit, T("&Replace…"), "Ctrl+H", 0,
+         T("puts another text in its place, in names and notes"), &W::replaceAsk},
         {"go-to", Edit, T("&Go to row…"), "Ctrl+G", 0, T("goes to a task by its number"), &W::goTo},
         {"edit-cell", Edit, T("&Edit cell"), "F2", BeginsGroup, T("edits the cell in its place"),
          &W::editCell},
@@ -72,6 +74,8 @@ const std::vector<Row> &rows()
          T("makes milestones of the chosen tasks, or tasks of milestones"), &W::milestone},
         {"done", Task, T("D&one"), "Ctrl+Shift+D", NeedsTasks | InContext,
          T("sets the chosen tasks to 100 %"), &W::done},
+        {"open-link", Task, T("Open &hyperlink…"), "Ctrl+Shift+O", NeedsTasks | BeginsGroup,
+         T("shows the page, or begins the mail, that the chosen task names"), &W::openLink},
 
         {"calendar", Plan, T("Working &time…"), "Ctrl+Shift+C", 0, T("working days, hours, holidays"),
          &W::calendar},
@@ -103,6 +107,8 @@ const std::vector<Row> &rows()
          T("texts beside bars: resources, names, dates, none"), &W::nextLabels},
         {"show-reasons", View, T("&Why is it when it is?"), "F4", IsSwitch | BeginsGroup,
          T("a panel that explains the dates of the chosen task"), &W::toggleReasons},
+        {"show-filter", View, T("F&ilter"), "Ctrl+Shift+F", IsSwitch,
+         T("lists the critical tasks, the late ones, those of a resource"), &W::toggleFilter},
         {"next-reason", View, T("&Go to what drives it"), "Ctrl+J", NeedsTasks,
          T("goes to the task that the chosen one waits for longest"), &W::goToDriver},
 

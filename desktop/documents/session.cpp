@@ -10,6 +10,7 @@
 #include "planfile.h"
 #include "schedule/kwtaskcollection.h"
 #include "support/kwclock.h"
+#include "support/longwork.h"
 #include "table/rowcolumndata.h"
 #include <QDir>
 #include <QFileInfo>
@@ -72,6 +73,8 @@ bool Session::open(const QString &path, QString &error)
     if (isPackage) {
         // Straight, without what the command line keeps beside a document.
         if (!document.loadFromKWGT(path)) {
+            if (LongWork::wasGivenUp())
+                return false;
             const QString why = KWZip::lastError();
             error = tr("%1 is no plan: %2")
                         .arg(QFileInfo(path).fileName(), why.isEmpty() ? tr("it cannot be read") : why);
@@ -89,7 +92,8 @@ bool Session::open(const QString &path, QString &error)
         Console console(Console::Surroundings(), &out, &said);
         console.follow(Options());
         if (planfile::load(path, console, *plan, findings) != Console::Done) {
-            error = plainError(said);
+            if (!LongWork::wasGivenUp())
+                error = plainError(said);
             return false;
         }
         document.setFileName(QFileInfo(path).completeBaseName());
@@ -98,6 +102,8 @@ bool Session::open(const QString &path, QString &error)
     if (withoutStart > 0)
         plan::schedule(*plan, plan::AsGiven, nullptr);
     settling::settle(document, {settling::AsItStands, {}, {}});
+    if (LongWork::wasGivenUp())
+        return false;
     if (!isPackage)
         narrowColumns(document);
     document.actionManager().prepareReplacement(); // opening is no step
@@ -120,8 +126,8 @@ bool Session::openCopy(const recovery::Copy &copy, QString &error)
     m_path = m_source = copy.original;
     take(std::move(m_plan));
     // Only now that this session keeps a copy of its own.
-    keepCopy();
-    recovery::discard(copy);
+    if (writeCopy())
+        recovery::discard(copy);
     return true;
 }
 
@@ -215,6 +221,8 @@ QString Session::name() const
 
 bool Session::save(const QString &path, QString &error)
 {
+    if (isHeld())
+        return false;
     dropTrial();
     settleBars();
     const QFileInfo info(path);
@@ -242,8 +250,13 @@ bool Session::save(const QString &path, QString &error)
 
 bool Session::keepCopy()
 {
-    if (isTrying())
-        return true; // what is tried out is not wanted yet
+    if (isTrying() || isHeld())
+        return true; // what is tried out is not wanted yet, and what is made is not whole
+    return writeCopy();
+}
+
+bool Session::writeCopy()
+{
     settleBars();
     m_copy.own(document());
     return recovery::keep(document(), m_path);
@@ -264,12 +277,36 @@ void Session::join(EditAnswer &all, const EditAnswer &part)
     all.losses += part.losses;
 }
 
+namespace {
+
+EditAnswer givenUp()
+{
+    EditAnswer answer;
+    answer.refusal = EditRefusal::GivenUp;
+    return answer;
+}
+}
+
 EditAnswer Session::edit(const QString &name, const Change &change)
 {
+    if (isHeld())
+        return givenUp();
     dropTrial();
     const bool wasModified = isModified();
     PlanEdits edits(document(), name);
-    const EditAnswer answer = change(edits);
+    EditAnswer answer;
+    const auto work = [&] {
+        answer = change(edits);
+        if (LongWork::wasGivenUp() && answer.isDone())
+            answer = givenUp();
+    };
+    {
+        const Hold hold(*this);
+        if (m_watcher)
+            m_watcher(name, work);
+        else
+            work();
+    }
     if (answer.isDone()) {
         edits.finish();
         m_plan->moves.clear(); // what opening has moved is told no longer
@@ -284,6 +321,8 @@ EditAnswer Session::edit(const QString &name, const Change &change)
 
 EditAnswer Session::tryOut(const QString &name, const Change &change)
 {
+    if (isHeld())
+        return givenUp();
     if (m_trial) {
         m_trial->cancel();
     } else {
@@ -322,6 +361,8 @@ void Session::dropTrial()
 
 void Session::undo()
 {
+    if (isHeld())
+        return;
     dropTrial();
     document().actionManager().undo(1);
     Q_EMIT edited(EditAnswer());
@@ -330,6 +371,8 @@ void Session::undo()
 
 void Session::redo()
 {
+    if (isHeld())
+        return;
     dropTrial();
     document().actionManager().redo();
     Q_EMIT edited(EditAnswer());

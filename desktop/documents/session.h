@@ -26,7 +26,8 @@ public:
     Plan &plan() { return *m_plan; }
 
     // ---- Files --------------------------------------------------------------------------------------------
-    // Any plan that kwgantt reads. The plan that was open stays when false comes back, with the reason. What
+    // Any plan that kwgantt reads. The plan that was open stays when false comes back, with the reason;
+    // without one when a LongWork was given up. What
     // was not taken as it stands is in findings().
     bool open(const QString &path, QString &error);
     bool openCopy(const recovery::Copy &copy, QString &error);
@@ -47,7 +48,27 @@ public:
     int tasksWithoutStart() const { return m_withoutStart; } // that were scheduled when the plan was opened
 
     // ---- Edits --------------------------------------------------------------------------------------------
-    // One step, or nothing at all when it is refused.
+    // Who shows how far work is that may last: calls the work, watched as LongWork tells.
+    using Watcher = std::function<void(const QString &what, const std::function<void()> &work)>;
+    void setWatcher(const Watcher &watcher) { m_watcher = watcher; }
+    // While long work goes on the plan is nobody else's: edits and saving are refused, undo does nothing.
+    class Hold
+    {
+    public:
+        explicit Hold(Session &session)
+            : m_session(session)
+        {
+            ++m_session.m_holds;
+        }
+        ~Hold() { --m_session.m_holds; }
+        Hold(const Hold &) = delete;
+        Hold &operator=(const Hold &) = delete;
+
+    private:
+        Session &m_session;
+    };
+    bool isHeld() const { return m_holds > 0; }
+    // One step, or nothing at all when it is refused or given up.
     EditAnswer edit(const QString &name, const Change &change);
     // The same on trial: the plan shows what would be, until the trial is kept or dropped or another takes
     // its place.
@@ -80,9 +101,12 @@ private:
     void take(std::unique_ptr<Plan> plan);
     void rememberFile();
     void lockFile();
+    bool writeCopy();
 
     std::unique_ptr<Plan> m_plan;
     std::unique_ptr<PlanEdits> m_trial;
+    Watcher m_watcher;
+    int m_holds = 0;
     bool m_wasModified = false; // before the trial
     bool m_barsAreOld = false;
     QString m_path;

@@ -7,9 +7,9 @@
 #include "views/chartscale.h"
 #include "views/chartsizes.h"
 #include "views/planmodel.h"
-#include <QWheelEvent>
 #include <QLabel>
 #include <QScrollBar>
+#include <QWheelEvent>
 #include <cmath>
 
 using namespace chartsizes;

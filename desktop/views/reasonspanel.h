@@ -21,6 +21,6 @@ Q_SIGNALS:
 private:
     Session &m_session;
     QTextBrowser *m_text;
-    QTimer m_wait;
+    QTimer m_wait{this};
     quint32 m_task = 0;
 };

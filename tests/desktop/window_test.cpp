@@ -2,6 +2,7 @@
 #include "actions/actiontable.h"
 #include "chart/layout.h"
 #include "desktop/hands.h"
+#include "dialogs/busy.h"
 #include "dialogs/calendardialog.h"
 #include "dialogs/commandpalette.h"
 #include "dialogs/pagesetupdialog.h"
@@ -15,14 +16,22 @@
 #include "kwfilepathmanager.h"
 #include "kwpxfile.h"
 #include "styles/chartstyle.h"
+#include "support/filesizelimit.h"
 #include "support/folder.h"
+#include "support/kwclock.h"
 #include "views/celldelegate.h"
+#include "views/filterpanel.h"
 #include "views/findingspanel.h"
 #include "views/notebar.h"
 #include "views/reasonspanel.h"
+#include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QAction>
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDialog>
+#include <QMenu>
 #include <QMimeData>
 #include <QProcess>
 #include <QScrollBar>
@@ -413,7 +422,11 @@ TEST(Window, DISABLED_diesWhileEditing)
     Hands hands;
     ASSERT_TRUE(hands.window->openFile(qEnvironmentVariable("KW_DESKTOP_PLAN")));
     hands.enter(0, name, QStringLiteral("Unsaved"));
-    hands.window->session().keepCopy();
+    // The copy is made by the clock.
+    hands.window->setCopyInterval(1);
+    const QDir copies(KWFilePathManager::configDir(QStringLiteral("autosave")));
+    const QString copy = hands.document().backupName() + QLatin1String(".json");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return copies.exists(copy); }, 30000));
     kill(getpid(), SIGKILL);
 }
 
@@ -424,8 +437,14 @@ TEST(Window, whatAKilledProgramHadOpenIsOffered)
     Hands hands;
     makeChain(hands);
     ASSERT_TRUE(hands.window->saveTo(path));
+    const QString copy = KWFilePathManager::configDir(QStringLiteral("autosave")) + QLatin1Char('/') +
+                         hands.document().backupName() + QLatin1String(".kwpx");
+    hands.window->setCopyInterval(1);
+    QTest::qWait(30);
+    EXPECT_FALSE(QFile::exists(copy)) << "what is saved needs no copy";
     hands.enter(1, name, QStringLiteral("Still alive"));
-    hands.window->session().keepCopy();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(copy); }, 30000));
+    hands.window->setCopyInterval(60000);
     QProcess program;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("KW_DESKTOP_CONFIG"), KWFilePathManager::configDir());
@@ -442,6 +461,119 @@ TEST(Window, whatAKilledProgramHadOpenIsOffered)
     EXPECT_TRUE(hands.window->session().isModified());
     EXPECT_EQ(hands.window->session().path(), path);
     EXPECT_TRUE(recovery::abandoned().isEmpty());
+}
+
+TEST(Window, aSaveThatFailsLeavesTheFileAndSaysSo)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("plan.kwpx"));
+    Hands hands;
+    makeChain(hands);
+    ASSERT_TRUE(hands.window->saveTo(path));
+    hands.enter(0, name, QStringLiteral("Later"));
+    const QByteArray old = folder::get(path);
+    const std::string tree = folder::tree(dir.path());
+    folder::put(dir.filePath(QStringLiteral("file")), "in the way");
+    const struct
+    {
+        const char *what;
+        QString path;
+        rlim_t bytes;
+    } cases[] = {{"a full disk", path, 100},
+                 {"a disk that is full at once", path, 0},
+                 {"a folder", dir.path() + QLatin1String("/"), RLIM_INFINITY},
+                 {"no folder", dir.filePath(QStringLiteral("none/plan.kwpx")), RLIM_INFINITY},
+                 {"a file for a folder", dir.filePath(QStringLiteral("file/plan.kwpx")), RLIM_INFINITY}};
+    for (const auto &each : cases) {
+        {
+            const FileSizeLimit limit(each.bytes);
+            EXPECT_FALSE(hands.window->saveTo(each.path)) << each.what;
+        }
+        EXPECT_TRUE(hands.window->note()->isRefusal()) << each.what;
+        EXPECT_NE(hands.window->note()->text(), QString()) << each.what;
+        EXPECT_TRUE(hands.window->session().isModified()) << each.what;
+        EXPECT_EQ(hands.window->session().path(), path) << each.what;
+        EXPECT_EQ(folder::get(path), old) << each.what;
+    }
+    QFile::remove(dir.filePath(QStringLiteral("file")));
+    EXPECT_EQ(folder::tree(dir.path()), tree) << "nothing is left beside it";
+    EXPECT_TRUE(hands.window->saveTo(path));
+    EXPECT_NE(folder::get(path), old);
+}
+
+// Presses Cancel when work says how far it is, after a look at the window.
+class Impatient : public QObject
+{
+public:
+    explicit Impatient(Hands &hands)
+        : m_hands(hands)
+    {
+        Busy::s_patience = 0;
+        startTimer(0);
+    }
+    ~Impatient() override { Busy::s_patience = 400; }
+    int painted = 0;
+    int pressed = 0;
+    bool cancels = true;
+
+protected:
+    void timerEvent(QTimerEvent *) override
+    {
+        auto *dialog = m_hands.window->findChild<QDialog *>(QStringLiteral("busy"));
+        if (!dialog)
+            return;
+        // Nobody gets at the plan meanwhile.
+        const int steps = m_hands.steps();
+        QTest::keyClick(m_hands.window->table(), Qt::Key_Delete);
+        QTest::mouseClick(m_hands.window->table()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          QPoint(60, 60));
+        m_hands.window->action("delete")->trigger();
+        m_hands.window->undo();
+        m_hands.window->resize(m_hands.window->width() + 10, 700);
+        EXPECT_FALSE(m_hands.window->close());
+        EXPECT_TRUE(m_hands.window->session().keepCopy());
+        EXPECT_EQ(m_hands.steps(), steps);
+        ++pressed;
+        if (cancels)
+            QTest::keyClick(dialog, Qt::Key_Escape);
+    }
+
+private:
+    Hands &m_hands;
+};
+
+TEST(Window, longWorkCanBeGivenUp)
+{
+    QTemporaryDir dir;
+    Hands hands;
+    makeChain(hands);
+    hands.key(Qt::Key_D, Qt::ControlModifier);
+    const QString path = dir.filePath(QStringLiteral("other.csv"));
+    folder::put(path, "Name,Duration\nA,2d\nB,1d\n");
+    const std::string before = hands.saved();
+    const int steps = hands.steps();
+    Impatient user(hands);
+    for (const bool cancels : {true, false}) {
+        user.cancels = cancels;
+        user.pressed = 0;
+        hands.window->schedule();
+        EXPECT_GT(user.pressed, 0);
+        EXPECT_EQ(hands.window->note()->isRefusal(), cancels);
+        EXPECT_EQ(hands.steps(), steps + (cancels ? 0 : 1));
+        if (cancels)
+            EXPECT_EQ(hands.saved(), before);
+        else
+            hands.window->undo();
+        user.pressed = 0;
+        EXPECT_EQ(hands.window->exportTo(dir.filePath(QStringLiteral("plan.pdf"))), !cancels);
+        EXPECT_EQ(QFile::exists(dir.filePath(QStringLiteral("plan.pdf"))), !cancels);
+        EXPECT_GT(user.pressed, 0);
+        user.pressed = 0;
+        EXPECT_EQ(hands.window->openFile(path), !cancels);
+        EXPECT_GT(user.pressed, 0);
+        EXPECT_EQ(hands.document().taskCount(), cancels ? 6 : 2);
+    }
+    EXPECT_TRUE(hands.window->chart()->updatesEnabled());
 }
 
 TEST(Window, dialogsMakeOneStep)
@@ -488,6 +620,134 @@ TEST(Window, dialogsMakeOneStep)
     GanttPdfExport drawing(&hands.document());
     EXPECT_EQ(hands.document().printConfig.HSheet, 3);
     EXPECT_EQ(PreviewDialog(session, KWExportOptions()).pageCount(), drawing.pageCount());
+}
+
+TEST(Window, textsAreReplacedInOneStep)
+{
+    Hands hands;
+    makeChain(hands);
+    MainWindow &window = *hands.window;
+    const std::string before = hands.saved();
+    const int steps = hands.steps();
+    EXPECT_EQ(window.replaceText(QStringLiteral("E"), QStringLiteral("3"), Qt::CaseSensitive), 0);
+    EXPECT_TRUE(window.note()->isRefusal());
+    EXPECT_EQ(window.replaceText(QString(), QStringLiteral("3"), Qt::CaseInsensitive), 0);
+    EXPECT_EQ(window.replaceText(QStringLiteral("E"), QStringLiteral("(e)"), Qt::CaseInsensitive), 2);
+    EXPECT_EQ(hands.task(0).Name, QLatin1String("D(e)sign"));
+    EXPECT_EQ(hands.task(2).Name, QLatin1String("T(e)st"));
+    EXPECT_EQ(hands.steps(), steps + 1);
+    window.undo();
+    EXPECT_EQ(hands.saved(), before);
+}
+
+TEST(Window, theFilterListsWhatItSays)
+{
+    Hands hands;
+    makeChain(hands);
+    hands.enter(3, name, QStringLiteral("Gate"));
+    hands.enter(3, start, QStringLiteral("2026-01-05"));
+    hands.enter(3, length, QStringLiteral("0"));
+    hands.enter(1, resources, QStringLiteral("Ann[50%]"));
+    hands.enter(0, percent, QStringLiteral("100"));
+    hands.window->setBaseline();
+    hands.enter(1, length, QStringLiteral("4d")); // pushes Test
+    KWClock::set(QDateTime(QDate(2026, 1, 20), QTime(12, 0)));
+    const struct
+    {
+        taskfilter::Filter filter;
+        const char *names;
+    } cases[] = {{{taskfilter::Critical, {}}, "Design Build Test"},
+                 {{taskfilter::Late, {}}, "Build Test Gate"},
+                 {{taskfilter::BehindBaseline, {}}, "Build Test"},
+                 {{taskfilter::Milestones, {}}, "Gate"},
+                 {{taskfilter::Unassigned, {}}, "Design Test"},
+                 {{taskfilter::OfResource, QStringLiteral("Ann")}, "Build"}};
+    FilterPanel &panel = *hands.window->filterPanel();
+    hands.window->action("show-filter")->trigger();
+    for (const auto &each : cases) {
+        panel.choose(each.filter);
+        QStringList names;
+        for (const quint32 id : panel.found())
+            names.append(hands.document().getTaskInfoByID(id)->Name);
+        EXPECT_EQ(names.join(QLatin1Char(' ')).toStdString(), each.names)
+            << taskfilter::title(each.filter).toStdString();
+    }
+    KWClock::set(QDateTime());
+    // It follows the plan.
+    panel.choose({taskfilter::BehindBaseline, {}});
+    hands.window->undo();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return panel.found().isEmpty(); })) << "as long as planned again";
+}
+
+TEST(Window, onlyPagesAndMailsAreOpened)
+{
+    Hands hands;
+    makeChain(hands);
+    QStringList opened;
+    hands.window->setOpener([&](const QUrl &url) {
+        opened.append(url.toString());
+        return true;
+    });
+    const struct
+    {
+        const char *address;
+        const char *opened; // empty: refused
+    } cases[] = {{"https://example.com/a b", ""},
+                 {"https://example.com/a?b=c#d", "https://example.com/a?b=c#d"},
+                 {" HTTP://example.com ", "http://example.com"},
+                 {"www.example.com", "https://www.example.com"},
+                 {"ftp://example.com/x", "ftp://example.com/x"},
+                 {"ann@example.com", "mailto:ann@example.com"},
+                 {"mailto:ann@example.com", "mailto:ann@example.com"},
+                 {"file:///etc/passwd", ""},
+                 {"/bin/sh", ""},
+                 {"C:\\a.exe", ""},
+                 {"\\\\host\\share", ""},
+                 {"javascript:alert(1)", ""},
+                 {"data:text/html,x", ""},
+                 {"smb://host/x", ""},
+                 {"https:", ""},
+                 {"//example.com", ""},
+                 {"", ""}};
+    for (const auto &each : cases) {
+        auto *link = new KWHyperlink;
+        link->address = QLatin1String(each.address);
+        hands.task(0).hyperlinks.clear();
+        hands.task(0).hyperlinks.appendHyperlink(link);
+        hands.go(0, name);
+        opened.clear();
+        hands.window->action("open-link")->trigger();
+        EXPECT_EQ(opened.join(QLatin1Char(' ')).toStdString(), each.opened) << each.address;
+        EXPECT_EQ(hands.window->note()->isRefusal(), opened.isEmpty()) << each.address;
+    }
+}
+
+TEST(Window, everyControlHasANameForThoseWhoHearIt)
+{
+    Hands hands;
+    makeChain(hands);
+    Session &session = hands.window->session();
+    hands.window->action("show-filter")->trigger();
+    hands.window->replaceAsk();
+    CalendarDialog calendar(session);
+    ResourcesDialog sheet(session);
+    PageSetupDialog setup(session);
+    PreviewDialog preview(session, KWExportOptions());
+    CommandPalette palette({hands.window->action("save")}, hands.window.get());
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        for (QWidget *widget : window->findChildren<QWidget *>()) {
+            const bool isInner = widget->objectName().startsWith(QLatin1String("qt_")) ||
+                                 qobject_cast<QAbstractScrollArea *>(widget->parentWidget());
+            if (isInner || widget->focusPolicy() == Qt::NoFocus ||
+                qobject_cast<QCalendarWidget *>(widget->parentWidget()) || qobject_cast<QMenu *>(window))
+                continue;
+            const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_TRUE(interface);
+            EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty())
+                << window->windowTitle().toStdString() << ": " << widget->metaObject()->className() << ' '
+                << widget->objectName().toStdString();
+        }
+    }
 }
 
 TEST(Window, commandsAreFoundAndKeysAreTold)
