@@ -106,7 +106,7 @@ MainWindow::MainWindow(QWidget *parent)
     });
     setCopyInterval(copyMilliseconds);
     m_session.setWatcher([this](const QString &what, const std::function<void()> &work) {
-        watch(tr("%1…").arg(what), Busy::Changes, work);
+        watch(what + QStringLiteral("…"), Busy::Changes, work);
     });
     restoreSettings();
     updateTheme();

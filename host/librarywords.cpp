@@ -61,6 +61,8 @@ const char *const libraryWords[] = {
     QT_TR_NOOP("nothing to paste"),
     QT_TR_NOOP("copy or cut tasks first"),
     QT_TR_NOOP("the tasks cannot be copied"),
+    QT_TR_NOOP("cancelled: the plan is as it was"),
+    QT_TR_NOOP("given up"),
     // What was taken instead
     QT_TR_NOOP("left out"),
     QT_TR_NOOP("not read"),

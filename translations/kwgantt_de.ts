@@ -3002,6 +3002,14 @@
         <translation>die Vorgänge können nicht kopiert werden</translation>
     </message>
     <message>
+        <source>cancelled: the plan is as it was</source>
+        <translation>abgebrochen: der Plan ist, wie er war</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
         <source>left out</source>
         <translation>weggelassen</translation>
     </message>
@@ -4821,6 +4829,14 @@
         <translation>geht zur nächsten Stelle</translation>
     </message>
     <message>
+        <source>&amp;Replace…</source>
+        <translation>&amp;Ersetzen…</translation>
+    </message>
+    <message>
+        <source>puts another text in its place, in names and notes</source>
+        <translation>setzt in Namen und Notizen einen anderen Text an seine Stelle</translation>
+    </message>
+    <message>
         <source>&amp;Go to row…</source>
         <translation>Zu &amp;Zeile gehen…</translation>
     </message>
@@ -4939,6 +4955,14 @@
     <message>
         <source>sets the chosen tasks to 100 %</source>
         <translation>setzt die gewählten Vorgänge auf 100 %</translation>
+    </message>
+    <message>
+        <source>Open &amp;hyperlink…</source>
+        <translation>&amp;Hyperlink öffnen…</translation>
+    </message>
+    <message>
+        <source>shows the page, or begins the mail, that the chosen task names</source>
+        <translation>zeigt die Seite oder beginnt die E-Mail, die der gewählte Vorgang nennt</translation>
     </message>
     <message>
         <source>Working &amp;time…</source>
@@ -5075,6 +5099,14 @@
     <message>
         <source>a panel that explains the dates of the chosen task</source>
         <translation>ein Bereich, der die Termine des gewählten Vorgangs erklärt</translation>
+    </message>
+    <message>
+        <source>F&amp;ilter</source>
+        <translation>F&amp;ilter</translation>
+    </message>
+    <message>
+        <source>lists the critical tasks, the late ones, those of a resource</source>
+        <translation>listet die kritischen Vorgänge, die verspäteten, die einer Ressource</translation>
     </message>
     <message>
         <source>&amp;Go to what drives it</source>
@@ -5245,6 +5277,14 @@
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
+        <source>kwgantt</source>
+        <translation>kwgantt</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>Wird abgebrochen…</translation>
+    </message>
+    <message>
         <source>Working time</source>
         <translation>Arbeitszeit</translation>
     </message>
@@ -5323,6 +5363,30 @@
     <message>
         <source>Commands that fit</source>
         <translation>Passende Befehle</translation>
+    </message>
+    <message>
+        <source>&amp;Match case</source>
+        <translation>&amp;Groß-/Kleinschreibung beachten</translation>
+    </message>
+    <message>
+        <source>&amp;Replace all</source>
+        <translation>&amp;Alle ersetzen</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>Suchen und ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Text in names, notes and resources:</source>
+        <translation>&amp;Text in Namen, Notizen und Ressourcen:</translation>
+    </message>
+    <message>
+        <source>Replace in &amp;names and notes by:</source>
+        <translation>In &amp;Namen und Notizen ersetzen durch:</translation>
+    </message>
+    <message>
+        <source>&amp;Find next</source>
+        <translation>&amp;Weitersuchen</translation>
     </message>
     <message>
         <source>&amp;Fit to</source>
@@ -5533,8 +5597,32 @@
         <translation>den Ordner muss es geben, und er muss Platz haben</translation>
     </message>
     <message>
-        <source>kwgantt</source>
-        <translation>kwgantt</translation>
+        <source>Late: should be done by now</source>
+        <translation>Verspätet: sollte schon fertig sein</translation>
+    </message>
+    <message>
+        <source>Behind the baseline</source>
+        <translation>Hinter dem Basisplan</translation>
+    </message>
+    <message>
+        <source>Milestones</source>
+        <translation>Meilensteine</translation>
+    </message>
+    <message>
+        <source>Nobody assigned</source>
+        <translation>Niemand zugewiesen</translation>
+    </message>
+    <message>
+        <source>Resource: %1</source>
+        <translation>Ressource: %1</translation>
+    </message>
+    <message>
+        <source>ends %1, planned %2</source>
+        <translation>endet %1, geplant %2</translation>
+    </message>
+    <message>
+        <source>%1% done, should have ended %2</source>
+        <translation>%1 % erledigt, sollte %2 zu Ende sein</translation>
     </message>
     <message>
         <source>State of the plan</source>
@@ -5575,214 +5663,6 @@
     <message>
         <source>also open in %1</source>
         <translation>auch offen in %1</translation>
-    </message>
-    <message>
-        <source>%1 moves to %2</source>
-        <translation>%1 rückt auf %2</translation>
-    </message>
-    <message>
-        <source>, pushed by %1</source>
-        <translation>, geschoben von %1</translation>
-    </message>
-    <message>
-        <source> with its summary</source>
-        <translation> mit dem Sammelvorgang</translation>
-    </message>
-    <message>
-        <source>%1 more move</source>
-        <translation>%1 weitere verschoben</translation>
-    </message>
-    <message>
-        <source>The project ends %1 (before: %2)</source>
-        <translation>Das Projekt endet %1 (vorher: %2)</translation>
-    </message>
-    <message>
-        <source>%1 loses its resource %2</source>
-        <translation>%1 verliert die Ressource %2</translation>
-    </message>
-    <message>
-        <source>%1 does not wait for %2 any more</source>
-        <translation>%1 wartet nicht mehr auf %2</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
-        <source>%1 tasks had no start and were scheduled.</source>
-        <translation>%1 Vorgänge hatten keinen Anfang und wurden berechnet.</translation>
-    </message>
-    <message>
-        <source>One task starts before a task that it waits for ends.</source>
-        <translation>Ein Vorgang beginnt vor dem Ende eines Vorgangs, auf den er wartet.</translation>
-    </message>
-    <message>
-        <source>%1 tasks start before a task that they wait for ends.</source>
-        <translation>%1 Vorgänge beginnen vor dem Ende eines Vorgangs, auf den sie warten.</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>Berechnen</translation>
-    </message>
-    <message>
-        <source>The plan is also open in %1: whoever saves last wins.</source>
-        <translation>Der Plan ist auch in %1 offen: wer zuletzt speichert, gewinnt.</translation>
-    </message>
-    <message>
-        <source>Three tasks to try things on: type over a name, drag a bar, draw from one bar to another. Ctrl+Shift+P finds every command.</source>
-        <translation>Drei Vorgänge zum Ausprobieren: einen Namen überschreiben, einen Balken ziehen, von einem Balken zum anderen ziehen. Strg+Umschalt+P findet jeden Befehl.</translation>
-    </message>
-    <message>
-        <source>%1 was open when the program ended without closing it.</source>
-        <translation>%1 war offen, als das Programm endete, ohne es zu schließen.</translation>
-    </message>
-    <message>
-        <source>There is a copy of %1, with what had not been saved. Open it? Discard takes it away, Cancel keeps it for the next start.</source>
-        <translation>Es gibt eine Kopie von %1 mit dem, was nicht gespeichert war. Öffnen? Verwerfen löscht sie, Abbrechen behält sie bis zum nächsten Start.</translation>
-    </message>
-    <message>
-        <source>This is the copy. Saving it replaces the plan's own file.</source>
-        <translation>Das ist die Kopie. Speichern ersetzt die Datei des Plans.</translation>
-    </message>
-    <message>
-        <source>Save the changes to %1?</source>
-        <translation>Änderungen an %1 speichern?</translation>
-    </message>
-    <message>
-        <source>%1 was changed by another program since it was opened.</source>
-        <translation>%1 wurde seit dem Öffnen von einem anderen Programm geändert.</translation>
-    </message>
-    <message>
-        <source>Saving replaces what was written there.</source>
-        <translation>Speichern ersetzt, was dort geschrieben wurde.</translation>
-    </message>
-    <message>
-        <source>Saved.</source>
-        <translation>Gespeichert.</translation>
-    </message>
-    <message>
-        <source>%1 was changed by another program.</source>
-        <translation>%1 wurde von einem anderen Programm geändert.</translation>
-    </message>
-    <message>
-        <source>Open it again</source>
-        <translation>Neu öffnen</translation>
-    </message>
-    <message>
-        <source>Keep mine</source>
-        <translation>Meine behalten</translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>Noch keine</translation>
-    </message>
-    <message>
-        <source>Insert task</source>
-        <translation>Vorgang einfügen</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Löschen</translation>
-    </message>
-    <message>
-        <source>Duplicate</source>
-        <translation>Duplizieren</translation>
-    </message>
-    <message>
-        <source>Indent</source>
-        <translation>Tiefer stufen</translation>
-    </message>
-    <message>
-        <source>Outdent</source>
-        <translation>Höher stufen</translation>
-    </message>
-    <message>
-        <source>Move up</source>
-        <translation>Nach oben</translation>
-    </message>
-    <message>
-        <source>Move down</source>
-        <translation>Nach unten</translation>
-    </message>
-    <message>
-        <source>Unfold</source>
-        <translation>Aufklappen</translation>
-    </message>
-    <message>
-        <source>Fold</source>
-        <translation>Zuklappen</translation>
-    </message>
-    <message>
-        <source>Link tasks</source>
-        <translation>Vorgänge verknüpfen</translation>
-    </message>
-    <message>
-        <source>Unlink tasks</source>
-        <translation>Verknüpfungen lösen</translation>
-    </message>
-    <message>
-        <source>Make milestone</source>
-        <translation>Zum Meilenstein machen</translation>
-    </message>
-    <message>
-        <source>Make task</source>
-        <translation>Zum Vorgang machen</translation>
-    </message>
-    <message>
-        <source>Nothing moves: every task starts when those it waits for have ended.</source>
-        <translation>Nichts bewegt sich: jeder Vorgang beginnt, wenn die beendet sind, auf die er wartet.</translation>
-    </message>
-    <message>
-        <source>Set baseline</source>
-        <translation>Basisplan setzen</translation>
-    </message>
-    <message>
-        <source>The dates of all tasks are the baseline now.</source>
-        <translation>Die Termine aller Vorgänge sind jetzt der Basisplan.</translation>
-    </message>
-    <message>
-        <source>The dates of %1 tasks are their baseline now.</source>
-        <translation>Die Termine von %1 Vorgängen sind jetzt ihr Basisplan.</translation>
-    </message>
-    <message>
-        <source>It waits for no other task.</source>
-        <translation>Er wartet auf keinen anderen Vorgang.</translation>
-    </message>
-    <message>
-        <source>no task has %1 in it</source>
-        <translation>kein Vorgang enthält %1</translation>
-    </message>
-    <message>
-        <source>Find</source>
-        <translation>Suchen</translation>
-    </message>
-    <message>
-        <source>Text in names, notes and resources:</source>
-        <translation>Text in Namen, Notizen und Ressourcen:</translation>
-    </message>
-    <message>
-        <source>Go to row</source>
-        <translation>Zu Zeile gehen</translation>
-    </message>
-    <message>
-        <source>Number of the task:</source>
-        <translation>Nummer des Vorgangs:</translation>
-    </message>
-    <message>
-        <source>No texts beside bars</source>
-        <translation>Keine Texte neben den Balken</translation>
-    </message>
-    <message>
-        <source>Names beside bars</source>
-        <translation>Namen neben den Balken</translation>
-    </message>
-    <message>
-        <source>Resources beside bars</source>
-        <translation>Ressourcen neben den Balken</translation>
-    </message>
-    <message>
-        <source>Dates beside bars</source>
-        <translation>Termine neben den Balken</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -5841,10 +5721,6 @@
         <translation>Zeichnen…</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
         <source>a file of that name has no format: use pdf, png, svg, html, xlsx, xls, xml or csv</source>
         <translation>eine Datei dieses Namens hat kein Format: nehmen Sie pdf, png, svg, html, xlsx, xls, xml oder csv</translation>
     </message>
@@ -5865,12 +5741,284 @@
         <translation>kwgantt %1: plant Projekte in Arbeitszeit.</translation>
     </message>
     <message>
+        <source>Opening %1…</source>
+        <translation>%1 wird geöffnet…</translation>
+    </message>
+    <message>
+        <source>cancelled: the plan that was open stays</source>
+        <translation>abgebrochen: der offene Plan bleibt</translation>
+    </message>
+    <message>
+        <source>%1 tasks had no start and were scheduled.</source>
+        <translation>%1 Vorgänge hatten keinen Anfang und wurden berechnet.</translation>
+    </message>
+    <message>
+        <source>One task starts before a task that it waits for ends.</source>
+        <translation>Ein Vorgang beginnt vor dem Ende eines Vorgangs, auf den er wartet.</translation>
+    </message>
+    <message>
+        <source>%1 tasks start before a task that they wait for ends.</source>
+        <translation>%1 Vorgänge beginnen vor dem Ende eines Vorgangs, auf den sie warten.</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Berechnen</translation>
+    </message>
+    <message>
+        <source>The plan is also open in %1: whoever saves last wins.</source>
+        <translation>Der Plan ist auch in %1 offen: wer zuletzt speichert, gewinnt.</translation>
+    </message>
+    <message>
+        <source>Three tasks to try things on: type over a name, drag a bar, draw from one bar to another. Ctrl+Shift+P finds every command.</source>
+        <translation>Drei Vorgänge zum Ausprobieren: einen Namen überschreiben, einen Balken ziehen, von einem Balken zum anderen ziehen. Strg+Umschalt+P findet jeden Befehl.</translation>
+    </message>
+    <message>
+        <source>%1 was open when the program ended without closing it.</source>
+        <translation>%1 war offen, als das Programm endete, ohne es zu schließen.</translation>
+    </message>
+    <message>
+        <source>There is a copy of %1, with what had not been saved. Open it? Discard takes it away, Cancel keeps it for the next start.</source>
+        <translation>Es gibt eine Kopie von %1 mit dem, was nicht gespeichert war. Öffnen? Verwerfen löscht sie, Abbrechen behält sie bis zum nächsten Start.</translation>
+    </message>
+    <message>
+        <source>cancelled: the copy is kept</source>
+        <translation>abgebrochen: die Kopie wird behalten</translation>
+    </message>
+    <message>
+        <source>This is the copy. Saving it replaces the plan's own file.</source>
+        <translation>Das ist die Kopie. Speichern ersetzt die Datei des Plans.</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation>Änderungen an %1 speichern?</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program since it was opened.</source>
+        <translation>%1 wurde seit dem Öffnen von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>Saving replaces what was written there.</source>
+        <translation>Speichern ersetzt, was dort geschrieben wurde.</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>Gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 wurde von einem anderen Programm geändert.</translation>
+    </message>
+    <message>
+        <source>Open it again</source>
+        <translation>Neu öffnen</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>Meine behalten</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Noch keine</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Aufklappen</translation>
+    </message>
+    <message>
+        <source>It waits for no other task.</source>
+        <translation>Er wartet auf keinen anderen Vorgang.</translation>
+    </message>
+    <message>
+        <source>no task has %1 in it</source>
+        <translation>kein Vorgang enthält %1</translation>
+    </message>
+    <message>
+        <source>Go to row</source>
+        <translation>Zu Zeile gehen</translation>
+    </message>
+    <message>
+        <source>Number of the task:</source>
+        <translation>Nummer des Vorgangs:</translation>
+    </message>
+    <message>
+        <source>No texts beside bars</source>
+        <translation>Keine Texte neben den Balken</translation>
+    </message>
+    <message>
+        <source>Names beside bars</source>
+        <translation>Namen neben den Balken</translation>
+    </message>
+    <message>
+        <source>Resources beside bars</source>
+        <translation>Ressourcen neben den Balken</translation>
+    </message>
+    <message>
+        <source>Dates beside bars</source>
+        <translation>Termine neben den Balken</translation>
+    </message>
+    <message>
+        <source>the task has no hyperlink</source>
+        <translation>der Vorgang hat keinen Hyperlink</translation>
+    </message>
+    <message>
+        <source>the column of hyperlinks takes addresses</source>
+        <translation>die Spalte der Hyperlinks nimmt Adressen</translation>
+    </message>
+    <message>
+        <source>Open link</source>
+        <translation>Hyperlink öffnen</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse:</translation>
+    </message>
+    <message>
+        <source>%1 is not opened</source>
+        <translation>%1 wird nicht geöffnet</translation>
+    </message>
+    <message>
+        <source>only pages (http, https, ftp) and mail addresses are</source>
+        <translation>nur Seiten (http, https, ftp) und E-Mail-Adressen</translation>
+    </message>
+    <message>
+        <source>Opened %1.</source>
+        <translation>%1 ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>no program here opens %1</source>
+        <translation>kein Programm hier öffnet %1</translation>
+    </message>
+    <message>
+        <source>Insert task</source>
+        <translation>Vorgang einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Indent</source>
+        <translation>Tiefer stufen</translation>
+    </message>
+    <message>
+        <source>Outdent</source>
+        <translation>Höher stufen</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Zuklappen</translation>
+    </message>
+    <message>
+        <source>Link tasks</source>
+        <translation>Vorgänge verknüpfen</translation>
+    </message>
+    <message>
+        <source>Unlink tasks</source>
+        <translation>Verknüpfungen lösen</translation>
+    </message>
+    <message>
+        <source>Make milestone</source>
+        <translation>Zum Meilenstein machen</translation>
+    </message>
+    <message>
+        <source>Make task</source>
+        <translation>Zum Vorgang machen</translation>
+    </message>
+    <message>
+        <source>no name and no note has %1 in it</source>
+        <translation>kein Name und keine Notiz enthält %1</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Replaced in one task.</source>
+        <translation>In einem Vorgang ersetzt.</translation>
+    </message>
+    <message>
+        <source>Replaced in %1 tasks.</source>
+        <translation>In %1 Vorgängen ersetzt.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Nothing moves: every task starts when those it waits for have ended.</source>
+        <translation>Nichts bewegt sich: jeder Vorgang beginnt, wenn die beendet sind, auf die er wartet.</translation>
+    </message>
+    <message>
+        <source>Set baseline</source>
+        <translation>Basisplan setzen</translation>
+    </message>
+    <message>
+        <source>The dates of all tasks are the baseline now.</source>
+        <translation>Die Termine aller Vorgänge sind jetzt der Basisplan.</translation>
+    </message>
+    <message>
+        <source>The dates of %1 tasks are their baseline now.</source>
+        <translation>Die Termine von %1 Vorgängen sind jetzt ihr Basisplan.</translation>
+    </message>
+    <message>
+        <source>%1 moves to %2</source>
+        <translation>%1 rückt auf %2</translation>
+    </message>
+    <message>
+        <source>, pushed by %1</source>
+        <translation>, geschoben von %1</translation>
+    </message>
+    <message>
+        <source> with its summary</source>
+        <translation> mit dem Sammelvorgang</translation>
+    </message>
+    <message>
+        <source>%1 more move</source>
+        <translation>%1 weitere verschoben</translation>
+    </message>
+    <message>
+        <source>The project ends %1 (before: %2)</source>
+        <translation>Das Projekt endet %1 (vorher: %2)</translation>
+    </message>
+    <message>
+        <source>%1 loses its resource %2</source>
+        <translation>%1 verliert die Ressource %2</translation>
+    </message>
+    <message>
+        <source>%1 does not wait for %2 any more</source>
+        <translation>%1 wartet nicht mehr auf %2</translation>
+    </message>
+    <message>
         <source>Dates of the chart</source>
         <translation>Termine des Diagramms</translation>
     </message>
     <message>
         <source>Drag sideways, or turn the wheel, to zoom</source>
         <translation>Zum Zoomen seitwärts ziehen oder das Mausrad drehen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Which tasks</source>
+        <translation>Welche Vorgänge</translation>
+    </message>
+    <message>
+        <source>Tasks found</source>
+        <translation>Gefundene Vorgänge</translation>
     </message>
     <message>
         <source>Findings</source>

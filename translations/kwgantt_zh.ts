@@ -3002,6 +3002,14 @@
         <translation>无法复制这些任务</translation>
     </message>
     <message>
+        <source>cancelled: the plan is as it was</source>
+        <translation>已取消：计划保持原样</translation>
+    </message>
+    <message>
+        <source>given up</source>
+        <translation>已放弃</translation>
+    </message>
+    <message>
         <source>left out</source>
         <translation>已略去</translation>
     </message>
@@ -4821,6 +4829,14 @@
         <translation>转到下一处</translation>
     </message>
     <message>
+        <source>&amp;Replace…</source>
+        <translation>替换(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>puts another text in its place, in names and notes</source>
+        <translation>在名称和备注中以另一段文字代替</translation>
+    </message>
+    <message>
         <source>&amp;Go to row…</source>
         <translation>转到行(&amp;G)…</translation>
     </message>
@@ -4939,6 +4955,14 @@
     <message>
         <source>sets the chosen tasks to 100 %</source>
         <translation>把所选任务设为 100 %</translation>
+    </message>
+    <message>
+        <source>Open &amp;hyperlink…</source>
+        <translation>打开超链接(&amp;H)…</translation>
+    </message>
+    <message>
+        <source>shows the page, or begins the mail, that the chosen task names</source>
+        <translation>显示所选任务所指的网页，或开始写邮件</translation>
     </message>
     <message>
         <source>Working &amp;time…</source>
@@ -5075,6 +5099,14 @@
     <message>
         <source>a panel that explains the dates of the chosen task</source>
         <translation>解释所选任务日期的面板</translation>
+    </message>
+    <message>
+        <source>F&amp;ilter</source>
+        <translation>筛选(&amp;I)</translation>
+    </message>
+    <message>
+        <source>lists the critical tasks, the late ones, those of a resource</source>
+        <translation>列出关键任务、迟到的任务、某个资源的任务</translation>
     </message>
     <message>
         <source>&amp;Go to what drives it</source>
@@ -5245,6 +5277,14 @@
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
+        <source>kwgantt</source>
+        <translation>kwgantt</translation>
+    </message>
+    <message>
+        <source>Cancelling…</source>
+        <translation>正在取消…</translation>
+    </message>
+    <message>
         <source>Working time</source>
         <translation>工作时间</translation>
     </message>
@@ -5323,6 +5363,30 @@
     <message>
         <source>Commands that fit</source>
         <translation>匹配的命令</translation>
+    </message>
+    <message>
+        <source>&amp;Match case</source>
+        <translation>区分大小写(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;Replace all</source>
+        <translation>全部替换(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Find and replace</source>
+        <translation>查找和替换</translation>
+    </message>
+    <message>
+        <source>&amp;Text in names, notes and resources:</source>
+        <translation>名称、备注和资源中的文字(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Replace in &amp;names and notes by:</source>
+        <translation>在名称和备注中替换为(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>&amp;Find next</source>
+        <translation>查找下一个(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Fit to</source>
@@ -5533,8 +5597,32 @@
         <translation>文件夹须存在且有空间</translation>
     </message>
     <message>
-        <source>kwgantt</source>
-        <translation>kwgantt</translation>
+        <source>Late: should be done by now</source>
+        <translation>迟到：现在应已完成</translation>
+    </message>
+    <message>
+        <source>Behind the baseline</source>
+        <translation>落后于基线</translation>
+    </message>
+    <message>
+        <source>Milestones</source>
+        <translation>里程碑</translation>
+    </message>
+    <message>
+        <source>Nobody assigned</source>
+        <translation>无人分配</translation>
+    </message>
+    <message>
+        <source>Resource: %1</source>
+        <translation>资源：%1</translation>
+    </message>
+    <message>
+        <source>ends %1, planned %2</source>
+        <translation>%1 结束，计划 %2</translation>
+    </message>
+    <message>
+        <source>%1% done, should have ended %2</source>
+        <translation>已完成 %1%，应于 %2 结束</translation>
     </message>
     <message>
         <source>State of the plan</source>
@@ -5575,214 +5663,6 @@
     <message>
         <source>also open in %1</source>
         <translation>同时在 %1 中打开</translation>
-    </message>
-    <message>
-        <source>%1 moves to %2</source>
-        <translation>%1 移到 %2</translation>
-    </message>
-    <message>
-        <source>, pushed by %1</source>
-        <translation>，被 %1 推迟</translation>
-    </message>
-    <message>
-        <source> with its summary</source>
-        <translation> 随摘要任务</translation>
-    </message>
-    <message>
-        <source>%1 more move</source>
-        <translation>另有 %1 个移动</translation>
-    </message>
-    <message>
-        <source>The project ends %1 (before: %2)</source>
-        <translation>项目完成于 %1（原为 %2）</translation>
-    </message>
-    <message>
-        <source>%1 loses its resource %2</source>
-        <translation>%1 失去资源 %2</translation>
-    </message>
-    <message>
-        <source>%1 does not wait for %2 any more</source>
-        <translation>%1 不再等待 %2</translation>
-    </message>
-    <message>
-        <source>Undo</source>
-        <translation>撤销</translation>
-    </message>
-    <message>
-        <source>%1 tasks had no start and were scheduled.</source>
-        <translation>%1 个任务没有开始时间，已排程。</translation>
-    </message>
-    <message>
-        <source>One task starts before a task that it waits for ends.</source>
-        <translation>有一个任务在所等待的任务完成前开始。</translation>
-    </message>
-    <message>
-        <source>%1 tasks start before a task that they wait for ends.</source>
-        <translation>%1 个任务在所等待的任务完成前开始。</translation>
-    </message>
-    <message>
-        <source>Schedule</source>
-        <translation>排程</translation>
-    </message>
-    <message>
-        <source>The plan is also open in %1: whoever saves last wins.</source>
-        <translation>计划也在 %1 中打开：以最后保存者为准。</translation>
-    </message>
-    <message>
-        <source>Three tasks to try things on: type over a name, drag a bar, draw from one bar to another. Ctrl+Shift+P finds every command.</source>
-        <translation>三个任务供试用：改写名称、拖动条形、从一个条形画到另一个。Ctrl+Shift+P 可查找所有命令。</translation>
-    </message>
-    <message>
-        <source>%1 was open when the program ended without closing it.</source>
-        <translation>程序结束时 %1 尚未关闭。</translation>
-    </message>
-    <message>
-        <source>There is a copy of %1, with what had not been saved. Open it? Discard takes it away, Cancel keeps it for the next start.</source>
-        <translation>有一份 %1 的副本，含未保存的内容。要打开吗？“放弃”删除它，“取消”保留到下次启动。</translation>
-    </message>
-    <message>
-        <source>This is the copy. Saving it replaces the plan's own file.</source>
-        <translation>这是副本。保存会替换计划自身的文件。</translation>
-    </message>
-    <message>
-        <source>Save the changes to %1?</source>
-        <translation>保存对 %1 的更改吗？</translation>
-    </message>
-    <message>
-        <source>%1 was changed by another program since it was opened.</source>
-        <translation>%1 打开后被另一程序更改。</translation>
-    </message>
-    <message>
-        <source>Saving replaces what was written there.</source>
-        <translation>保存会替换那里写入的内容。</translation>
-    </message>
-    <message>
-        <source>Saved.</source>
-        <translation>已保存。</translation>
-    </message>
-    <message>
-        <source>%1 was changed by another program.</source>
-        <translation>%1 被另一程序更改。</translation>
-    </message>
-    <message>
-        <source>Open it again</source>
-        <translation>重新打开</translation>
-    </message>
-    <message>
-        <source>Keep mine</source>
-        <translation>保留我的</translation>
-    </message>
-    <message>
-        <source>None yet</source>
-        <translation>暂无</translation>
-    </message>
-    <message>
-        <source>Insert task</source>
-        <translation>插入任务</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>删除</translation>
-    </message>
-    <message>
-        <source>Duplicate</source>
-        <translation>创建副本</translation>
-    </message>
-    <message>
-        <source>Indent</source>
-        <translation>降级</translation>
-    </message>
-    <message>
-        <source>Outdent</source>
-        <translation>升级</translation>
-    </message>
-    <message>
-        <source>Move up</source>
-        <translation>上移</translation>
-    </message>
-    <message>
-        <source>Move down</source>
-        <translation>下移</translation>
-    </message>
-    <message>
-        <source>Unfold</source>
-        <translation>展开</translation>
-    </message>
-    <message>
-        <source>Fold</source>
-        <translation>折叠</translation>
-    </message>
-    <message>
-        <source>Link tasks</source>
-        <translation>链接任务</translation>
-    </message>
-    <message>
-        <source>Unlink tasks</source>
-        <translation>取消任务链接</translation>
-    </message>
-    <message>
-        <source>Make milestone</source>
-        <translation>设为里程碑</translation>
-    </message>
-    <message>
-        <source>Make task</source>
-        <translation>设为任务</translation>
-    </message>
-    <message>
-        <source>Nothing moves: every task starts when those it waits for have ended.</source>
-        <translation>没有移动：每个任务都在所等待的任务完成时开始。</translation>
-    </message>
-    <message>
-        <source>Set baseline</source>
-        <translation>设置基线</translation>
-    </message>
-    <message>
-        <source>The dates of all tasks are the baseline now.</source>
-        <translation>所有任务的日期现已成为基线。</translation>
-    </message>
-    <message>
-        <source>The dates of %1 tasks are their baseline now.</source>
-        <translation>%1 个任务的日期现已成为其基线。</translation>
-    </message>
-    <message>
-        <source>It waits for no other task.</source>
-        <translation>它不等待其他任务。</translation>
-    </message>
-    <message>
-        <source>no task has %1 in it</source>
-        <translation>没有任务含有 %1</translation>
-    </message>
-    <message>
-        <source>Find</source>
-        <translation>查找</translation>
-    </message>
-    <message>
-        <source>Text in names, notes and resources:</source>
-        <translation>名称、备注和资源中的文字：</translation>
-    </message>
-    <message>
-        <source>Go to row</source>
-        <translation>转到行</translation>
-    </message>
-    <message>
-        <source>Number of the task:</source>
-        <translation>任务编号：</translation>
-    </message>
-    <message>
-        <source>No texts beside bars</source>
-        <translation>条形旁不显示文字</translation>
-    </message>
-    <message>
-        <source>Names beside bars</source>
-        <translation>条形旁显示名称</translation>
-    </message>
-    <message>
-        <source>Resources beside bars</source>
-        <translation>条形旁显示资源</translation>
-    </message>
-    <message>
-        <source>Dates beside bars</source>
-        <translation>条形旁显示日期</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -5841,10 +5721,6 @@
         <translation>正在绘制…</translation>
     </message>
     <message>
-        <source>Cancel</source>
-        <translation>取消</translation>
-    </message>
-    <message>
         <source>a file of that name has no format: use pdf, png, svg, html, xlsx, xls, xml or csv</source>
         <translation>此名称的文件没有格式：请用 pdf、png、svg、html、xlsx、xls、xml 或 csv</translation>
     </message>
@@ -5865,12 +5741,284 @@
         <translation>kwgantt %1：按工作时间安排项目。</translation>
     </message>
     <message>
+        <source>Opening %1…</source>
+        <translation>正在打开 %1…</translation>
+    </message>
+    <message>
+        <source>cancelled: the plan that was open stays</source>
+        <translation>已取消：原来打开的计划保留</translation>
+    </message>
+    <message>
+        <source>%1 tasks had no start and were scheduled.</source>
+        <translation>%1 个任务没有开始时间，已排程。</translation>
+    </message>
+    <message>
+        <source>One task starts before a task that it waits for ends.</source>
+        <translation>有一个任务在所等待的任务完成前开始。</translation>
+    </message>
+    <message>
+        <source>%1 tasks start before a task that they wait for ends.</source>
+        <translation>%1 个任务在所等待的任务完成前开始。</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>排程</translation>
+    </message>
+    <message>
+        <source>The plan is also open in %1: whoever saves last wins.</source>
+        <translation>计划也在 %1 中打开：以最后保存者为准。</translation>
+    </message>
+    <message>
+        <source>Three tasks to try things on: type over a name, drag a bar, draw from one bar to another. Ctrl+Shift+P finds every command.</source>
+        <translation>三个任务供试用：改写名称、拖动条形、从一个条形画到另一个。Ctrl+Shift+P 可查找所有命令。</translation>
+    </message>
+    <message>
+        <source>%1 was open when the program ended without closing it.</source>
+        <translation>程序结束时 %1 尚未关闭。</translation>
+    </message>
+    <message>
+        <source>There is a copy of %1, with what had not been saved. Open it? Discard takes it away, Cancel keeps it for the next start.</source>
+        <translation>有一份 %1 的副本，含未保存的内容。要打开吗？“放弃”删除它，“取消”保留到下次启动。</translation>
+    </message>
+    <message>
+        <source>cancelled: the copy is kept</source>
+        <translation>已取消：副本保留</translation>
+    </message>
+    <message>
+        <source>This is the copy. Saving it replaces the plan's own file.</source>
+        <translation>这是副本。保存会替换计划自身的文件。</translation>
+    </message>
+    <message>
+        <source>Save the changes to %1?</source>
+        <translation>保存对 %1 的更改吗？</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program since it was opened.</source>
+        <translation>%1 打开后被另一程序更改。</translation>
+    </message>
+    <message>
+        <source>Saving replaces what was written there.</source>
+        <translation>保存会替换那里写入的内容。</translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation>已保存。</translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program.</source>
+        <translation>%1 被另一程序更改。</translation>
+    </message>
+    <message>
+        <source>Open it again</source>
+        <translation>重新打开</translation>
+    </message>
+    <message>
+        <source>Keep mine</source>
+        <translation>保留我的</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>暂无</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>It waits for no other task.</source>
+        <translation>它不等待其他任务。</translation>
+    </message>
+    <message>
+        <source>no task has %1 in it</source>
+        <translation>没有任务含有 %1</translation>
+    </message>
+    <message>
+        <source>Go to row</source>
+        <translation>转到行</translation>
+    </message>
+    <message>
+        <source>Number of the task:</source>
+        <translation>任务编号：</translation>
+    </message>
+    <message>
+        <source>No texts beside bars</source>
+        <translation>条形旁不显示文字</translation>
+    </message>
+    <message>
+        <source>Names beside bars</source>
+        <translation>条形旁显示名称</translation>
+    </message>
+    <message>
+        <source>Resources beside bars</source>
+        <translation>条形旁显示资源</translation>
+    </message>
+    <message>
+        <source>Dates beside bars</source>
+        <translation>条形旁显示日期</translation>
+    </message>
+    <message>
+        <source>the task has no hyperlink</source>
+        <translation>该任务没有超链接</translation>
+    </message>
+    <message>
+        <source>the column of hyperlinks takes addresses</source>
+        <translation>可在超链接列中填写地址</translation>
+    </message>
+    <message>
+        <source>Open link</source>
+        <translation>打开链接</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>地址：</translation>
+    </message>
+    <message>
+        <source>%1 is not opened</source>
+        <translation>不打开 %1</translation>
+    </message>
+    <message>
+        <source>only pages (http, https, ftp) and mail addresses are</source>
+        <translation>只打开网页（http、https、ftp）和邮件地址</translation>
+    </message>
+    <message>
+        <source>Opened %1.</source>
+        <translation>已打开 %1。</translation>
+    </message>
+    <message>
+        <source>no program here opens %1</source>
+        <translation>这里没有程序能打开 %1</translation>
+    </message>
+    <message>
+        <source>Insert task</source>
+        <translation>插入任务</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>创建副本</translation>
+    </message>
+    <message>
+        <source>Indent</source>
+        <translation>降级</translation>
+    </message>
+    <message>
+        <source>Outdent</source>
+        <translation>升级</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上移</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下移</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Link tasks</source>
+        <translation>链接任务</translation>
+    </message>
+    <message>
+        <source>Unlink tasks</source>
+        <translation>取消任务链接</translation>
+    </message>
+    <message>
+        <source>Make milestone</source>
+        <translation>设为里程碑</translation>
+    </message>
+    <message>
+        <source>Make task</source>
+        <translation>设为任务</translation>
+    </message>
+    <message>
+        <source>no name and no note has %1 in it</source>
+        <translation>没有名称或备注包含 %1</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>替换</translation>
+    </message>
+    <message>
+        <source>Replaced in one task.</source>
+        <translation>已在一个任务中替换。</translation>
+    </message>
+    <message>
+        <source>Replaced in %1 tasks.</source>
+        <translation>已在 %1 个任务中替换。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Nothing moves: every task starts when those it waits for have ended.</source>
+        <translation>没有移动：每个任务都在所等待的任务完成时开始。</translation>
+    </message>
+    <message>
+        <source>Set baseline</source>
+        <translation>设置基线</translation>
+    </message>
+    <message>
+        <source>The dates of all tasks are the baseline now.</source>
+        <translation>所有任务的日期现已成为基线。</translation>
+    </message>
+    <message>
+        <source>The dates of %1 tasks are their baseline now.</source>
+        <translation>%1 个任务的日期现已成为其基线。</translation>
+    </message>
+    <message>
+        <source>%1 moves to %2</source>
+        <translation>%1 移到 %2</translation>
+    </message>
+    <message>
+        <source>, pushed by %1</source>
+        <translation>，被 %1 推迟</translation>
+    </message>
+    <message>
+        <source> with its summary</source>
+        <translation> 随摘要任务</translation>
+    </message>
+    <message>
+        <source>%1 more move</source>
+        <translation>另有 %1 个移动</translation>
+    </message>
+    <message>
+        <source>The project ends %1 (before: %2)</source>
+        <translation>项目完成于 %1（原为 %2）</translation>
+    </message>
+    <message>
+        <source>%1 loses its resource %2</source>
+        <translation>%1 失去资源 %2</translation>
+    </message>
+    <message>
+        <source>%1 does not wait for %2 any more</source>
+        <translation>%1 不再等待 %2</translation>
+    </message>
+    <message>
         <source>Dates of the chart</source>
         <translation>图表的日期</translation>
     </message>
     <message>
         <source>Drag sideways, or turn the wheel, to zoom</source>
         <translation>横向拖动或转动滚轮以缩放</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Which tasks</source>
+        <translation>哪些任务</translation>
+    </message>
+    <message>
+        <source>Tasks found</source>
+        <translation>找到的任务</translation>
     </message>
     <message>
         <source>Findings</source>
