@@ -59,6 +59,7 @@ PageSetupDialog::PageSetupDialog(Session &session, QWidget *parent)
     m_zoom->setSuffix(QStringLiteral(" %"));
     m_across->setAccessibleName(tr("Sheets across"));
     m_down->setAccessibleName(tr("Sheets down"));
+    m_zoom->setAccessibleName(tr("&Scale to").remove(QLatin1Char('&')));
     auto *sheets = new QHBoxLayout;
     sheets->addWidget(m_fits);
     sheets->addWidget(m_across);

@@ -27,6 +27,7 @@ PreviewDialog::PreviewDialog(Session &session, const KWExportOptions &options, Q
     m_sheet->setAlignment(Qt::AlignCenter);
     auto *area = new QScrollArea;
     area->setWidget(m_sheet);
+    area->setAccessibleName(windowTitle());
     area->setWidgetResizable(true);
     area->setBackgroundRole(QPalette::Dark);
     auto *setup = new QPushButton(tr("Page &set-up…"));
