@@ -72,7 +72,10 @@ bool isBreak(const Plan &plan, const QDate &date, int hour)
     return !KWTaskInfo::isWorkTime(plan.document.get(), QDateTime(date, QTime(qBound(0, hour, 23), 0)));
 }
 
-// The slots of one scale, at most `most` of them; `fits` tells whether those were all.
+// Every unit is cut into equal pieces of its own length, so a month of 28 days is as wide as one of 31: in a
+// terminal equal columns read better than true lengths. Only days and hours know days off, coarser units
+// would be half one, half the other. The slots of one scale, at most `most` of them; `fits` tells whether
+// those were all.
 std::vector<Slot> slotsOf(const Plan &plan, const Scale &scale, const QDate &first, const QDate &last,
                           int most, bool &fits)
 {
@@ -188,6 +191,8 @@ std::pair<int, int> Axis::columnsOf(qint64 from, qint64 to) const
     return {int(first - begin), int(last - begin)};
 }
 
+// From fine to coarse, the first that fits; what no scale fits keeps the last one tried and is cut off. A
+// scale that is named has two widths at most, and the wider one is tried first.
 Axis make(const Plan &plan, const QDate &first, const QDate &last, const QString &wanted, int columns)
 {
     Axis result;
@@ -214,7 +219,7 @@ QString heading(const Axis &axis, int line)
     const int columns = int(axis.slots.size());
     std::vector<Label> labels;
     QDate before;
-    int unitColumn = 0;
+    int unitColumn = 0; // where the present day begins, on an axis of hours
     for (int column = 0; column < columns; ++column) {
         const Slot &slot = axis.slots[std::size_t(column)];
         const QDate date = dateOf(slot.from);

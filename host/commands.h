@@ -36,6 +36,7 @@ int loadForChange(Console &console, const QString &file, Plan &plan);
 // error when the plan was written.
 int writeChanged(Console &console, Plan &plan, const QString &summary);
 
+int load(Console &console); // and check
 int edit(Console &console);
 int newPlan(Console &console);
 int compare(Console &console);

@@ -58,6 +58,10 @@ const char *readEntity(const char *at, const char *end, QString &text, int &odd)
     return semicolon + 1;
 }
 
+// Copies what is plain in runs, not character by character: `plain` is where the present run began. A line
+// end of "\r\n" or
+// "\r" becomes "\n", as XML wants it. An "&" that begins nothing known stays and is counted, since losing it
+// would be silent.
 QString decoded(const char *at, const char *end, bool isCharacterData, int &odd)
 {
     QString text;
@@ -139,6 +143,9 @@ bool XmlPull::startsWith(const char *mark) const
     return std::size_t(m_end - m_at) >= length && std::memcmp(m_at, mark, length) == 0;
 }
 
+// Each call answers with one token. What a token is about must still be there while the caller looks at it,
+// so an element that has ended leaves the stack only at the next call, and "<a/>" is a Begin now and an End
+// at the next call.
 XmlPull::Token XmlPull::next()
 {
     if (m_hasFailed)
@@ -197,6 +204,8 @@ XmlPull::Token XmlPull::beginTag()
     m_hadRoot = true;
     const char *const begin = m_at + 1;
     const char *at = begin;
+    // The stack has the name with its prefix, for the end tag must repeat both; callers ask for the name
+    // alone.
     const char *prefixEnd = nullptr;
     for (; at != m_end && *at != '>' && *at != '/' && *at != '<' && !isBlank(*at); ++at) {
         if (*at == ':')
@@ -221,7 +230,9 @@ XmlPull::Token XmlPull::beginTag()
 // Up to the end of the tag.
 bool XmlPull::readAttributes()
 {
-    constexpr std::size_t most = 1000; // more than any format has
+    // A name that stands twice is looked for among all before it, so their number has a limit; no format has
+    // as many.
+    constexpr std::size_t most = 1000;
     const char *at = m_at;
     bool isSound = false;
     while (m_attributes.size() < most) {
@@ -234,6 +245,7 @@ bool XmlPull::readAttributes()
             break;
         }
         if (*at == '/') {
+            // Only ">" may follow; the next round takes it.
             m_closesAtOnce = true;
             ++at;
             if (at == m_end || *at != '>')
@@ -315,6 +327,8 @@ QString XmlPull::textOfElement()
     return joined;
 }
 
+// The way most cells of a large sheet take: their text lies in the bytes as it is wanted, up to "</", and
+// nothing is copied. Whatever is not that plain goes the long way round.
 std::string_view XmlPull::utf8OfElement(QByteArray &buffer)
 {
     const char *at = m_at;
@@ -332,7 +346,7 @@ std::string_view XmlPull::utf8OfElement(QByteArray &buffer)
 
 int XmlPull::numberOfElement()
 {
-    constexpr int maxDigits = 9;
+    constexpr int maxDigits = 9; // never past an int; a longer number is read as text
     const char *at = m_at;
     int number = 0;
     while (!m_closesAtOnce && at != m_end && at - m_at < maxDigits && *at >= '0' && *at <= '9')

@@ -27,6 +27,8 @@ QString kwzip::nameFault(const QByteArray &name)
 {
     if (name.isEmpty())
         return text("the name is empty");
+    // What another system reads as its root, or as a way out of the folder, is refused here, too: the package
+    // travels.
     const bool hasDrive = name.size() > 1 && name[1] == ':' && std::isalpha(uchar(name[0]));
     if (name.startsWith('/') || hasDrive)
         return text("the name is absolute");
@@ -40,6 +42,7 @@ QString kwzip::nameFault(const QByteArray &name)
         return text("the name is no sound UTF-8");
     if (name.size() > PATH_MAX)
         return text("the name is too long");
+    // Part by part: nothing is resolved, for what a name resolves to depends on the disk it is unpacked to.
     const QByteArray path = name.endsWith('/') ? name.chopped(1) : name;
     int begin = 0;
     while (begin <= path.size()) {
@@ -80,6 +83,8 @@ bool kwzip::Inventory::addFoldersAbove(const QByteArray &path)
     return true;
 }
 
+// Everything is checked by what the entries declare, before one byte of them is unpacked; the unpacking holds
+// them to it.
 QString kwzip::Inventory::add(const Entry &entry)
 {
     const QString fault = nameFault(entry.name);
@@ -89,11 +94,13 @@ QString kwzip::Inventory::add(const Entry &entry)
         return text("there are too many entries");
     if (entry.bytes < 0 || entry.packedBytes < 0 || entry.bytes > maxEntryBytes)
         return text("the entry is too large");
+    // An entry that claims more packed bytes than the file has would make any size look well packed.
     if (entry.packedBytes > m_archiveBytes || isTooDense(entry.bytes, entry.packedBytes))
         return text("the entry unpacks to far more than it holds");
     if (entry.isFolder() && entry.bytes > 0)
         return text("a folder has content");
 
+    // Without the slash, so that a file and a folder of one name meet.
     const QByteArray path = entry.isFolder() ? entry.name.chopped(1) : entry.name;
     if (m_entries.contains(path))
         return text("the name stands there twice");
@@ -112,6 +119,7 @@ QString kwzip::Inventory::add(const Entry &entry)
     return QString();
 }
 
+// Not asked entry by entry: a file may come before the longer name that makes a folder of it.
 QString kwzip::Inventory::finish() const
 {
     for (const QByteArray &file : m_files) {

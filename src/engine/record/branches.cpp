@@ -23,6 +23,8 @@ bool Branches::add(const Tasks &tasks, TaskRecord *root)
     std::vector<Branch> path;
     const auto enter = [&](TaskRecord *task) {
         const bool isLeaf = !task->isParent();
+        // An ID that is there already: a ring, a task with two parents, or two tasks of one ID. A range could
+        // not say what lies below them, so the caller walks such an outline in the plain way.
         if (!m_placeOf.add(task->ID, isLeaf ? 0 : int(m_places.size())))
             return false;
         m_order.push_back(task);
@@ -37,6 +39,7 @@ bool Branches::add(const Tasks &tasks, TaskRecord *root)
     if (!enter(root))
         return false;
     while (!path.empty()) {
+        // Good until the next enter(), which may move what both stand in.
         Branch &branch = path.back();
         Place &place = m_places[branch.place];
         if (branch.nextChild < place.summary->Childs.size()) {
