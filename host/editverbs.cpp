@@ -9,7 +9,7 @@
 bool Edit::take(const EditAnswer &answer)
 {
     if (!answer.isDone())
-        return refuse(texts::said(answer.sentence()), texts::said(answer.hint()));
+        return refuse(answer.sentence(), answer.hint());
     for (const EditLoss &loss : answer.losses)
         lost.append(editverbs::lossText(document, loss));
     return true;
@@ -113,7 +113,7 @@ bool setValues(Edit &edit, const editline::Pairs &pairs)
                                      [](const auto &pair) { return pair.first == QLatin1String("finish"); });
     return edit.refuse(
         t("'%1' lies before the start of %2").arg(finish->second, taskref::named(edit.document, task.ID)),
-        texts::said(answer.hint()));
+        answer.hint());
 }
 
 bool rename(Edit &edit)

@@ -213,8 +213,7 @@ int copyBranch(Console &console)
                    : edits.copyBranches(*from.document, branches, place,
                                         options.before.isEmpty() ? PlanEdits::LastChild : PlanEdits::Above);
     if (!answer.isDone()) {
-        console.error(into.file + QLatin1String(": ") + texts::said(answer.sentence()),
-                      texts::said(answer.hint()));
+        console.error(into.file + QLatin1String(": ") + answer.sentence(), answer.hint());
         return Console::WrongUse;
     }
     QStringList lost;

@@ -1,4 +1,5 @@
 #include "texts.h"
+#include "edits/editanswer.h"
 #include "exchange/XLSXDataBase.h"
 #include "exchange/exceltitles.h"
 #include "model/kwdocument.h"
@@ -253,6 +254,9 @@ void fillLibraryTables()
     ExcelTitles::s_workAssignNames = english.assignmentTitles;
     ExcelTitles::s_strWorkAssignList = english.assignmentTitles.values();
     XLSXDataBase::s_xmlNameList = english.sheetNames;
+    for (QMap<EditRefusal, QString> *sentences : {&EditAnswer::s_sentences, &EditAnswer::s_hints})
+        for (QString &sentence : *sentences)
+            sentence = t(sentence);
 }
 
 QString said(const QString &english)

@@ -42,7 +42,8 @@ void chooseFromEnvironment();
 QStringList languages();
 // "de"
 QString chosen();
-// Fills the library's tables that a host has to fill. They stand in files and are English in every language.
+// Fills the library's tables that a host has to fill: titles, which stand in files and are English in every
+// language, and what edits are refused for, in the chosen one. Once, before the first document.
 void fillLibraryTables();
 // What the library said, which is English with its gaps filled, in the chosen language; unchanged when no
 // catalogue has it.

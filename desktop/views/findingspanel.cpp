@@ -1,5 +1,6 @@
 #include "views/findingspanel.h"
 #include "support/findings.h"
+#include "texts.h"
 #include <QListWidget>
 #include <QRegularExpression>
 
@@ -21,10 +22,11 @@ void FindingsPanel::list(const Findings &findings)
 {
     m_list->clear();
     for (const Finding &finding : findings.list()) {
+        const QString what = texts::said(finding.what);
         QString text =
-            finding.place.isEmpty() ? finding.what : finding.place + QLatin1String(": ") + finding.what;
+            finding.place.isEmpty() ? what : texts::said(finding.place) + QLatin1String(": ") + what;
         if (!finding.hint.isEmpty())
-            text += QLatin1String("\n") + finding.hint;
+            text += QLatin1String("\n") + texts::said(finding.hint);
         auto *item = new QListWidgetItem(text, m_list);
         // "row 17, 'Finish'", "line 17", "task 17"
         static const QRegularExpression form(QStringLiteral("\\b(row|line|task) (\\d+)\\b"));

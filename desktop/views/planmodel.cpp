@@ -2,6 +2,7 @@
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
 #include "table/rowcolumndata.h"
+#include "texts.h"
 #include <algorithm>
 
 PlanModel::PlanModel(Session &session, QObject *parent)
@@ -185,7 +186,7 @@ QVariant PlanModel::headerData(int section, Qt::Orientation orientation, int rol
         return QVariant();
     if (orientation == Qt::Vertical)
         return section + 1;
-    return section < columnCount() ? QVariant(m_table->heads()[std::size_t(section)].title) : QVariant();
+    return section < columnCount() ? QVariant(t(m_table->heads()[std::size_t(section)].title)) : QVariant();
 }
 
 Qt::ItemFlags PlanModel::flags(const QModelIndex &index) const

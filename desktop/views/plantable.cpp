@@ -2,6 +2,7 @@
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
 #include "table/rowcolumndata.h"
+#include "texts.h"
 #include "views/celldelegate.h"
 #include "views/planmodel.h"
 #include "views/tablehead.h"
@@ -463,7 +464,8 @@ void PlanTable::askColumns(const QPoint &globalPos)
     const RowColumnData &columns = *m_session.document().rowColumnData();
     for (int pos = 0; pos < columns.columns().size(); ++pos) {
         const RowColumnData::ColumnData &column = *columns.columns().at(pos);
-        QAction *action = menu.addAction(column.title);
+        QAction *action = menu.addAction(t(column.title));
+        action->setData(column.title);
         action->setCheckable(true);
         action->setChecked(!column.isHide);
         action->setEnabled(columns.isReplaceColumn(pos));
@@ -471,7 +473,7 @@ void PlanTable::askColumns(const QPoint &globalPos)
     QAction *waits = nullptr;
     const QString waitsTitle = RowColumnData::s_columnNames.value(cellinput::predecessorsType);
     if (!columns.getColumnDataByName(waitsTitle)) {
-        waits = menu.addAction(waitsTitle);
+        waits = menu.addAction(t(waitsTitle));
         waits->setCheckable(true);
         waits->setChecked(m_model.showsPredecessors());
     }
@@ -485,7 +487,7 @@ void PlanTable::askColumns(const QPoint &globalPos)
     }
     ColumnValues values;
     values.isHidden = !chosen->isChecked();
-    const QString title = chosen->text();
+    const QString title = chosen->data().toString();
     m_session.edit(values.isHidden.value() ? tr("Hide column") : tr("Show column"),
                    [&](PlanEdits &edits) { return edits.setColumn(title, values); });
 }
