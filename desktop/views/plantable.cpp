@@ -465,7 +465,7 @@ void PlanTable::askColumns(const QPoint &globalPos)
     for (int pos = 0; pos < columns.columns().size(); ++pos) {
         const RowColumnData::ColumnData &column = *columns.columns().at(pos);
         QAction *action = menu.addAction(t(column.title));
-        action->setData(column.title);
+        action->setData(QString(column.title));
         action->setCheckable(true);
         action->setChecked(!column.isHide);
         action->setEnabled(columns.isReplaceColumn(pos));
