@@ -24,6 +24,118 @@
         <translation>'kwgantt schedule %1' verschiebt sie</translation>
     </message>
     <message>
+        <source>%1: tasks wait for each other: %2</source>
+        <translation>%1: Vorgänge warten aufeinander: %2</translation>
+    </message>
+    <message>
+        <source>remove one of these links with 'kwgantt edit %1 unlink TASK TASK'; nothing was changed</source>
+        <translation>entfernen Sie eine Verknüpfung mit 'kwgantt edit %1 unlink TASK TASK'; nichts wurde geändert</translation>
+    </message>
+    <message>
+        <source>%1: changed meanwhile by another program; nothing was written</source>
+        <translation>%1: inzwischen von einem anderen Programm geändert; nichts wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>make the change again</source>
+        <translation>machen Sie die Änderung noch einmal</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be scheduled in its working time; nothing was changed</source>
+        <translation>%1: in dieser Arbeitszeit lässt sich nichts planen; nichts wurde geändert</translation>
+    </message>
+    <message>
+        <source>'kwgantt edit %1 calendar days Mon-Fri' and 'calendar hours 08:00-17:00' give it one</source>
+        <translation>'kwgantt edit %1 calendar days Mon-Fri' und 'calendar hours 08:00-17:00' geben ihm eine</translation>
+    </message>
+    <message>
+        <source>%1: a workbook cannot be changed in place</source>
+        <translation>%1: eine Arbeitsmappe kann nicht an Ort und Stelle geändert werden</translation>
+    </message>
+    <message>
+        <source>-o PLAN.kwpx writes the plan as a package</source>
+        <translation>-o PLAN.kwpx schreibt den Plan als Paket</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>no help on '%1'</source>
+        <translation>keine Hilfe zu '%1'</translation>
+    </message>
+    <message>
+        <source>'kwgantt help' lists all commands</source>
+        <translation>'kwgantt help' nennt alle Befehle</translation>
+    </message>
+    <message>
+        <source>did you mean '%1'?</source>
+        <translation>meinten Sie '%1'?</translation>
+    </message>
+    <message>
+        <source>shown unless told otherwise</source>
+        <translation>wird ohne Angabe gezeigt</translation>
+    </message>
+    <message>
+        <source>kwpx   reads and writes: the whole document as a package</source>
+        <translation>kwpx   liest und schreibt: das ganze Dokument als Paket</translation>
+    </message>
+    <message>
+        <source>csv    reads and writes: a row a task, titles in the first row, UTF-8</source>
+        <translation>csv    liest und schreibt: je Vorgang eine Zeile, Titel in der ersten, UTF-8</translation>
+    </message>
+    <message>
+        <source>xlsx   reads and writes: a workbook with a sheet each of tasks, resources and assignments</source>
+        <translation>xlsx   liest und schreibt: Arbeitsmappe mit Blättern für Vorgänge, Ressourcen, Zuweisungen</translation>
+    </message>
+    <message>
+        <source>xls    reads and writes: the same, at most 65,536 rows</source>
+        <translation>xls    liest und schreibt: dasselbe, höchstens 65,536 Zeilen</translation>
+    </message>
+    <message>
+        <source>mspdi  reads and writes: project XML (.xml), as other planners exchange it</source>
+        <translation>mspdi  liest und schreibt: Projekt-XML (.xml), wie andere Planungsprogramme es tauschen</translation>
+    </message>
+    <message>
+        <source>json   writes</source>
+        <translation>json   schreibt</translation>
+    </message>
+    <message>
+        <source>table  writes: text for people</source>
+        <translation>table  schreibt: Text für Menschen</translation>
+    </message>
+    <message>
+        <source>'kwgantt help formats' tells titles, dates and lengths</source>
+        <translation>'kwgantt help formats' erklärt Titel, Termine und Dauern</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>Vorgang</translation>
+    </message>
+    <message>
+        <source>Baseline finish</source>
+        <translation>Ende im Basisplan</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>&gt;Start by</source>
+        <translation>&gt;Anfang um</translation>
+    </message>
+    <message>
+        <source>&gt;Finish by</source>
+        <translation>&gt;Ende um</translation>
+    </message>
+    <message>
+        <source>&gt;Cost by</source>
+        <translation>&gt;Kosten um</translation>
+    </message>
+    <message>
+        <source>no baseline: 'kwgantt baseline FILE set' remembers one</source>
+        <translation>kein Basisplan: 'kwgantt baseline FILE set' hält einen fest</translation>
+    </message>
+    <message>
         <source>%1 summary task</source>
         <translation>%1 Sammelvorgang</translation>
     </message>
@@ -146,118 +258,6 @@
     <message>
         <source>%1 of %2 files are sound</source>
         <translation>%1 von %2 Dateien sind in Ordnung</translation>
-    </message>
-    <message>
-        <source>%1: tasks wait for each other: %2</source>
-        <translation>%1: Vorgänge warten aufeinander: %2</translation>
-    </message>
-    <message>
-        <source>remove one of these links with 'kwgantt edit %1 unlink TASK TASK'; nothing was changed</source>
-        <translation>entfernen Sie eine Verknüpfung mit 'kwgantt edit %1 unlink TASK TASK'; nichts wurde geändert</translation>
-    </message>
-    <message>
-        <source>%1: changed meanwhile by another program; nothing was written</source>
-        <translation>%1: inzwischen von einem anderen Programm geändert; nichts wurde geschrieben</translation>
-    </message>
-    <message>
-        <source>make the change again</source>
-        <translation>machen Sie die Änderung noch einmal</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be scheduled in its working time; nothing was changed</source>
-        <translation>%1: in dieser Arbeitszeit lässt sich nichts planen; nichts wurde geändert</translation>
-    </message>
-    <message>
-        <source>'kwgantt edit %1 calendar days Mon-Fri' and 'calendar hours 08:00-17:00' give it one</source>
-        <translation>'kwgantt edit %1 calendar days Mon-Fri' und 'calendar hours 08:00-17:00' geben ihm eine</translation>
-    </message>
-    <message>
-        <source>%1: a workbook cannot be changed in place</source>
-        <translation>%1: eine Arbeitsmappe kann nicht an Ort und Stelle geändert werden</translation>
-    </message>
-    <message>
-        <source>-o PLAN.kwpx writes the plan as a package</source>
-        <translation>-o PLAN.kwpx schreibt den Plan als Paket</translation>
-    </message>
-    <message>
-        <source>%1: the folder cannot be made</source>
-        <translation>%1: der Ordner kann nicht angelegt werden</translation>
-    </message>
-    <message>
-        <source>no help on '%1'</source>
-        <translation>keine Hilfe zu '%1'</translation>
-    </message>
-    <message>
-        <source>'kwgantt help' lists all commands</source>
-        <translation>'kwgantt help' nennt alle Befehle</translation>
-    </message>
-    <message>
-        <source>did you mean '%1'?</source>
-        <translation>meinten Sie '%1'?</translation>
-    </message>
-    <message>
-        <source>shown unless told otherwise</source>
-        <translation>wird ohne Angabe gezeigt</translation>
-    </message>
-    <message>
-        <source>kwpx   reads and writes: the whole document as a package</source>
-        <translation>kwpx   liest und schreibt: das ganze Dokument als Paket</translation>
-    </message>
-    <message>
-        <source>csv    reads and writes: a row a task, titles in the first row, UTF-8</source>
-        <translation>csv    liest und schreibt: je Vorgang eine Zeile, Titel in der ersten, UTF-8</translation>
-    </message>
-    <message>
-        <source>xlsx   reads and writes: a workbook with a sheet each of tasks, resources and assignments</source>
-        <translation>xlsx   liest und schreibt: Arbeitsmappe mit Blättern für Vorgänge, Ressourcen, Zuweisungen</translation>
-    </message>
-    <message>
-        <source>xls    reads and writes: the same, at most 65,536 rows</source>
-        <translation>xls    liest und schreibt: dasselbe, höchstens 65,536 Zeilen</translation>
-    </message>
-    <message>
-        <source>mspdi  reads and writes: project XML (.xml), as other planners exchange it</source>
-        <translation>mspdi  liest und schreibt: Projekt-XML (.xml), wie andere Planungsprogramme es tauschen</translation>
-    </message>
-    <message>
-        <source>json   writes</source>
-        <translation>json   schreibt</translation>
-    </message>
-    <message>
-        <source>table  writes: text for people</source>
-        <translation>table  schreibt: Text für Menschen</translation>
-    </message>
-    <message>
-        <source>'kwgantt help formats' tells titles, dates and lengths</source>
-        <translation>'kwgantt help formats' erklärt Titel, Termine und Dauern</translation>
-    </message>
-    <message>
-        <source>Task</source>
-        <translation>Vorgang</translation>
-    </message>
-    <message>
-        <source>Baseline finish</source>
-        <translation>Ende im Basisplan</translation>
-    </message>
-    <message>
-        <source>Finish</source>
-        <translation>Ende</translation>
-    </message>
-    <message>
-        <source>&gt;Start by</source>
-        <translation>&gt;Anfang um</translation>
-    </message>
-    <message>
-        <source>&gt;Finish by</source>
-        <translation>&gt;Ende um</translation>
-    </message>
-    <message>
-        <source>&gt;Cost by</source>
-        <translation>&gt;Kosten um</translation>
-    </message>
-    <message>
-        <source>no baseline: 'kwgantt baseline FILE set' remembers one</source>
-        <translation>kein Basisplan: 'kwgantt baseline FILE set' hält einen fest</translation>
     </message>
     <message>
         <source>ID</source>

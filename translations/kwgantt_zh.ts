@@ -24,6 +24,118 @@
         <translation>'kwgantt schedule %1' 会移动它们</translation>
     </message>
     <message>
+        <source>%1: tasks wait for each other: %2</source>
+        <translation>%1：任务互相等待：%2</translation>
+    </message>
+    <message>
+        <source>remove one of these links with 'kwgantt edit %1 unlink TASK TASK'; nothing was changed</source>
+        <translation>请用 'kwgantt edit %1 unlink TASK TASK' 删除其中一个链接；未作任何更改</translation>
+    </message>
+    <message>
+        <source>%1: changed meanwhile by another program; nothing was written</source>
+        <translation>%1：期间被其他程序更改；未写入任何内容</translation>
+    </message>
+    <message>
+        <source>make the change again</source>
+        <translation>请重新更改</translation>
+    </message>
+    <message>
+        <source>%1: nothing can be scheduled in its working time; nothing was changed</source>
+        <translation>%1：其工作时间内无法排程；未作任何更改</translation>
+    </message>
+    <message>
+        <source>'kwgantt edit %1 calendar days Mon-Fri' and 'calendar hours 08:00-17:00' give it one</source>
+        <translation>用 'kwgantt edit %1 calendar days Mon-Fri' 和 'calendar hours 08:00-17:00' 设定工作时间</translation>
+    </message>
+    <message>
+        <source>%1: a workbook cannot be changed in place</source>
+        <translation>%1：工作簿不能就地更改</translation>
+    </message>
+    <message>
+        <source>-o PLAN.kwpx writes the plan as a package</source>
+        <translation>-o PLAN.kwpx 把计划写成包</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1：无法创建文件夹</translation>
+    </message>
+    <message>
+        <source>no help on '%1'</source>
+        <translation>没有关于 '%1' 的帮助</translation>
+    </message>
+    <message>
+        <source>'kwgantt help' lists all commands</source>
+        <translation>'kwgantt help' 列出所有命令</translation>
+    </message>
+    <message>
+        <source>did you mean '%1'?</source>
+        <translation>您是指 '%1' 吗？</translation>
+    </message>
+    <message>
+        <source>shown unless told otherwise</source>
+        <translation>默认显示</translation>
+    </message>
+    <message>
+        <source>kwpx   reads and writes: the whole document as a package</source>
+        <translation>kwpx   读写：整个文档，作为包</translation>
+    </message>
+    <message>
+        <source>csv    reads and writes: a row a task, titles in the first row, UTF-8</source>
+        <translation>csv    读写：每个任务一行，首行为标题，UTF-8</translation>
+    </message>
+    <message>
+        <source>xlsx   reads and writes: a workbook with a sheet each of tasks, resources and assignments</source>
+        <translation>xlsx   读写：含任务、资源、分配三张表的工作簿</translation>
+    </message>
+    <message>
+        <source>xls    reads and writes: the same, at most 65,536 rows</source>
+        <translation>xls    读写：同上，最多 65,536 行</translation>
+    </message>
+    <message>
+        <source>mspdi  reads and writes: project XML (.xml), as other planners exchange it</source>
+        <translation>mspdi  读写：项目 XML (.xml)，与其他计划软件交换</translation>
+    </message>
+    <message>
+        <source>json   writes</source>
+        <translation>json   写</translation>
+    </message>
+    <message>
+        <source>table  writes: text for people</source>
+        <translation>table  写：供人阅读的文本</translation>
+    </message>
+    <message>
+        <source>'kwgantt help formats' tells titles, dates and lengths</source>
+        <translation>'kwgantt help formats' 说明标题、日期和工期</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Baseline finish</source>
+        <translation>基线完成</translation>
+    </message>
+    <message>
+        <source>Finish</source>
+        <translation>完成</translation>
+    </message>
+    <message>
+        <source>&gt;Start by</source>
+        <translation>&gt;开始偏差</translation>
+    </message>
+    <message>
+        <source>&gt;Finish by</source>
+        <translation>&gt;完成偏差</translation>
+    </message>
+    <message>
+        <source>&gt;Cost by</source>
+        <translation>&gt;成本偏差</translation>
+    </message>
+    <message>
+        <source>no baseline: 'kwgantt baseline FILE set' remembers one</source>
+        <translation>没有基线：'kwgantt baseline FILE set' 可记录一个</translation>
+    </message>
+    <message>
         <source>%1 summary task</source>
         <translation>%1 个摘要任务</translation>
     </message>
@@ -146,118 +258,6 @@
     <message>
         <source>%1 of %2 files are sound</source>
         <translation>%2 个文件中 %1 个完好</translation>
-    </message>
-    <message>
-        <source>%1: tasks wait for each other: %2</source>
-        <translation>%1：任务互相等待：%2</translation>
-    </message>
-    <message>
-        <source>remove one of these links with 'kwgantt edit %1 unlink TASK TASK'; nothing was changed</source>
-        <translation>请用 'kwgantt edit %1 unlink TASK TASK' 删除其中一个链接；未作任何更改</translation>
-    </message>
-    <message>
-        <source>%1: changed meanwhile by another program; nothing was written</source>
-        <translation>%1：期间被其他程序更改；未写入任何内容</translation>
-    </message>
-    <message>
-        <source>make the change again</source>
-        <translation>请重新更改</translation>
-    </message>
-    <message>
-        <source>%1: nothing can be scheduled in its working time; nothing was changed</source>
-        <translation>%1：其工作时间内无法排程；未作任何更改</translation>
-    </message>
-    <message>
-        <source>'kwgantt edit %1 calendar days Mon-Fri' and 'calendar hours 08:00-17:00' give it one</source>
-        <translation>用 'kwgantt edit %1 calendar days Mon-Fri' 和 'calendar hours 08:00-17:00' 设定工作时间</translation>
-    </message>
-    <message>
-        <source>%1: a workbook cannot be changed in place</source>
-        <translation>%1：工作簿不能就地更改</translation>
-    </message>
-    <message>
-        <source>-o PLAN.kwpx writes the plan as a package</source>
-        <translation>-o PLAN.kwpx 把计划写成包</translation>
-    </message>
-    <message>
-        <source>%1: the folder cannot be made</source>
-        <translation>%1：无法创建文件夹</translation>
-    </message>
-    <message>
-        <source>no help on '%1'</source>
-        <translation>没有关于 '%1' 的帮助</translation>
-    </message>
-    <message>
-        <source>'kwgantt help' lists all commands</source>
-        <translation>'kwgantt help' 列出所有命令</translation>
-    </message>
-    <message>
-        <source>did you mean '%1'?</source>
-        <translation>您是指 '%1' 吗？</translation>
-    </message>
-    <message>
-        <source>shown unless told otherwise</source>
-        <translation>默认显示</translation>
-    </message>
-    <message>
-        <source>kwpx   reads and writes: the whole document as a package</source>
-        <translation>kwpx   读写：整个文档，作为包</translation>
-    </message>
-    <message>
-        <source>csv    reads and writes: a row a task, titles in the first row, UTF-8</source>
-        <translation>csv    读写：每个任务一行，首行为标题，UTF-8</translation>
-    </message>
-    <message>
-        <source>xlsx   reads and writes: a workbook with a sheet each of tasks, resources and assignments</source>
-        <translation>xlsx   读写：含任务、资源、分配三张表的工作簿</translation>
-    </message>
-    <message>
-        <source>xls    reads and writes: the same, at most 65,536 rows</source>
-        <translation>xls    读写：同上，最多 65,536 行</translation>
-    </message>
-    <message>
-        <source>mspdi  reads and writes: project XML (.xml), as other planners exchange it</source>
-        <translation>mspdi  读写：项目 XML (.xml)，与其他计划软件交换</translation>
-    </message>
-    <message>
-        <source>json   writes</source>
-        <translation>json   写</translation>
-    </message>
-    <message>
-        <source>table  writes: text for people</source>
-        <translation>table  写：供人阅读的文本</translation>
-    </message>
-    <message>
-        <source>'kwgantt help formats' tells titles, dates and lengths</source>
-        <translation>'kwgantt help formats' 说明标题、日期和工期</translation>
-    </message>
-    <message>
-        <source>Task</source>
-        <translation>任务</translation>
-    </message>
-    <message>
-        <source>Baseline finish</source>
-        <translation>基线完成</translation>
-    </message>
-    <message>
-        <source>Finish</source>
-        <translation>完成</translation>
-    </message>
-    <message>
-        <source>&gt;Start by</source>
-        <translation>&gt;开始偏差</translation>
-    </message>
-    <message>
-        <source>&gt;Finish by</source>
-        <translation>&gt;完成偏差</translation>
-    </message>
-    <message>
-        <source>&gt;Cost by</source>
-        <translation>&gt;成本偏差</translation>
-    </message>
-    <message>
-        <source>no baseline: 'kwgantt baseline FILE set' remembers one</source>
-        <translation>没有基线：'kwgantt baseline FILE set' 可记录一个</translation>
     </message>
     <message>
         <source>ID</source>
