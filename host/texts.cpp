@@ -4,6 +4,7 @@
 #include "exchange/exceltitles.h"
 #include "model/kwdocument.h"
 #include "resources/resourceinfodata.h"
+#include "table/customtable.h"
 #include "table/rowcolumndata.h"
 #include <QFile>
 #include <QHash>
@@ -254,6 +255,8 @@ void fillLibraryTables()
     ExcelTitles::s_workAssignNames = english.assignmentTitles;
     ExcelTitles::s_strWorkAssignList = english.assignmentTitles.values();
     XLSXDataBase::s_xmlNameList = english.sheetNames;
+    for (const QString &title : english.columnTitles)
+        CustomTable::s_shownTitles.insert(title, t(title));
     for (QMap<EditRefusal, QString> *sentences : {&EditAnswer::s_sentences, &EditAnswer::s_hints})
         for (QString &sentence : *sentences)
             sentence = t(sentence);

@@ -219,7 +219,7 @@ QByteArray PlanPage::head() const
         const HeadItem &column = m_table.heads()[std::size_t(i)];
         const bool isTold =
             std::find(std::begin(toldTypes), std::end(toldTypes), column.type) != std::end(toldTypes);
-        columns.append(QJsonObject{{QStringLiteral("title"), column.title},
+        columns.append(QJsonObject{{QStringLiteral("title"), CustomTable::shownTitle(column.title)},
                                    {QStringLiteral("width"), rounded(column.width)},
                                    {QStringLiteral("right"), column.isRightAligned ? 1 : 0},
                                    {QStringLiteral("shown"), i < m_shownColumns ? 1 : 0},

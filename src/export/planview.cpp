@@ -494,7 +494,7 @@ void PlanView::makeColumns()
                                         : std::make_unique<CustomTable>(&m_document, m_options.columns);
     for (const HeadItem &head : m_table->heads()) {
         chart::Column column;
-        column.title = head.title;
+        column.title = CustomTable::shownTitle(head.title);
         column.width = head.width;
         column.alignsRight = head.isRightAligned;
         column.isName = head.type == columntypes::Name;
@@ -541,8 +541,8 @@ void PlanView::fitColumns()
             if (longest.size() > measured)
                 longest.pop_back();
         }
-        double width =
-            m_shaper.width(head.title, chart::BoldCellFont) + (head.isName ? CustomTable::foldMarkWidth : 0);
+        double width = m_shaper.width(CustomTable::shownTitle(head.title), chart::BoldCellFont) +
+                       (head.isName ? CustomTable::foldMarkWidth : 0);
         for (const auto &[estimate, text] : longest) {
             constexpr double meanCharacter = 7.5;
             const double indent = estimate - text.size() * meanCharacter;

@@ -105,6 +105,8 @@ CustomTable::CustomTable(KWDocument *document, Kind kind)
 
 CustomTable::~CustomTable() = default;
 
+QMap<QString, QString> CustomTable::s_shownTitles;
+
 void CustomTable::addTaskColumn(int type, const QString &title, double width)
 {
     const columntypes::ColumnType *column = columntypes::find(type);

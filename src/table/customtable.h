@@ -101,6 +101,10 @@ public:
     // ---- Columns ------------------------------------------------------------------------------------------
     int columnCount() const { return int(m_heads.size()); }
     const std::vector<HeadItem> &heads() const { return m_heads; }
+    // A title as it is drawn, in charts and exports too; a host may fill in those of another language, by the
+    // titles that files have. The others are drawn as they are.
+    static QString shownTitle(const QString &title) { return s_shownTitles.value(title, title); }
+    static QMap<QString, QString> s_shownTitles;
     double width() const { return m_heads.empty() ? 0 : m_heads.back().right(); }
     int columnAtX(double x) const; // left <= x < right; -1 beside the table
 
