@@ -213,9 +213,9 @@ std::optional<QByteArray> wholeEntry(zip_t *archive, zip_uint64_t index, const k
 {
     zip_stat_t stat;
     constexpr zip_uint64_t needed = ZIP_STAT_COMP_METHOD | ZIP_STAT_CRC;
-    if (entry.bytes <= 0 || entry.bytes > kwzip::maxWholeBytes || entry.packedBytes > kwzip::maxWholeBytes ||
-        zip_stat_index(archive, index, 0, &stat) != 0 || (stat.valid & needed) != needed ||
-        stat.comp_method != ZIP_CM_DEFLATE)
+    if (entry.bytes <= 0 || entry.bytes > kwzip::maxUnpackedAtOnce ||
+        entry.packedBytes > kwzip::maxUnpackedAtOnce || zip_stat_index(archive, index, 0, &stat) != 0 ||
+        (stat.valid & needed) != needed || stat.comp_method != ZIP_CM_DEFLATE)
         return std::nullopt;
     const OpenEntry packed(zip_fopen_index(archive, index, ZIP_FL_COMPRESSED));
     QByteArray bytes(int(entry.packedBytes), Qt::Uninitialized);
@@ -389,7 +389,7 @@ zip_source_t *packedFile(zip_t *archive, const QString &path, qint64 &room)
 {
     QFile file(path);
     if (room <= 0 || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
-        file.size() > kwzip::maxWholeBytes)
+        file.size() > kwzip::maxPackedAtOnce)
         return nullptr;
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
@@ -432,7 +432,7 @@ bool write(const QString &path, const QVector<Source> &sources, zip_int32_t meth
     Archive archive = openArchive(path, ZIP_CREATE | ZIP_TRUNCATE);
     if (!archive)
         return false;
-    qint64 room = kwzip::maxWholeBytes;
+    qint64 room = kwzip::maxPackedAtOnce;
     for (const Source &source : sources) {
         if (!addTo(archive.get(), source, method, room))
             return fail(source.name, QString::fromUtf8(zip_strerror(archive.get())));

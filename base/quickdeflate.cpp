@@ -25,7 +25,7 @@ std::optional<kwzip::Packed> kwzip::packWhole(const QByteArray &bytes)
     constexpr int quickest = 1;
     const std::unique_ptr<libdeflate_compressor, FreeCompressor> compressor(
         libdeflate_alloc_compressor(quickest));
-    if (!compressor || bytes.isEmpty() || bytes.size() > maxWholeBytes)
+    if (!compressor || bytes.isEmpty() || bytes.size() > maxPackedAtOnce)
         return std::nullopt;
     // Pages that nothing is written to take no memory. What does not get smaller is packed the other way,
     // which has an answer to that.
@@ -43,7 +43,7 @@ std::optional<QByteArray> kwzip::unpackWhole(const QByteArray &packed, qint64 by
 {
     const std::unique_ptr<libdeflate_decompressor, FreeDecompressor> decompressor(
         libdeflate_alloc_decompressor());
-    if (!decompressor || bytes <= 0 || bytes > maxWholeBytes)
+    if (!decompressor || bytes <= 0 || bytes > maxUnpackedAtOnce)
         return std::nullopt;
     QByteArray unpacked(int(bytes), Qt::Uninitialized);
     const libdeflate_result result =

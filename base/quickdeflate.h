@@ -8,8 +8,10 @@
 // way.
 namespace kwzip {
 
-// Larger entries are not held in memory as a whole.
-constexpr qint64 maxWholeBytes = 128LL << 20;
+// Larger entries are not held in memory as a whole: packing is at work beside the document, unpacking before
+// there is one.
+constexpr qint64 maxPackedAtOnce = 16LL << 20;
+constexpr qint64 maxUnpackedAtOnce = 128LL << 20;
 
 struct Packed
 {

@@ -75,13 +75,38 @@ QString arrow(const QString &from, const QString &to)
     return from + QString::fromUtf8(" \u2192 ") + to;
 }
 
-// Texts of the values that are compared as they are shown.
+// One task in both plans.
+struct Both
+{
+    const Plan &before;
+    const Plan &after;
+    const KWTaskInfo &old;
+    const KWTaskInfo &now;
+    bool isCalendarSame;
+};
+
+// Texts of the values that are compared as they are shown. Nearly all are the same, and what they are made
+// from tells that of most without making them: false where it does not.
 struct Value
 {
     const char *name;
     const char *topic;
     QString (*text)(const Plan &, int pos);
+    bool (*isSame)(const Both &) = nullptr;
 };
+
+bool haveSamePredecessors(const Both &both)
+{
+    if (both.old.Predecessors != both.now.Predecessors)
+        return false;
+    for (const quint32 id : both.old.Predecessors) {
+        const int old = both.before.posOf(id);
+        const int now = both.after.posOf(id);
+        if (old < 0 || now < 0 || both.before.task(old)->Name != both.after.task(now)->Name)
+            return false;
+    }
+    return true;
+}
 
 QString momentText(const Plan &plan, quint32 secs)
 {
@@ -96,15 +121,28 @@ const Value values[] = {
                     ? QString()
                     : datetext::durationText(KWTaskInfo::getDurValueByTaskInfo(plan.document.get(), task),
                                              task->DurationUnits);
+     },
+     [](const Both &both) {
+         return both.isCalendarSame && both.old.Start == both.now.Start &&
+                both.old.Finish == both.now.Finish && both.old.DurationUnits == both.now.DurationUnits &&
+                both.old.Milestone == both.now.Milestone && both.old.isParent() == both.now.isParent();
      }},
     {QT_TR_NOOP("done"), "progress",
      [](const Plan &plan, int pos) {
          return QString::number(qRound(plan.task(pos)->Percent * 100)) + QLatin1Char('%');
-     }},
+     },
+     [](const Both &both) { return both.old.Percent == both.now.Percent; }},
     {QT_TR_NOOP("cost"), "cost",
-     [](const Plan &plan, int pos) { return sheettext::moneyText(plan.task(pos)->Cost); }},
+     [](const Plan &plan, int pos) { return sheettext::moneyText(plan.task(pos)->Cost); },
+     [](const Both &both) { return both.old.Cost == both.now.Cost; }},
     {QT_TR_NOOP("resources"), "resources",
-     [](const Plan &plan, int pos) { return csvplan::resourceNames(*plan.document, *plan.task(pos)); }},
+     [](const Plan &plan, int pos) { return csvplan::resourceNames(*plan.document, *plan.task(pos)); },
+     [](const Both &both) {
+         const auto hasNone = [](const KWTaskInfo &task) {
+             return task.resourceList.isEmpty() && task.Resources.isEmpty();
+         };
+         return hasNone(both.old) && hasNone(both.now);
+     }},
     {QT_TR_NOOP("notes"), "texts", [](const Plan &plan, int pos) { return plan.task(pos)->Notes; }},
     {QT_TR_NOOP("predecessors"), "links",
      [](const Plan &plan, int pos) {
@@ -115,11 +153,14 @@ const Value values[] = {
          }
          names.sort();
          return names.join(QLatin1String("; "));
-     }},
+     },
+     haveSamePredecessors},
     {QT_TR_NOOP("milestone"), "dates",
-     [](const Plan &plan, int pos) { return plan.task(pos)->Milestone ? t("yes") : t("no"); }},
+     [](const Plan &plan, int pos) { return plan.task(pos)->Milestone ? t("yes") : t("no"); },
+     [](const Both &both) { return both.old.Milestone == both.now.Milestone; }},
     {QT_TR_NOOP("priority"), "texts",
-     [](const Plan &plan, int pos) { return QString::number(plan.task(pos)->Priority); }},
+     [](const Plan &plan, int pos) { return QString::number(plan.task(pos)->Priority); },
+     [](const Both &both) { return both.old.Priority == both.now.Priority; }},
     {QT_TR_NOOP("hyperlinks"), "texts",
      [](const Plan &plan, int pos) {
          QStringList links;
@@ -130,11 +171,14 @@ const Value values[] = {
                               .simplified());
          }
          return links.join(QLatin1String("; "));
-     }},
+     },
+     [](const Both &both) { return both.old.hyperlinks.isEmpty() && both.now.hyperlinks.isEmpty(); }},
     {QT_TR_NOOP("baseline start"), "baseline",
-     [](const Plan &plan, int pos) { return momentText(plan, plan.task(pos)->BaseStart); }},
+     [](const Plan &plan, int pos) { return momentText(plan, plan.task(pos)->BaseStart); },
+     [](const Both &both) { return both.old.BaseStart == 0 && both.now.BaseStart == 0; }},
     {QT_TR_NOOP("baseline finish"), "baseline",
-     [](const Plan &plan, int pos) { return momentText(plan, plan.task(pos)->BaseFinish); }},
+     [](const Plan &plan, int pos) { return momentText(plan, plan.task(pos)->BaseFinish); },
+     [](const Both &both) { return both.old.BaseFinish == 0 && both.now.BaseFinish == 0; }},
     {QT_TR_NOOP("baseline cost"), "baseline",
      [](const Plan &plan, int pos) { return plan.task(pos)->BaselineCost; }},
 };
@@ -323,7 +367,10 @@ private:
             add(QT_TR_NOOP("placed"), "outline", old, pos,
                 newParent < 0 ? t("at the top") : t("below \"%1\"").arg(nameOf(m_after, newParent)));
         compareDates(old, pos);
+        const Both both{m_before, m_after, *m_before.task(old), *m_after.task(pos), !m_isCalendarChanged};
         for (const Value &value : values) {
+            if (value.isSame && value.isSame(both))
+                continue;
             const QString was = value.text(m_before, old);
             const QString is = value.text(m_after, pos);
             if (was != is)

@@ -144,8 +144,9 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
         return Console::CannotRead;
     }
     Findings ofZone;
-    if (enterZone(console, path, document, ofZone))
-        document.loadFromKWGT(path); // the dates of exceptions are told from moments, too
+    // The dates of exceptions are told from moments, and nothing else that is read.
+    if (enterZone(console, path, document, ofZone) && !document.calendars.isEmpty())
+        document.loadFromKWGT(path);
     nameZone(console, document, ofZone);
     findings.append(document.loadFindings());
     findings.append(ofZone);

@@ -247,6 +247,8 @@ private:
                                     {staged::LateFinish, &KWTaskInfo::LateFinish},
                                     {staged::BaseStart, &KWTaskInfo::BaseStart},
                                     {staged::BaseFinish, &KWTaskInfo::BaseFinish}};
+        if (!m_tasks.empty() && !m_tasks.back().code.isEmpty())
+            m_imported.codes.reserve(int(m_tasks.size()));
         for (const staged::Task &staged : m_tasks) {
             KWTaskInfo &task = *staged.task;
             if (staged.length)
