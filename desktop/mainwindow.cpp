@@ -154,7 +154,7 @@ void MainWindow::makeLayout()
     connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, m_chart->verticalScrollBar(),
             &QScrollBar::setValue);
     resize(1280, 760);
-    m_splitter->setSizes({598, 682});
+    m_splitter->setSizes({620, 660});
 }
 
 void MainWindow::makeActions()
@@ -221,6 +221,7 @@ void MainWindow::updateTheme()
     constexpr int middleLightness = 128;
     const bool isDark = QApplication::palette().window().color().lightness() < middleLightness;
     m_picture.options.theme = isDark ? KWExportOptions::Dark : KWExportOptions::Light;
+    m_note->colour(); // its own colours keep the window's from it
     for (const actiontable::Row &row : actiontable::rows())
         if (row.flags & actiontable::InToolBar)
             action(row.name)->setIcon(icons::of(QLatin1String(row.name), QApplication::palette()));

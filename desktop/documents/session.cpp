@@ -43,11 +43,23 @@ void narrowColumns(KWDocument &document)
     {
         int type;
         double pixels; // at 96 dpi
-    } widths[] = {{1, 230}, {2, 92}, {3, 92}, {4, 72}, {5, 76}, {7, 150}};
+    } widths[] = {{1, 210}, {2, 92}, {3, 92}, {4, 84}, {5, 92}, {7, 150}};
     for (const auto &[type, pixels] : widths)
         if (RowColumnData::ColumnData *column =
                 document.rowColumnData()->getColumnDataByName(RowColumnData::s_columnNames.value(type)))
             column->width = pixels * UnitUtil::dpiScale96();
+}
+
+// The numbers of all rows can be read, also those of some tasks that may follow.
+void widenNumbers(KWDocument &document)
+{
+    constexpr double margins = 22, pixelsOfDigit = 8.5;
+    constexpr int toFollow = 9;
+    const int digits = QString::number(document.taskCount() + toFollow).size();
+    RowColumnData::ColumnData *numbers =
+        document.rowColumnData()->getColumnDataByName(RowColumnData::s_columnNames.value(0));
+    if (numbers)
+        numbers->width = qMax(numbers->width, (margins + digits * pixelsOfDigit) * UnitUtil::dpiScale96());
 }
 }
 
@@ -106,6 +118,7 @@ bool Session::open(const QString &path, QString &error)
         return false;
     if (!isPackage)
         narrowColumns(document);
+    widenNumbers(document);
     document.actionManager().prepareReplacement(); // opening is no step
     document.setModified(withoutStart > 0);
     m_findings = findings;
@@ -153,6 +166,7 @@ void Session::startAnew()
         edits.link(chain);
     }
     narrowColumns(document);
+    widenNumbers(document);
     document.actionManager().prepareReplacement();
     document.setModified(false);
     m_findings.clear();

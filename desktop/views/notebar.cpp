@@ -59,7 +59,6 @@ void NoteBar::changeEvent(QEvent *event)
         colour();
 }
 
-// As dark as the window.
 void NoteBar::colour()
 {
     const bool isDark = QApplication::palette().window().color().lightness() < 128;

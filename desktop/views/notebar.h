@@ -20,13 +20,12 @@ public:
     QString text() const;
     QToolButton *button() const { return m_first; }
     bool isRefusal() const { return m_kind == Refused; }
+    void colour(); // as dark as the window
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void colour();
-
     QLabel *m_text;
     QToolButton *m_first;
     QToolButton *m_second;
