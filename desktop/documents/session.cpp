@@ -53,13 +53,14 @@ void narrowColumns(KWDocument &document)
 // The numbers of all rows can be read, also those of some tasks that may follow.
 void widenNumbers(KWDocument &document)
 {
-    constexpr double margins = 22, pixelsOfDigit = 8.5;
+    constexpr double margins = 22, pixelsOfDigit = 8.5, forTitle = 48;
     constexpr int toFollow = 9;
     const int digits = QString::number(document.taskCount() + toFollow).size();
     RowColumnData::ColumnData *numbers =
         document.rowColumnData()->getColumnDataByName(RowColumnData::s_columnNames.value(0));
     if (numbers)
-        numbers->width = qMax(numbers->width, (margins + digits * pixelsOfDigit) * UnitUtil::dpiScale96());
+        numbers->width =
+            qMax(numbers->width, qMax(forTitle, margins + digits * pixelsOfDigit) * UnitUtil::dpiScale96());
 }
 }
 
