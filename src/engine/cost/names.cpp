@@ -51,7 +51,7 @@ QString ofAssignments(const TaskRecord &task)
 
 bool areOfAssignments(const QString &text, const TaskRecord &task)
 {
-    constexpr QLatin1String separator("; ");
+    const QLatin1String separator("; ");
     QStringView rest(text);
     bool isFirst = true;
     for (const Resource *resource : task.resourceList) {
