@@ -102,8 +102,10 @@ void measure(Report &report, int tasks, int assignmentsPerLeaf)
     const auto document = generator::document(generator::plan(shape), shape);
     document->rowColumnData()->setRowHeightCount(tasks);
     document->taskCollection()->pushAllSuccessors();
-    if (assignmentsPerLeaf > 0)
+    if (assignmentsPerLeaf > 0) {
         costs::assign(*document, std::max(10, tasks / 100), assignmentsPerLeaf);
+        document->updateResourcesName(); // as after any load or edit
+    }
     document->updateCostCompletCostWork();
     document->updateAllTaskEarlyLate();
     document->taskCollection()->updateTaskCollection();
