@@ -94,6 +94,7 @@ private:
     void beginDrag(const QPointF &point);
     void drag(const QPointF &point);
     void tryMove(quint32 start);
+    bool isToTry(quint32 value, bool isItsOwn);
     void tryStretch(quint32 finish);
     void tryPercent(double percent);
     void tryLink(const QPointF &point);

@@ -116,16 +116,23 @@ void PlanChart::drag(const QPointF &point)
         say(m_trialText, point);
 }
 
+// Whether the pointer stands for another value than before. Back at the task's own there is nothing to try.
+bool PlanChart::isToTry(quint32 value, bool isItsOwn)
+{
+    if (value == m_drag.tried)
+        return false;
+    m_drag.tried = value;
+    if (!isItsOwn)
+        return true;
+    m_session.dropTrial();
+    taken(QString(), EditAnswer());
+    return false;
+}
+
 void PlanChart::tryMove(quint32 start)
 {
-    if (start == m_drag.tried)
+    if (!isToTry(start, start == m_drag.start))
         return;
-    m_drag.tried = start;
-    if (start == m_drag.start) {
-        m_session.dropTrial();
-        taken(QString(), EditAnswer());
-        return;
-    }
     TaskValues values;
     values.start = start;
     const EditAnswer answer =
@@ -139,14 +146,8 @@ void PlanChart::tryStretch(quint32 finish)
     // A day at least; a milestone is made by its length in the table.
     if (finish <= m_drag.start)
         finish = quint32(qMin<qint64>(m_drag.start + secsOfDay, 4294967295LL));
-    if (finish == m_drag.tried)
+    if (!isToTry(finish, finish == m_drag.finish))
         return;
-    m_drag.tried = finish;
-    if (finish == m_drag.finish) {
-        m_session.dropTrial();
-        taken(QString(), EditAnswer());
-        return;
-    }
     TaskValues values;
     values.finish = finish;
     const EditAnswer answer = m_session.tryOut(
@@ -163,14 +164,8 @@ void PlanChart::tryStretch(quint32 finish)
 void PlanChart::tryPercent(double percent)
 {
     const quint32 hundredths = quint32(std::lround(percent * 100)) + 1;
-    if (hundredths == m_drag.tried)
+    if (!isToTry(hundredths, percent == m_drag.percent))
         return;
-    m_drag.tried = hundredths;
-    if (percent == m_drag.percent) {
-        m_session.dropTrial();
-        taken(QString(), EditAnswer());
-        return;
-    }
     TaskValues values;
     values.percent = percent;
     const EditAnswer answer = m_session.tryOut(

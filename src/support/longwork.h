@@ -5,8 +5,10 @@
 
 // Lets a host show how far long work has come, and give it up: loading, imports and the scheduling of a plan.
 //
-//     LongWork work([&](LongWork::Stage, qint64 done, qint64 total) { return !dialog.wasCancelled(done,
-//     total); }); document.loadFromKWGT(path);
+//     LongWork work([&](LongWork::Stage, qint64 done, qint64 total) {
+//         return !dialog.wasCancelled(done, total);
+//     });
+//     document.loadFromKWGT(path);
 //
 // The hook is called on the thread that works, between steps that take some milliseconds each in plans of
 // usual size. It may process events, but must not touch the document that is worked on. Work that is given up
