@@ -29,6 +29,9 @@ public:
     quint32 branch = 0;        // ID of a task: it and what is below it alone
     bool onlyCritical = false; // critical tasks and the summaries above them
     int depth = everyLevel;    // levels of the outline
+    // Those of `tasks` alone, IDs in any order; a choice of the moment, which is not saved.
+    bool onlyTasks = false;
+    std::vector<quint32> tasks;
 
     // ---- The time -----------------------------------------------------------------------------------------
     QDate from; // the chart's dates, both inclusive; invalid: the scale's own

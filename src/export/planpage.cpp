@@ -138,10 +138,16 @@ void PlanPage::chooseTasks()
         if (isCritical[pos] && parents[pos] >= 0)
             isCritical[std::size_t(parents[pos])] = true;
     }
+    std::vector<char> isNamed(count, !m_options.onlyTasks);
+    for (const quint32 id : m_options.onlyTasks ? m_options.tasks : std::vector<quint32>()) {
+        const int pos = m_document.getPosByID(id);
+        if (pos >= 0)
+            isNamed[std::size_t(pos)] = true;
+    }
     m_rowOfPos.assign(count, -1);
     for (std::size_t pos = 0; pos < count; ++pos) {
         const bool isChosen =
-            isInBranch[pos] && (!m_options.onlyCritical || isCritical[pos]) &&
+            isInBranch[pos] && isNamed[pos] && (!m_options.onlyCritical || isCritical[pos]) &&
             (m_options.depth == KWExportOptions::everyLevel || levels[pos] <= m_options.depth);
         if (!isChosen)
             continue;

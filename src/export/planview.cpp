@@ -16,6 +16,7 @@
 #include <QUrl>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 using chart::Axis;
 using chart::RowKind;
@@ -117,8 +118,8 @@ PlanView::~PlanView() = default;
 void PlanView::chooseRows()
 {
     const int count = m_document.visibleRowCount();
-    m_isFiltered =
-        m_options.branch != 0 || m_options.onlyCritical || m_options.depth != KWExportOptions::everyLevel;
+    m_isFiltered = m_options.branch != 0 || m_options.onlyCritical ||
+                   m_options.depth != KWExportOptions::everyLevel || m_options.onlyTasks;
     if (!m_isFiltered) {
         m_plan.rowCount = count;
         m_plan.bottom = count > 0 ? m_document.getRowYByRow(count - 1, false) : chart::headHeight;
@@ -141,15 +142,27 @@ void PlanView::chooseRows()
         for (const TaskRecord *task : outline::withAncestors(tasks, found))
             critical.insert(task);
     }
-    m_drawnRow.assign(std::size_t(count), -1);
+    std::vector<int> rows;
+    if (m_options.onlyTasks) {
+        for (const quint32 id : m_options.tasks) {
+            const KWTaskInfo *task = m_document.getTaskInfoByID(id);
+            if (task && task->HideID == 0)
+                rows.push_back(m_document.getRowByTaskID(id));
+        }
+        if (!std::is_sorted(rows.begin(), rows.end()))
+            std::sort(rows.begin(), rows.end());
+        rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    } else {
+        rows.resize(std::size_t(count));
+        std::iota(rows.begin(), rows.end(), 0);
+    }
     double top = chart::headHeight;
-    for (int row = 0; row < count; ++row) {
+    for (const int row : rows) {
         const KWTaskInfo *task = m_document.getTaskInfoByRow(row);
         if ((m_options.branch != 0 && !branch.contains(task)) ||
             (m_options.onlyCritical && !critical.contains(task)) ||
             (m_options.depth != KWExportOptions::everyLevel && task->Level > m_options.depth))
             continue;
-        m_drawnRow[std::size_t(row)] = int(m_rows.size());
         m_rows.push_back(row);
         m_tops.push_back(top);
         top += std::max(0.0, m_document.rowColumnData()->getRowHeightByRow(row)) * UnitUtil::dpiScale96();
@@ -171,7 +184,10 @@ int PlanView::rowOfTask(quint32 id) const
     if (!task || task->HideID != 0)
         return -1;
     const int row = m_document.getRowByTaskID(id);
-    return m_isFiltered && row >= 0 ? m_drawnRow[std::size_t(row)] : row;
+    if (!m_isFiltered)
+        return row;
+    const auto drawn = std::lower_bound(m_rows.begin(), m_rows.end(), row);
+    return drawn != m_rows.end() && *drawn == row ? int(drawn - m_rows.begin()) : -1;
 }
 
 QString PlanView::nameOf(int row) const

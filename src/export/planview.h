@@ -60,9 +60,8 @@ private:
     std::unique_ptr<timescale::Scale> m_scale;
     std::unique_ptr<CustomTable> m_table;
     bool m_isFiltered = false;
-    std::vector<int> m_rows;     // of the document, those drawn; when filtered
-    std::vector<int> m_drawnRow; // of each row of the document, -1: left out; when filtered
-    std::vector<double> m_tops;  // when filtered
+    std::vector<int> m_rows;    // of the document, those drawn, in their order; when filtered
+    std::vector<double> m_tops; // when filtered
     std::vector<std::pair<QFont, int>> m_fonts;
     QFont m_usualFont;
     double m_from = 0;

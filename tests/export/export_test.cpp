@@ -489,6 +489,9 @@ TEST_F(Export, oddPlansAndOptionsAreDrawnOrRefused)
         options.depth = upTo(3);
         options.onlyCritical = upTo(4) == 0;
         options.branch = upTo(4) ? 0 : quint32(upTo(count));
+        options.onlyTasks = upTo(3) == 0;
+        for (int i = upTo(8); i > 0; --i)
+            options.tasks.push_back(quint32(upTo(count + 2)));
         options.trim = upTo(1);
         options.fitColumns = upTo(1);
         options.highlight = upTo(1);
