@@ -46,28 +46,37 @@ void show(MainWindow &window)
     window.chart()->viewport()->repaint();
 }
 
-// The task in the first tenth of the plan whose delay moves the most.
-quint32 busyTask(Session &session)
+// A delay, and how many tasks it moves.
+struct Delay
 {
+    quint32 task = 0;
+    int days = 0;
+    int moves = 0;
+};
+
+// The one that moves the most tasks of those that move no more than 10,000. A task moves only those behind
+// it, so the candidates stand all over the last of them.
+Delay longestDelay(Session &session)
+{
+    constexpr int mostMoves = 10000, candidates = 24;
     KWDocument &document = session.document();
-    quint32 best = 0;
-    int most = -1;
-    for (int i = 0; i < 12; ++i) {
-        const KWTaskInfo *task = document.getTaskInfoAt(document.taskCount() / 200 * (i + 1));
+    const int count = document.taskCount(), first = qMax(0, count - mostMoves - mostMoves / 2);
+    Delay longest;
+    for (int i = 0; i < candidates; ++i) {
+        const KWTaskInfo *task = document.getTaskInfoAt(first + (count - first) / candidates * i);
         if (task->isParent())
             continue;
-        TaskValues values;
-        values.finish = task->Finish + 5 * 86400;
-        PlanEdits edits(document, QStringLiteral("Measure"));
-        const int moves = edits.set({task->ID}, values).moves.size();
-        edits.cancel();
-        if (moves > most && moves <= 10000) {
-            most = moves;
-            best = task->ID;
+        for (const int days : {5, 100, 400}) {
+            TaskValues values;
+            values.finish = task->Finish + quint32(days) * 86400;
+            PlanEdits edits(document, QStringLiteral("Measure"));
+            const int moves = edits.set({task->ID}, values).moves.size();
+            edits.cancel();
+            if (moves > longest.moves && moves <= mostMoves)
+                longest = {task->ID, days, moves};
         }
     }
-    std::printf("  the edit moves %d tasks\n", most);
-    return best;
+    return longest;
 }
 
 void measure(Report &report, int tasks)
@@ -136,14 +145,17 @@ void measure(Report &report, int tasks)
                 }),
                 floorOfFrame);
 
-    const quint32 id = busyTask(session);
+    const Delay delay = longestDelay(session);
+    const quint32 id = delay.task;
     if (id == 0)
         return;
+    std::printf("  the edits move %d tasks\n", delay.moves);
     window.jumpTo(id);
     KWTaskInfo *task = document.getTaskInfoByID(id);
     const int row = window.model()->rowOf(id), column = window.model()->columnOf(4);
     TaskValues longer;
-    longer.length = TaskLength{document.getDurationValue(task->Start, task->Finish, 4, true) + 5, 4};
+    longer.length =
+        TaskLength{document.getDurationValue(task->Start, task->Finish, 4, true) + delay.days * 5 / 7, 4};
     const QString typed = QString::number(longer.length->value) + QLatin1Char('d');
     const auto takeBack = [&] {
         while (!document.actionManager().undoActions().isEmpty())
@@ -169,7 +181,7 @@ void measure(Report &report, int tasks)
     while (!session.undoName().isEmpty())
         session.undo();
     TaskValues later;
-    int steps = 0;
+    int steps = delay.days;
     const auto next = [&] { later.start = task->Start + quint32(++steps) * 86400; };
     const double floorOfDrag = best(
         3, [&] { next(); },
