@@ -10,17 +10,7 @@
 
 namespace baseline {
 
-namespace {
-
-// Working minutes and money that a task is later and dearer than its baseline.
-struct Variance
-{
-    qint64 startMinutes;
-    qint64 finishMinutes;
-    double cost;
-};
-
-bool hasBaseline(const KWTaskInfo &task)
+bool has(const KWTaskInfo &task)
 {
     return task.BaseStart != 0 || task.BaseFinish != 0;
 }
@@ -32,7 +22,6 @@ Variance varianceOf(const Plan &plan, const KWTaskInfo &task)
             task.BaselineCost.isEmpty() ? 0 : task.Cost - task.BaselineCost.toDouble()};
 }
 
-// "+1.5d", "0".
 QString daysText(const Plan &plan, qint64 minutes)
 {
     const double perDay = plan.document->workCalendar().hoursPerDay() * 60.0;
@@ -47,8 +36,6 @@ QString moneyText(double amount)
     return (amount > 0 ? QStringLiteral("+") : QString()) + sheettext::moneyText(amount);
 }
 
-}
-
 QString text(const Plan &plan, const Style &style)
 {
     constexpr int longestName = 40;
@@ -57,7 +44,7 @@ QString text(const Plan &plan, const Style &style)
     const shown::Times times(plan);
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
         const KWTaskInfo &task = *plan.task(pos);
-        if (!hasBaseline(task))
+        if (!has(task))
             continue;
         const Variance variance = varianceOf(plan, task);
         const QString name =
@@ -78,7 +65,7 @@ QByteArray json(const Plan &plan)
     bool first = true;
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
         const KWTaskInfo &task = *plan.task(pos);
-        if (!hasBaseline(task))
+        if (!has(task))
             continue;
         const Variance variance = varianceOf(plan, task);
         bytes += (first ? "\n" : ",\n") + QByteArray("    {\"id\": ") + QByteArray::number(task.ID.value()) +
