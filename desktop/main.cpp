@@ -7,12 +7,21 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QLibraryInfo>
 #include <QTextCodec>
 #include <QTimeZone>
+#include <QTranslator>
 #include <cstdio>
 #include <ctime>
 
 namespace {
+
+// What stands on the buttons of questions, for machines that have no texts of Qt's own.
+[[maybe_unused]] constexpr const char *buttonTexts[] = {
+    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"),      QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Save"),    QT_TRANSLATE_NOOP("QPlatformTheme", "Open"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Discard"), QT_TRANSLATE_NOOP("QPlatformTheme", "Close"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "&OK"),     QT_TRANSLATE_NOOP("QPlatformTheme", "&Cancel")};
 
 enum Code { Done = 0, WrongUse = 2, MachineLacks = 6 };
 
@@ -108,6 +117,12 @@ int main(int argc, char **argv)
     QApplication::setDesktopFileName(QStringLiteral("kwgantt-desktop"));
     QApplication::setWindowIcon(icons::program());
     QCoreApplication::installTranslator(texts::translator());
+    // Qt's own dialogs, where the machine has their texts; the last translator is asked first.
+    QTranslator ofQt;
+    if (texts::chosen() != QLatin1String("en") &&
+        ofQt.load(QLocale(texts::chosen()), QStringLiteral("qtbase"), QStringLiteral("_"),
+                  QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&ofQt);
     texts::fillLibraryTables();
 
     auto *window = new MainWindow;

@@ -5,6 +5,8 @@
 #include "model/kwtaskinfo.h"
 #include "quoted.h"
 #include "schedule/kwtaskcollection.h"
+#include "texts.h"
+#include "views/baselinepanel.h"
 #include "views/celldelegate.h"
 #include "views/filterpanel.h"
 #include "views/findingspanel.h"
@@ -20,6 +22,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
@@ -43,6 +46,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_reasons(new ReasonsPanel(m_session, this))
     , m_findings(new FindingsPanel(this))
     , m_filter(new FilterPanel(m_session, this))
+    , m_baseline(new BaselinePanel(m_session, this))
     , m_status(new QLabel)
 {
     setAttribute(Qt::WA_DeleteOnClose);
@@ -53,6 +57,7 @@ MainWindow::MainWindow(QWidget *parent)
         return QMessageBox::StandardButton(box.exec());
     };
     m_open = [](const QUrl &url) { return QDesktopServices::openUrl(url); };
+    m_picture.options.language = texts::chosen();
     makeLayout();
     makeActions();
     connect(&m_session, &Session::stateChanged, this, &MainWindow::updateState);
@@ -93,6 +98,18 @@ MainWindow::MainWindow(QWidget *parent)
     connect(m_filter, &FilterPanel::jumped, this, &MainWindow::jumpTo);
     connect(m_filter, &QDockWidget::visibilityChanged, this,
             [this] { action("show-filter")->setChecked(!m_filter->isHidden()); });
+    connect(m_baseline, &BaselinePanel::jumped, this, &MainWindow::jumpTo);
+    connect(m_baseline, &QDockWidget::visibilityChanged, this,
+            [this] { action("compare-baseline")->setChecked(!m_baseline->isHidden()); });
+    connect(m_filter, &FilterPanel::narrowed, this, &MainWindow::hideOthers);
+    const auto drawRows = [this] {
+        m_picture.options.onlyTasks = m_model->isFiltered();
+        m_picture.options.tasks = m_model->isFiltered() ? m_model->tasks() : std::vector<quint32>();
+    };
+    connect(m_model, &QAbstractItemModel::rowsInserted, this, drawRows);
+    connect(m_model, &QAbstractItemModel::rowsRemoved, this, drawRows);
+    connect(m_model, &QAbstractItemModel::modelReset, this, drawRows);
+    connect(m_model, &PlanModel::filtered, this, drawRows);
     connect(m_findings, &FindingsPanel::jumped, this, [this](int number, bool isOfFile) {
         // A file may have lines that are no task.
         const int place = isOfFile ? m_session.plan().imported.rows.indexOf(number) : -1;
@@ -120,9 +137,11 @@ MainWindow::~MainWindow()
     m_table->selectionModel()->disconnect(this);
     m_reasons->disconnect(this);
     m_filter->disconnect(this);
+    m_baseline->disconnect(this);
     delete centralWidget();
     delete m_reasons;
     delete m_filter;
+    delete m_baseline;
     delete m_model;
 }
 
@@ -145,6 +164,7 @@ void MainWindow::makeLayout()
     addDockWidget(Qt::RightDockWidgetArea, m_reasons);
     addDockWidget(Qt::RightDockWidgetArea, m_filter);
     addDockWidget(Qt::BottomDockWidgetArea, m_findings);
+    addDockWidget(Qt::BottomDockWidgetArea, m_baseline);
     statusBar()->addWidget(m_status, 1);
     m_status->setAccessibleName(tr("State of the plan"));
     m_chart->setKeyReceiver(m_table);
@@ -153,8 +173,9 @@ void MainWindow::makeLayout()
             &QScrollBar::setValue);
     connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, m_chart->verticalScrollBar(),
             &QScrollBar::setValue);
-    resize(1280, 760);
-    m_splitter->setSizes({620, 660});
+    const QSize room = QGuiApplication::primaryScreen()->availableSize();
+    resize(QSize(1280, 760).boundedTo(room * 0.95));
+    m_splitter->setSizes({width() * 48 / 100, width() * 52 / 100});
 }
 
 void MainWindow::makeActions()
@@ -240,6 +261,7 @@ void MainWindow::changeEvent(QEvent *event)
 
 void MainWindow::showPlan()
 {
+    m_filter->setHidesOthers(false);
     m_picture.restart();
     m_note->hide();
     m_hasAskedAboutFile = false;
@@ -280,6 +302,8 @@ void MainWindow::updateState()
     if (document.taskCount() > 0 && finish != 0)
         parts.append(tr("ends %1").arg(datetext::dateText(
             KWTaskInfo::showDateTime(&document, finish, false).date(), datetext::Weekday | datetext::Year)));
+    if (m_model->isFiltered())
+        parts.append(tr("%1 of them shown").arg(m_model->taskRows()));
     if (tasks > 1)
         parts.append(tr("%1 chosen").arg(tasks));
     if (!m_session.otherUser().isEmpty())

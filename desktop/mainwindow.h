@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <functional>
 
+class BaselinePanel;
 class FilterPanel;
 class FindDialog;
 class FindingsPanel;
@@ -39,6 +40,7 @@ public:
     ReasonsPanel *reasons() const { return m_reasons; }
     FindingsPanel *findingsPanel() const { return m_findings; }
     FilterPanel *filterPanel() const { return m_filter; }
+    BaselinePanel *baselinePanel() const { return m_baseline; }
     QAction *action(const char *name) const;
 
     bool openFile(const QString &path);
@@ -65,6 +67,7 @@ public:
     void exportAsk();
     void pageSetup();
     void preview();
+    void print();
     void closeWindow();
     void quit();
     void undo();
@@ -101,6 +104,7 @@ public:
     void schedule();
     void setBaseline();
     void clearBaseline();
+    void toggleComparison();
     void zoomIn();
     void zoomOut();
     void fit();
@@ -109,6 +113,7 @@ public:
     void nextLabels();
     void toggleReasons();
     void toggleFilter();
+    void toggleHiding();
     void goToDriver();
     void commandPalette();
     void keys();
@@ -150,6 +155,7 @@ private:
     void showFind(bool isReplacing);
     bool hasText(const KWTaskInfo &task, const QString &text) const;
     void foldEverything(bool isFolded);
+    void hideOthers(); // as the filter's panel asks for
     void checkFile();
     // Work that may last, watched and given up by the user.
     void watch(const QString &what, Busy::Plan plan, const std::function<void()> &work);
@@ -164,6 +170,7 @@ private:
     ReasonsPanel *m_reasons;
     FindingsPanel *m_findings;
     FilterPanel *m_filter;
+    BaselinePanel *m_baseline;
     QLabel *m_status;
     FindDialog *m_find = nullptr;
     QMenu *m_recent = nullptr;

@@ -5,6 +5,7 @@
 #include "dialogs/commandpalette.h"
 #include "dialogs/pagesetupdialog.h"
 #include "dialogs/previewdialog.h"
+#include "dialogs/printout.h"
 #include "dialogs/resourcesdialog.h"
 #include "export/ganttpdfexport.h"
 #include "kwpxfile.h"
@@ -12,6 +13,7 @@
 #include "mainwindow.h"
 #include "planfile.h"
 #include "projectfile.h"
+#include "texts.h"
 #include "views/notebar.h"
 #include "views/planchart.h"
 #include "views/plantable.h"
@@ -21,6 +23,8 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QTextBrowser>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -82,6 +86,7 @@ void MainWindow::exportAsk()
 bool MainWindow::exportTo(const QString &path)
 {
     m_chart->leaveDrag();
+    m_table->finishEditing();
     m_session.settleBars();
     const QString suffix = QFileInfo(path).suffix().toLower();
     const auto tellDone = [&](const QString &more) {
@@ -92,10 +97,7 @@ bool MainWindow::exportTo(const QString &path)
         if (suffix != QLatin1String(row.suffix))
             continue;
         GanttPdfExport drawing(&m_session.document());
-        drawing.options = m_picture.options;
-        drawing.options.theme = KWExportOptions::Light;
-        drawing.options.highlight = false;
-        drawing.options.title = QFileInfo(m_session.name()).completeBaseName();
+        drawing.options = m_picture.onPaper();
         bool isWritten = false;
         {
             Busy busy(this, tr("Drawing…"), Busy::Stays);
@@ -152,10 +154,52 @@ void MainWindow::pageSetup()
 
 void MainWindow::preview()
 {
-    PreviewDialog dialog(m_session, m_picture.options, this);
+    PreviewDialog dialog(m_session, m_picture.onPaper(), this);
     connect(&dialog, &PreviewDialog::exportWanted, this, &MainWindow::exportAsk);
+    connect(&dialog, &PreviewDialog::printWanted, this, &MainWindow::print);
     connect(&dialog, &PreviewDialog::setupWanted, this, &MainWindow::pageSetup);
     dialog.exec();
+}
+
+void MainWindow::print()
+{
+    m_chart->leaveDrag();
+    m_table->finishEditing();
+    m_session.settleBars();
+    GanttPdfExport drawing(&m_session.document());
+    drawing.options = m_picture.onPaper();
+    const int pages = drawing.pageCount();
+    if (pages == 0) {
+        tellRefusal(texts::said(drawing.findings().list().value(0).what), QString());
+        return;
+    }
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(m_session.name());
+    printout::setPaper(printer, drawing);
+    QPrintDialog dialog(&printer, this);
+    dialog.setMinMax(1, pages);
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
+                      QAbstractPrintDialog::PrintCollateCopies);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    bool isGivenUp = false, isPrinted = false;
+    {
+        Busy busy(this, tr("Printing…"), Busy::Stays);
+        const Session::Hold hold(m_session);
+        isPrinted = printout::print(printer, drawing, [&](int done, int total) {
+            isGivenUp = isGivenUp || !busy.step(done, total);
+            return !isGivenUp;
+        });
+    }
+    const QString place =
+        printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName();
+    if (isPrinted)
+        m_note->say(pages == 1 ? tr("The sheet went to %1.").arg(place)
+                               : tr("The sheets went to %1.").arg(place));
+    else
+        tellRefusal(isGivenUp ? tr("cancelled: not everything is printed")
+                              : tr("%1 did not print").arg(place),
+                    QString());
 }
 
 void MainWindow::calendar()

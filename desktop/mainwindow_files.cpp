@@ -5,6 +5,7 @@
 #include "settings/kwrecentfilemanager.h"
 #include "views/notebar.h"
 #include "views/planchart.h"
+#include "views/plantable.h"
 #include <QAction>
 #include <QApplication>
 #include <QFileInfo>
@@ -86,6 +87,7 @@ void MainWindow::newPlan()
 bool MainWindow::mayLeave()
 {
     m_chart->leaveDrag();
+    m_table->finishEditing();
     if (!m_session.isModified())
         return true;
     switch (m_ask(tr("Save the changes to %1?").arg(quoted(m_session.name())), QString(),
@@ -116,6 +118,7 @@ void MainWindow::save()
 
 bool MainWindow::saveTo(const QString &path)
 {
+    m_table->finishEditing();
     QString error;
     if (!m_session.save(path, error)) {
         tellRefusal(error, QString());

@@ -5,9 +5,11 @@
 #include "mainwindow.h"
 #include "model/kwtaskinfo.h"
 #include "quoted.h"
+#include "views/baselinepanel.h"
 #include "views/filterpanel.h"
 #include "views/notebar.h"
 #include "views/planchart.h"
+#include "views/planmodel.h"
 #include "views/plantable.h"
 #include "views/reasonspanel.h"
 #include <QAction>
@@ -26,6 +28,8 @@ void MainWindow::jumpTo(quint32 id)
             folded.append(above->ID);
     if (!folded.isEmpty())
         perform(tr("Unfold"), [&](PlanEdits &edits) { return edits.expand(folded); });
+    if (m_model->isLeftOut(id))
+        m_filter->setHidesOthers(false);
     m_table->select({id});
     m_chart->showBar(id);
     m_table->setFocus();
@@ -174,6 +178,44 @@ void MainWindow::toggleReasons()
 void MainWindow::toggleFilter()
 {
     m_filter->setVisible(action("show-filter")->isChecked());
+}
+
+void MainWindow::toggleComparison()
+{
+    m_baseline->setVisible(action("compare-baseline")->isChecked());
+}
+
+void MainWindow::toggleHiding()
+{
+    const bool hides = action("hide-others")->isChecked();
+    if (hides && m_filter->isHidden()) {
+        action("show-filter")->setChecked(true);
+        toggleFilter();
+    }
+    m_filter->setHidesOthers(hides);
+}
+
+void MainWindow::hideOthers()
+{
+    const bool hides = m_filter->hidesOthers();
+    action("hide-others")->setChecked(hides);
+    QSet<quint32> hidden;
+    if (hides) {
+        const KWDocument &document = m_session.document();
+        for (const KWTaskInfo *task : document.taskList())
+            hidden.insert(task->ID);
+        for (const quint32 found : m_filter->found())
+            for (const KWTaskInfo *task = document.getTaskInfoByID(found); task && hidden.remove(task->ID);
+                 task = document.getTaskInfoByID(task->ParentID))
+                continue;
+    }
+    if (!hides && !m_model->isFiltered())
+        return;
+    const QVector<quint32> ids = chosen();
+    m_model->hide(hidden);
+    if (chosen().isEmpty())
+        m_table->select(ids);
+    updateState();
 }
 
 // Nothing of a plan is opened unless the user asks for it, and then only what cannot run anything.

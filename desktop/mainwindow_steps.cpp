@@ -58,8 +58,14 @@ void MainWindow::removeTasks()
 {
     const int row = m_table->currentIndex().row();
     const QVector<quint32> ids = chosen();
-    if (perform(tr("Delete"), [&](PlanEdits &edits) { return edits.remove(ids); }).isDone())
-        m_table->selectRow(row);
+    const int before = m_session.document().taskCount();
+    if (!perform(tr("Delete"), [&](PlanEdits &edits) { return edits.remove(ids); }).isDone())
+        return;
+    m_table->selectRow(row);
+    const int gone = before - m_session.document().taskCount();
+    if (gone > ids.size())
+        m_note->say(tr("%1 tasks are deleted, %2 of them were not shown.").arg(gone).arg(gone - ids.size()),
+                    NoteBar::Told, tr("Undo"), [this] { undo(); });
 }
 
 void MainWindow::duplicate()

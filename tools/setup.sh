@@ -100,6 +100,7 @@ tools_packages=(g++ cmake ninja-build pkg-config)
 # The fonts are for pictures: without any there is nothing to draw texts with.
 library_packages=(qtbase5-dev libzip-dev libdeflate-dev libpugixml-dev libcairo2-dev libpango1.0-dev fonts-dejavu-core tzdata)
 test_packages=(libgtest-dev libgmock-dev librapidcheck-dev libbenchmark-dev castxml python3)
+window_packages=(qttranslations5-l10n) # ./run desktop: what stands in Qt's own dialogs
 desktop_packages=(xvfb xauth) # ./test --long opens the window on a screen of its own
 browser_packages=(chromium fonts-dejavu-core) # ./test --long uses the pages that are rendered
 drawing_packages=(poppler-utils qpdf mupdf-tools librsvg2-bin libxml2-utils) # and reads the pictures

@@ -1125,7 +1125,7 @@
     </message>
     <message>
         <source>Complete</source>
-        <translation>Abgeschlossen</translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Priority</source>
@@ -4733,6 +4733,14 @@
         <translation>zeigt die Blätter, wie sie gedruckt werden</translation>
     </message>
     <message>
+        <source>P&amp;rint…</source>
+        <translation>D&amp;rucken…</translation>
+    </message>
+    <message>
+        <source>prints the sheets</source>
+        <translation>druckt die Blätter</translation>
+    </message>
+    <message>
         <source>&amp;Close</source>
         <translation>S&amp;chließen</translation>
     </message>
@@ -5013,6 +5021,14 @@
         <translation>vergisst sie</translation>
     </message>
     <message>
+        <source>Compare &amp;with baseline</source>
+        <translation>&amp;Mit dem Basisplan vergleichen</translation>
+    </message>
+    <message>
+        <source>lists the tasks that are not where the baseline has them, and by how much</source>
+        <translation>zeigt die Vorgänge, die nicht liegen, wo der Basisplan sie hat, und um wie viel</translation>
+    </message>
+    <message>
         <source>Zoom &amp;in</source>
         <translation>Ver&amp;größern</translation>
     </message>
@@ -5094,7 +5110,7 @@
     </message>
     <message>
         <source>&amp;Why is it when it is?</source>
-        <translation>&amp;Warum ist er dann?</translation>
+        <translation>&amp;Warum dieser Termin?</translation>
     </message>
     <message>
         <source>a panel that explains the dates of the chosen task</source>
@@ -5107,6 +5123,14 @@
     <message>
         <source>lists the critical tasks, the late ones, those of a resource</source>
         <translation>listet die kritischen Vorgänge, die verspäteten, die einer Ressource</translation>
+    </message>
+    <message>
+        <source>&amp;Hide other tasks</source>
+        <translation>Andere Vorgänge aus&amp;blenden</translation>
+    </message>
+    <message>
+        <source>shows the tasks of the filter alone, with the summaries above them</source>
+        <translation>zeigt nur die Vorgänge des Filters, mit den Sammelvorgängen darüber</translation>
     </message>
     <message>
         <source>&amp;Go to what drives it</source>
@@ -5305,8 +5329,8 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>Days that are otherwise</source>
-        <translation>Abweichende Tage</translation>
+        <source>Exceptions</source>
+        <translation>Ausnahmen</translation>
     </message>
     <message>
         <source>&amp;Add</source>
@@ -5329,8 +5353,8 @@
         <translation>Arbeitstage</translation>
     </message>
     <message>
-        <source>Days that are otherwise; the first one that names a date decides:</source>
-        <translation>Abweichende Tage; der erste, der einen Termin nennt, entscheidet:</translation>
+        <source>Exceptions; the first one that names a date decides:</source>
+        <translation>Ausnahmen; die erste, die ein Datum nennt, gilt:</translation>
     </message>
     <message>
         <source>off</source>
@@ -5625,6 +5649,38 @@
         <translation>%1 % erledigt, sollte %2 zu Ende sein</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
         <source>State of the plan</source>
         <translation>Stand des Plans</translation>
     </message>
@@ -5657,6 +5713,10 @@
         <translation>endet %1</translation>
     </message>
     <message>
+        <source>%1 of them shown</source>
+        <translation>%1 davon gezeigt</translation>
+    </message>
+    <message>
         <source>%1 chosen</source>
         <translation>%1 gewählt</translation>
     </message>
@@ -5679,10 +5739,6 @@
     <message>
         <source>copy tasks or lines of text first</source>
         <translation>kopieren Sie erst Vorgänge oder Textzeilen</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Plans (*.kwpx *.csv *.xlsx *.xls *.xml);;All files (*)</source>
@@ -5723,6 +5779,26 @@
     <message>
         <source>a file of that name has no format: use pdf, png, svg, html, xlsx, xls, xml or csv</source>
         <translation>eine Datei dieses Namens hat kein Format: nehmen Sie pdf, png, svg, html, xlsx, xls, xml oder csv</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>Drucken…</translation>
+    </message>
+    <message>
+        <source>The sheet went to %1.</source>
+        <translation>Das Blatt ging an %1.</translation>
+    </message>
+    <message>
+        <source>The sheets went to %1.</source>
+        <translation>Die Blätter gingen an %1.</translation>
+    </message>
+    <message>
+        <source>cancelled: not everything is printed</source>
+        <translation>abgebrochen: nicht alles ist gedruckt</translation>
+    </message>
+    <message>
+        <source>%1 did not print</source>
+        <translation>%1 hat nicht gedruckt</translation>
     </message>
     <message>
         <source>The working time has changed: %1 tasks moved</source>
@@ -5897,6 +5973,14 @@
         <translation>Löschen</translation>
     </message>
     <message>
+        <source>%1 tasks are deleted, %2 of them were not shown.</source>
+        <translation>%1 Vorgänge sind gelöscht, %2 davon waren nicht zu sehen.</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
         <source>Duplicate</source>
         <translation>Duplizieren</translation>
     </message>
@@ -5953,10 +6037,6 @@
         <translation>In %1 Vorgängen ersetzt.</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
-    </message>
-    <message>
         <source>Nothing moves: every task starts when those it waits for have ended.</source>
         <translation>Nichts bewegt sich: jeder Vorgang beginnt, wenn die beendet sind, auf die er wartet.</translation>
     </message>
@@ -6001,6 +6081,42 @@
         <translation>%1 wartet nicht mehr auf %2</translation>
     </message>
     <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Start by</source>
+        <translation>Anfang um</translation>
+    </message>
+    <message>
+        <source>Finish by</source>
+        <translation>Ende um</translation>
+    </message>
+    <message>
+        <source>Cost by</source>
+        <translation>Kosten um</translation>
+    </message>
+    <message>
+        <source>Compared with the baseline</source>
+        <translation>Verglichen mit dem Basisplan</translation>
+    </message>
+    <message>
+        <source>There is no baseline: Set baseline remembers one.</source>
+        <translation>Es gibt keinen Basisplan: „Basisplan setzen“ merkt sich einen.</translation>
+    </message>
+    <message>
+        <source>All tasks are where the baseline has them.</source>
+        <translation>Alle Vorgänge liegen, wo der Basisplan sie hat.</translation>
+    </message>
+    <message>
+        <source>One task is not where the baseline has it.</source>
+        <translation>Ein Vorgang liegt nicht, wo der Basisplan ihn hat.</translation>
+    </message>
+    <message>
+        <source>%1 tasks are not where the baseline has them.</source>
+        <translation>%1 Vorgänge liegen nicht, wo der Basisplan sie hat.</translation>
+    </message>
+    <message>
         <source>Dates of the chart</source>
         <translation>Termine des Diagramms</translation>
     </message>
@@ -6011,6 +6127,10 @@
     <message>
         <source>Filter</source>
         <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Hide the other tasks</source>
+        <translation>Andere Vorgänge ausblenden</translation>
     </message>
     <message>
         <source>Which tasks</source>
@@ -6122,7 +6242,7 @@
     </message>
     <message>
         <source>Why is it when it is?</source>
-        <translation>Warum ist er dann?</translation>
+        <translation>Warum dieser Termin?</translation>
     </message>
     <message>
         <source>&lt;p&gt;Choose a task: here it says what it waits for, what waits for it, and whether a delay moves the end of the project.&lt;/p&gt;</source>

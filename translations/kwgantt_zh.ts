@@ -4733,6 +4733,14 @@
         <translation>按打印效果显示各页</translation>
     </message>
     <message>
+        <source>P&amp;rint…</source>
+        <translation>打印(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>prints the sheets</source>
+        <translation>打印各页</translation>
+    </message>
+    <message>
         <source>&amp;Close</source>
         <translation>关闭(&amp;C)</translation>
     </message>
@@ -5013,6 +5021,14 @@
         <translation>清除记录</translation>
     </message>
     <message>
+        <source>Compare &amp;with baseline</source>
+        <translation>与基线比较(&amp;W)</translation>
+    </message>
+    <message>
+        <source>lists the tasks that are not where the baseline has them, and by how much</source>
+        <translation>列出与基线不一致的任务及其偏差</translation>
+    </message>
+    <message>
         <source>Zoom &amp;in</source>
         <translation>放大(&amp;I)</translation>
     </message>
@@ -5107,6 +5123,14 @@
     <message>
         <source>lists the critical tasks, the late ones, those of a resource</source>
         <translation>列出关键任务、迟到的任务、某个资源的任务</translation>
+    </message>
+    <message>
+        <source>&amp;Hide other tasks</source>
+        <translation>隐藏其他任务(&amp;H)</translation>
+    </message>
+    <message>
+        <source>shows the tasks of the filter alone, with the summaries above them</source>
+        <translation>只显示筛选出的任务及其上级摘要任务</translation>
     </message>
     <message>
         <source>&amp;Go to what drives it</source>
@@ -5305,7 +5329,7 @@
         <translation>名称</translation>
     </message>
     <message>
-        <source>Days that are otherwise</source>
+        <source>Exceptions</source>
         <translation>例外日期</translation>
     </message>
     <message>
@@ -5329,8 +5353,8 @@
         <translation>工作日</translation>
     </message>
     <message>
-        <source>Days that are otherwise; the first one that names a date decides:</source>
-        <translation>例外日期；以第一个包含该日期的为准：</translation>
+        <source>Exceptions; the first one that names a date decides:</source>
+        <translation>例外日期；以第一条包含该日期的为准：</translation>
     </message>
     <message>
         <source>off</source>
@@ -5625,6 +5649,38 @@
         <translation>已完成 %1%，应于 %2 结束</translation>
     </message>
     <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>确定(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
         <source>State of the plan</source>
         <translation>计划状态</translation>
     </message>
@@ -5657,6 +5713,10 @@
         <translation>完成于 %1</translation>
     </message>
     <message>
+        <source>%1 of them shown</source>
+        <translation>显示其中 %1 个</translation>
+    </message>
+    <message>
         <source>%1 chosen</source>
         <translation>选中 %1 个</translation>
     </message>
@@ -5679,10 +5739,6 @@
     <message>
         <source>copy tasks or lines of text first</source>
         <translation>请先复制任务或文字行</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>打开</translation>
     </message>
     <message>
         <source>Plans (*.kwpx *.csv *.xlsx *.xls *.xml);;All files (*)</source>
@@ -5723,6 +5779,26 @@
     <message>
         <source>a file of that name has no format: use pdf, png, svg, html, xlsx, xls, xml or csv</source>
         <translation>此名称的文件没有格式：请用 pdf、png、svg、html、xlsx、xls、xml 或 csv</translation>
+    </message>
+    <message>
+        <source>Printing…</source>
+        <translation>正在打印…</translation>
+    </message>
+    <message>
+        <source>The sheet went to %1.</source>
+        <translation>该页已送至 %1。</translation>
+    </message>
+    <message>
+        <source>The sheets went to %1.</source>
+        <translation>各页已送至 %1。</translation>
+    </message>
+    <message>
+        <source>cancelled: not everything is printed</source>
+        <translation>已取消：未全部打印</translation>
+    </message>
+    <message>
+        <source>%1 did not print</source>
+        <translation>%1 未能打印</translation>
     </message>
     <message>
         <source>The working time has changed: %1 tasks moved</source>
@@ -5897,6 +5973,14 @@
         <translation>删除</translation>
     </message>
     <message>
+        <source>%1 tasks are deleted, %2 of them were not shown.</source>
+        <translation>已删除 %1 个任务，其中 %2 个未显示。</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
         <source>Duplicate</source>
         <translation>创建副本</translation>
     </message>
@@ -5953,10 +6037,6 @@
         <translation>已在 %1 个任务中替换。</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>撤销</translation>
-    </message>
-    <message>
         <source>Nothing moves: every task starts when those it waits for have ended.</source>
         <translation>没有移动：每个任务都在所等待的任务完成时开始。</translation>
     </message>
@@ -6001,6 +6081,42 @@
         <translation>%1 不再等待 %2</translation>
     </message>
     <message>
+        <source>No.</source>
+        <translation>序号</translation>
+    </message>
+    <message>
+        <source>Start by</source>
+        <translation>开始偏差</translation>
+    </message>
+    <message>
+        <source>Finish by</source>
+        <translation>完成偏差</translation>
+    </message>
+    <message>
+        <source>Cost by</source>
+        <translation>成本偏差</translation>
+    </message>
+    <message>
+        <source>Compared with the baseline</source>
+        <translation>与基线的比较</translation>
+    </message>
+    <message>
+        <source>There is no baseline: Set baseline remembers one.</source>
+        <translation>没有基线：“设置基线”会记下一份。</translation>
+    </message>
+    <message>
+        <source>All tasks are where the baseline has them.</source>
+        <translation>所有任务都与基线一致。</translation>
+    </message>
+    <message>
+        <source>One task is not where the baseline has it.</source>
+        <translation>1 个任务与基线不一致。</translation>
+    </message>
+    <message>
+        <source>%1 tasks are not where the baseline has them.</source>
+        <translation>%1 个任务与基线不一致。</translation>
+    </message>
+    <message>
         <source>Dates of the chart</source>
         <translation>图表的日期</translation>
     </message>
@@ -6011,6 +6127,10 @@
     <message>
         <source>Filter</source>
         <translation>筛选</translation>
+    </message>
+    <message>
+        <source>Hide the other tasks</source>
+        <translation>隐藏其他任务</translation>
     </message>
     <message>
         <source>Which tasks</source>

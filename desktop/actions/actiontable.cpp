@@ -22,6 +22,7 @@ const std::vector<Row> &rows()
          T("paper, margins, number of sheets"), &W::pageSetup},
         {"preview", File, T("&Print preview…"), "Ctrl+P", 0, T("shows the sheets as they are printed"),
          &W::preview},
+        {"print", File, T("P&rint…"), "Ctrl+Alt+P", 0, T("prints the sheets"), &W::print},
         {"close", File, T("&Close"), "Ctrl+W", BeginsGroup, T("closes the window"), &W::closeWindow},
         {"quit", File, T("&Quit"), "Ctrl+Q", 0, T("closes all windows"), &W::quit},
 
@@ -88,6 +89,9 @@ const std::vector<Row> &rows()
          T("remembers dates and costs, to compare with later"), &W::setBaseline},
         {"clear-baseline", Plan, T("Clear baseline"), "Ctrl+Shift+B", 0, T("forgets them"),
          &W::clearBaseline},
+        {"compare-baseline", Plan, T("Compare &with baseline"), "Ctrl+Shift+M", IsSwitch,
+         T("lists the tasks that are not where the baseline has them, and by how much"),
+         &W::toggleComparison},
 
         {"zoom-in", View, T("Zoom &in"), "Ctrl++; Ctrl+=", InToolBar, T("more pixels for a day"), &W::zoomIn},
         {"zoom-out", View, T("Zoom &out"), "Ctrl+-", InToolBar, T("fewer pixels for a day"), &W::zoomOut},
@@ -109,6 +113,8 @@ const std::vector<Row> &rows()
          T("a panel that explains the dates of the chosen task"), &W::toggleReasons},
         {"show-filter", View, T("F&ilter"), "Ctrl+Shift+F", IsSwitch,
          T("lists the critical tasks, the late ones, those of a resource"), &W::toggleFilter},
+        {"hide-others", View, T("&Hide other tasks"), "Ctrl+Shift+H", IsSwitch,
+         T("shows the tasks of the filter alone, with the summaries above them"), &W::toggleHiding},
         {"next-reason", View, T("&Go to what drives it"), "Ctrl+J", NeedsTasks,
          T("goes to the task that the chosen one waits for longest"), &W::goToDriver},
 

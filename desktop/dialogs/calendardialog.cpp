@@ -3,6 +3,7 @@
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwcalendar.h"
+#include "texts.h"
 #include "workingtime.h"
 #include <QCalendarWidget>
 #include <QCheckBox>
@@ -74,9 +75,10 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
 {
     setWindowTitle(tr("Working time"));
     const KWDocument &document = session.document();
+    const QLocale language(texts::chosen());
     auto *week = new QHBoxLayout;
     for (int day = 0; day < 7; ++day) {
-        m_days[std::size_t(day)] = new QCheckBox(QLocale().standaloneDayName(day + 1, QLocale::ShortFormat));
+        m_days[std::size_t(day)] = new QCheckBox(language.standaloneDayName(day + 1, QLocale::ShortFormat));
         m_days[std::size_t(day)]->setChecked(document.WorkDay[day]);
         week->addWidget(m_days[std::size_t(day)]);
         connect(m_days[std::size_t(day)], &QCheckBox::toggled, this, &CalendarDialog::showMonth);
@@ -90,8 +92,8 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
     m_exceptions->verticalHeader()->hide();
     m_exceptions->horizontalHeader()->setStretchLastSection(true);
     m_exceptions->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_exceptions->setAccessibleName(tr("Days that are otherwise"));
-    for (const auto &[column, pixels] : {std::make_pair(From, 92), {To, 92}, {Works, 84}, {Hours, 120}})
+    m_exceptions->setAccessibleName(tr("Exceptions"));
+    for (const auto &[column, pixels] : {std::make_pair(From, 92), {To, 92}, {Works, 84}, {Hours, 150}})
         m_exceptions->setColumnWidth(column, pixels);
     for (const DateException &exception : exceptionsOf(document))
         addRow(exception);
@@ -115,6 +117,7 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
     tableBox->addWidget(m_exceptions, 1);
     tableBox->addLayout(buttonsOfTable);
 
+    m_month->setLocale(language);
     m_month->setFirstDayOfWeek(Qt::Monday);
     m_month->setVerticalHeaderFormat(QCalendarWidget::ISOWeekNumbers);
     m_month->setAccessibleName(tr("The month as it comes out"));
@@ -135,7 +138,7 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
     form->addRow(tr("Hours"), m_hours);
     auto *left = new QVBoxLayout;
     left->addLayout(form);
-    left->addWidget(new QLabel(tr("Days that are otherwise; the first one that names a date decides:")));
+    left->addWidget(new QLabel(tr("Exceptions; the first one that names a date decides:")));
     left->addLayout(tableBox, 1);
     auto *columns = new QHBoxLayout;
     columns->addLayout(left, 3);
@@ -144,7 +147,7 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
     all->addLayout(columns, 1);
     all->addWidget(m_complaint);
     all->addWidget(buttons);
-    resize(960, 420);
+    resize(1080, 440);
     showMonth();
 }
 

@@ -22,8 +22,6 @@ PreviewDialog::PreviewDialog(Session &session, const KWExportOptions &options, Q
     , m_number(new QSpinBox)
 {
     setWindowTitle(tr("Print preview"));
-    m_options.theme = KWExportOptions::Light; // paper is white
-    m_options.highlight = false;
     m_sheet->setAlignment(Qt::AlignCenter);
     auto *area = new QScrollArea;
     area->setWidget(m_sheet);
@@ -32,6 +30,7 @@ PreviewDialog::PreviewDialog(Session &session, const KWExportOptions &options, Q
     area->setBackgroundRole(QPalette::Dark);
     auto *setup = new QPushButton(tr("Page &set-up…"));
     auto *write = new QPushButton(tr("&Save as PDF…"));
+    auto *print = new QPushButton(tr("P&rint…"));
     auto *close = new QPushButton(tr("&Close"));
     m_number->setAccessibleName(tr("Sheet"));
     auto *bar = new QHBoxLayout;
@@ -41,6 +40,7 @@ PreviewDialog::PreviewDialog(Session &session, const KWExportOptions &options, Q
     bar->addStretch(1);
     bar->addWidget(setup);
     bar->addWidget(write);
+    bar->addWidget(print);
     bar->addWidget(close);
     auto *all = new QVBoxLayout(this);
     all->addLayout(bar);
@@ -49,6 +49,7 @@ PreviewDialog::PreviewDialog(Session &session, const KWExportOptions &options, Q
             [this](int number) { showPage(number - 1); });
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     connect(write, &QPushButton::clicked, this, &PreviewDialog::exportWanted);
+    connect(print, &QPushButton::clicked, this, &PreviewDialog::printWanted);
     connect(setup, &QPushButton::clicked, this, [this] {
         Q_EMIT setupWanted();
         restart();

@@ -19,6 +19,7 @@ public:
 Q_SIGNALS:
     void exportWanted();
     void setupWanted();
+    void printWanted();
 
 private:
     void restart();

@@ -4,6 +4,7 @@
 #include "views/planmodel.h"
 #include <QAbstractItemView>
 #include <QCompleter>
+#include <QCoreApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -53,6 +54,7 @@ QWidget *CellDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
         auto *completer = new NameCompleter(names, editor);
         completer->setCaseSensitivity(Qt::CaseInsensitive);
         editor->setCompleter(completer);
+        completer->popup()->installEventFilter(const_cast<CellDelegate *>(this));
     }
     m_index = index;
     return editor;
@@ -118,6 +120,13 @@ bool CellDelegate::take(QLineEdit *editor)
     return isTaken;
 }
 
+void CellDelegate::finish(QLineEdit *editor)
+{
+    const QPointer<QLineEdit> alive(editor);
+    if (take(editor) && alive)
+        leave(editor, Stay);
+}
+
 void CellDelegate::leave(QLineEdit *editor, Way way)
 {
     delete m_bubble;
@@ -126,11 +135,27 @@ void CellDelegate::leave(QLineEdit *editor, Way way)
         Q_EMIT leftTowards(way);
 }
 
+// A list of names that offers more is no reason to press a key twice: what leaves a cell leaves it, unless a
+// name is chosen in the list.
+bool CellDelegate::ofNames(QAbstractItemView *list, QEvent *event)
+{
+    if (!list || event->type() != QEvent::KeyPress || list->currentIndex().isValid())
+        return false;
+    const int key = static_cast<QKeyEvent *>(event)->key();
+    QWidget *editor = list->focusProxy();
+    if (!editor ||
+        (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Tab && key != Qt::Key_Backtab))
+        return false;
+    list->hide();
+    QCoreApplication::sendEvent(editor, event);
+    return true;
+}
+
 bool CellDelegate::eventFilter(QObject *object, QEvent *event)
 {
     auto *editor = qobject_cast<QLineEdit *>(object);
     if (!editor)
-        return false;
+        return ofNames(qobject_cast<QAbstractItemView *>(object), event);
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
         const auto *key = static_cast<QKeyEvent *>(event);
         const bool isShift = key->modifiers() & Qt::ShiftModifier;
@@ -173,9 +198,7 @@ bool CellDelegate::eventFilter(QObject *object, QEvent *event)
         if (!editor->isVisible() || reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason ||
             reason == Qt::MenuBarFocusReason)
             return false;
-        const QPointer<QLineEdit> alive(editor);
-        if (take(editor) && alive)
-            leave(editor, Stay);
+        finish(editor);
     }
     return false;
 }

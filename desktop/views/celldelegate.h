@@ -1,6 +1,7 @@
 #pragma once
 #include <QStyledItemDelegate>
 
+class QAbstractItemView;
 class QLabel;
 class QLineEdit;
 class Session;
@@ -18,6 +19,8 @@ public:
     void updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const override;
     bool eventFilter(QObject *object, QEvent *event) override;
+    // Takes the text of an open editor and closes it, unless it is refused.
+    void finish(QLineEdit *editor);
     // What is said below the open editor; empty: nothing.
     QString complaint() const;
 
@@ -27,6 +30,7 @@ Q_SIGNALS:
     void leftTowards(int way) const; // the text was taken
 
 private:
+    bool ofNames(QAbstractItemView *list, QEvent *event);
     bool take(QLineEdit *editor);
     void leave(QLineEdit *editor, Way way);
     void complain(QLineEdit *editor, const QString &what, const QString &hint);

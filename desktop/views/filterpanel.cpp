@@ -2,6 +2,7 @@
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
 #include <QAbstractListModel>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QListView>
@@ -59,6 +60,7 @@ FilterPanel::FilterPanel(Session &session, QWidget *parent)
     : QDockWidget(tr("Filter"), parent)
     , m_session(session)
     , m_filters(new QComboBox)
+    , m_hides(new QCheckBox(tr("Hide the other tasks")))
     , m_list(new QListView)
     , m_count(new QLabel)
     , m_rows(new Rows(session, this))
@@ -73,6 +75,7 @@ FilterPanel::FilterPanel(Session &session, QWidget *parent)
     auto *layout = new QVBoxLayout(inside);
     layout->setContentsMargins(6, 6, 6, 6);
     layout->addWidget(m_filters);
+    layout->addWidget(m_hides);
     layout->addWidget(m_list, 1);
     layout->addWidget(m_count);
     setWidget(inside);
@@ -81,8 +84,17 @@ FilterPanel::FilterPanel(Session &session, QWidget *parent)
     connect(&m_wait, &QTimer::timeout, this, &FilterPanel::filterNow);
     connect(&session, &Session::edited, this, &FilterPanel::follow);
     connect(&session, &Session::replaced, this, &FilterPanel::follow);
-    connect(this, &QDockWidget::visibilityChanged, this, &FilterPanel::follow);
-    connect(m_filters, QOverload<int>::of(&QComboBox::activated), this, &FilterPanel::filterNow);
+    const auto narrow = [this] {
+        filterNow();
+        Q_EMIT narrowed();
+    };
+    connect(this, &QDockWidget::visibilityChanged, this, [this, narrow] {
+        follow();
+        if (m_hides->isChecked())
+            narrow();
+    });
+    connect(m_filters, QOverload<int>::of(&QComboBox::activated), this, narrow);
+    connect(m_hides, &QCheckBox::toggled, this, narrow);
     const auto jump = [this](const QModelIndex &index) { Q_EMIT jumped(m_rows->ids().value(index.row())); };
     connect(m_list, &QListView::activated, this, jump);
     connect(m_list, &QListView::clicked, this, jump);
@@ -90,6 +102,16 @@ FilterPanel::FilterPanel(Session &session, QWidget *parent)
 }
 
 FilterPanel::~FilterPanel() = default;
+
+bool FilterPanel::hidesOthers() const
+{
+    return m_hides->isChecked() && !isHidden();
+}
+
+void FilterPanel::setHidesOthers(bool hides)
+{
+    m_hides->setChecked(hides);
+}
 
 void FilterPanel::follow()
 {
@@ -114,6 +136,8 @@ void FilterPanel::choose(const taskfilter::Filter &filter)
     fillFilters();
     m_filters->setCurrentIndex(qMax(0, m_filters->findText(taskfilter::title(filter))));
     filterNow();
+    if (m_hides->isChecked())
+        Q_EMIT narrowed();
 }
 
 void FilterPanel::filterNow()

@@ -18,6 +18,9 @@ public:
 
     KWExportOptions options; // scale, rows and columns are the document's
 
+    // The same on paper, which is white and has no cursor.
+    KWExportOptions onPaper() const;
+
     enum Part { Table, Chart };
     // The part of the picture that begins at `topLeft` (the chart's left edge is 0, the table stands left of
     // it, the head begins at 0) into a rectangle of a widget.

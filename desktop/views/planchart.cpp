@@ -51,6 +51,7 @@ PlanChart::PlanChart(Session &session, PlanModel &model, Picture &picture, QWidg
     connect(&session, &Session::edited, this, &PlanChart::followDocument);
     connect(&session, &Session::rescaled, this, &PlanChart::followDocument);
     connect(&session, &Session::replaced, this, &PlanChart::restart);
+    connect(&model, &PlanModel::filtered, this, &PlanChart::followDocument);
     updateBars();
 }
 
@@ -159,7 +160,7 @@ void PlanChart::findSheets()
     if (!m_showsSheets)
         return;
     GanttPdfExport drawing(&m_session.document());
-    drawing.options = m_picture.options;
+    drawing.options = m_picture.onPaper();
     m_sheets = drawing.sheetBorders();
     viewport()->update();
 }

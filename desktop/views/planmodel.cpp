@@ -48,17 +48,47 @@ std::vector<quint32> PlanModel::visibleIds() const
     std::vector<quint32> ids;
     ids.reserve(std::size_t(m_session.document().visibleRowCount()));
     for (const KWTaskInfo *task : m_session.document().taskList())
-        if (task->HideID == 0)
+        if (task->HideID == 0 && (m_hidden.isEmpty() || !m_hidden.contains(task->ID)))
             ids.push_back(task->ID);
     return ids;
 }
 
+// The document knows the places of rows that are not folded away; of some of them it is counted here.
+void PlanModel::placeRows()
+{
+    m_rows.clear();
+    m_tops.clear();
+    if (m_hidden.isEmpty())
+        return;
+    const KWDocument &document = m_session.document();
+    double top = 0;
+    for (const quint32 id : m_ids) {
+        const int row = document.getRowByTaskID(id);
+        m_rows.push_back(row);
+        m_tops.push_back(top);
+        top += m_table->rowBottom(row) - m_table->rowTop(row);
+    }
+    m_tops.push_back(top);
+}
+
+void PlanModel::hide(const QSet<quint32> &ids)
+{
+    m_hidden = ids;
+    follow();
+    Q_EMIT filtered();
+}
+
 void PlanModel::restart()
 {
+    const bool wasFiltered = isFiltered();
     beginResetModel();
     m_table = newTable();
+    m_hidden.clear();
     m_ids = visibleIds();
+    placeRows();
     endResetModel();
+    if (wasFiltered)
+        Q_EMIT filtered();
 }
 
 void PlanModel::follow()
@@ -85,13 +115,16 @@ void PlanModel::follow()
     if (gone > 0) {
         beginRemoveRows(QModelIndex(), first, first + gone - 1);
         m_ids.erase(m_ids.begin() + first, m_ids.begin() + first + gone);
+        placeRows();
         endRemoveRows();
     }
     if (come > 0) {
         beginInsertRows(QModelIndex(), first, first + come - 1);
         m_ids = std::move(ids);
+        placeRows();
         endInsertRows();
     }
+    placeRows();
     if (taskRows() > 0 && columnCount() > 0)
         Q_EMIT dataChanged(index(0, 0), index(taskRows() - 1, columnCount() - 1));
 }
@@ -114,7 +147,13 @@ quint32 PlanModel::taskAt(int row) const
 int PlanModel::rowOf(quint32 id) const
 {
     const KWTaskInfo *task = m_session.document().getTaskInfoByID(id);
-    return task && task->HideID == 0 ? m_session.document().getRowByTaskID(id) : -1;
+    if (!task || task->HideID != 0)
+        return -1;
+    const int row = m_session.document().getRowByTaskID(id);
+    if (!isFiltered())
+        return row;
+    const auto shown = std::lower_bound(m_rows.begin(), m_rows.end(), row);
+    return shown != m_rows.end() && *shown == row ? int(shown - m_rows.begin()) : -1;
 }
 
 int PlanModel::typeOf(int column) const
@@ -132,12 +171,16 @@ int PlanModel::columnOf(int type) const
 
 double PlanModel::rowTop(int row) const
 {
+    if (isFiltered())
+        return m_tops[std::size_t(qBound(0, row, taskRows()))];
     const double top = m_table->headBottom();
     return (row >= taskRows() ? m_table->bottom() : m_table->rowTop(row)) - top;
 }
 
 double PlanModel::rowBottom(int row) const
 {
+    if (isFiltered() && row < taskRows())
+        return rowTop(row + 1);
     return row >= taskRows() ? rowTop(row) + RowColumnData::defaultRowHeight
                              : m_table->rowBottom(row) - m_table->headBottom();
 }
@@ -146,10 +189,19 @@ int PlanModel::rowAtY(double y) const
 {
     if (y < 0)
         return -1;
-    const int row = m_table->rowAtY(y + m_table->headBottom() + 0.5);
-    if (row >= 0)
+    const int row = isFiltered() ? int(std::upper_bound(m_tops.begin(), m_tops.end(), y) - m_tops.begin()) - 1
+                                 : m_table->rowAtY(y + m_table->headBottom() + 0.5);
+    if (row >= 0 && row < taskRows())
         return row;
     return y < rowBottom(taskRows()) ? taskRows() : -1;
+}
+
+Cell PlanModel::cell(const QModelIndex &index) const
+{
+    TableRow row;
+    row.row = index.row();
+    row.task = m_session.document().getTaskInfoByID(taskAt(index.row()));
+    return m_table->cell(row, index.column());
 }
 
 QVariant PlanModel::data(const QModelIndex &index, int role) const
@@ -164,12 +216,8 @@ QVariant PlanModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
     case Qt::ToolTipRole:
-        if (task) {
-            TableRow row;
-            row.row = index.row();
-            row.task = task;
-            return m_table->cell(row, index.column()).text;
-        }
+        if (task)
+            return cell(index).text;
         return role == Qt::AccessibleTextRole ? QVariant(tr("New task")) : QVariant();
     case Qt::TextAlignmentRole:
         return int(

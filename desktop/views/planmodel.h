@@ -2,6 +2,7 @@
 #include "documents/cellinput.h"
 #include "table/customtable.h"
 #include <QAbstractTableModel>
+#include <QSet>
 #include <memory>
 #include <vector>
 
@@ -27,6 +28,12 @@ public:
     int taskRows() const { return int(m_ids.size()); }
     quint32 taskAt(int row) const; // its ID; 0 for the last row
     int rowOf(quint32 id) const;   // -1: not visible
+    const std::vector<quint32> &tasks() const { return m_ids; }
+    Cell cell(const QModelIndex &index) const; // of a task
+    // Leaves these tasks out beside those that are folded away; tasks that come later are shown.
+    void hide(const QSet<quint32> &ids);
+    bool isFiltered() const { return !m_tops.empty(); }
+    bool isLeftOut(quint32 id) const { return m_hidden.contains(id); }
     const CustomTable &table() const { return *m_table; }
     // What each task waits for, as a last column: no column of the document, so the window remembers it.
     void setShowsPredecessors(bool isShown);
@@ -41,17 +48,22 @@ public:
     const cellinput::Outcome &lastOutcome() const { return m_outcome; }
 
 Q_SIGNALS:
-    void entered(); // a text was taken or refused: see lastOutcome()
+    void filtered(); // other rows are left out than before
+    void entered();  // a text was taken or refused: see lastOutcome()
 
 private:
     void restart();
     void follow();
     std::vector<quint32> visibleIds() const;
+    void placeRows();
     std::unique_ptr<CustomTable> newTable() const;
 
     Session &m_session;
     bool m_showsPredecessors = true; // before the table, which is made by it
     std::unique_ptr<CustomTable> m_table;
     std::vector<quint32> m_ids;
+    QSet<quint32> m_hidden;
+    std::vector<int> m_rows;    // of the document, that of each row shown; when some are left out
+    std::vector<double> m_tops; // below the head, and the end of the last one; likewise
     cellinput::Outcome m_outcome;
 };

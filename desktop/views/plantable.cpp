@@ -7,6 +7,7 @@
 #include "views/planmodel.h"
 #include "views/tablehead.h"
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
@@ -25,7 +26,7 @@ PlanTable::PlanTable(Session &session, PlanModel &model, Picture &picture, QWidg
     , m_session(session)
     , m_model(model)
     , m_picture(picture)
-    , m_head(new TableHead(*this, model, picture))
+    , m_head(new TableHead(*this, model))
     , m_delegate(new CellDelegate(session, this))
 {
     setAccessibleName(tr("Table of tasks"));
@@ -47,6 +48,7 @@ PlanTable::PlanTable(Session &session, PlanModel &model, Picture &picture, QWidg
     connect(m_delegate, &CellDelegate::leftTowards, this, &PlanTable::leaveTowards);
     connect(&session, &Session::edited, this, &PlanTable::edited);
     connect(&session, &Session::replaced, this, &PlanTable::edited);
+    connect(&model, &PlanModel::filtered, this, &PlanTable::edited);
 }
 
 // ---- Geometry ---------------------------------------------------------------------------------------------
@@ -54,6 +56,54 @@ PlanTable::PlanTable(Session &session, PlanModel &model, Picture &picture, QWidg
 double PlanTable::tableWidth() const
 {
     return m_model.table().width();
+}
+
+double PlanTable::frozenWidth() const
+{
+    const int names = m_model.columnOf(cellinput::nameType);
+    constexpr int mostFrozen = 2;
+    if (horizontalOffset() == 0 || names < 0 || names >= mostFrozen)
+        return 0;
+    const double width = m_model.table().heads()[std::size_t(names)].right();
+    return width <= viewport()->width() / 2.0 ? width : 0;
+}
+
+double PlanTable::leftOf(int column) const
+{
+    const HeadItem &head = m_model.table().heads()[std::size_t(column)];
+    return head.right() <= frozenWidth() ? head.x : head.x - horizontalOffset();
+}
+
+int PlanTable::columnAtX(double x) const
+{
+    return m_model.table().columnAtX(x < frozenWidth() ? x : x + horizontalOffset());
+}
+
+void PlanTable::paintPicture(QPainter &painter, const QSize &view, double top) const
+{
+    m_picture.options.columns = m_model.columnTypes();
+    const int shown = qBound(0, int(tableWidth()) - horizontalOffset(), view.width());
+    const int frozen = qMin(int(frozenWidth()), view.width());
+    m_picture.paint(painter, QRect(0, 0, shown, view.height()),
+                    QPointF(horizontalOffset() - tableWidth(), top), Picture::Table);
+    if (shown < view.width())
+        painter.fillRect(QRect(shown, 0, view.width() - shown, view.height()), palette().base());
+    if (frozen == 0)
+        return;
+    painter.save();
+    painter.setClipRect(QRect(0, -1, frozen, view.height() + 2));
+    m_picture.paint(painter, QRect(0, 0, frozen, view.height()), QPointF(-tableWidth(), top), Picture::Table);
+    painter.restore();
+    painter.setPen(palette().mid().color());
+    painter.drawLine(frozen, 0, frozen, view.height());
+}
+
+void PlanTable::finishEditing()
+{
+    if (state() != EditingState)
+        return;
+    if (auto *editor = qobject_cast<QLineEdit *>(indexWidget(currentIndex())))
+        m_delegate->finish(editor);
 }
 
 void PlanTable::edited()
@@ -101,7 +151,8 @@ void PlanTable::verticalScrollbarValueChanged(int)
 
 void PlanTable::horizontalScrollbarValueChanged(int value)
 {
-    m_head->setOffset(value);
+    Q_UNUSED(value)
+    m_head->update();
     updateEditorGeometries();
     viewport()->update();
 }
@@ -110,8 +161,7 @@ QRectF PlanTable::cellRect(int row, int column) const
 {
     const HeadItem &head = m_model.table().heads()[std::size_t(column)];
     const double top = m_model.rowTop(row);
-    return QRectF(head.x - horizontalOffset(), top - verticalOffset(), head.width,
-                  m_model.rowBottom(row) - top);
+    return QRectF(leftOf(column), top - verticalOffset(), head.width, m_model.rowBottom(row) - top);
 }
 
 QRect PlanTable::visualRect(const QModelIndex &index) const
@@ -124,7 +174,7 @@ QRect PlanTable::visualRect(const QModelIndex &index) const
 QModelIndex PlanTable::indexAt(const QPoint &point) const
 {
     const int row = m_model.rowAtY(point.y() + verticalOffset());
-    const int column = m_model.table().columnAtX(point.x() + horizontalOffset());
+    const int column = columnAtX(point.x());
     return row < 0 || column < 0 ? QModelIndex() : m_model.index(row, column);
 }
 
@@ -144,10 +194,13 @@ void PlanTable::scrollTo(const QModelIndex &index, ScrollHint hint)
     }
     verticalScrollBar()->setValue(y);
     const HeadItem &head = m_model.table().heads()[std::size_t(index.column())];
+    const double frozen = frozenWidth();
+    if (head.right() <= frozen)
+        return;
     if (head.right() > horizontalOffset() + viewport()->width())
         horizontalScrollBar()->setValue(int(std::ceil(head.right())) - viewport()->width());
-    if (head.x < horizontalOffset())
-        horizontalScrollBar()->setValue(int(head.x));
+    if (head.x - frozen < horizontalOffset())
+        horizontalScrollBar()->setValue(int(head.x - frozen));
 }
 
 bool PlanTable::isIndexHidden(const QModelIndex &) const
@@ -355,19 +408,18 @@ bool PlanTable::isOnFoldMark(const QPoint &point, quint32 &id) const
     const QModelIndex index = indexAt(point);
     if (!index.isValid() || m_model.typeOf(index.column()) != cellinput::nameType)
         return false;
-    const TableRow row = m_model.table().taskRow(index.row());
-    const Cell cell = m_model.table().cell(row, index.column());
+    const Cell cell = m_model.cell(index);
     if (cell.fold == Cell::NoFold)
         return false;
     id = m_model.taskAt(index.row());
-    const double text = cell.rect.left() + cell.indent - horizontalOffset();
+    const double text = leftOf(index.column()) + cell.indent;
     constexpr double around = 4;
     return point.x() >= text - CustomTable::foldMarkWidth - around && point.x() <= text + around;
 }
 
 int PlanTable::rowBorderAt(const QPoint &point) const
 {
-    if (m_model.typeOf(m_model.table().columnAtX(point.x() + horizontalOffset())) != 0)
+    if (m_model.typeOf(columnAtX(point.x())) != 0)
         return -1;
     const double y = point.y() + verticalOffset();
     const int row = m_model.rowAtY(qMax(0.0, y - rowGrip));
@@ -516,13 +568,8 @@ void PlanTable::paintEvent(QPaintEvent *)
 {
     QPainter painter(viewport());
     const QRect view = viewport()->rect();
-    m_picture.options.columns = m_model.columnTypes();
+    paintPicture(painter, view.size(), verticalOffset() + headHeight);
     const int shown = qBound(0, int(tableWidth()) - horizontalOffset(), view.width());
-    m_picture.paint(painter, QRect(0, 0, shown, view.height()),
-                    QPointF(horizontalOffset() - tableWidth(), verticalOffset() + headHeight),
-                    Picture::Table);
-    if (shown < view.width())
-        painter.fillRect(QRect(shown, 0, view.width() - shown, view.height()), palette().base());
     if (m_model.columnCount() == 0)
         return;
 
@@ -545,7 +592,8 @@ void PlanTable::paintEvent(QPaintEvent *)
             tint(row, QColor(255, 190, 60), flashAlpha);
     }
     if (last == m_model.taskRows() && m_model.columnOf(cellinput::nameType) >= 0) {
-        const QRectF cell = cellRect(last, m_model.columnOf(cellinput::nameType));
+        QRectF cell = cellRect(last, m_model.columnOf(cellinput::nameType));
+        cell.setRight(qMax(cell.right(), double(shown))); // nothing stands beside it
         QColor quiet = palette().text().color();
         quiet.setAlpha(120);
         painter.setPen(quiet);
@@ -556,7 +604,10 @@ void PlanTable::paintEvent(QPaintEvent *)
     if (current.isValid() && state() != EditingState) {
         painter.setPen(QPen(accent, 2));
         painter.setBrush(Qt::NoBrush);
+        if (m_model.table().heads()[std::size_t(current.column())].right() > frozenWidth())
+            painter.setClipRect(view.adjusted(int(frozenWidth()), 0, 0, 0));
         painter.drawRect(cellRect(current.row(), current.column()).adjusted(1, 1, -1, -2));
+        painter.setClipping(false);
     }
     if (m_resizedRow >= 0) {
         painter.setPen(QPen(accent, 2));

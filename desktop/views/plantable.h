@@ -27,6 +27,15 @@ public:
     void selectRow(int row, int column = -1);
     void goDown(); // to the next row, for a new task at the end
     double tableWidth() const;
+    // Numbers and names stay where they are when the others are scrolled, unless that would leave no room for
+    // those.
+    double frozenWidth() const;
+    double leftOf(int column) const; // in the view
+    int columnAtX(double x) const;   // of the view; -1 beside the table
+    // Paints the table's part of the picture into the width of a view, `top` pixels below the picture's.
+    void paintPicture(QPainter &painter, const QSize &view, double top) const;
+    // Takes what is typed in an open cell; what is refused stays there, with the reason.
+    void finishEditing();
     // Rows of tasks that have just moved, for a moment.
     void flash(const QSet<quint32> &ids);
 

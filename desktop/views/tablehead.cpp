@@ -1,5 +1,4 @@
 #include "views/tablehead.h"
-#include "views/picture.h"
 #include "views/planmodel.h"
 #include "views/plantable.h"
 #include <QContextMenuEvent>
@@ -12,11 +11,10 @@ namespace {
 constexpr double grip = 4; // pixels beside a border
 }
 
-TableHead::TableHead(PlanTable &table, PlanModel &model, Picture &picture)
+TableHead::TableHead(PlanTable &table, PlanModel &model)
     : QWidget(&table)
     , m_table(table)
     , m_model(model)
-    , m_picture(picture)
 {
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -25,46 +23,34 @@ TableHead::TableHead(PlanTable &table, PlanModel &model, Picture &picture)
         tr("Drag a border to change a width, a title to move its column; right-click for all columns"));
 }
 
-void TableHead::setOffset(int offset)
-{
-    m_offset = offset;
-    update();
-}
-
 int TableHead::borderAt(double x) const
 {
     const auto &heads = m_model.table().heads();
-    for (int column = int(heads.size()) - 1; column >= 0; --column)
-        if (std::abs(heads[std::size_t(column)].right() - m_offset - x) <= grip)
+    for (int column = int(heads.size()) - 1; column >= 0; --column) {
+        const double border = m_table.leftOf(column) + heads[std::size_t(column)].width;
+        // Not those that the frozen columns hide.
+        if (std::abs(border - x) <= grip &&
+            (border >= m_table.frozenWidth() || m_table.columnAtX(x) == column))
             return column;
+    }
     return -1;
-}
-
-int TableHead::columnAt(double x) const
-{
-    return m_model.table().columnAtX(x + m_offset);
 }
 
 void TableHead::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    m_picture.options.columns = m_model.columnTypes();
-    const int shown = qMin(width(), int(m_table.tableWidth()) - m_offset);
-    m_picture.paint(painter, QRect(0, 0, shown, height()), QPointF(m_offset - m_table.tableWidth(), 0),
-                    Picture::Table);
-    if (shown < width())
-        painter.fillRect(QRect(qMax(0, shown), 0, width() - qMax(0, shown), height()), palette().base());
+    m_table.paintPicture(painter, size(), 0);
     if (!m_isDragging)
         return;
     painter.setPen(QPen(palette().highlight().color(), 2));
     if (m_resized >= 0) {
         painter.drawLine(QPointF(m_x, 0), QPointF(m_x, height()));
     } else {
-        const int target = columnAt(m_x);
+        const int target = m_table.columnAtX(m_x);
         if (target < 0)
             return;
-        const HeadItem &head = m_model.table().heads()[std::size_t(target)];
-        const double at = (target > m_moved ? head.right() : head.x) - m_offset;
+        const double at = m_table.leftOf(target) +
+                          (target > m_moved ? m_model.table().heads()[std::size_t(target)].width : 0);
         painter.drawLine(QPointF(at, 0), QPointF(at, height()));
     }
 }
@@ -75,7 +61,7 @@ void TableHead::mousePressEvent(QMouseEvent *event)
         return;
     m_pressX = m_x = event->localPos().x();
     m_resized = borderAt(m_pressX);
-    m_moved = m_resized < 0 ? columnAt(m_pressX) : -1;
+    m_moved = m_resized < 0 ? m_table.columnAtX(m_pressX) : -1;
 }
 
 void TableHead::mouseMoveEvent(QMouseEvent *event)
@@ -101,10 +87,9 @@ void TableHead::mouseReleaseEvent(QMouseEvent *event)
     if (!wasDragging)
         return;
     if (resized >= 0) {
-        const HeadItem &head = m_model.table().heads()[std::size_t(resized)];
-        m_table.resizeColumn(resized, m_x + m_offset - head.x);
-    } else if (moved >= 0 && columnAt(m_x) >= 0 && columnAt(m_x) != moved) {
-        m_table.moveColumn(moved, columnAt(m_x));
+        m_table.resizeColumn(resized, m_x - m_table.leftOf(resized));
+    } else if (moved >= 0 && m_table.columnAtX(m_x) >= 0 && m_table.columnAtX(m_x) != moved) {
+        m_table.moveColumn(moved, m_table.columnAtX(m_x));
     }
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 #include <QWidget>
 
-class Picture;
 class PlanModel;
 class PlanTable;
 
@@ -10,8 +9,7 @@ class TableHead : public QWidget
 {
     Q_OBJECT
 public:
-    TableHead(PlanTable &table, PlanModel &model, Picture &picture);
-    void setOffset(int offset);
+    TableHead(PlanTable &table, PlanModel &model);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -22,12 +20,9 @@ protected:
 
 private:
     int borderAt(double x) const; // the column left of it; -1: none
-    int columnAt(double x) const;
 
     PlanTable &m_table;
     PlanModel &m_model;
-    Picture &m_picture;
-    int m_offset = 0;
     int m_resized = -1;
     int m_moved = -1;
     double m_pressX = 0;

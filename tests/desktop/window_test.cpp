@@ -1,5 +1,6 @@
 // What a user does with keys and mouse in the real window, on a screen that is not there.
 #include "actions/actiontable.h"
+#include "baseline.h"
 #include "chart/layout.h"
 #include "desktop/hands.h"
 #include "dialogs/busy.h"
@@ -7,6 +8,7 @@
 #include "dialogs/commandpalette.h"
 #include "dialogs/pagesetupdialog.h"
 #include "dialogs/previewdialog.h"
+#include "dialogs/printout.h"
 #include "dialogs/resourcesdialog.h"
 #include "edit.h"
 #include "edits/planreasons.h"
@@ -19,6 +21,7 @@
 #include "support/filesizelimit.h"
 #include "support/folder.h"
 #include "support/kwclock.h"
+#include "views/baselinepanel.h"
 #include "views/celldelegate.h"
 #include "views/filterpanel.h"
 #include "views/findingspanel.h"
@@ -33,8 +36,10 @@
 #include <QDialog>
 #include <QMenu>
 #include <QMimeData>
+#include <QPrinter>
 #include <QProcess>
 #include <QScrollBar>
+#include <QSplitter>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <csignal>
@@ -612,6 +617,7 @@ TEST(Window, dialogsMakeOneStep)
     EXPECT_EQ(sheet.sheet()->item(0, 3)->text(), QLatin1String("50/h"));
 
     KWPrintConfig config;
+    config.FittoSheet = true;
     config.HSheet = 3;
     config.VSheet = 2;
     PageSetupDialog setup(session);
@@ -620,6 +626,19 @@ TEST(Window, dialogsMakeOneStep)
     GanttPdfExport drawing(&hands.document());
     EXPECT_EQ(hands.document().printConfig.HSheet, 3);
     EXPECT_EQ(PreviewDialog(session, KWExportOptions()).pageCount(), drawing.pageCount());
+
+    const QTemporaryDir folder;
+    QPrinter printer;
+    printer.setOutputFileName(folder.filePath(QStringLiteral("sheets.pdf")));
+    printout::setPaper(printer, drawing);
+    EXPECT_EQ(printer.pageLayout().fullRect(QPageLayout::Millimeter).size().toSize(),
+              drawing.pageSize().toSize());
+    ASSERT_GE(drawing.pageCount(), 2);
+    EXPECT_FALSE(printout::print(printer, drawing, [](int done, int) { return done < 1; }));
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(2, drawing.pageCount());
+    ASSERT_TRUE(printout::print(printer, drawing, [](int, int) { return true; }));
+    EXPECT_EQ(folder::get(printer.outputFileName()).count("/Type /Page\n"), drawing.pageCount() - 1);
 }
 
 TEST(Window, textsAreReplacedInOneStep)
@@ -677,6 +696,117 @@ TEST(Window, theFilterListsWhatItSays)
     panel.choose({taskfilter::BehindBaseline, {}});
     hands.window->undo();
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel.found().isEmpty(); })) << "as long as planned again";
+}
+
+TEST(Window, aFilterHidesTheOthersInTableChartAndPicture)
+{
+    Hands hands;
+    makeChain(hands);
+    MainWindow &window = *hands.window;
+    hands.enter(3, name, QStringLiteral("Rest"));
+    for (const char *each : {"Sweep", "Paint"}) {
+        hands.enter(window.model()->taskRows(), name, QLatin1String(each));
+        hands.go(window.model()->taskRows() - 1, name);
+        if (QLatin1String(each) == QLatin1String("Sweep"))
+            window.indent();
+    }
+    hands.enter(4, resources, QStringLiteral("Ann"));
+    const std::string before = outlineOf(hands.document());
+    const int steps = hands.steps();
+    window.action("hide-others")->trigger();
+    window.filterPanel()->choose({taskfilter::OfResource, QStringLiteral("Ann")});
+    const auto rows = [&] {
+        QStringList names;
+        for (const quint32 id : window.model()->tasks())
+            names.append(hands.document().getTaskInfoByID(id)->Name);
+        return names.join(QLatin1Char(' ')).toStdString();
+    };
+    ASSERT_EQ(rows(), "Rest Sweep");
+    EXPECT_EQ(outlineOf(hands.document()), before);
+    EXPECT_EQ(hands.steps(), steps) << "what is seen is no step";
+    const QTemporaryDir folder;
+    ASSERT_TRUE(window.exportTo(folder.filePath(QStringLiteral("plan.svg"))));
+    const QByteArray drawn = folder::get(folder.filePath(QStringLiteral("plan.svg")));
+    EXPECT_TRUE(drawn.contains("Sweep") && !drawn.contains("Paint") && !drawn.contains("Design"));
+    // The row of the table is that of the bar, and both have the height that the plan says.
+    EXPECT_NEAR(window.chart()->barRect(hands.id(1)).center().y(),
+                window.table()->visualRect(window.model()->index(1, name)).center().y(), 2);
+    EXPECT_EQ(window.chart()->barRect(hands.document().getTaskInfoAt(0)->ID), QRectF());
+    hands.go(1, name);
+    window.insertBelow();
+    hands.type(QStringLiteral("Dust"));
+    hands.key(Qt::Key_Return);
+    EXPECT_EQ(rows(), "Rest Sweep Dust") << "what is new is seen";
+    window.jumpTo(hands.document().getTaskInfoAt(0)->ID);
+    EXPECT_EQ(rows(), "Design Build Test Rest Sweep Dust Paint") << "a jump leads to what was hidden";
+}
+
+TEST(Window, thePanelComparesAsTheProgramDoes)
+{
+    Hands hands;
+    makeChain(hands);
+    MainWindow &window = *hands.window;
+    window.setBaseline();
+    window.action("compare-baseline")->trigger();
+    BaselinePanel &panel = *window.baselinePanel();
+    panel.compareNow();
+    EXPECT_EQ(panel.count(), 0);
+    hands.enter(1, length, QStringLiteral("4d")); // pushes Test
+    panel.compareNow();
+    ASSERT_EQ(panel.count(), 2);
+    panel.sort(4, Qt::DescendingOrder); // by the start
+    const QString told = baseline::text(window.session().plan(), Style(false, false));
+    for (int row = 0; row < 2; ++row)
+        for (int column = 1; column < 7; ++column)
+            EXPECT_TRUE(told.contains(panel.text(row, column))) << panel.text(row, column).toStdString();
+    EXPECT_EQ(panel.text(0, 1).toStdString(), "Test");
+}
+
+TEST(Window, columnsAreFoundWhereTheyAreSeen)
+{
+    Hands hands;
+    makeChain(hands);
+    PlanTable &table = *hands.window->table();
+    PlanModel &model = *hands.window->model();
+    hands.window->findChild<QSplitter *>()->setSizes({600, 300});
+    QApplication::processEvents();
+    table.horizontalScrollBar()->setValue(table.horizontalScrollBar()->maximum());
+    ASSERT_GT(table.horizontalScrollBar()->value(), 0);
+    EXPECT_EQ(table.visualRect(model.index(1, 0)).left(), 0) << "numbers and names stay";
+    int seen = 0;
+    for (int x = 0; x < table.viewport()->width(); x += 7) {
+        const QModelIndex at = table.indexAt(QPoint(x, table.visualRect(model.index(1, 0)).center().y()));
+        ASSERT_EQ(at.row(), 1);
+        EXPECT_TRUE(table.visualRect(at).contains(x, table.visualRect(at).center().y())) << x;
+        seen |= 1 << at.column();
+    }
+    EXPECT_TRUE(seen & 1 << model.columnOf(waits));
+    table.selectRow(1, model.columnOf(start));
+    EXPECT_GE(table.visualRect(table.currentIndex()).left(), table.visualRect(model.index(1, name)).right());
+}
+
+TEST(Window, whatIsTypedIsNotLost)
+{
+    Hands hands;
+    makeChain(hands);
+    hands.enter(0, resources, QStringLiteral("Ann"));
+    // The list of names that opens meanwhile does not hold it up.
+    hands.go(1, resources);
+    hands.type(QStringLiteral("Ann"));
+    QWidget *names = QApplication::activePopupWidget();
+    ASSERT_TRUE(names);
+    QTest::keyClick(names, Qt::Key_Return);
+    EXPECT_EQ(hands.task(1).Resources, QLatin1String("Ann"));
+    EXPECT_EQ(hands.window->table()->currentIndex().row(), 2);
+    // A cell that is still open is part of what is saved.
+    hands.go(2, name);
+    hands.type(QStringLiteral("Trial"));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("plan.kwpx"));
+    ASSERT_TRUE(hands.window->saveTo(path));
+    KWDocument saved;
+    ASSERT_TRUE(saved.loadFromKWGT(path));
+    EXPECT_EQ(saved.getTaskInfoAt(2)->Name, QLatin1String("Trial"));
 }
 
 TEST(Window, onlyPagesAndMailsAreOpened)
