@@ -1,6 +1,7 @@
 #include "engine/cost/names.h"
 #include "engine/record/resource.h"
 #include "engine/record/taskrecord.h"
+#include <algorithm>
 #include <limits>
 
 namespace names {
@@ -55,7 +56,10 @@ bool areOfAssignments(const QString &text, const TaskRecord &task)
     QStringView rest(text);
     bool isFirst = true;
     for (const Resource *resource : task.resourceList) {
-        const QStringView name = QStringView(resource->name).trimmed();
+        QStringView name(resource->name);
+        // Nearly every name is trimmed already, and an undo compares those of the whole plan.
+        if (!name.isEmpty() && (name.front().isSpace() || name.back().isSpace()))
+            name = name.trimmed();
         if (name.isEmpty())
             continue;
         if (!isFirst) {
@@ -63,7 +67,7 @@ bool areOfAssignments(const QString &text, const TaskRecord &task)
                 return false;
             rest = rest.mid(separator.size());
         }
-        if (!rest.startsWith(name))
+        if (name.size() > rest.size() || !std::equal(name.begin(), name.end(), rest.begin()))
             return false;
         rest = rest.mid(name.size());
         isFirst = false;
