@@ -6,6 +6,16 @@
 
 class KWTaskInfo;
 
+namespace editverbs {
+
+// What edits had to take away, in words, and what they moved.
+struct Outcome
+{
+    QStringList lost;
+    MoveWatch *watch = nullptr; // may be missing
+};
+}
+
 // One edit at work: the plan, and what its line names.
 struct Edit
 {
@@ -15,7 +25,7 @@ struct Edit
     QVector<quint32> tasks; // IDs of the TASK arguments
     QStringList words;      // what follows them
     options::Fault &fault;
-    QStringList &lost; // what the edit had to take away, in words
+    editverbs::Outcome &outcome;
 
     KWTaskInfo *task(int index = 0) const { return document.getTaskInfoByID(tasks.value(index)); }
     bool refuse(const QString &what, const QString &hint = QString())
@@ -39,9 +49,9 @@ struct VerbInfo
     QString arguments;
 };
 QVector<VerbInfo> all();
-// Does one edit and records it, so that it can be undone; what it had to take away is added to `lost`. False
+// Does one edit and records it, so that it can be undone; what became of it is added to the outcome. False
 // with a fault; the plan is as it was then.
-bool run(Plan &plan, const QStringList &words, options::Fault &fault, QStringList &lost);
+bool run(Plan &plan, const QStringList &words, options::Fault &fault, Outcome &outcome);
 
 // Something that an edit had to take away.
 QString lossText(const KWDocument &document, const EditLoss &loss);

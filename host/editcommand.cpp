@@ -2,6 +2,7 @@
 #include "commands.h"
 #include "edit.h"
 #include "planfile.h"
+#include "report.h"
 #include "texts.h"
 
 namespace commands {
@@ -74,17 +75,27 @@ int edit(Console &console)
     if (const int code = loadForChange(console, options.arguments.first(), plan))
         return code;
     int done = 0;
-    QStringList lost;
+    MoveWatch watch(plan);
+    editverbs::Outcome outcome{{}, &watch};
     for (const Line &line : lines) {
         options::Fault fault;
-        if (!editverbs::run(plan, line.words, fault, lost)) {
+        if (!editverbs::run(plan, line.words, fault, outcome)) {
             console.error(placeOf(console, line) + QLatin1String(": ") + fault.what, fault.hint);
             console.note(t("nothing was written"));
             return Console::WrongUse;
         }
         console.progress(t("editing"), ++done, qint64(lines.size()));
     }
-    tellLost(console, plan, lost);
-    return writeChanged(console, plan, counted(done, "%1 edit made", "%1 edits made"));
+    tellLost(console, plan, outcome.lost);
+    watch.tell();
+    const Style style = styleOf(console);
+    QString summary = counted(done, "%1 edit made", "%1 edits made");
+    if (!plan.moves.empty())
+        summary += QLatin1String("; ") + report::editMovesSummary(plan, style);
+    const int code = writeChanged(console, plan, summary);
+    // In place, the plan itself goes into its file and standard output is free for the details.
+    if (code == Console::Done && options.verbose && options.inPlace)
+        return written(console, report::moves(plan, style).toUtf8());
+    return code;
 }
 }

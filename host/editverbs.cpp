@@ -11,7 +11,15 @@ bool Edit::take(const EditAnswer &answer)
     if (!answer.isDone())
         return refuse(answer.sentence(), answer.hint());
     for (const EditLoss &loss : answer.losses)
-        lost.append(editverbs::lossText(document, loss));
+        outcome.lost.append(editverbs::lossText(document, loss));
+    if (!outcome.watch)
+        return true;
+    for (const EditMove &move : answer.moves) {
+        if (move.cause == EditMove::Pushed)
+            outcome.watch->pushed(move.task, move.pushedBy);
+        else if (move.cause == EditMove::Edited)
+            outcome.watch->edited(move.task);
+    }
     return true;
 }
 
@@ -326,7 +334,7 @@ QString lossText(const KWDocument &document, const EditLoss &loss)
         .arg(name, taskref::named(document, loss.other));
 }
 
-bool run(Plan &plan, const QStringList &words, options::Fault &fault, QStringList &lost)
+bool run(Plan &plan, const QStringList &words, options::Fault &fault, Outcome &outcome)
 {
     int length = 0;
     const Verb *verb = verbNamed(words, length);
@@ -340,7 +348,7 @@ bool run(Plan &plan, const QStringList &words, options::Fault &fault, QStringLis
         return false;
     }
     PlanEdits edits(*plan.document, QLatin1String(verb->name));
-    Edit edit{plan, *plan.document, edits, {}, words.mid(length), fault, lost};
+    Edit edit{plan, *plan.document, edits, {}, words.mid(length), fault, outcome};
     return takeTasks(*verb, edit) && verb->run(edit);
 }
 

@@ -204,6 +204,7 @@ kwgantt edit FILE --script FILE
   --backup         keeps the file as it was before as FILE~
   -o OUT           writes another file; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)
   --dry-run        shows the changed plan and writes nothing
+  -v, --verbose    with -i, tells every task that moved and what moved it
   --script FILE    one edit a line ('-' reads standard input); a line that begins with # says nothing
   --sheets rich    a workbook with values, widths, filters and outline groups
 

@@ -48,6 +48,27 @@ QString shortName(const KWTaskInfo *task, const Style &style)
     return textwidth::elided(textwidth::oneLine(task->Name.trimmed(), style.ascii), longestName, style.cut);
 }
 
+// "project finish 09 Jan → 21 Jan"; with times where only those differ.
+QString finishText(const Plan &plan, const Style &style)
+{
+    const shown::Clock before = shown::endOf(plan, plan.finishBefore);
+    const shown::Clock after = shown::endOf(plan, plan::lastFinish(plan));
+    if (before == after)
+        return t("project finish %1 (unchanged)").arg(datetext::dateText(after.date, datetext::TwoDigitDay));
+    const int years = before.date.year() != after.date.year() ? datetext::Year : datetext::Plain;
+    const auto text = [&](const shown::Clock &clock) {
+        const QString date = datetext::dateText(clock.date, datetext::TwoDigitDay | years);
+        return before.date == after.date ? date + QLatin1Char(' ') + datetext::timeText(clock.secs) : date;
+    };
+    return t("project finish %1")
+        .arg(text(before) + QLatin1Char(' ') + style.arrow + QLatin1Char(' ') + text(after));
+}
+
+QString movedCount(const Plan &plan)
+{
+    return counted(qint64(plan.moves.size()), "%1 task moved", "%1 tasks moved");
+}
+
 QString because(const Plan &plan, const Plan::Move &move, const Style &style)
 {
     const KWTaskInfo *task = plan.task(move.pos);
@@ -55,6 +76,8 @@ QString because(const Plan &plan, const Plan::Move &move, const Style &style)
         return t("its tasks moved");
     const QString length = lengthOf(plan, move.oldStart, task->Start);
     const int by = move.pushedBy ? plan.posOf(move.pushedBy) : -1;
+    if (by < 0 && move.byEdit)
+        return t("by the edit");
     if (by < 0)
         return t("moved with its summary (%1)").arg(length);
     return t("pushed by %1 \"%2\" (%3)")
@@ -87,19 +110,12 @@ QString movesSummary(const Plan &plan, const Style &style)
     if (plan.moves.empty())
         return t("nothing moves: every task starts at or after the end of its predecessors") +
                QLatin1Char('\n');
-    QString text = counted(qint64(plan.moves.size()), "%1 task moved", "%1 tasks moved") +
-                   QLatin1String(", ") + t("%1 unchanged").arg(grouped(unchanged));
-    const QDate before = shown::endOf(plan, plan.finishBefore).date;
-    const QDate after = shown::endOf(plan, plan::lastFinish(plan)).date;
-    const int years = before.year() != after.year() ? datetext::Year : datetext::Plain;
-    text += QLatin1String("; ");
-    if (before == after)
-        text += t("project finish %1 (unchanged)").arg(datetext::dateText(after, datetext::TwoDigitDay));
-    else
-        text += t("project finish %1")
-                    .arg(datetext::dateText(before, datetext::TwoDigitDay | years) + QLatin1Char(' ') +
-                         style.arrow + QLatin1Char(' ') +
-                         datetext::dateText(after, datetext::TwoDigitDay | years));
-    return text + QLatin1Char('\n');
+    return movedCount(plan) + QLatin1String(", ") + t("%1 unchanged").arg(grouped(unchanged)) +
+           QLatin1String("; ") + finishText(plan, style) + QLatin1Char('\n');
+}
+
+QString editMovesSummary(const Plan &plan, const Style &style)
+{
+    return movedCount(plan) + QLatin1String("; ") + finishText(plan, style);
 }
 }

@@ -4,6 +4,8 @@
 #include "exchange/importedplan.h"
 #include "filelock.h"
 #include "model/kwdocument.h"
+#include <QHash>
+#include <QSet>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -24,14 +26,15 @@ struct Plan
     // than taking 100,000 tasks apart.
     static bool isLast;
 
-    // One task that scheduling moved, with the task that pushed it (0: it went with its summary, or with all
-    // others to the project's start).
+    // One task that scheduling or edits moved, with the task that pushed it (0: it went with its summary,
+    // with all others to the project's start, or the edit itself moved it).
     struct Move
     {
         int pos = 0;
         quint32 oldStart = 0;
         quint32 oldFinish = 0;
         quint32 pushedBy = 0;
+        bool byEdit = false;
     };
 
     std::unique_ptr<KWDocument> document = std::make_unique<KWDocument>();
@@ -46,18 +49,43 @@ struct Plan
     int links = 0;
     int refusedLinks = 0;
     std::vector<int> tightest; // for each task the one below it, or itself, with the least slack
-    std::vector<Move> moves;   // of schedule()
+    std::vector<Move> moves;   // of schedule(), or of the edits that a MoveWatch saw
     FileLock lock;             // of a file that is going to be written in place
     bool isPackage = false;
     quint32 majorUnit = 0; // of a package's chart, as the file has them
     quint32 minorUnit = 0;
-    quint32 finishBefore = 0; // the project's finish before schedule()
+    quint32 finishBefore = 0; // the project's finish before those
 
     int taskCount() const { return document->taskCount(); }
     KWTaskInfo *task(int pos) const { return document->taskList().at(pos); }
     // The task whose slack decides about a row: a summary is as urgent as the most urgent task below it.
     KWTaskInfo *urgent(int pos) const { return task(tightest[std::size_t(pos)]); }
     int posOf(quint32 id) const { return document->getPosByID(id); }
+};
+
+// Remembers where the tasks of a plan stand, to tell later what moved and because of what.
+class MoveWatch
+{
+public:
+    explicit MoveWatch(Plan &plan);
+
+    void pushed(quint32 task, quint32 by) { m_pushedBy.insert(task, by); }
+    void edited(quint32 task) { m_edited.insert(task); }
+    // Fills the plan's `moves` with the tasks that are still there and begin or end at another working
+    // moment.
+    void tell() const;
+
+private:
+    struct Dates
+    {
+        quint32 task;
+        quint32 start;
+        quint32 finish;
+    };
+    Plan &m_plan;
+    std::vector<Dates> m_before;
+    QHash<quint32, quint32> m_pushedBy;
+    QSet<quint32> m_edited;
 };
 
 namespace plan {

@@ -24,15 +24,15 @@ namespace {
 // Runs edits on a plan; false after telling what is wrong.
 bool runEdits(Console &console, Plan &plan, const std::vector<QStringList> &edits)
 {
-    QStringList lost;
+    editverbs::Outcome outcome;
     for (const QStringList &words : edits) {
         options::Fault fault;
-        if (!editverbs::run(plan, words, fault, lost)) {
+        if (!editverbs::run(plan, words, fault, outcome)) {
             console.error(plan.file + QLatin1String(": ") + fault.what, fault.hint);
             return false;
         }
     }
-    tellLost(console, plan, lost);
+    tellLost(console, plan, outcome.lost);
     return true;
 }
 

@@ -10,6 +10,7 @@
 #include "plan.h"
 #include "texts.h"
 #include <QHash>
+#include <algorithm>
 
 bool Plan::isLast = false;
 
@@ -23,6 +24,36 @@ Plan::~Plan()
     static std::vector<Kept> *const kept = new std::vector<Kept>;
     if (isLast)
         kept->push_back({std::move(document), std::move(imported)});
+}
+
+MoveWatch::MoveWatch(Plan &plan)
+    : m_plan(plan)
+{
+    plan.finishBefore = plan::lastFinish(plan);
+    m_before.reserve(std::size_t(plan.taskCount()));
+    for (const KWTaskInfo *task : plan.document->taskList())
+        m_before.push_back({task->ID, task->Start, task->Finish});
+}
+
+void MoveWatch::tell() const
+{
+    const CalendarHold hold(*m_plan.document);
+    std::vector<Plan::Move> &moves = m_plan.moves;
+    moves.clear();
+    for (const Dates &before : m_before) {
+        const int pos = m_plan.posOf(before.task);
+        if (pos < 0)
+            continue;
+        const KWTaskInfo *task = m_plan.task(pos);
+        if (task->Start == before.start && task->Finish == before.finish)
+            continue;
+        // From the end of a morning to the beginning of the afternoon is no move.
+        if (plan::workingMinutes(m_plan, before.start, task->Start) != 0 ||
+            plan::workingMinutes(m_plan, before.finish, task->Finish) != 0)
+            moves.push_back({pos, before.start, before.finish, m_pushedBy.value(before.task),
+                             m_edited.contains(before.task)});
+    }
+    std::sort(moves.begin(), moves.end(), [](const auto &a, const auto &b) { return a.pos < b.pos; });
 }
 
 namespace plan {
@@ -47,29 +78,17 @@ void schedule(Plan &plan, Beginning beginning, const Plan::Progress &progress)
 {
     KWDocument &document = *plan.document;
     const CalendarHold hold(document);
-    std::vector<std::pair<quint32, quint32>> before;
     settling::settle(document, {settling::AsItStands, {}, {}});
-    plan.finishBefore = lastFinish(plan);
-    for (int pos = 0; pos < plan.taskCount(); ++pos)
-        before.emplace_back(plan.task(pos)->Start, plan.task(pos)->Finish);
+    MoveWatch watch(plan);
 
     if (progress)
         progress(t("scheduling"), 0, 0);
     if (beginning == AsSoonAsPossible)
         settling::startTogether(document, plan.start);
-    QHash<quint32, quint32> pushedBy;
     for (const settling::Push &push : settling::settle(document, {settling::Everything, {}, {}}))
-        pushedBy.insert(push.task, push.pushedBy);
+        watch.pushed(push.task, push.pushedBy);
     plan.tightest = planreasons::tightest(document);
-    plan.moves.clear();
-    for (int pos = 0; pos < plan.taskCount(); ++pos) {
-        const KWTaskInfo *task = plan.task(pos);
-        const auto [oldStart, oldFinish] = before[std::size_t(pos)];
-        // From the end of a morning to the beginning of the afternoon is no move.
-        if (workingMinutes(plan, oldStart, task->Start) != 0 ||
-            workingMinutes(plan, oldFinish, task->Finish) != 0)
-            plan.moves.push_back({pos, oldStart, oldFinish, pushedBy.value(task->ID)});
-    }
+    watch.tell();
 }
 
 void refresh(Plan &plan, const Plan::Progress &progress)

@@ -18,7 +18,8 @@ int writeTable(Console &console, const Plan &plan, const Style &style);
 // about the calendar, and why the critical path begins late.
 QString title(const Plan &plan, const shown::Times &times, const Style &style, int width);
 
-// What schedule() moved and because of what, and a sentence that sums it up.
+// What schedule() or edits moved and because of what, and a line that sums it up.
 QString moves(const Plan &plan, const Style &style);
 QString movesSummary(const Plan &plan, const Style &style);
+QString editMovesSummary(const Plan &plan, const Style &style);
 }

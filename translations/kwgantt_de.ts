@@ -1592,8 +1592,28 @@
         <translation>schreiben Sie 2026-02-28 oder 2026-02-28T08:00</translation>
     </message>
     <message>
+        <source>project finish %1 (unchanged)</source>
+        <translation>Projektende %1 (unverändert)</translation>
+    </message>
+    <message>
+        <source>project finish %1</source>
+        <translation>Projektende %1</translation>
+    </message>
+    <message>
+        <source>%1 task moved</source>
+        <translation>%1 Vorgang verschoben</translation>
+    </message>
+    <message>
+        <source>%1 tasks moved</source>
+        <translation>%1 Vorgänge verschoben</translation>
+    </message>
+    <message>
         <source>its tasks moved</source>
         <translation>seine Vorgänge sind verschoben</translation>
+    </message>
+    <message>
+        <source>by the edit</source>
+        <translation>durch die Änderung</translation>
     </message>
     <message>
         <source>moved with its summary (%1)</source>
@@ -1612,24 +1632,8 @@
         <translation>nichts bewegt sich: jeder Vorgang beginnt mit oder nach dem Ende seiner Vorgänger</translation>
     </message>
     <message>
-        <source>%1 task moved</source>
-        <translation>%1 Vorgang verschoben</translation>
-    </message>
-    <message>
-        <source>%1 tasks moved</source>
-        <translation>%1 Vorgänge verschoben</translation>
-    </message>
-    <message>
         <source>%1 unchanged</source>
         <translation>%1 unverändert</translation>
-    </message>
-    <message>
-        <source>project finish %1 (unchanged)</source>
-        <translation>Projektende %1 (unverändert)</translation>
-    </message>
-    <message>
-        <source>project finish %1</source>
-        <translation>Projektende %1</translation>
     </message>
     <message>
         <source>a whole number from 20 to 10,000</source>
@@ -2493,6 +2497,10 @@
     <message>
         <source>writes another file; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)</source>
         <translation>schreibt eine andere Datei; das Format folgt dem Namen (.kwpx, .csv, .xlsx, .xls, .xml, .json)</translation>
+    </message>
+    <message>
+        <source>with -i, tells every task that moved and what moved it</source>
+        <translation>nennt mit -i jeden Vorgang, der sich verschoben hat, und was ihn verschob</translation>
     </message>
     <message>
         <source>one edit a line ('-' reads standard input); a line that begins with # says nothing</source>

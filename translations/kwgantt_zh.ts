@@ -1592,8 +1592,28 @@
         <translation>请写成 2026-02-28 或 2026-02-28T08:00</translation>
     </message>
     <message>
+        <source>project finish %1 (unchanged)</source>
+        <translation>项目完成 %1（不变）</translation>
+    </message>
+    <message>
+        <source>project finish %1</source>
+        <translation>项目完成 %1</translation>
+    </message>
+    <message>
+        <source>%1 task moved</source>
+        <translation>移动 %1 个任务</translation>
+    </message>
+    <message>
+        <source>%1 tasks moved</source>
+        <translation>移动 %1 个任务</translation>
+    </message>
+    <message>
         <source>its tasks moved</source>
         <translation>其任务移动了</translation>
+    </message>
+    <message>
+        <source>by the edit</source>
+        <translation>由此编辑引起</translation>
     </message>
     <message>
         <source>moved with its summary (%1)</source>
@@ -1612,24 +1632,8 @@
         <translation>没有移动：每个任务都在前置任务完成时或之后开始</translation>
     </message>
     <message>
-        <source>%1 task moved</source>
-        <translation>移动 %1 个任务</translation>
-    </message>
-    <message>
-        <source>%1 tasks moved</source>
-        <translation>移动 %1 个任务</translation>
-    </message>
-    <message>
         <source>%1 unchanged</source>
         <translation>%1 个不变</translation>
-    </message>
-    <message>
-        <source>project finish %1 (unchanged)</source>
-        <translation>项目完成 %1（不变）</translation>
-    </message>
-    <message>
-        <source>project finish %1</source>
-        <translation>项目完成 %1</translation>
     </message>
     <message>
         <source>a whole number from 20 to 10,000</source>
@@ -2493,6 +2497,10 @@
     <message>
         <source>writes another file; the format follows the name (.kwpx, .csv, .xlsx, .xls, .xml, .json)</source>
         <translation>写另一文件；格式由文件名决定 (.kwpx, .csv, .xlsx, .xls, .xml, .json)</translation>
+    </message>
+    <message>
+        <source>with -i, tells every task that moved and what moved it</source>
+        <translation>与 -i 同用时，列出每个移动了的任务及其原因</translation>
     </message>
     <message>
         <source>one edit a line ('-' reads standard input); a line that begins with # says nothing</source>

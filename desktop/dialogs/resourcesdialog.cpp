@@ -98,9 +98,9 @@ void ResourcesDialog::changed(int row, int column)
         if (column == Name)
             return edits.renameResource(name, text);
         // Read and judged as on the command line.
-        QStringList lost;
+        editverbs::Outcome outcome;
         QStringList words{name, QLatin1String(fields[column]) + QLatin1Char('=') + text};
-        Edit edit{m_session.plan(), m_session.document(), edits, {}, words, fault, lost};
+        Edit edit{m_session.plan(), m_session.document(), edits, {}, words, fault, outcome};
         EditAnswer done;
         if (!editverbs::setResource(edit))
             done.refusal = EditRefusal::BadAmount;

@@ -77,8 +77,8 @@ bool read(Session &session, const Field &field, const QString &text, quint32 uni
           options::Fault &fault)
 {
     PlanEdits reading(session.document(), QStringLiteral("read"));
-    QStringList lost;
-    Edit edit{session.plan(), session.document(), reading, {}, {}, fault, lost};
+    editverbs::Outcome outcome;
+    Edit edit{session.plan(), session.document(), reading, {}, {}, fault, outcome};
     return editverbs::readTaskFields(edit, {{QLatin1String(field.name), text}}, unit, values);
 }
 

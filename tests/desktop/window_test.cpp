@@ -54,12 +54,12 @@ constexpr int start = 2, finish = 3, length = 4, percent = 5, resources = 7, nam
 std::string programs(const QStringList &edits)
 {
     Plan plan;
-    QStringList lost;
+    editverbs::Outcome outcome;
     for (const QString &line : edits) {
         QStringList words;
         options::Fault fault;
         editline::split(line, words, fault);
-        EXPECT_TRUE(editverbs::run(plan, words, fault, lost))
+        EXPECT_TRUE(editverbs::run(plan, words, fault, outcome))
             << line.toStdString() << fault.what.toStdString();
         kwpxfile::describe(plan);
     }
