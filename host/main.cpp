@@ -1,6 +1,7 @@
 #include "app.h"
 #include "console.h"
 #include "datetext.h"
+#include "largepages.h"
 #include "plan.h"
 #include "runinglog.h"
 #include "scratch.h"
@@ -149,6 +150,7 @@ int run(int argc, char **argv, bool &hasLostReader)
 
 int main(int argc, char **argv)
 {
+    largepages::use();
     try {
         bool hasLostReader = false;
         const int code = run(argc, argv, hasLostReader);

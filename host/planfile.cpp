@@ -216,19 +216,26 @@ bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &err
         return false;
     }
     constexpr qint64 blockBytes = 1024 * 1024;
-    for (;;) {
-        const QByteArray block = file.read(blockBytes);
+    const auto bounded = [most](qint64 size) { return int(qBound(qint64(1), size, most + 1)); };
+    // One byte more than there are shows the end.
+    bytes.resize(bounded(qMax(blockBytes, file.size() + 1)));
+    for (qint64 done = 0;;) {
+        const qint64 count = file.read(bytes.data() + done, bytes.size() - done);
         if (file.error() != QFileDevice::NoError) {
             error = file.errorString();
             return false;
         }
-        if (block.isEmpty())
+        if (count <= 0) {
+            bytes.truncate(int(done));
             return true;
-        bytes += block;
-        if (bytes.size() > most) {
+        }
+        done += count;
+        if (done > most) {
             error = t("longer than %1 bytes").arg(grouped(most));
             return false;
         }
+        if (done == bytes.size())
+            bytes.resize(bounded(2 * done));
     }
 }
 

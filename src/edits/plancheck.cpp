@@ -9,6 +9,7 @@
 #include <QSet>
 #include <algorithm>
 #include <limits>
+#include <numeric>
 #include <vector>
 
 namespace plancheck {
@@ -28,16 +29,17 @@ public:
     QVector<Finding> run()
     {
         checkIds();
-        collectNames();
+        m_areNamesWhole = m_findings.isEmpty() && areChildrenWhole() && areLinksWhole();
+        if (!m_areNamesWhole)
+            collectNames();
         for (m_pos = 0; m_pos < m_document.taskCount(); ++m_pos) {
             const KWTaskInfo &task = *m_document.getTaskInfoAt(m_pos);
             checkParent(task);
-            checkChildren(task);
+            if (!m_areNamesWhole)
+                checkChildren(task);
             checkHidden(task);
-            checkLinks(task.Predecessors, task, m_successors,
-                       {UnknownPredecessor, OwnPredecessor, OneSidedPredecessor});
-            checkLinks(task.Depends, task, m_predecessors,
-                       {UnknownSuccessor, OwnSuccessor, OneSidedSuccessor});
+            if (!m_areNamesWhole)
+                checkLinks(task);
             checkAssignments(task);
         }
         for (const QList<quint32> &ring : m_document.taskCollection()->linkRings())
@@ -73,6 +75,58 @@ private:
             else if (!m_posOfId.add(id, m_pos))
                 report(DoubledId, quint32(m_posOfId.posOf(id)));
         }
+    }
+
+    // Every task stands once in the list of its summary, and nothing else does.
+    bool areChildrenWhole() const
+    {
+        const QList<KWTaskInfo *> &tasks = m_document.taskList();
+        std::vector<bool> isNamed(std::size_t(tasks.size()));
+        int missing = 0;
+        for (const KWTaskInfo *task : tasks) {
+            missing += task->ParentID != 0;
+            for (const quint32 id : task->Childs) {
+                const int child = m_posOfId.posOf(id);
+                if (child < 0 || tasks[child]->ParentID != task->ID || isNamed[std::size_t(child)])
+                    return false;
+                isNamed[std::size_t(child)] = true;
+                --missing;
+            }
+        }
+        return missing == 0;
+    }
+
+    // The lists of predecessors turned round are those of successors.
+    bool areLinksWhole() const
+    {
+        const QList<KWTaskInfo *> &tasks = m_document.taskList();
+        std::vector<int> first(std::size_t(tasks.size()) + 1);
+        for (const KWTaskInfo *task : tasks) {
+            for (const quint32 id : task->Predecessors) {
+                const int predecessor = m_posOfId.posOf(id);
+                if (predecessor < 0 || id == task->ID)
+                    return false;
+                ++first[std::size_t(predecessor) + 1];
+            }
+        }
+        std::partial_sum(first.begin(), first.end(), first.begin());
+        std::vector<int> free(first.begin(), first.end() - 1);
+        std::vector<quint32> successors(std::size_t(first.back()));
+        for (const KWTaskInfo *task : tasks) {
+            for (const quint32 id : task->Predecessors)
+                successors[std::size_t(free[std::size_t(m_posOfId.posOf(id))]++)] = task->ID;
+        }
+        std::vector<quint32> named;
+        for (int pos = 0; pos < tasks.size(); ++pos) {
+            const auto begin = successors.begin() + first[std::size_t(pos)];
+            const auto end = successors.begin() + first[std::size_t(pos) + 1];
+            named.assign(tasks[pos]->Depends.begin(), tasks[pos]->Depends.end());
+            std::sort(named.begin(), named.end());
+            std::sort(begin, end);
+            if (!std::equal(begin, end, named.begin(), named.end()))
+                return false;
+        }
+        return true;
     }
 
     // What tasks say of each other is looked up here: their own lists may be as long as the plan.
@@ -112,11 +166,18 @@ private:
             report(UnknownSummary, task.ParentID);
         else if (parent && m_posOfId.posOf(task.ParentID) >= m_pos)
             report(AboveItsSummary, task.ParentID);
-        else if (parent && !m_children.contains(parent->ID, task.ID))
+        else if (parent && !m_areNamesWhole && !m_children.contains(parent->ID, task.ID))
             report(UnnamedBySummary, task.ParentID);
         const qint64 level = parent ? qint64(parent->Level) + 1 : 1;
         if (task.Level != level && level <= std::numeric_limits<qint32>::max())
             report(WrongLevel, quint32(level));
+    }
+
+    void checkLinks(const KWTaskInfo &task)
+    {
+        checkLinks(task.Predecessors, task, m_successors,
+                   {UnknownPredecessor, OwnPredecessor, OneSidedPredecessor});
+        checkLinks(task.Depends, task, m_predecessors, {UnknownSuccessor, OwnSuccessor, OneSidedSuccessor});
     }
 
     void checkChildren(const KWTaskInfo &task)
@@ -172,6 +233,7 @@ private:
     int m_pos = -1;
     TaskIndex m_posOfId;
     QSet<QString> m_resources;
+    bool m_areNamesWhole = false; // what tasks say of each other fits: nothing of it has to be looked up
     Names m_children;
     Names m_predecessors;
     Names m_successors;

@@ -5,6 +5,7 @@
 #include "model/kwdocument.h"
 #include "support/atomicfile.h"
 #include <QFile>
+#include <algorithm>
 #include <optional>
 
 namespace {
@@ -37,13 +38,27 @@ public:
                 row.cells.emplace_back();
             sheetrows::Cell &cell = row.cells[count++];
             cell.column = int(i) + 1;
-            csv::Rows::read(from, cell.text);
+            const bool isRead = m_isRead.empty() || (i + 1 < m_isRead.size() && m_isRead[i + 1]);
+            if (isRead || !hasSigns(from))
+                csv::Rows::read(from, cell.text);
+            else
+                cell.text = m_anyText;
         }
         row.cells.resize(count);
         return true;
     }
+    void readOnly(const std::vector<bool> &columns) override { m_isRead = columns; }
 
 private:
+    // Whether a cell surely has more than blanks.
+    static bool hasSigns(const csv::CellRange &cell)
+    {
+        return std::any_of(cell.begin, cell.begin + cell.size,
+                           [](char sign) { return sign > ' ' && sign <= '~'; });
+    }
+
+    const QString m_anyText = QStringLiteral("-");
+    std::vector<bool> m_isRead; // by column; empty: all
     const int m_rowCount;
     std::optional<csv::Rows> m_rows;
     int m_number = 0;

@@ -1,4 +1,5 @@
 #include "exchange/csvtext.h"
+#include <array>
 #include <cstring>
 #include <limits>
 
@@ -113,6 +114,8 @@ public:
         , m_line(line)
         , m_limits(limits)
     {
+        for (const char sign : {delimiter, '\n', '\r'})
+            m_endsCell[uchar(sign)] = true;
     }
 
     const char *at() const { return m_at; }
@@ -161,7 +164,7 @@ private:
     {
         const char *const begin = m_at;
         const char *at = begin;
-        while (at < m_end && *at != m_delimiter && *at != '\n' && *at != '\r')
+        while (at < m_end && !m_endsCell[uchar(*at)])
             ++at;
         m_at = at;
         if (at - begin > m_limits.cellBytes)
@@ -222,6 +225,7 @@ private:
     const char m_delimiter;
     int m_line;
     const Limits &m_limits;
+    std::array<bool, 256> m_endsCell{}; // by byte, outside quotes
     qint64 m_cells = 0;
     bool m_rowHasText = false;
     bool m_carriageReturns = false;

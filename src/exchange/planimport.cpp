@@ -373,6 +373,18 @@ private:
 
     void link()
     {
+        m_imported.refusedLinks = m_plan.refusedLinks;
+        if (links::insertFirst(m_document.outline(), m_plan.links))
+            m_imported.links = int(m_plan.links.size());
+        else
+            linkOneByOne();
+        if (m_rules.placesBehind && !m_imported.withoutStart.isEmpty() && m_imported.links > 0)
+            placeBehind();
+    }
+
+    // Those that can be made, telling of the others.
+    void linkOneByOne()
+    {
         QList<KWTaskLink> links;
         for (const staged::Link &wanted : m_plan.links) {
             KWTaskLink link;
@@ -380,7 +392,6 @@ private:
             link.successor = m_ids[std::size_t(wanted.successor)];
             links.append(link);
         }
-        m_imported.refusedLinks = m_plan.refusedLinks;
         m_imported.links = links::insertAll(m_document.outline(), links);
         for (int i = 0; i < links.size(); ++i) {
             if (links[i].refusal != LinkRefusal::None)
@@ -388,8 +399,6 @@ private:
         }
         constexpr bool byTag = false;
         m_document.updateDependTask(byTag);
-        if (m_rules.placesBehind && !m_imported.withoutStart.isEmpty() && m_imported.links > 0)
-            placeBehind();
     }
 
     void tellRefusal(const KWTaskLink &link, const staged::Link &wanted)

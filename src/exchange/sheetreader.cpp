@@ -53,12 +53,14 @@ bool Reader::read(Source &source)
         row.line = row.line > 0 ? row.line : row.number;
         if (!m_reading.isExact)
             showPercentages(row);
-        if (row.number == 1 && !m_hasTitles)
+        if (row.number == 1 && !m_hasTitles) {
             readTitles(row);
-        else if (m_hasTitles)
+            source.readOnly(readColumns());
+        } else if (m_hasTitles) {
             readRow(row);
-        else
+        } else {
             early.push_back(row);
+        }
         row.line = 0;
     }
     if (m_hasTitles) {
@@ -128,6 +130,15 @@ void Reader::readTitles(const Row &row)
         }
         m_fieldOfColumn[column] = known;
     }
+}
+
+// Those whose text is looked at.
+std::vector<bool> Reader::readColumns() const
+{
+    std::vector<bool> isRead(m_fieldOfColumn.size());
+    for (std::size_t column = 0; column < isRead.size(); ++column)
+        isRead[column] = m_fieldOfColumn[column].field >= 0 && isFieldRead(m_fieldOfColumn[column].field);
+    return isRead;
 }
 
 // What a spreadsheet shows as "50%" it holds as 0.5.

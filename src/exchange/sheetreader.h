@@ -79,6 +79,8 @@ public:
 protected:
     // Before the rows, if it is known.
     virtual void expectRows(std::size_t) {}
+    // Whether anything but blanks in a cell of a known field matters.
+    virtual bool isFieldRead(int) const { return true; }
     // A row that has something in a known column.
     virtual void addRow(const Row &row, const std::vector<KnownCell> &cells) = 0;
     const Reading &reading() const { return m_reading; }
@@ -92,6 +94,7 @@ protected:
 
 private:
     void readTitles(const Row &row);
+    std::vector<bool> readColumns() const;
     void readRow(const Row &row);
     void showPercentages(Row &row) const;
     void reportUntitled() const;

@@ -27,6 +27,9 @@ public:
     virtual ~Source() = default;
     // Fills in the next row, in the order of the file; numbers may repeat or go back. False at the end.
     virtual bool next(Row &row) = 0;
+    // From now on, of columns from 1 for which this is false, and of those behind its end, only whether a
+    // cell has anything but blanks is asked: it may have any other text then.
+    virtual void readOnly(const std::vector<bool> &) {}
     // How many rows there are at most, where that is known before; else 0.
     virtual std::size_t rowsAtMost() const { return 0; }
     // Why the sheet ended early; empty when it did not.

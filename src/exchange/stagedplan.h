@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/network/links.h"
 #include "engine/record/codes.h"
 #include "engine/time/shownmoment.h"
 #include "exchange/importedplan.h"
@@ -75,11 +76,7 @@ struct Task
 };
 
 // Finish to start, by places in the list of tasks.
-struct Link
-{
-    int predecessor = 0;
-    int successor = 0;
-};
+using Link = links::Places;
 
 struct Assignment
 {

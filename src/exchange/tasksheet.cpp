@@ -48,6 +48,11 @@ int levelOfCode(const QString &code)
     return isDigitBefore ? level : level - 1;
 }
 
+bool isBlank(const Cell &cell)
+{
+    return std::all_of(cell.text.begin(), cell.text.end(), [](QChar sign) { return sign.isSpace(); });
+}
+
 bool isYes(const Cell &cell)
 {
     static const QStringList noes = {QString(),
@@ -123,6 +128,13 @@ void TaskSheet::addRow(const sheetrows::Row &row, const std::vector<KnownCell> &
     m_tasks.push_back(std::move(staged));
 }
 
+bool TaskSheet::isFieldRead(int field) const
+{
+    const ColumnType *type = columntypes::find(field);
+    return type ? type->import != Import::None
+                : field == titletable::OutlineCode || field == titletable::MilestoneFlag;
+}
+
 void TaskSheet::apply(const KnownCell &known, staged::Task &staged)
 {
     const Cell &cell = *known.cell;
@@ -185,7 +197,7 @@ void TaskSheet::readId(const Cell &cell, staged::Task &staged)
         return;
     if (id > 0 && id <= std::numeric_limits<quint32>::max())
         staged.id = quint32(id);
-    else if (!cell.text.trimmed().isEmpty())
+    else if (!isBlank(cell))
         refuse(staged.row, &cell, text("is no ID"), text("the next free ID"));
 }
 
@@ -193,7 +205,7 @@ void TaskSheet::readNumber(const KnownCell &known, staged::Task &staged)
 {
     const ColumnType &type = *columntypes::find(known.field);
     const Cell &cell = *known.cell;
-    if (cell.text.trimmed().isEmpty())
+    if (isBlank(cell))
         return;
     const std::optional<double> value = cellvalues::number(cell, reading().comma);
     const bool isOutside =
@@ -216,7 +228,7 @@ void TaskSheet::readNumber(const KnownCell &known, staged::Task &staged)
 
 void TaskSheet::readPercent(const Cell &cell, staged::Task &staged)
 {
-    if (cell.text.trimmed().isEmpty())
+    if (isBlank(cell))
         return;
     std::optional<double> value = cellvalues::fraction(cell, reading().comma);
     if (!value) {
@@ -238,7 +250,7 @@ void TaskSheet::readPercent(const Cell &cell, staged::Task &staged)
 void TaskSheet::readLength(const KnownCell &known, staged::Task &staged)
 {
     const Cell &cell = *known.cell;
-    if (cell.text.trimmed().isEmpty())
+    if (isBlank(cell))
         return;
     // Plans have few different lengths.
     QHash<QString, std::optional<cellvalues::Length>> &reads = m_lengths[known.title->bareUnit];
@@ -428,7 +440,7 @@ void TaskSheet::leaveOutRepeated(std::size_t first, const Cell &cell, const stag
 void TaskSheet::readMoment(const KnownCell &known, staged::MomentField field, staged::Task &staged)
 {
     const Cell &cell = *known.cell;
-    if (cell.text.trimmed().isEmpty())
+    if (isBlank(cell))
         return;
     if (!cell.isNumber) {
         if (const std::optional<cellvalues::Moment> iso = cellvalues::plainIso(cell.text)) {
@@ -522,16 +534,23 @@ void TaskSheet::settlePercent()
 // Outline codes decide where every row has one; levels that begin at 0 move up by one.
 void TaskSheet::settleLevels()
 {
-    const bool isByCode = hasField(titletable::OutlineCode) &&
-                          std::all_of(m_tasks.begin(), m_tasks.end(), [](const staged::Task &staged) {
-                              const int level = levelOfCode(staged.code);
-                              return level > 0 && level <= deepestLevel;
-                          });
+    std::vector<int> byCode; // as far as every row has one
+    if (hasField(titletable::OutlineCode)) {
+        byCode.reserve(m_tasks.size());
+        for (const staged::Task &staged : m_tasks) {
+            const int level = levelOfCode(staged.code);
+            if (level < 1 || level > deepestLevel)
+                break;
+            byCode.push_back(level);
+        }
+    }
+    const bool isByCode = hasField(titletable::OutlineCode) && byCode.size() == m_tasks.size();
     int before = 0;
-    for (const staged::Task &staged : m_tasks) {
+    for (std::size_t i = 0; i < m_tasks.size(); ++i) {
+        const staged::Task &staged = m_tasks[i];
         KWTaskInfo &task = *staged.task;
         if (isByCode)
-            task.Level = levelOfCode(staged.code);
+            task.Level = byCode[i];
         else if (m_hasLevelZero && !reading().isExact)
             ++task.Level;
         if (task.Level > before + 1 && !reading().isExact)

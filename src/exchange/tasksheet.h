@@ -25,6 +25,7 @@ public:
 
 protected:
     void expectRows(std::size_t rows) override { m_tasks.reserve(rows); }
+    bool isFieldRead(int field) const override;
     void addRow(const sheetrows::Row &row, const std::vector<sheetrows::KnownCell> &cells) override;
 
 private:

@@ -143,7 +143,10 @@ QList<QList<quint32>> KWTaskCollection::linkRings() const
     QList<QList<quint32>> rings;
     if (!m_document)
         return rings;
-    for (const std::vector<int> &places : linkgraph::rings(linkgraph::EventNetwork(m_document->outline()))) {
+    const outline::Tasks tasks = m_document->outline();
+    if (!linkgraph::hasRings(tasks, linkgraph::links(tasks)))
+        return rings;
+    for (const std::vector<int> &places : linkgraph::rings(linkgraph::EventNetwork(tasks))) {
         QList<quint32> ids;
         for (const int pos : places)
             ids.append(m_document->getTaskInfoAt(pos)->ID);

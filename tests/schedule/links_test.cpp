@@ -1,4 +1,6 @@
 // Which links may be made, and what becomes of both ends' lists.
+#include "engine/network/linkgraph.h"
+#include "engine/network/links.h"
 #include "schedule/kwtaskcollection.h"
 #include "schedule/randomplan.h"
 #include "support/project.h"
@@ -256,6 +258,42 @@ TEST(RandomLinks, madeAtOnceAreThoseMadeOneByOne)
         atOnce->taskCollection()->linkTasks(links);
         ASSERT_EQ(outcome(*atOnce, links), outcome(*oneByOne, expected)) << "seed " << seed;
     }
+}
+
+// The quick way of plans that come from a file, and the quick look for rings.
+TEST(RandomLinks, ofATaskListWithoutAnyAreTheSameOrNone)
+{
+    int plansMade = 0;
+    for (unsigned seed = 1; seed <= 200; ++seed) {
+        std::mt19937 random(seed);
+        const int tasks = randomplan::between(random, 2, 20);
+        std::mt19937 again = random;
+        const auto quick = randomplan::plan(random, tasks, 4);
+        const auto plain = randomplan::plan(again, tasks, 4);
+        std::vector<links::Places> places;
+        QList<KWTaskLink> wanted;
+        for (int i = randomplan::between(random, 0, 6); i > 0; --i) {
+            int a = randomplan::between(random, 0, tasks - 1);
+            int b = randomplan::between(random, 0, tasks - 1);
+            if (a > b && seed % 3)
+                std::swap(a, b);
+            places.push_back({a, b});
+            wanted.append({quint32(a + 1), quint32(b + 1), {}, {}});
+        }
+        const bool mayAll = links::insertAll(plain->outline(), wanted) == wanted.size();
+        plain->updateDependTask(false);
+        ASSERT_EQ(links::insertFirst(quick->outline(), places), mayAll) << "seed " << seed;
+        ASSERT_EQ(linkText(*quick), mayAll ? linkText(*plain) : "") << "seed " << seed;
+        plansMade += mayAll && !wanted.isEmpty();
+        randomplan::link(*plain, quint32(randomplan::between(random, 1, tasks)),
+                         quint32(randomplan::between(random, 1, tasks)));
+        const outline::Tasks all = plain->outline();
+        ASSERT_EQ(linkgraph::hasRings(all, linkgraph::links(all)),
+                  !linkgraph::rings(linkgraph::EventNetwork(all)).empty())
+            << "seed " << seed << '\n'
+            << linkText(*plain);
+    }
+    EXPECT_GT(plansMade, 50);
 }
 
 // ---- Removal and rebuilding -------------------------------------------------------------------------------

@@ -221,6 +221,17 @@ void CostPass::sumFrom(const std::vector<TaskRecord *> &changed)
 
 void CostPass::sumUp()
 {
+    // In most plans nothing costs anything.
+    const auto isWorthSomething = [](const TaskRecord *task) {
+        return !task->isParent() && (task->isHaveResource() || task->Cost != 0 || task->Work != 0);
+    };
+    if (std::none_of(m_tasks.list.begin(), m_tasks.list.end(), isWorthSomething)) {
+        for (TaskRecord *task : m_tasks.list) {
+            if (task->isParent())
+                task->Cost = task->Work = task->RemainingCost = 0;
+        }
+        return;
+    }
     for (TaskRecord *task : m_tasks.list) {
         if (task->isParent() || !task->isHaveResource())
             continue;

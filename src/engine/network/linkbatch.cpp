@@ -296,6 +296,76 @@ void judgeAll(const Tasks &tasks, QList<KWTaskLink> &wanted)
     Judge(tasks, network, wanted).run();
 }
 
+namespace {
+
+// From each task, by its place, to the other ends of its links.
+template <typename From, typename To>
+linkgraph::Graph grouped(int tasks, const std::vector<Places> &links, From from, To to)
+{
+    linkgraph::Graph graph;
+    graph.first.assign(std::size_t(tasks) + 1, 0);
+    for (const Places &link : links)
+        ++graph.first[std::size_t(link.*from) + 1];
+    std::partial_sum(graph.first.begin(), graph.first.end(), graph.first.begin());
+    std::vector<int> free(graph.first.begin(), graph.first.end() - 1);
+    graph.targets.resize(links.size());
+    for (const Places &link : links)
+        graph.targets[std::size_t(free[std::size_t(link.*from)]++)] = link.*to;
+    return graph;
+}
+
+// Fills the lists of IDs from a graph of places.
+void fill(const Tasks &tasks, const linkgraph::Graph &graph, QList<quint32> TaskRecord::*list)
+{
+    for (int pos = 0; pos < graph.count(); ++pos) {
+        const int first = graph.first[std::size_t(pos)];
+        const int last = graph.first[std::size_t(pos) + 1];
+        if (first == last)
+            continue;
+        QList<quint32> &ids = tasks.list[pos]->*list;
+        ids.reserve(last - first);
+        bool ascends = true;
+        for (int edge = first; edge < last; ++edge) {
+            const quint32 id = tasks.list[graph.targets[std::size_t(edge)]]->ID;
+            ascends = ascends && (ids.isEmpty() || ids.constLast() < id);
+            ids.append(id);
+        }
+        if (!ascends)
+            std::sort(ids.begin(), ids.end());
+    }
+}
+}
+
+bool insertFirst(const Tasks &tasks, const std::vector<Places> &wanted)
+{
+    const auto hasLinks = [](const TaskRecord *task) {
+        return !task->Depends.isEmpty() || !task->Predecessors.isEmpty();
+    };
+    if (std::any_of(tasks.list.begin(), tasks.list.end(), hasLinks) || !isOutlineSound(tasks))
+        return false;
+    for (const Places &link : wanted) {
+        const TaskRecord &a = *tasks.list[link.predecessor];
+        const TaskRecord &b = *tasks.list[link.successor];
+        if (&a == &b || ((a.isParent() || b.isParent()) && outlineRefusal(tasks, a, b) != LinkRefusal::None))
+            return false;
+    }
+    linkgraph::Graph successors =
+        grouped(tasks.list.size(), wanted, &Places::predecessor, &Places::successor);
+    for (int pos = 0; pos < successors.count(); ++pos) {
+        const auto first = successors.targets.begin() + successors.first[std::size_t(pos)];
+        const auto last = successors.targets.begin() + successors.first[std::size_t(pos) + 1];
+        std::sort(first, last);
+        if (std::adjacent_find(first, last) != last)
+            return false;
+    }
+    if (linkgraph::hasRings(tasks, successors))
+        return false;
+    fill(tasks, successors, &TaskRecord::Depends);
+    fill(tasks, grouped(tasks.list.size(), wanted, &Places::successor, &Places::predecessor),
+         &TaskRecord::Predecessors);
+    return true;
+}
+
 int insertAll(const Tasks &tasks, QList<KWTaskLink> &wanted)
 {
     judgeAll(tasks, wanted);

@@ -201,6 +201,79 @@ Schedule schedule(const EventNetwork &network, const outline::Tasks &tasks)
     return result;
 }
 
+Graph links(const outline::Tasks &tasks)
+{
+    Graph links;
+    links.first.reserve(std::size_t(tasks.list.size()) + 1);
+    for (const TaskRecord *task : tasks.list) {
+        for (const quint32 id : task->Depends) {
+            const int successor = tasks.index.posOf(id);
+            if (successor >= 0)
+                links.targets.push_back(successor);
+        }
+        links.first.push_back(int(links.targets.size()));
+    }
+    return links;
+}
+
+// Takes away events that wait for nothing: what is left in the end waits for itself.
+bool hasRings(const outline::Tasks &tasks, const Graph &links)
+{
+    const std::size_t count = std::size_t(tasks.list.size());
+    std::vector<char> isSummary(count);
+    for (std::size_t pos = 0; pos < count; ++pos)
+        isSummary[pos] = tasks.list[int(pos)]->isParent();
+    std::vector<int> summaryOf(count, -1);
+    for (std::size_t pos = 0; pos < count; ++pos) {
+        const quint32 id = tasks.list[int(pos)]->ParentID;
+        const int summary = id == 0 ? -1 : tasks.index.posOf(id);
+        if (summary >= 0 && summary != int(pos) && isSummary[std::size_t(summary)])
+            summaryOf[pos] = summary;
+    }
+    // As in forEachFollower; the begin of a task is event 2 pos, the end of a summary 2 pos + 1.
+    const auto forEach = [&](std::size_t event, auto visit) {
+        const std::size_t pos = event / 2;
+        if (isSummary[pos] && event % 2 == 0) {
+            for (const quint32 id : tasks.list[int(pos)]->Childs) {
+                const int child = tasks.index.posOf(id);
+                if (child >= 0 && child != int(pos))
+                    visit(2 * std::size_t(child));
+            }
+            visit(event + 1);
+            return;
+        }
+        for (int edge = links.first[pos]; edge < links.first[pos + 1]; ++edge)
+            visit(2 * std::size_t(links.targets[std::size_t(edge)]));
+        if (summaryOf[pos] >= 0)
+            visit(2 * std::size_t(summaryOf[pos]) + 1);
+    };
+    std::vector<int> waits(2 * count);
+    std::vector<std::size_t> free;
+    free.reserve(count);
+    std::size_t left = 0; // events that were not taken away
+    const auto isEvent = [&](std::size_t event) { return event % 2 == 0 || isSummary[event / 2]; };
+    for (std::size_t event = 0; event < waits.size(); ++event) {
+        if (!isEvent(event))
+            continue;
+        ++left;
+        forEach(event, [&waits](std::size_t follower) { ++waits[follower]; });
+    }
+    for (std::size_t event = 0; event < waits.size(); ++event) {
+        if (waits[event] == 0 && isEvent(event))
+            free.push_back(event);
+    }
+    while (!free.empty()) {
+        const std::size_t event = free.back();
+        free.pop_back();
+        --left;
+        forEach(event, [&](std::size_t follower) {
+            if (--waits[follower] == 0)
+                free.push_back(follower);
+        });
+    }
+    return left > 0;
+}
+
 std::vector<std::vector<int>> rings(const EventNetwork &network)
 {
     const Graph &events = network.graph();

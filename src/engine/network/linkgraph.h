@@ -94,6 +94,12 @@ void forEachFollower(const outline::Tasks &tasks, int pos, bool isEnd, Visit vis
     }
 }
 
+// From each task to its successors, by their places; unknown IDs lead nowhere.
+Graph links(const outline::Tasks &tasks);
+// Whether outline and these links, which may be others than the tasks', make a ring of events. Only an event
+// network tells which.
+bool hasRings(const outline::Tasks &tasks, const Graph &links);
+
 // The links that cannot hold push nothing: those between the tasks of a ring of links, and, where links and
 // outline together make a ring, the ring's links to and from summaries.
 struct Schedule

@@ -27,6 +27,16 @@ void judgeAll(const outline::Tasks &tasks, QList<KWTaskLink> &wanted);
 // Makes those links that judgeAll allows. Returns how many these are.
 int insertAll(const outline::Tasks &tasks, QList<KWTaskLink> &wanted);
 
+// A link by the places of its tasks in the list.
+struct Places
+{
+    int predecessor = 0;
+    int successor = 0;
+};
+// The first links of tasks that have none: makes all of them, in lists that ascend by ID, where judgeAll
+// would allow every one; else none, and false, so that it has to be asked which and why.
+bool insertFirst(const outline::Tasks &tasks, const std::vector<Places> &wanted);
+
 // ---- What the two ways of making links share --------------------------------------------------------------
 
 // OwnSummary or OwnSubtask by the tasks' summaries, else None.
