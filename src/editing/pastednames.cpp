@@ -1,4 +1,5 @@
 #include "editing/pastednames.h"
+#include "engine/record/taskahead.h"
 #include "model/kwtaskinfo.h"
 #include "support/kwlimits.h"
 #include <QHash>
@@ -78,8 +79,10 @@ public:
             m_families.insert(stemOf(QStringView(task->Name).trimmed()).text.toString(), Family());
             m_families.insert(stemOf(withoutLeadingBlanks(task->Name)).text.toString(), Family());
         }
-        for (const KWTaskInfo *task : list)
-            add(task->Name);
+        for (int pos = 0; pos < list.size(); ++pos) {
+            fetchNamesAhead(list, pos);
+            add(list[pos]->Name);
+        }
     }
 
     void makeDifferent(KWTaskInfo &task)

@@ -1,6 +1,7 @@
 #include "editing/rowbackup.h"
 #include "editing/samevalues.h"
 #include "editing/taskcopy.h"
+#include "engine/record/taskahead.h"
 #include "engine/record/taskindex.h"
 #include "model/kwdocument.h"
 #include "table/rowcolumndata.h"
@@ -31,8 +32,10 @@ RowBackup::RowBackup(const KWDocument &document)
 {
     const QList<KWTaskInfo *> &tasks = document.taskList();
     m_ids.values.reserve(std::size_t(tasks.size()));
-    for (const KWTaskInfo *task : tasks)
-        m_ids.values.push_back(task->ID);
+    for (int pos = 0; pos < tasks.size(); ++pos) {
+        fetchTaskAhead(tasks, pos + tasksAhead);
+        m_ids.values.push_back(tasks[pos]->ID);
+    }
     const QList<double> &heights = document.rowColumnData()->rowHeights();
     m_heights.values.assign(heights.begin(), heights.end());
 }

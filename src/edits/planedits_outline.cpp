@@ -3,6 +3,7 @@
 #include "edits/outlineplaces.h"
 #include "edits/planedits.h"
 #include "edits/taskvalues.h"
+#include "engine/record/taskahead.h"
 #include "engine/time/dayoff.h"
 #include "engine/time/duration.h"
 #include "model/kwdocument.h"
@@ -10,6 +11,7 @@
 #include "support/kwclock.h"
 #include "table/rowcolumndata.h"
 #include <algorithm>
+#include <limits>
 
 using outlineplaces::Target;
 
@@ -103,10 +105,28 @@ EditAnswer PlanEdits::insert(quint32 id, Place place, const TaskValues &values)
 
 namespace {
 
+// The IDs of tasks that leave. Mostly these are neighbours, so that most others need not be looked up.
+class Leaving
+{
+public:
+    void add(quint32 id)
+    {
+        m_least = std::min(m_least, id);
+        m_greatest = std::max(m_greatest, id);
+        m_ids.add(id);
+    }
+    bool contains(quint32 id) const { return id >= m_least && id <= m_greatest && m_ids.contains(id); }
+    const TaskIndex &ids() const { return m_ids; }
+
+private:
+    TaskIndex m_ids;
+    quint32 m_least = std::numeric_limits<quint32>::max();
+    quint32 m_greatest = 0;
+};
+
 // The children of a summary that loses some of them: in the place of each that leaves stand those of its own
 // that stay.
-QList<quint32> remaining(const outline::Tasks &tasks, const QList<quint32> &children,
-                         const TaskIndex &leaving)
+QList<quint32> remaining(const outline::Tasks &tasks, const QList<quint32> &children, const Leaving &leaving)
 {
     QList<quint32> left;
     TaskIndex seen;
@@ -127,13 +147,17 @@ QList<quint32> remaining(const outline::Tasks &tasks, const QList<quint32> &chil
 }
 
 // Takes tasks out of the document: those in `leaving`, whose children that stay move up in their place.
-void takeOut(OneEdit &edit, const TaskIndex &leaving)
+void takeOut(OneEdit &edit, const Leaving &leaving)
 {
     KWDocument &document = edit.document();
     const outline::Tasks tasks = edit.tasks();
     const auto isGone = [&](quint32 id) { return leaving.contains(id); };
     std::vector<TaskRecord *> lifted;
-    for (TaskRecord *task : tasks.list) {
+    // Anybody may have written links on one side only, so every task is asked.
+    for (int pos = 0; pos < tasks.list.size(); ++pos) {
+        fetchTaskAhead(tasks.list, pos + 2 * tasksAhead);
+        fetchListsAhead(tasks.list, pos + tasksAhead);
+        TaskRecord *task = tasks.list[pos];
         if (leaving.contains(task->ID)) {
             edit.keepLeaving(*task);
             if (task->isHaveResource())
@@ -161,7 +185,7 @@ void takeOut(OneEdit &edit, const TaskIndex &leaving)
         task->ParentID = parent ? parent->ID.value() : 0;
         lifted.push_back(task);
     }
-    document.removeTasks(leaving);
+    document.removeTasks(leaving.ids());
     const outline::Tasks left = edit.tasks();
     for (TaskRecord *task : lifted)
         outlineplaces::refreshBelow(left, *task);
@@ -180,7 +204,7 @@ EditAnswer PlanEdits::remove(const QVector<quint32> &ids)
     const std::vector<KWTaskInfo *> tasks = edit.named(ids);
     if (edit.isRefused())
         return edit.answer;
-    TaskIndex leaving;
+    Leaving leaving;
     for (KWTaskInfo *task : tasks) {
         leaving.add(task->ID);
         if (!task->IsToggler)
@@ -201,7 +225,7 @@ EditAnswer PlanEdits::cut(const QVector<quint32> &ids)
     if (!copied.isDone())
         return copied;
     OneEdit edit(step());
-    TaskIndex leaving;
+    Leaving leaving;
     for (const KWTaskInfo *task : edit.named(ids)) {
         leaving.add(task->ID);
         for (const TaskRecord *below : outline::descendants(edit.tasks(), *task))

@@ -1,5 +1,6 @@
 #include "engine/network/inheritedtails.h"
 #include "engine/network/rollup.h"
+#include "engine/record/taskahead.h"
 #include "engine/record/taskrecord.h"
 #include <algorithm>
 
@@ -22,6 +23,9 @@ InheritedNetwork linksAndWays(const outline::Tasks &tasks)
     std::vector<int> linkedAbove(count, none);
     std::vector<int> &targets = network.graph.targets;
     for (int pos = 0; pos < tasks.list.size(); ++pos) {
+        fetchTaskAhead(tasks.list, pos + 2 * tasksAhead);
+        if (pos + tasksAhead < tasks.list.size())
+            fetchContentAhead(tasks.list[pos + tasksAhead]->Depends);
         const auto &task = *tasks.list[pos];
         bool listsUnknown = false;
         if (!task.Depends.isEmpty() && rollup::isDated(task)) {

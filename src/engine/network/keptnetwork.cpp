@@ -1,4 +1,5 @@
 #include "engine/network/keptnetwork.h"
+#include "engine/record/taskahead.h"
 
 namespace linkgraph {
 
@@ -21,6 +22,7 @@ bool KeptNetwork::isOf(const outline::Tasks &tasks)
     if (!m_network || m_list != &tasks.list || int(m_known.size()) != tasks.list.size())
         return false;
     for (std::size_t pos = 0; pos < m_known.size(); ++pos) {
+        fetchTaskAhead(tasks.list, int(pos) + tasksAhead);
         const TaskRecord &task = *tasks.list[int(pos)];
         Known &known = m_known[pos];
         if (task.ID != known.id || task.ParentID != known.parent || !isSame(task.Childs, known.children) ||

@@ -1,6 +1,7 @@
 #include "engine/network/linkgraph.h"
 #include <algorithm>
 #include <cstdlib>
+#include <numeric>
 
 namespace linkgraph {
 
@@ -45,12 +46,18 @@ Graph without(const Graph &graph, const std::vector<char> &deadEdge)
 }
 }
 
-Components components(const Graph &graph)
+namespace {
+
+enum class From { First, Last };
+
+// Depth first, from the first node and the first edge of each on or from the last ones.
+Components search(const Graph &graph, From from)
 {
     struct Step
     {
         int node, edge;
     };
+    const bool isForward = from == From::First;
     const int count = graph.count();
     Components found;
     found.of.assign(size_t(count), unvisited);
@@ -59,22 +66,24 @@ Components components(const Graph &graph)
     std::vector<int> lowest(graph.first.size() -
                             1); // the earliest visited node of its component that it leads to
     std::vector<int> open;      // visited, component not yet known
+    open.reserve(size_t(count));
     std::vector<Step> path;
     int visits = 0;
     int number = 0;
     const auto enter = [&](int node) {
         visitedAt[node] = lowest[node] = visits++;
         open.push_back(node);
-        path.push_back({node, graph.first[node]});
+        path.push_back({node, isForward ? graph.first[node] : graph.first[node + 1] - 1});
     };
-    for (int root = 0; root < count; ++root) {
+    for (int i = 0; i < count; ++i) {
+        const int root = isForward ? i : count - 1 - i;
         if (visitedAt[root] == unvisited)
             enter(root);
         while (!path.empty()) {
             Step &step = path.back();
             const int node = step.node;
-            if (step.edge < graph.first[node + 1]) {
-                const int target = graph.targets[step.edge++];
+            if (isForward ? step.edge < graph.first[node + 1] : step.edge >= graph.first[node]) {
+                const int target = graph.targets[isForward ? step.edge++ : step.edge--];
                 if (visitedAt[target] == unvisited)
                     enter(target);
                 else if (found.of[target] == unvisited)
@@ -102,6 +111,42 @@ Components components(const Graph &graph)
     }
     std::reverse(found.order.begin(), found.order.end());
     return found;
+}
+}
+
+namespace {
+
+// Whether every edge leads to a later node: then there is nothing to search.
+bool isInOrder(const Graph &graph)
+{
+    for (int node = 0; node < graph.count(); ++node) {
+        for (int edge = graph.first[node]; edge < graph.first[node + 1]; ++edge) {
+            if (graph.targets[edge] <= node)
+                return false;
+        }
+    }
+    return true;
+}
+
+Components eachAlone(int count)
+{
+    Components found;
+    found.of.resize(size_t(count));
+    std::iota(found.of.begin(), found.of.end(), 0);
+    found.order = found.of;
+    return found;
+}
+}
+
+Components components(const Graph &graph)
+{
+    if (isInOrder(graph))
+        return eachAlone(graph.count());
+    // From the last node on the order comes out near that of the nodes, since most of what follows a task
+    // stands behind it: walks in that order pass through the memory. Which edges close a ring, and so the
+    // order where there are any, has always been found from the first node on.
+    Components found = search(graph, From::Last);
+    return found.hasRings ? search(graph, From::First) : found;
 }
 
 namespace {

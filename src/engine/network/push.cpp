@@ -3,6 +3,7 @@
 #include "engine/network/linkgraph.h"
 #include "engine/network/moves.h"
 #include "engine/network/rollup.h"
+#include "engine/record/taskahead.h"
 #include "engine/record/taskrecord.h"
 #include <QtAlgorithms>
 #include <algorithm>
@@ -77,6 +78,8 @@ public:
                 const std::size_t rank = word * bitsOfWord + qCountTrailingZeroBits(m_open[word]);
                 m_open[word] &= m_open[word] - 1;
                 m_at = int(rank);
+                if (rank + tasksAhead < m_schedule.order.size())
+                    fetchTaskAhead(m_tasks.list, m_network.nodes()[m_schedule.order[rank + tasksAhead]].pos);
                 happen(m_schedule.order[rank]);
             }
         }
@@ -90,8 +93,12 @@ public:
     // What was pushed or carried along to other dates, in list order.
     std::vector<Move> moves()
     {
-        std::sort(m_old.begin(), m_old.end(), [](const Old &a, const Old &b) { return a.pos < b.pos; });
+        // They are mostly in order already.
+        const auto byPos = [](const Old &a, const Old &b) { return a.pos < b.pos; };
+        if (!std::is_sorted(m_old.begin(), m_old.end(), byPos))
+            std::sort(m_old.begin(), m_old.end(), byPos);
         std::vector<Move> moved;
+        moved.reserve(m_old.size());
         for (const Old &old : m_old) {
             TaskRecord *task = m_tasks.list[old.pos];
             const int begin = m_network.beginOf(old.pos);

@@ -85,6 +85,13 @@ bool datesOfDated(const worktime::WorkCalendar &calendar, const outline::Tasks &
 
 double percent(const worktime::WorkCalendar &calendar, const outline::Tasks &tasks, const TaskRecord &summary)
 {
+    // Where nothing has begun no length makes a difference, and nearly every plan has many such summaries.
+    const auto hasBegun = [&tasks](quint32 id) {
+        const TaskRecord *child = tasks.byId(id);
+        return child && child->Percent != 0.0;
+    };
+    if (std::none_of(summary.Childs.cbegin(), summary.Childs.cend(), hasBegun))
+        return 0.0;
     double weighted = 0.0;
     double total = 0.0;
     for (const quint32 id : summary.Childs) {

@@ -1,6 +1,7 @@
 #include "engine/record/outline.h"
 #include "engine/record/idlist.h"
 #include "engine/record/rowfont.h"
+#include "engine/record/taskahead.h"
 #include "engine/record/taskrecord.h"
 #include <QtAlgorithms>
 
@@ -91,8 +92,9 @@ std::vector<TaskRecord *> withAncestors(const Tasks &tasks, const std::vector<Ta
         count += known ? 0 : 1;
         return !known;
     };
-    for (const TaskRecord *task : changed) {
-        int pos = tasks.index.posOf(task->ID);
+    for (std::size_t i = 0; i < changed.size(); ++i) {
+        fetchTaskAhead(changed, int(i) + tasksAhead);
+        int pos = tasks.index.posOf(changed[i]->ID);
         while (pos >= 0 && isNew(pos)) {
             const quint32 parent = tasks.list[pos]->ParentID;
             pos = parent == 0 ? -1 : tasks.index.posOf(parent);
