@@ -130,8 +130,15 @@ void KWDocument::insertTasks(int pos, const QList<KWTaskInfo *> &tasks, const QL
     }
     for (KWTaskInfo *task : tasks)
         join(task);
+    Caches &caches = *m_caches;
+    const bool knowsIds = caches.knowsIds(m_tasks.size(), m_idRevision);
+    const bool knowsRows = caches.knowsRows(m_tasks.size(), m_hideRevision);
     m_tasks = m_tasks.mid(0, place) + tasks + m_tasks.mid(place);
     listChanged();
+    if (knowsIds)
+        caches.insertIds(place, tasks, m_idRevision);
+    if (knowsRows)
+        caches.insertRows(place, tasks, m_hideRevision);
 }
 
 void KWDocument::replaceByID(quint32 id, KWTaskInfo *task)

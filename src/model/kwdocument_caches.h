@@ -13,7 +13,9 @@ struct KWDocument::Caches
     // By ID.
     TaskIndex index;
     QList<TaskRecord *> records; // the tasks that are indexed, in list order
+    std::vector<quint32> ids;    // of these
     int indexed = 0;             // how many these are
+    bool isIndexed = true;       // else the index is to be made again, from the IDs
     quint64 indexedAt = 0;
     quint32 maxId = 0;
     quint32 lowestFreeId = 1; // every smaller ID is taken
@@ -30,4 +32,21 @@ struct KWDocument::Caches
     std::size_t bottomsHeightCount = 0;
     double bottomsScale = 0;
     bool ascending = true; // no height is negative or no number
+
+    bool knowsIds(int tasks, quint64 revision) const { return indexedAt == revision && indexed == tasks; }
+    bool knowsRows(int tasks, quint64 revision) const
+    {
+        return rowsAt == revision && rowOfPos.size() == std::size_t(tasks);
+    }
+    bool isVisible(std::size_t pos) const { return rowOfPos[pos] != (pos == 0 ? -1 : rowOfPos[pos - 1]); }
+    // Some tasks come or go and the tables know the list before that: what they know of the others stays
+    // true, and asking all of these again would cost more than the rest of most edits. The revisions are
+    // those of the list as it is now.
+    void insertIds(int pos, const QList<KWTaskInfo *> &tasks, quint64 &revision);
+    void insertRows(int pos, const QList<KWTaskInfo *> &tasks, quint64 &revision);
+    void removeIds(const std::vector<bool> &leaves, quint64 revision);
+    void removeRows(const std::vector<bool> &leaves, quint64 revision);
+
+private:
+    void setRows(const std::vector<bool> &visible, quint64 revision);
 };

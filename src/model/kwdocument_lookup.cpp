@@ -1,4 +1,5 @@
 // Finding tasks: by ID, by name, and by the three addresses.
+#include "engine/record/taskahead.h"
 #include "model/kwdocument.h"
 #include "model/kwdocument_caches.h"
 #include "model/kwtaskinfo.h"
@@ -14,6 +15,8 @@ KWDocument::Caches &KWDocument::withIndex() const
     if (caches.indexedAt != m_idRevision) {
         caches.index.clear();
         caches.records.clear();
+        caches.ids.clear();
+        caches.isIndexed = true;
         caches.indexed = 0;
         caches.maxId = 0;
         caches.lowestFreeId = 1;
@@ -21,10 +24,17 @@ KWDocument::Caches &KWDocument::withIndex() const
     }
     if (caches.indexed == 0)
         caches.records.reserve(m_tasks.size());
+    if (!caches.isIndexed) {
+        caches.index.clear();
+        for (int pos = 0; pos < caches.indexed; ++pos)
+            caches.index.add(caches.ids[std::size_t(pos)], pos);
+        caches.isIndexed = true;
+    }
     for (; caches.indexed < m_tasks.size(); ++caches.indexed) {
         KWTaskInfo *task = m_tasks[caches.indexed];
         caches.index.add(task->ID, caches.indexed);
         caches.records.append(task);
+        caches.ids.push_back(task->ID);
         caches.maxId = qMax(caches.maxId, task->ID.value());
         // Only an ID that the table knows can make it wrong.
         task->ID.attach(&m_idRevision);
@@ -48,6 +58,81 @@ KWDocument::Caches &KWDocument::withRows() const
         task->HideID.attach(&m_hideRevision);
     }
     return caches;
+}
+
+void KWDocument::Caches::insertIds(int pos, const QList<KWTaskInfo *> &tasks, quint64 &revision)
+{
+    QList<TaskRecord *> changed = records.mid(0, pos);
+    std::vector<quint32> inserted;
+    for (KWTaskInfo *task : tasks) {
+        changed.append(task);
+        inserted.push_back(task->ID);
+        maxId = qMax(maxId, inserted.back());
+        task->ID.attach(&revision);
+    }
+    records = changed + records.mid(pos);
+    ids.insert(ids.begin() + pos, inserted.begin(), inserted.end());
+    indexed = records.size();
+    isIndexed = false;
+    indexedAt = revision;
+}
+
+void KWDocument::Caches::removeIds(const std::vector<bool> &leaves, quint64 revision)
+{
+    QList<TaskRecord *> staying;
+    staying.reserve(records.size());
+    std::size_t count = 0;
+    maxId = 0;
+    for (std::size_t pos = 0; pos < leaves.size(); ++pos) {
+        if (leaves[pos])
+            continue;
+        staying.append(records[int(pos)]);
+        ids[count++] = ids[pos];
+        maxId = qMax(maxId, ids[pos]);
+    }
+    ids.resize(count);
+    records = staying;
+    indexed = int(count);
+    lowestFreeId = 1;
+    isIndexed = false;
+    indexedAt = revision;
+}
+
+void KWDocument::Caches::setRows(const std::vector<bool> &visible, quint64 revision)
+{
+    rowOfPos.clear();
+    posOfRow.clear();
+    for (std::size_t pos = 0; pos < visible.size(); ++pos) {
+        if (visible[pos])
+            posOfRow.push_back(int(pos));
+        rowOfPos.push_back(int(posOfRow.size()) - 1);
+    }
+    rowsAt = revision;
+}
+
+void KWDocument::Caches::insertRows(int pos, const QList<KWTaskInfo *> &tasks, quint64 &revision)
+{
+    std::vector<bool> visible(rowOfPos.size());
+    for (std::size_t i = 0; i < visible.size(); ++i)
+        visible[i] = isVisible(i);
+    std::vector<bool> inserted;
+    for (KWTaskInfo *task : tasks) {
+        inserted.push_back(task->HideID == 0);
+        task->HideID.attach(&revision);
+    }
+    visible.insert(visible.begin() + pos, inserted.begin(), inserted.end());
+    setRows(visible, revision);
+}
+
+void KWDocument::Caches::removeRows(const std::vector<bool> &leaves, quint64 revision)
+{
+    std::vector<bool> visible;
+    visible.reserve(leaves.size());
+    for (std::size_t pos = 0; pos < leaves.size(); ++pos) {
+        if (!leaves[pos])
+            visible.push_back(isVisible(pos));
+    }
+    setRows(visible, revision);
 }
 
 const TaskIndex &KWDocument::taskIndex() const
@@ -223,7 +308,9 @@ QString KWDocument::differentSuffixTaskName(const QString &name, bool useColumnT
     const int first = m_tasks.size() + 1;
     std::vector<bool> taken(std::size_t(first), false);
     bool isFree = true;
-    for (const KWTaskInfo *task : m_tasks) {
+    for (int pos = 0; pos < m_tasks.size(); ++pos) {
+        fetchNamesAhead(m_tasks, pos);
+        const KWTaskInfo *task = m_tasks[pos];
         const QStringView taskName = QStringView(task->Name).trimmed();
         isFree = isFree && taskName != trimmed;
         if (!taskName.startsWith(shownBase))

@@ -3,6 +3,7 @@
 #include "engine/record/outline.h"
 #include "engine/time/localclock.h"
 #include "model/kwdocument.h"
+#include "model/kwdocument_caches.h"
 #include "model/kwtaskinfo.h"
 #include "resources/costsof.h"
 #include "schedule/kwtaskcollection.h"
@@ -433,13 +434,19 @@ void KWDocument::removeTasks(const TaskIndex &ids)
     QList<KWTaskInfo *> staying;
     QList<double> heights;
     QList<KWTaskInfo *> leaving;
+    std::vector<bool> leaves(std::size_t(m_tasks.size()));
     TaskIndex done;
+    Caches &caches = *m_caches;
+    const bool knowsIds = caches.knowsIds(m_tasks.size(), m_idRevision);
+    const bool knowsRows = caches.knowsRows(m_tasks.size(), m_hideRevision);
     staying.reserve(m_tasks.size());
     heights.reserve(m_tasks.size());
     const QList<double> &oldHeights = m_rowColumnData->rowHeights();
     for (int pos = m_tasks.size() - 1; pos >= 0; --pos) {
         KWTaskInfo *task = m_tasks[pos];
-        if (ids.contains(task->ID) && done.add(task->ID)) {
+        const quint32 id = knowsIds ? caches.ids[std::size_t(pos)] : task->ID.value();
+        if (ids.contains(id) && done.add(id)) {
+            leaves[std::size_t(pos)] = true;
             leaving.append(task);
             continue;
         }
@@ -455,6 +462,10 @@ void KWDocument::removeTasks(const TaskIndex &ids)
     m_rowColumnData->setRowHeights(heights);
     m_tasks = staying;
     listChanged();
+    if (knowsIds)
+        caches.removeIds(leaves, m_idRevision);
+    if (knowsRows)
+        caches.removeRows(leaves, m_hideRevision);
     constexpr bool destroy = true;
     for (KWTaskInfo *task : qAsConst(leaving))
         leave(task, destroy);

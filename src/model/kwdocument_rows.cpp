@@ -68,7 +68,7 @@ KWDocument::Caches &KWDocument::withBottoms() const
     double bottom = caches.bottoms.empty() ? firstRowTop() : caches.bottoms.back();
     for (int pos = int(caches.bottoms.size()); pos < m_tasks.size(); ++pos) {
         const double top = bottom;
-        if (m_tasks[pos]->HideID == 0)
+        if (caches.isVisible(std::size_t(pos)))
             bottom += m_rowColumnData->getRowHeightByPos(pos, true);
         if (!(bottom >= top))
             caches.ascending = false;

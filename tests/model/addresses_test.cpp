@@ -1,4 +1,5 @@
 // Positions, rows, tags and row edges of tasks, against plain counting, while the list is edited.
+#include "engine/record/taskindex.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "table/rowcolumndata.h"
@@ -171,6 +172,16 @@ void apply(KWDocument &document, int kind, int place, quint32 value)
     case 10:
         document.rowColumnData()->insertRowHeightByPos(place - 2, height);
         break;
+    case 11:
+        document.insertTasks(place - 2, {newTask(value, hideId), newTask(value + 1)}, {height});
+        break;
+    case 12: {
+        TaskIndex ids;
+        ids.add(value);
+        ids.add(value + 2);
+        document.removeTasks(ids);
+        break;
+    }
     default:
         document.rowColumnData()->removeRowHeightAt(place - 2);
     }
@@ -180,7 +191,7 @@ TEST(Addresses, everyAnswerIsThatOfPlainCountingWhateverIsEdited)
 {
     const bool holds = rc::check([] {
         // Edits also come in a row, without a question between them.
-        const auto edit = rc::gen::tuple(rc::gen::inRange(0, 12), rc::gen::inRange(0, 30),
+        const auto edit = rc::gen::tuple(rc::gen::inRange(0, 14), rc::gen::inRange(0, 30),
                                          rc::gen::inRange<quint32>(0, 12), rc::gen::arbitrary<bool>());
         using Edits = std::vector<std::tuple<int, int, quint32, bool>>;
         KWDocument document;
