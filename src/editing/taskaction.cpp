@@ -258,12 +258,10 @@ void TaskAction::close(Bars bars)
     backups.assignmentIds = TaskIndex();
 }
 
-void TaskAction::addLateValues(const std::vector<LateValues> &before)
+void TaskAction::addLateValues(TaskRecord &task, const latedates::Values &now)
 {
-    if (!document())
-        return;
-    for (const LateValues &values : before)
-        m_backups->tasks.addLate(*document(), values);
+    if (document() && !m_backups->allTasks)
+        m_backups->tasks.addLate(task, now);
 }
 
 const TaskBackups &TaskAction::singleTasks() const
@@ -307,22 +305,31 @@ bool TaskAction::swapData()
     if (!document())
         return false;
     // All of the present state is read before any of it changes: kinds of backups may overlap.
-    auto current = std::make_unique<Backups>(now());
+    auto current = std::make_unique<Backups>(now(For::SwappingBack));
     restore(*m_backups, *current);
     m_backups = std::move(current);
     return true;
 }
 
+bool TaskAction::takeBack()
+{
+    if (!document())
+        return false;
+    restore(*m_backups, now(For::Restoring));
+    m_backups = std::make_unique<Backups>();
+    return true;
+}
+
 // The document's state, of the kinds that the action has.
-TaskAction::Backups TaskAction::now() const
+TaskAction::Backups TaskAction::now(For purpose) const
 {
     KWDocument &document = *this->document();
     Backups current;
     if (m_backups->allTasks) // single tasks are left aside from now on
         current.allTasks = document.actionManager().takeSnapshot();
     else
-        addSingleTasks(current);
-    if (m_backups->rows)
+        addSingleTasks(current, purpose);
+    if (m_backups->rows && purpose == For::SwappingBack)
         current.rows = m_backups->rows->now(document);
     if (m_backups->chart)
         current.chart = optionbackup::chartOf(document);
@@ -341,10 +348,11 @@ TaskAction::Backups TaskAction::now() const
     return current;
 }
 
-void TaskAction::addSingleTasks(Backups &current) const
+void TaskAction::addSingleTasks(Backups &current, For purpose) const
 {
     const KWDocument &document = *this->document();
-    current.tasks = m_backups->tasks.now(document);
+    if (purpose == For::SwappingBack)
+        current.tasks = m_backups->tasks.now(document);
     current.assignmentIds = m_backups->assignmentIds;
     for (const UndoTaskResources &backup : m_backups->assignments) {
         // A task that is not there keeps its record for another time.

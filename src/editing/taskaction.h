@@ -7,8 +7,10 @@
 class KWTaskInfo;
 class TaskBackups;
 struct TaskRecord;
-struct LateValues;
 enum class Bars;
+namespace latedates {
+struct Values;
+}
 
 // The undoable edit: backups of what it changes, each kind optional.
 //
@@ -54,7 +56,8 @@ public:
     // The edit is made. What it did not change of single tasks is dropped, unless something else is recorded
     // that may change them when it comes back; nothing more is to be recorded then.
     void close(Bars bars);
-    void addLateValues(const std::vector<LateValues> &before);
+    // See TaskBackups::addLate.
+    void addLateValues(TaskRecord &task, const latedates::Values &now);
     const TaskBackups &singleTasks() const;
 
     // The assignments of an entry's name on all tasks, in document order; appended.
@@ -66,11 +69,14 @@ public:
 
     // Exchanges every backup with the document's state. Only a backup of every task refreshes the chart.
     bool swapData();
+    // Brings every backup back for the last time: nothing is kept of the present state.
+    bool takeBack();
 
 private:
     struct Backups;
-    Backups now() const;
-    void addSingleTasks(Backups &current) const;
+    enum class For { SwappingBack, Restoring }; // restoring alone asks for less
+    Backups now(For purpose) const;
+    void addSingleTasks(Backups &current, For purpose) const;
     void restore(const Backups &backups, const Backups &current);
     template <typename Tasks>
     static void addConcerned(const Backups &backups, const Backups &current, Tasks &tasks);

@@ -40,12 +40,25 @@ class TaskBackups::Ids
 public:
     explicit Ids(std::vector<quint32> ids)
     {
-        std::sort(ids.begin(), ids.end());
-        for (const quint32 id : ids) {
-            if (m_runs.empty() || id - m_runs.back().last > 1)
-                m_runs.push_back({id, id});
-            else
-                m_runs.back().last = id;
+        if (ids.empty())
+            return;
+        // Many that lie close together need no sorting.
+        const auto [least, greatest] = std::minmax_element(ids.begin(), ids.end());
+        const quint32 first = *least;
+        const std::size_t range = std::size_t(*greatest - first) + 1;
+        constexpr std::size_t wide = 64;
+        if (range / wide <= ids.size()) {
+            std::vector<bool> isIn(range);
+            for (const quint32 id : ids)
+                isIn[id - first] = true;
+            for (std::size_t i = 0; i < range; ++i) {
+                if (isIn[i])
+                    add(first + quint32(i));
+            }
+        } else {
+            std::sort(ids.begin(), ids.end());
+            for (const quint32 id : ids)
+                add(id);
         }
         m_runs.shrink_to_fit();
     }
@@ -62,6 +75,13 @@ private:
     {
         quint32 first, last;
     };
+    void add(quint32 id) // in ascending order
+    {
+        if (m_runs.empty() || id - m_runs.back().last > 1)
+            m_runs.push_back({id, id});
+        else
+            m_runs.back().last = id;
+    }
     std::vector<Run> m_runs;
 };
 
@@ -265,32 +285,30 @@ void TaskBackups::addMoved(const TaskRecord &task)
                        task.Work, task.RemainingCost});
 }
 
-void TaskBackups::addLate(const KWDocument &document, const LateValues &before)
+void TaskBackups::addLate(TaskRecord &task, const latedates::Values &now)
 {
-    const KWTaskInfo *task = document.getTaskInfoByID(before.id);
-    if (!task || m_ids.posOf(before.id) == IsWhole || (m_closedIds && m_closedIds->contains(before.id)))
+    if (m_ids.posOf(task.ID) == IsWhole || (m_closedIds && m_closedIds->contains(task.ID)))
         return;
-    const bool differs[] = {before.lateStart != task->LateStart, before.lateFinish != task->LateFinish,
-                            !isSame(before.earlySlack, task->EarlySlack),
-                            !isSame(before.lateSlack, task->LateSlack),
-                            before.isCritical != task->CriticalPath};
+    const bool differs[] = {task.LateStart != now.lateStart, task.LateFinish != now.lateFinish,
+                            !isSame(task.EarlySlack, now.earlySlack), !isSame(task.LateSlack, now.lateSlack),
+                            task.CriticalPath != now.isCritical};
     quint64 fields = 0;
     for (std::size_t i = 0; i < std::size(differs); ++i)
         fields |= differs[i] ? lateBits[i] : 0;
     if (!fields)
         return;
     Block &block = blockOf(fields);
-    block.ids.push_back(before.id);
+    block.ids.push_back(task.ID);
     if (differs[0])
-        block.integers.push_back(before.lateStart);
+        block.integers.push_back(task.LateStart);
     if (differs[1])
-        block.integers.push_back(before.lateFinish);
+        block.integers.push_back(task.LateFinish);
     if (differs[2])
-        block.texts.push_back(before.earlySlack);
+        block.texts.push_back(std::move(task.EarlySlack));
     if (differs[3])
-        block.texts.push_back(before.lateSlack);
+        block.texts.push_back(std::move(task.LateSlack));
     if (differs[4])
-        block.integers.push_back(before.isCritical);
+        block.integers.push_back(task.CriticalPath);
 }
 
 TaskBackups::Block &TaskBackups::blockOf(quint64 fields)

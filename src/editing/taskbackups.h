@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/network/latedates.h"
 #include "engine/record/taskindex.h"
 #include "model/kwtaskinfo.h"
 #include <deque>
@@ -9,17 +10,6 @@ class KWDocument;
 
 // Whether the bars of tasks come back with their values, or whoever brings these back draws the chart anew.
 enum class Bars { Kept, Follow };
-
-// The late dates and slack of a task, as they were before they were worked out anew.
-struct LateValues
-{
-    quint32 id = 0;
-    quint32 lateStart = 0;
-    quint32 lateFinish = 0;
-    QString earlySlack;
-    QString lateSlack;
-    bool isCritical = false;
-};
 
 // The values of single tasks as they were, without their assignments: whole records while an edit is open,
 // afterwards only what it changed.
@@ -44,9 +34,9 @@ public:
     // Of a task that is only moved: its dates, and the numbers that follow from these. Nothing else of it may
     // change before the edit is made.
     void addMoved(const TaskRecord &task);
-    // Late dates and slack, for tasks whose other values do not change as well. Once the edit is made; where
-    // the whole task is recorded they are known already.
-    void addLate(const KWDocument &document, const LateValues &before);
+    // Late dates and slack, before they become these. Once for each task and after all that is recorded of
+    // it; where that is the whole task they are known already. Takes the texts that others replace out of it.
+    void addLate(TaskRecord &task, const latedates::Values &now);
     // Calls visit(id, start, finish) with the dates of each task that is recorded while the edit is open.
     template <typename Visit>
     void forEachDates(Visit visit) const

@@ -1,4 +1,5 @@
 #include "edits/oneedit.h"
+#include "editing/taskbackups.h"
 #include "edits/outlineplaces.h"
 #include "edits/settlepass.h"
 #include "engine/cost/baselines.h"
@@ -230,26 +231,27 @@ EditAnswer OneEdit::finish()
         replaced.before = [this](TaskRecord &task) { keepTask(task); };
     else
         replaced.before = [this](TaskRecord &task) { m_record->addMovedTask(task); };
+    replaced.beforeLate = [this](TaskRecord &task, const latedates::Values &now) {
+        m_record->addLateValues(task, now);
+    };
     const QVector<settling::Push> pushes =
         settling::settle(document(), changes, m_hasAllTasks ? nullptr : &replaced);
     if (LongWork::wasGivenUp())
-        return takeBack(replaced.lateValues);
+        return takeBack();
     document().setModified(true);
     listMoves(pushes, edited);
-    m_record->addLateValues(replaced.lateValues);
     m_record->close(Bars::Follow);
     m_step.records.push_back(std::move(m_record));
     return answer;
 }
 
 // What was settled up to here goes with the edit.
-EditAnswer OneEdit::takeBack(const std::vector<LateValues> &lateValues)
+EditAnswer OneEdit::takeBack()
 {
-    m_record->addLateValues(lateValues);
     m_record->close(Bars::Follow);
     std::vector<std::unique_ptr<TaskAction>> records;
     records.push_back(std::move(m_record));
-    StepAction(&document(), m_step.name, std::move(records)).unExecute();
+    StepAction(&document(), m_step.name, std::move(records)).takeBack();
     document().setModified(m_wasModified);
     return refuse(EditRefusal::GivenUp);
 }

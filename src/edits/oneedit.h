@@ -6,7 +6,6 @@
 #include <vector>
 
 class KWTaskInfo;
-struct LateValues;
 struct TaskRecord;
 
 // The step that is being made.
@@ -83,7 +82,7 @@ private:
     void dropUnsuitedLinks();
     void listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited);
     std::vector<Dates> datesBefore() const;
-    EditAnswer takeBack(const std::vector<LateValues> &lateValues);
+    EditAnswer takeBack();
 
     EditStep &m_step;
     std::unique_ptr<TaskAction> m_record;

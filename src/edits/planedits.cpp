@@ -30,7 +30,7 @@ void PlanEdits::cancel()
 {
     if (m_step->records.empty())
         return;
-    StepAction(&m_step->document, m_step->name, std::move(m_step->records)).unExecute();
+    StepAction(&m_step->document, m_step->name, std::move(m_step->records)).takeBack();
     m_step->records.clear();
     m_step->document.setModified(m_step->wasModified);
 }

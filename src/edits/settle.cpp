@@ -11,6 +11,7 @@
 #include "engine/record/branches.h"
 #include "engine/record/outline.h"
 #include "engine/record/resource.h"
+#include "engine/record/taskahead.h"
 #include "engine/time/duration.h"
 #include "engine/time/timescale.h"
 #include "model/kwdocument.h"
@@ -80,7 +81,9 @@ using Span = latedates::Kept::Span;
 Span spanOf(const Tasks &tasks)
 {
     Span span;
-    for (const TaskRecord *task : tasks.list) {
+    for (int pos = 0; pos < tasks.list.size(); ++pos) {
+        fetchTaskAhead(tasks.list, pos + tasksAhead);
+        const TaskRecord *task = tasks.list[pos];
         if (!rollup::isDated(*task))
             continue;
         span.start = span.start == 0 ? task->Start : std::min(span.start, task->Start);
@@ -186,12 +189,17 @@ private:
 
     void remember(const std::vector<push::Move> &moves)
     {
+        if (m_pushOf.empty() && !moves.empty())
+            m_pushOf.assign(std::size_t(m_tasks.list.size()), -1);
         for (const push::Move &move : moves) {
             if (!move.pushedBy)
                 continue;
-            if (m_pushed.add(move.task->ID, m_pushes.size()))
+            int &place = m_pushOf[std::size_t(m_tasks.index.posOf(move.task->ID))];
+            if (place < 0) {
+                place = m_pushes.size();
                 m_pushes.append({move.task->ID, 0});
-            m_pushes[m_pushed.posOf(move.task->ID)].pushedBy = move.pushedBy->ID;
+            }
+            m_pushes[place].pushedBy = move.pushedBy->ID;
         }
     }
 
@@ -260,7 +268,9 @@ private:
                 break;
             // A push leaves no successor of what it passed too early, but for summaries that grow with it.
             grown.clear();
-            for (TaskRecord *task : moved) {
+            for (std::size_t i = 0; i < moved.size(); ++i) {
+                fetchTaskAhead(moved, int(i) + tasksAhead);
+                TaskRecord *task = moved[i];
                 touch(task);
                 if (task->isParent())
                     grown.push_back(task);
@@ -317,7 +327,10 @@ private:
 
     void measure()
     {
-        for (TaskRecord *task : m_touched.tasks()) {
+        const std::vector<TaskRecord *> &touched = m_touched.tasks();
+        for (std::size_t i = 0; i < touched.size(); ++i) {
+            fetchTaskAhead(touched, int(i) + tasksAhead);
+            TaskRecord *task = touched[i];
             if (rollup::isDated(*task))
                 task->DurationSecs =
                     duration::secs(m_calendar, task->Start, task->Finish, task->DurationUnits);
@@ -479,11 +492,8 @@ private:
         const unsigned int unit = latedates::slackUnit(m_document.getMinorUnit());
         const QString unitName = KWDocument::getNameByMinorUnit(unit, false);
         if (m_replaced) {
-            m_span = m_collection.keptLateDates().update(
-                m_tasks, m_calendar, unit, unitName, [this](const TaskRecord &task) {
-                    m_replaced->lateValues.push_back({task.ID, task.LateStart, task.LateFinish,
-                                                      task.EarlySlack, task.LateSlack, task.CriticalPath});
-                });
+            m_span = m_collection.keptLateDates().update(m_tasks, m_calendar, unit, unitName,
+                                                         m_replaced->beforeLate);
             return;
         }
         m_span = spanOf(m_tasks);
@@ -550,7 +560,7 @@ private:
     TaskSet m_touched;    // whose dates may have become others
     TaskSet m_progressed; // whose percent may have become another
     std::vector<quint32> m_lengthsBefore;
-    TaskIndex m_pushed; // places in m_pushes
+    std::vector<int> m_pushOf; // by place: which of m_pushes; -1: none; empty before the first
     QVector<Push> m_pushes;
     std::optional<Span> m_span; // where late dates were worked out
 };
@@ -585,6 +595,7 @@ void placeAll(KWDocument &document)
     const std::vector<double> rowYs = document.rowYs(true);
     const QList<TaskRecord *> &tasks = document.outline().list;
     for (int pos = 0; pos < tasks.size(); ++pos) {
+        fetchTaskAhead(tasks, pos + tasksAhead);
         TaskRecord &task = *tasks[pos];
         place(scale, task);
         if (task.HideID == 0)

@@ -1,8 +1,11 @@
 #pragma once
-#include "editing/taskbackups.h"
 #include "edits/settle.h"
 #include <functional>
-#include <vector>
+
+struct TaskRecord;
+namespace latedates {
+struct Values;
+}
 
 namespace settling {
 
@@ -11,8 +14,9 @@ struct Replaced
 {
     // Each task whose values may change, before they do; late dates left aside.
     std::function<void(TaskRecord &)> before;
-    // Late dates that were replaced by others: they change on tasks that an edit does not reach otherwise.
-    std::vector<LateValues> lateValues;
+    // Each task whose late dates become these, before they do: they change on tasks that an edit does not
+    // reach otherwise. The texts that others replace may be taken out of it.
+    std::function<void(TaskRecord &, const latedates::Values &)> beforeLate;
 };
 
 // settle(), which tells what it replaces.

@@ -28,3 +28,12 @@ bool StepAction::unExecute()
     settling::settleChart(*document());
     return true;
 }
+
+void StepAction::takeBack()
+{
+    if (!document())
+        return;
+    for (auto edit = m_edits.rbegin(); edit != m_edits.rend(); ++edit)
+        (*edit)->takeBack();
+    settling::settleChart(*document());
+}

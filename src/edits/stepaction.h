@@ -12,6 +12,8 @@ public:
 
     bool execute() override;
     bool unExecute() override;
+    // unExecute() for the last time: the step cannot be made again.
+    void takeBack();
 
 private:
     std::vector<std::unique_ptr<TaskAction>> m_edits;

@@ -1,7 +1,9 @@
-// Late dates that are kept between edits against a pass over the whole plan, on plans that anybody may have
-// written: with rings, unknown IDs, links of summaries, tasks without dates and a damaged outline.
+// Late dates and the network that are kept between edits against those of a pass over the whole plan, on
+// plans that anybody may have written: with rings, unknown and doubled IDs, links of summaries, tasks without
+// dates and a damaged outline.
 #include "engine/network/inheritedtails.h"
 #include "engine/network/keptlatedates.h"
+#include "engine/network/keptnetwork.h"
 #include "engine/network/rollup.h"
 #include "engine/record/outline.h"
 #include "engine/time/worktime.h"
@@ -49,16 +51,48 @@ void workOutAll(KWDocument &document, unsigned int unit)
     latedates::spreadCritical(tasks);
 }
 
-TEST(KeptLateDates, areThoseOfTheWholePlan)
+std::string networkText(const linkgraph::EventNetwork &network, const linkgraph::Schedule &schedule,
+                        int tasks)
 {
-    for (unsigned int seed = 1; seed <= 40; ++seed) {
+    std::string text;
+    const auto add = [&text](int number) { text += std::to_string(number) + ' '; };
+    for (int pos = 0; pos < tasks; ++pos) {
+        add(network.beginOf(pos));
+        add(network.endOf(pos));
+    }
+    for (const linkgraph::EventNetwork::Node &node : network.nodes())
+        add(((node.pos * 2 + node.begins) * 2 + node.ends) * 100 + node.linkCount);
+    for (const std::vector<int> &numbers : {network.graph().first, network.graph().targets, schedule.order})
+        std::for_each(numbers.begin(), numbers.end(), add);
+    std::for_each(schedule.deadEdge.begin(), schedule.deadEdge.end(), add);
+    return text;
+}
+
+std::string keptNetworkText(KWDocument &document)
+{
+    linkgraph::KeptNetwork &kept = document.taskCollection()->keptNetwork();
+    kept.update(document.outline());
+    return networkText(kept.network(), kept.schedule(), document.taskCount());
+}
+
+std::string newNetworkText(const KWDocument &document)
+{
+    const outline::Tasks tasks = document.outline();
+    const linkgraph::EventNetwork network(tasks);
+    return networkText(network, linkgraph::schedule(network, tasks), document.taskCount());
+}
+
+TEST(KeptFromEditToEdit, equalsWhatTheWholePlanGives)
+{
+    for (unsigned int seed = 1; seed <= 60; ++seed) {
         std::mt19937 random(seed);
         const auto any = [&random](int bound) { return int(random() % unsigned(bound)); };
         KWDocument document;
-        const int count = 2 + any(30);
-        for (int i = 0; i < count; ++i)
+        for (int i = 2 + any(30); i > 0; --i)
             document.addTaskInfo();
-        const auto task = [&]() -> KWTaskInfo & { return *document.getTaskInfoAt(any(count)); };
+        const auto task = [&]() -> KWTaskInfo & {
+            return *document.getTaskInfoAt(any(document.taskCount()));
+        };
         const auto setDates = [&](KWTaskInfo &dated) {
             dated.Start = any(9) == 0 ? 0 : 1709510400u + quint32(any(90)) * day / 3;
             dated.Finish = dated.Start + quint32(any(40)) * day / 3;
@@ -69,7 +103,7 @@ TEST(KeptLateDates, areThoseOfTheWholePlan)
         for (int step = 0; step < 60; ++step) {
             for (int change = any(4); change > 0; --change) {
                 KWTaskInfo &changed = task();
-                switch (any(step < 20 ? 8 : 24)) { // at first the plan grows
+                switch (any(step < 20 ? 11 : 24)) { // at first the plan grows
                 case 0:
                 case 1:
                 case 2:
@@ -92,6 +126,29 @@ TEST(KeptLateDates, areThoseOfTheWholePlan)
                     unit = any(2) ? duration::Day : duration::Hour;
                     document.WorkDay[any(7)] = any(4);
                     break;
+                case 8: {
+                    auto *inserted = new KWTaskInfo;
+                    inserted->ID = any(10) == 0 ? changed.ID.value() : document.nextTaskID();
+                    inserted->Depends = any(2) ? QList<quint32>{changed.ID} : QList<quint32>();
+                    setDates(*inserted);
+                    document.insertTasks(any(document.taskCount() + 1), {inserted}, {});
+                    break;
+                }
+                case 9:
+                    if (document.taskCount() > 2)
+                        document.removeTaskInfoByID(changed.ID);
+                    break;
+                case 10: {
+                    TaskRecord &summary = task();
+                    summary.Childs.append(changed.ID);
+                    if (any(2))
+                        changed.ParentID = summary.ID;
+                    break;
+                }
+                case 11:
+                    document.moveTaskInfo(&changed, document.getPosByID(changed.ID),
+                                          any(document.taskCount()));
+                    break;
                 default:
                     setDates(changed);
                 }
@@ -101,6 +158,10 @@ TEST(KeptLateDates, areThoseOfTheWholePlan)
             const std::string kept = lateText(document);
             workOutAll(document, unit);
             ASSERT_EQ(kept, lateText(document)) << "seed " << seed << ", step " << step;
+            if (any(3) == 0) { // it compares with the last time that it was asked
+                ASSERT_EQ(keptNetworkText(document), newNetworkText(document))
+                    << "seed " << seed << ", step " << step;
+            }
         }
     }
 }

@@ -1,5 +1,6 @@
 #include "engine/network/keptlatedates.h"
 #include "engine/network/rollup.h"
+#include "engine/record/taskahead.h"
 #include "engine/record/taskrecord.h"
 #include <algorithm>
 
@@ -7,9 +8,14 @@ namespace latedates {
 
 namespace {
 
-bool isSame(const QString &a, const QString &b)
+bool isSame(const QString &text, QString &known)
 {
-    return a.isSharedWith(b) || a == b;
+    if (text.isSharedWith(known))
+        return true;
+    if (text != known)
+        return false;
+    known = text;
+    return true;
 }
 
 bool hasBegun(const TaskRecord &task)
@@ -17,7 +23,8 @@ bool hasBegun(const TaskRecord &task)
     return task.Percent != 0;
 }
 
-bool areIn(const TaskRecord &task, const Values &values)
+// Shares the texts where they only read the same, so that one look tells it the next time.
+bool areIn(const TaskRecord &task, Values &values)
 {
     return task.LateStart == values.lateStart && task.LateFinish == values.lateFinish &&
            task.CriticalPath == values.isCritical && isSame(task.EarlySlack, values.earlySlack) &&
@@ -39,6 +46,7 @@ bool Kept::findChanges(const outline::Tasks &tasks)
     if (!m_late || int(m_known.size()) != tasks.list.size())
         return false;
     for (int pos = 0; pos < tasks.list.size(); ++pos) {
+        fetchLateAhead(tasks.list, pos + tasksAhead);
         const TaskRecord &task = *tasks.list[pos];
         Known &known = m_known[std::size_t(pos)];
         if (task.ID != known.id || task.ParentID != known.parent)
@@ -111,12 +119,13 @@ void Kept::beginAnew(const outline::Tasks &tasks)
     m_lengths.assign(count, 0);
     m_parents.assign(count, -1);
     for (std::size_t pos = 0; pos < count; ++pos) {
+        fetchLateAhead(tasks.list, int(pos) + tasksAhead);
         const TaskRecord &task = *tasks.list[int(pos)];
         int &old = oldPos[pos] = oldPlaces.posOf(task.ID);
-        const Known *before = old < 0 ? nullptr : &oldKnown[std::size_t(old)];
+        Known *before = old < 0 ? nullptr : &oldKnown[std::size_t(old)];
         const bool hasDates = before && before->start == task.Start && before->finish == task.Finish;
         if (hasDates && before->hasBegun == hasBegun(task) && areIn(task, before->values)) {
-            m_known.push_back(*before);
+            m_known.push_back(std::move(*before)); // the numbers of it stay, and so does the ID
         } else {
             m_known.emplace_back();
             old = -1;
@@ -124,7 +133,8 @@ void Kept::beginAnew(const outline::Tasks &tasks)
         Known &known = m_known.back();
         known.id = task.ID;
         known.parent = task.ParentID;
-        known.links = task.Depends;
+        if (!known.links.isSharedWith(task.Depends))
+            known.links = task.Depends;
         known.start = task.Start;
         known.finish = task.Finish;
         if (task.ParentID != 0)
@@ -272,7 +282,16 @@ Kept::Span Kept::update(const outline::Tasks &tasks, const worktime::WorkCalenda
     m_late->setProjectFinish(m_span.finish);
 
     bool isSpread = isAnew;
-    for (const int pos : m_toFill) {
+    const auto fetchToFill = [&](std::size_t i) {
+        if (i + tasksAhead >= m_toFill.size())
+            return;
+        const int ahead = m_toFill[i + tasksAhead];
+        fetchLateAhead(tasks.list, ahead);
+        __builtin_prefetch(&m_known[std::size_t(ahead)]);
+    };
+    for (std::size_t i = 0; i < m_toFill.size(); ++i) {
+        fetchToFill(i);
+        const int pos = m_toFill[i];
         const TaskRecord &task = *tasks.list[pos];
         Known &known = m_known[pos];
         known.hasBegun = hasBegun(task);
@@ -284,14 +303,16 @@ Kept::Span Kept::update(const outline::Tasks &tasks, const worktime::WorkCalenda
     }
     if (isSpread)
         spread();
-    for (const int pos : m_toFill) {
+    for (std::size_t i = 0; i < m_toFill.size(); ++i) {
+        fetchToFill(i);
+        const int pos = m_toFill[i];
         TaskRecord &task = *tasks.list[pos];
-        const Values &values = m_known[pos].values;
+        Values &values = m_known[pos].values;
         m_isToFill[pos] = 0;
         if (areIn(task, values))
             continue;
         if (before)
-            before(task);
+            before(task, values);
         task.LateStart = values.lateStart;
         task.LateFinish = values.lateFinish;
         task.EarlySlack = values.earlySlack;

@@ -20,8 +20,8 @@ public:
         quint32 start = 0;
         quint32 finish = 0;
     };
-    // Before the values of a task become others.
-    using BeforeChange = std::function<void(const TaskRecord &)>;
+    // Before the values of a task become these. The texts that others replace may be taken out of it.
+    using BeforeChange = std::function<void(TaskRecord &, const Values &)>;
 
     // The calendar must be what it was at the update before, or reset() have been called in between.
     Span update(const outline::Tasks &tasks, const worktime::WorkCalendar &calendar, unsigned int unit,
