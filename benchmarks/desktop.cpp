@@ -79,7 +79,18 @@ Delay longestDelay(Session &session)
     return longest;
 }
 
-void measure(Report &report, int tasks)
+constexpr char firstWindow[] = "--first-window", onlyDocument[] = "--document", inWindow[] = "--window";
+
+// What a process of its own prints.
+double printedBy(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished(-1);
+    return process.readAllStandardOutput().toDouble();
+}
+
+void measure(Report &report, const QString &program, int tasks)
 {
     const QTemporaryDir folder;
     const QString path = packageOf(folder, tasks);
@@ -92,28 +103,20 @@ void measure(Report &report, int tasks)
             settling::settle(document, {settling::AsItStands, {}, {}});
         });
     }
-    const double before = megabytesNow();
-    double withDocument = 0;
-    {
-        KWDocument document;
-        document.loadFromKWGT(path);
-        settling::settle(document, {settling::AsItStands, {}, {}});
-        withDocument = megabytesNow() - before;
-    }
     MainWindow window;
     window.setAttribute(Qt::WA_DeleteOnClose, false);
     window.setAsker(
         [](const QString &, const QString &, QMessageBox::StandardButtons) { return QMessageBox::Discard; });
     window.resize(1200, 900);
-    const double empty = megabytesNow();
     report.line("opened and shown", tasks, secondsOf([&] {
                     window.openFile(path);
                     window.show();
                     QApplication::processEvents();
                 }),
                 alone);
-    std::printf("  %.0f MB for the document, %.0f MB with its window\n", withDocument,
-                megabytesNow() - empty);
+    std::printf("  %.0f MB with the document, %.0f MB with its window\n",
+                printedBy(program, {QLatin1String(onlyDocument), path}),
+                printedBy(program, {QLatin1String(inWindow), path}));
 
     Session &session = window.session();
     PlanChart &chart = *window.chart();
@@ -204,21 +207,13 @@ void measure(Report &report, int tasks)
     document.setModified(false);
 }
 
-constexpr char firstWindow[] = "--first-window";
-
 // What a process of its own has taken when its window is painted, and where it has none.
 void measureStart(Report &report, const QString &program)
 {
-    const auto run = [&program](const char *argument) {
-        QProcess process;
-        process.start(program, {QLatin1String(argument)});
-        process.waitForFinished();
-        return process.readAllStandardOutput().toDouble();
-    };
     double shown = 1e9, alone = 1e9;
     for (int i = 0; i < 5; ++i) {
-        shown = qMin(run(firstWindow), shown);
-        alone = qMin(run("--no-window"), alone);
+        shown = qMin(printedBy(program, {QLatin1String(firstWindow)}), shown);
+        alone = qMin(printedBy(program, {QStringLiteral("--no-window")}), alone);
     }
     report.line("from start to first window", 3, shown, alone);
 }
@@ -233,19 +228,29 @@ int main(int argc, char **argv)
     KWFilePathManager::setConfigRoot(configuration.path());
     texts::fillLibraryTables();
     if (argc > 1) {
-        // The program as it begins, and an application that shows nothing beside it.
-        if (QLatin1String(argv[1]) == QLatin1String(firstWindow)) {
+        // The program as it begins, an application that shows nothing beside it, and what both keep of a
+        // plan.
+        const QLatin1String what(argv[1]);
+        KWDocument document;
+        if (what == QLatin1String(onlyDocument)) {
+            document.loadFromKWGT(QString::fromLocal8Bit(argv[2]));
+            settling::settle(document, {settling::AsItStands, {}, {}});
+        } else if (what != QLatin1String("--no-window")) {
             auto *window = new MainWindow;
+            window->resize(1200, 900);
             window->show();
+            if (what == QLatin1String(inWindow))
+                window->openFile(QString::fromLocal8Bit(argv[2]));
             QApplication::processEvents();
         }
-        std::printf("%.6f\n", processorSeconds());
+        std::printf("%.6f\n", argc > 2 ? megabytesNow() : processorSeconds());
         std::fflush(stdout);
         _exit(0);
     }
     Report report;
-    measureStart(report, QString::fromLocal8Bit(argv[0]));
+    const QString program = QString::fromLocal8Bit(argv[0]);
+    measureStart(report, program);
     for (const int tasks : {1000, 10000, 100000})
-        measure(report, tasks);
+        measure(report, program, tasks);
     return 0;
 }
