@@ -6,6 +6,7 @@
 #include "support/kwclock.h"
 #include "views/reasonspanel.h"
 #include <QDir>
+#include <QSplitter>
 #include <gtest/gtest.h>
 
 TEST(Window, DISABLED_pictures)
@@ -20,12 +21,14 @@ TEST(Window, DISABLED_pictures)
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
     Hands hands;
     MainWindow &window = *hands.window;
+    window.findChild<QSplitter *>()->setSizes({620, 380});
     picture(window, "first");
     ASSERT_TRUE(window.openFile(demo.filePath(QStringLiteral("pump.csv"))));
     window.reasons()->explainNow();
     picture(window, "pump");
     const QPointF bar = window.chart()->barRect(hands.id(2)).center();
     hands.drag(bar, bar + QPointF(2 * window.chart()->pixelsOfDay(), 1), false);
+    window.reasons()->explainNow();
     picture(window, "drag");
     hands.mouse(QEvent::MouseButtonRelease, bar + QPointF(2 * window.chart()->pixelsOfDay(), 1));
     picture(window, "dragged");
