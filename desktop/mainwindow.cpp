@@ -53,6 +53,7 @@ MainWindow::MainWindow(QWidget *parent)
     setAcceptDrops(true);
     m_ask = [this](const QString &text, const QString &more, QMessageBox::StandardButtons buttons) {
         QMessageBox box(QMessageBox::Question, tr("kwgantt"), text, buttons, this);
+        box.setTextFormat(Qt::PlainText); // names of files are no markup
         box.setInformativeText(more);
         return QMessageBox::StandardButton(box.exec());
     };
@@ -166,6 +167,7 @@ void MainWindow::makeLayout()
     addDockWidget(Qt::BottomDockWidgetArea, m_findings);
     addDockWidget(Qt::BottomDockWidgetArea, m_baseline);
     statusBar()->addWidget(m_status, 1);
+    m_status->setTextFormat(Qt::PlainText);
     m_status->setAccessibleName(tr("State of the plan"));
     m_chart->setKeyReceiver(m_table);
     // One bar for both.

@@ -127,6 +127,7 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
     connect(m_month, &QCalendarWidget::currentPageChanged, this, &CalendarDialog::showMonth);
 
     m_complaint->setWordWrap(true);
+    m_complaint->setTextFormat(Qt::PlainText);
     m_complaint->setStyleSheet(QStringLiteral("color:#b3541e"));
     m_complaint->hide();
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

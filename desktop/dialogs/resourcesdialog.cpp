@@ -31,6 +31,7 @@ ResourcesDialog::ResourcesDialog(Session &session, QWidget *parent)
     m_sheet->verticalHeader()->hide();
     m_sheet->setColumnWidth(Name, 180);
     m_sheet->setAccessibleName(windowTitle());
+    m_complaint->setTextFormat(Qt::PlainText);
     m_complaint->setStyleSheet(QStringLiteral("color:#b3541e"));
     auto *add = new QPushButton(tr("&Add"));
     auto *remove = new QPushButton(tr("&Remove"));

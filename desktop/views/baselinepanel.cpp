@@ -2,6 +2,7 @@
 #include "baseline.h"
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
+#include "quoted.h"
 #include "shown.h"
 #include <QAbstractTableModel>
 #include <QHeaderView>
@@ -79,7 +80,7 @@ public:
         case Number:
             return row.pos + 1;
         case Name:
-            return task->Name.simplified();
+            return shortened(task->Name);
         case PlannedFinish:
             return shown::endOf(plan, task->BaseFinish).text();
         case Finish:

@@ -89,12 +89,16 @@ void CellDelegate::complain(QLineEdit *editor, const QString &what, const QStrin
     m_bubble->setObjectName(QStringLiteral("complaint"));
     connect(m_bubble, &QObject::destroyed, this, [this] { m_bubble = nullptr; });
     m_bubble->setTextFormat(Qt::PlainText);
-    m_bubble->setText(hint.isEmpty() ? what : what + QLatin1Char('\n') + hint);
+    constexpr int longest = 300; // of what was typed or pasted
+    const QString said = what.size() <= longest ? what : what.left(longest - 1) + QStringLiteral("…");
+    m_bubble->setText(hint.isEmpty() ? said : said + QLatin1Char('\n') + hint);
     m_bubble->setStyleSheet(QStringLiteral(
         "background:#fff4e5; color:#7a2e00; border:1px solid #c4601d; border-radius:3px; padding:3px 6px"));
-    m_bubble->adjustSize();
     const QRect cell = editor->geometry();
     const QRect room = editor->parentWidget()->rect();
+    m_bubble->setWordWrap(m_bubble->sizeHint().width() > room.width() - 4);
+    m_bubble->setMaximumWidth(qMax(80, room.width() - 4));
+    m_bubble->adjustSize();
     int y = cell.bottom() + 2;
     if (y + m_bubble->height() > room.bottom())
         y = cell.top() - m_bubble->height() - 2;

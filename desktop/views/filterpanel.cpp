@@ -1,6 +1,7 @@
 #include "views/filterpanel.h"
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
+#include "quoted.h"
 #include <QAbstractListModel>
 #include <QCheckBox>
 #include <QComboBox>
@@ -46,7 +47,8 @@ public:
         if (!task || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
             return QVariant();
         const QString remark = taskfilter::remark(document, *task, m_filter);
-        const QString name = QStringLiteral("%1  %2").arg(document.getPosByID(task->ID) + 1).arg(task->Name);
+        const QString name =
+            QStringLiteral("%1  %2").arg(document.getPosByID(task->ID) + 1).arg(shortened(task->Name));
         return remark.isEmpty() ? name : name + QStringLiteral("   ") + remark;
     }
 

@@ -41,7 +41,8 @@ void NoteBar::say(const QString &text, Kind kind, const QString &button, const s
                   const QString &secondButton, const std::function<void()> &secondAction)
 {
     m_kind = kind;
-    m_text->setText(text);
+    constexpr int longest = 1000; // names of a file may be of any length
+    m_text->setText(text.size() <= longest ? text : text.left(longest - 1) + QStringLiteral("…"));
     m_first->setText(button);
     m_first->setVisible(!button.isEmpty());
     m_second->setText(secondButton);

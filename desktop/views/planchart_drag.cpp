@@ -2,6 +2,7 @@
 #include "datetext.h"
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
+#include "quoted.h"
 #include "views/chartsizes.h"
 #include "views/planchart.h"
 #include "views/planmodel.h"
@@ -138,7 +139,7 @@ void PlanChart::tryMove(quint32 start)
     const EditAnswer answer =
         m_session.tryOut(tr("Move task"), [&](PlanEdits &edits) { return edits.set({m_drag.task}, values); });
     const KWTaskInfo *moved = task(m_drag.task);
-    taken(tr("Moved “%1” to %2").arg(moved->Name, spanText(moved->Start, moved->Finish)), answer);
+    taken(tr("Moved “%1” to %2").arg(shortened(moved->Name), spanText(moved->Start, moved->Finish)), answer);
 }
 
 void PlanChart::tryStretch(quint32 finish)
@@ -154,7 +155,7 @@ void PlanChart::tryStretch(quint32 finish)
         tr("Change duration"), [&](PlanEdits &edits) { return edits.set({m_drag.task}, values); });
     const KWTaskInfo *stretched = task(m_drag.task);
     taken(tr("“%1” lasts %2 now, %3")
-              .arg(stretched->Name,
+              .arg(shortened(stretched->Name),
                    datetext::durationText(KWTaskInfo::getDurValueByTaskInfo(&m_session.document(), stretched),
                                           stretched->DurationUnits),
                    spanText(stretched->Start, stretched->Finish)),
@@ -170,7 +171,8 @@ void PlanChart::tryPercent(double percent)
     values.percent = percent;
     const EditAnswer answer = m_session.tryOut(
         tr("Change progress"), [&](PlanEdits &edits) { return edits.set({m_drag.task}, values); });
-    taken(tr("“%1” is %2% done").arg(task(m_drag.task)->Name).arg(std::lround(percent * 100)), answer);
+    taken(tr("“%1” is %2% done").arg(shortened(task(m_drag.task)->Name)).arg(std::lround(percent * 100)),
+          answer);
 }
 
 void PlanChart::tryLink(const QPointF &point)
@@ -183,13 +185,16 @@ void PlanChart::tryLink(const QPointF &point)
     m_drag.tried = target;
     if (target == 0) {
         m_session.dropTrial();
-        taken(tr("Draw to the task that is to wait for “%1”").arg(task(m_drag.task)->Name), EditAnswer());
+        taken(tr("Draw to the task that is to wait for “%1”").arg(shortened(task(m_drag.task)->Name)),
+              EditAnswer());
         return;
     }
     const EditAnswer answer = m_session.tryOut(tr("Link tasks"), [&](PlanEdits &edits) {
         return edits.link({m_drag.task, target});
     });
-    taken(tr("“%1” waits for “%2” now").arg(task(target)->Name, task(m_drag.task)->Name), answer);
+    taken(
+        tr("“%1” waits for “%2” now").arg(shortened(task(target)->Name), shortened(task(m_drag.task)->Name)),
+        answer);
 }
 
 void PlanChart::taken(const QString &what, const EditAnswer &answer)
@@ -227,7 +232,7 @@ QString PlanChart::consequences(const EditAnswer &answer) const
             continue;
         constexpr int mostNamed = 2;
         if (++pushed <= mostNamed && task(move.task))
-            names.append(QStringLiteral("“%1”").arg(task(move.task)->Name));
+            names.append(quoted(task(move.task)->Name));
     }
     if (pushed == 0)
         return QString();

@@ -2,6 +2,7 @@
 #include "datetext.h"
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
+#include "quoted.h"
 #include "views/chartsizes.h"
 #include "views/planchart.h"
 #include "views/planmodel.h"
@@ -124,7 +125,7 @@ bool PlanChart::viewportEvent(QEvent *event)
     }
     const QString length = datetext::durationText(
         KWTaskInfo::getDurValueByTaskInfo(&m_session.document(), shown), shown->DurationUnits);
-    QStringList lines{shown->Name.toHtmlEscaped(),
+    QStringList lines{shortened(shown->Name).toHtmlEscaped(),
                       spanText(shown->Start, shown->Finish) + QStringLiteral(" · ") + length};
     if (shown->Percent > 0)
         lines.append(tr("%1% done").arg(qRound(shown->Percent * 100)));
@@ -132,7 +133,7 @@ bool PlanChart::viewportEvent(QEvent *event)
         lines.append(shown->CriticalPath ? tr("critical: a delay moves the finish of the project")
                                          : tr("slack: %1").arg(shown->LateSlack));
     if (!shown->Resources.isEmpty())
-        lines.append(shown->Resources.toHtmlEscaped());
+        lines.append(shortened(shown->Resources).toHtmlEscaped());
     QToolTip::showText(
         help->globalPos(),
         QStringLiteral("<p style='white-space:pre'>%1</p>").arg(lines.join(QLatin1String("<br>"))),

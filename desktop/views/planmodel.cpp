@@ -3,6 +3,7 @@
 #include "model/kwtaskinfo.h"
 #include "table/rowcolumndata.h"
 #include "texts.h"
+#include <QTextDocument>
 #include <algorithm>
 
 PlanModel::PlanModel(Session &session, QObject *parent)
@@ -213,9 +214,12 @@ QVariant PlanModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::EditRole:
         return task ? cellinput::text(m_session, *task, typeOf(index.column())) : QString();
+    case Qt::ToolTipRole: {
+        constexpr int longestTip = 600;
+        return task ? Qt::convertFromPlainText(cell(index).text.left(longestTip)) : QString();
+    }
     case Qt::DisplayRole:
     case Qt::AccessibleTextRole:
-    case Qt::ToolTipRole:
         if (task)
             return cell(index).text;
         return role == Qt::AccessibleTextRole ? QVariant(tr("New task")) : QVariant();

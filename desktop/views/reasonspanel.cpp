@@ -15,6 +15,13 @@ constexpr int waitMilliseconds = 120;
 QString withJumps(const Plan &plan, const QString &line)
 {
     static const QRegularExpression form(QStringLiteral("\\b(\\d+) \"([^\"]*)"));
+    // A link with its number, and what stands between links, as long as can be read.
+    constexpr int longestLink = 120, longestText = 600;
+    const auto cut = [&line](int begin, int end, int longest) {
+        return (end - begin <= longest ? line.mid(begin, end - begin)
+                                       : line.mid(begin, longest - 1) + QStringLiteral("…"))
+            .toHtmlEscaped();
+    };
     QString html;
     int at = 0;
     for (auto matches = form.globalMatch(line); matches.hasNext();) {
@@ -24,13 +31,13 @@ QString withJumps(const Plan &plan, const QString &line)
             !plan.task(pos)->Name.trimmed().startsWith(match.captured(2)))
             continue;
         const int end = match.capturedStart(2) + plan.task(pos)->Name.trimmed().size() + 1;
-        html += line.mid(at, match.capturedStart() - at).toHtmlEscaped();
+        html += cut(at, match.capturedStart(), longestText);
         html += QStringLiteral("<a href=\"task:%1\">%2</a>")
                     .arg(plan.task(pos)->ID.value())
-                    .arg(line.mid(match.capturedStart(), end - match.capturedStart()).toHtmlEscaped());
+                    .arg(cut(match.capturedStart(), end, longestLink));
         at = end;
     }
-    return html + line.mid(at).toHtmlEscaped();
+    return html + cut(at, line.size(), longestText);
 }
 }
 

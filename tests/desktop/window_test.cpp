@@ -34,6 +34,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QDialog>
+#include <QDirIterator>
 #include <QMenu>
 #include <QMimeData>
 #include <QPrinter>
@@ -466,6 +467,66 @@ TEST(Window, whatAKilledProgramHadOpenIsOffered)
     EXPECT_TRUE(hands.window->session().isModified());
     EXPECT_EQ(hands.window->session().path(), path);
     EXPECT_TRUE(recovery::abandoned().isEmpty());
+}
+
+// Foreign and damaged files, each opened, looked at from all sides, edited and taken back. KW_DESKTOP_FILES
+// names another folder of them.
+TEST(Window, whateverIsOpenedCanBeLookedAt)
+{
+    const QString given = qEnvironmentVariable("KW_DESKTOP_FILES");
+    const QString corpus = QString::fromUtf8(qgetenv("KW_TEST_DATA")) + QLatin1String("/../../fuzz/corpus");
+    Hands hands;
+    MainWindow &window = *hands.window;
+    hands.answer = QMessageBox::Discard;
+    window.filterPanel()->show();
+    window.baselinePanel()->show();
+    int opened = 0, refused = 0;
+    for (QDirIterator files(given.isEmpty() ? corpus : given, QDir::Files, QDirIterator::Subdirectories);
+         files.hasNext();) {
+        const std::string path = files.next().toStdString();
+        SCOPED_TRACE(path);
+        if (!given.isEmpty())
+            std::fprintf(stderr, "%s\n", path.c_str());
+        const std::string before = outlineOf(hands.document());
+        if (!window.openFile(files.filePath())) {
+            ++refused;
+            EXPECT_TRUE(window.note()->isRefusal());
+            EXPECT_EQ(outlineOf(hands.document()), before);
+            continue;
+        }
+        ++opened;
+        PlanChart &chart = *window.chart();
+        window.filterPanel()->filterNow();
+        window.baselinePanel()->compareNow();
+        window.reasons()->explainNow();
+        for (const double factor : {1.0, 1e-3, 1e6}) {
+            chart.zoomAtCentre(factor);
+            chart.verticalScrollBar()->setValue(chart.verticalScrollBar()->maximum());
+            window.grab();
+        }
+        window.action("hide-others")->trigger();
+        chart.fit();
+        window.grab();
+        window.action("hide-others")->trigger();
+        const std::string whole = outlineOf(hands.document());
+        hands.go(0, name);
+        window.insertBelow();
+        hands.type(QStringLiteral("New"));
+        hands.key(Qt::Key_Return);
+        window.selectAll();
+        window.indent();
+        window.schedule();
+        while (hands.steps() > 0)
+            window.undo();
+        EXPECT_EQ(outlineOf(hands.document()), whole);
+        hands.document().setModified(false);
+    }
+    if (given.isEmpty()) {
+        EXPECT_GT(opened, 0);
+        EXPECT_GT(refused, 0);
+    } else {
+        std::fprintf(stderr, "%d opened, %d refused\n", opened, refused);
+    }
 }
 
 TEST(Window, aSaveThatFailsLeavesTheFileAndSaysSo)
