@@ -384,14 +384,22 @@ private:
 };
 
 // Null where the file has to be packed piece by piece. `room` is how many packed bytes may still be held in
-// memory.
+// memory. A large file is not read but mapped: it was just written, and nobody else writes to what is being
+// packed.
 zip_source_t *packedFile(zip_t *archive, const QString &path, qint64 &room)
 {
     QFile file(path);
     if (room <= 0 || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) ||
         file.size() > kwzip::maxPackedAtOnce)
         return nullptr;
-    const QByteArray bytes = file.readAll();
+    QByteArray bytes;
+    if (file.size() > kwzip::maxPackedBytesHeld) {
+        const auto size = int(file.size());
+        if (const uchar *const mapped = file.map(0, size))
+            bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(mapped), size);
+    } else {
+        bytes = file.readAll();
+    }
     if (file.error() != QFileDevice::NoError)
         return nullptr;
     const std::optional<kwzip::Packed> packed = kwzip::packWhole(bytes);
@@ -432,7 +440,7 @@ bool write(const QString &path, const QVector<Source> &sources, zip_int32_t meth
     Archive archive = openArchive(path, ZIP_CREATE | ZIP_TRUNCATE);
     if (!archive)
         return false;
-    qint64 room = kwzip::maxPackedAtOnce;
+    qint64 room = kwzip::maxPackedBytesHeld;
     for (const Source &source : sources) {
         if (!addTo(archive.get(), source, method, room))
             return fail(source.name, QString::fromUtf8(zip_strerror(archive.get())));

@@ -8,9 +8,10 @@
 // way.
 namespace kwzip {
 
-// Larger entries are not held in memory as a whole: packing is at work beside the document, unpacking before
-// there is one.
-constexpr qint64 maxPackedAtOnce = 16LL << 20;
+// Larger entries are packed and unpacked piece by piece. Of what is packed only the packed bytes are held in
+// memory, and of these no more than the other limit: packing is at work beside the document.
+constexpr qint64 maxPackedAtOnce = 128LL << 20;
+constexpr qint64 maxPackedBytesHeld = 16LL << 20;
 constexpr qint64 maxUnpackedAtOnce = 128LL << 20;
 
 struct Packed

@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QTimeZone>
 #include <QUuid>
+#include <QtEndian>
+#include <cstring>
 
 namespace kwpxfile {
 
@@ -92,18 +94,72 @@ void nameZone(Console &console, KWDocument &document, Findings &findings)
 
 namespace {
 
-// What QUuid::createUuidV5 makes of the null ID and the plan as CSV, of which only a piece is there at a
-// time.
+// Numbers and texts one after the other, in the same bytes on every machine.
+class Facts
+{
+public:
+    Facts() { m_bytes.reserve(2 * pieceBytes); }
+    void add(quint32 number)
+    {
+        const quint32 bytes = qToLittleEndian(number);
+        m_bytes.append(reinterpret_cast<const char *>(&bytes), sizeof(bytes));
+    }
+    void add(double number)
+    {
+        quint64 bits = 0;
+        std::memcpy(&bits, &number, sizeof(bits));
+        add(quint32(bits));
+        add(quint32(bits >> 32));
+    }
+    void add(const QString &text)
+    {
+        add(quint32(text.size()));
+        for (const QChar sign : text) {
+            const quint16 unit = qToLittleEndian(sign.unicode());
+            m_bytes.append(reinterpret_cast<const char *>(&unit), sizeof(unit));
+        }
+        if (m_bytes.size() > pieceBytes)
+            flush();
+    }
+    QByteArray digest()
+    {
+        flush();
+        return m_hash.result();
+    }
+
+private:
+    static constexpr int pieceBytes = 64 << 10;
+
+    void flush()
+    {
+        m_hash.addData(m_bytes);
+        m_bytes.resize(0);
+    }
+
+    QCryptographicHash m_hash{QCryptographicHash::Sha1};
+    QByteArray m_bytes;
+};
+
+// The same for the same plan: a UUID of its tasks.
 QString idOf(const Plan &plan)
 {
-    QCryptographicHash hash(QCryptographicHash::Sha1);
-    hash.addData(QUuid().toRfc4122());
-    machine::writeCsv(plan, [&hash](const QByteArray &piece) {
-        hash.addData(piece);
-        return true;
-    });
+    Facts facts;
+    facts.add(plan.start);
+    for (int pos = 0; pos < plan.taskCount(); ++pos) {
+        const KWTaskInfo &task = *plan.task(pos);
+        for (const quint32 number :
+             {quint32(task.ID), task.ParentID, quint32(task.Level), task.Start, task.Finish,
+              quint32(task.DurationUnits), quint32(task.Milestone), quint32(task.CriticalPath),
+              task.LateStart, task.LateFinish, quint32(task.Predecessors.size())})
+            facts.add(number);
+        for (const quint32 id : task.Predecessors)
+            facts.add(id);
+        facts.add(task.Percent);
+        for (const QString &text : {task.Name, task.Resources, task.Notes})
+            facts.add(text);
+    }
     constexpr int idBytes = 16;
-    QByteArray bytes = hash.result().left(idBytes);
+    QByteArray bytes = facts.digest().left(idBytes);
     bytes[6] = char((bytes.at(6) & 0x0F) | 0x50); // version 5
     bytes[8] = char((bytes.at(8) & 0x3F) | 0x80); // the usual variant
     return QUuid::fromRfc4122(bytes).toString();

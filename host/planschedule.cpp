@@ -78,7 +78,7 @@ void schedule(Plan &plan, Beginning beginning, const Plan::Progress &progress)
 {
     KWDocument &document = *plan.document;
     const CalendarHold hold(document);
-    settling::settle(document, {settling::AsItStands, {}, {}});
+    settling::settle(document, {settling::AsItStands | settling::SumsAlone, {}, {}});
     MoveWatch watch(plan);
 
     if (progress)

@@ -137,7 +137,7 @@ public:
         if (!(m_what & AsItStands))
             sumMoney();
         sumBaselines();
-        if (!goesOn(Summed))
+        if (!goesOn(Summed) || (m_what & SumsAlone))
             return {};
         if (m_what & movesTasks)
             findLateDates();

@@ -26,7 +26,9 @@ enum What : unsigned {
     Everything = 256, // whatever it was: all tasks, whichever are named
     // Nothing: the plan was read. Dates and percents of summaries, late dates and the chart follow from the
     // tasks as they stand; nothing is pushed, money stays as it was read, and so does the modified flag.
-    AsItStands = 512
+    AsItStands = 512,
+    // With AsItStands: no late dates and no chart, for whoever is going to settle everything.
+    SumsAlone = 1024
 };
 
 struct Changes

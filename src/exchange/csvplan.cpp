@@ -277,6 +277,13 @@ QHash<quint32, QString> outlineCodes(const KWDocument &document)
         int number = 0;
         QString prefix; // the codes above, with a point behind each
     };
+    const auto numbered = [](const QString &prefix, int number) {
+        char digits[std::numeric_limits<int>::digits10 + 2];
+        const char *const end = std::to_chars(digits, std::end(digits), number).ptr;
+        QString code;
+        code.reserve(prefix.size() + int(end - digits));
+        return code.append(prefix).append(QLatin1String(digits, int(end - digits)));
+    };
     std::vector<Level> levels;
     for (const KWTaskInfo *task : document.taskList()) {
         const std::size_t depth = std::size_t(qBound(1, task->Level, deepestCode));
@@ -284,13 +291,12 @@ QHash<quint32, QString> outlineCodes(const KWDocument &document)
             const bool isTop = levels.empty();
             Level level;
             if (!isTop)
-                level.prefix =
-                    levels.back().prefix + QString::number(levels.back().number) + QLatin1Char('.');
+                level.prefix = numbered(levels.back().prefix, levels.back().number) + QLatin1Char('.');
             levels.push_back(std::move(level));
         }
         levels.resize(depth);
         ++levels.back().number;
-        codes.insert(task->ID, levels.back().prefix + QString::number(levels.back().number));
+        codes.insert(task->ID, numbered(levels.back().prefix, levels.back().number));
     }
     return codes;
 }
