@@ -506,7 +506,7 @@ void TaskAction::addConcerned(const Backups &backups, const Backups &current, Ta
     }
 }
 
-void TaskAction::restore(const Backups &backups, const Backups &current)
+void TaskAction::restore(Backups &backups, const Backups &current)
 {
     KWDocument &document = *this->document();
     if (backups.chart)

@@ -77,7 +77,7 @@ private:
     enum class For { SwappingBack, Restoring }; // restoring alone asks for less
     Backups now(For purpose) const;
     void addSingleTasks(Backups &current, For purpose) const;
-    void restore(const Backups &backups, const Backups &current);
+    void restore(Backups &backups, const Backups &current);
     template <typename Tasks>
     static void addConcerned(const Backups &backups, const Backups &current, Tasks &tasks);
     void restoreSheet(const Backups &backups, const Backups &current, bool withAssignments);

@@ -201,18 +201,18 @@ void append(const KWTaskInfo &task, double rowHeight, Block &block)
         block.doubles.push_back(rowHeight);
 }
 
-// Where the next values of a block stand, of each kind.
+// Where the next values of a block stand, of each kind. Of a block that may change the texts are taken.
 template <typename Block>
 class Reader
 {
 public:
-    explicit Reader(const Block &block)
+    explicit Reader(Block &block)
         : m_block(block)
     {
     }
 
     template <typename Value>
-    const auto &next()
+    auto &next()
     {
         std::size_t &place = sequenceOf<Value>(m_places);
         return sequenceOf<Value>(m_block)[place++];
@@ -225,11 +225,13 @@ public:
             if (!(m_block.fields & bit))
                 return;
             using Value = std::decay_t<decltype(fields::plain(task.*member))>;
-            const auto &value = next<Value>();
+            auto &value = next<Value>();
             if constexpr (std::is_same_v<Value, KWHyperlinkSheet>)
                 (task.*member).assign(value);
             else if constexpr (std::is_same_v<std::decay_t<decltype(value)>, quint32>)
                 task.*member = static_cast<Value>(value);
+            else if constexpr (std::is_same_v<decltype(value), QString &>)
+                task.*member = std::move(value);
             else
                 task.*member = value;
         });
@@ -241,7 +243,7 @@ private:
     {
         std::size_t integers = 0, doubles = 0, texts = 0, lists = 0, fonts = 0, hyperlinks = 0;
     };
-    const Block &m_block;
+    Block &m_block;
     Places m_places;
 };
 
@@ -402,7 +404,7 @@ TaskBackups TaskBackups::now(const KWDocument &document) const
         made.doubles.reserve(block->doubles.size());
         made.texts.reserve(block->texts.size());
         KWTaskInfo held; // what is held of a task that is not there
-        Reader<Block> reader(*block);
+        Reader<const Block> reader(*block);
         for (const quint32 id : block->ids) {
             const double *height = reader.read(held);
             const KWTaskInfo *task = document.getTaskInfoByID(id);
@@ -417,7 +419,7 @@ TaskBackups TaskBackups::now(const KWDocument &document) const
     return current;
 }
 
-void TaskBackups::restore(KWDocument &document) const
+void TaskBackups::restore(KWDocument &document)
 {
     for (const Whole &whole : m_whole) {
         if (KWTaskInfo *task = document.getTaskInfoByID(whole.task.ID)) {
@@ -427,7 +429,7 @@ void TaskBackups::restore(KWDocument &document) const
     }
     for (const std::unique_ptr<Block> &block : m_blocks) {
         KWTaskInfo nobody;
-        Reader<Block> reader(*block);
+        Reader<Block> reader(*block); // takes the texts
         for (const quint32 id : block->ids) {
             KWTaskInfo *task = document.getTaskInfoByID(id);
             const double *height = reader.read(task ? *task : nobody);

@@ -52,7 +52,8 @@ public:
     void keepChanges(const KWDocument &document, Bars bars);
     // The document's values, of all that is held here.
     TaskBackups now(const KWDocument &document) const;
-    void restore(KWDocument &document) const;
+    // Texts are taken out of here: afterwards nothing can be brought back from it.
+    void restore(KWDocument &document);
 
 private:
     struct Whole

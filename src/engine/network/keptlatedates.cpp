@@ -23,6 +23,11 @@ bool hasBegun(const TaskRecord &task)
     return task.Percent != 0;
 }
 
+bool isDated(const Early &early)
+{
+    return early.start != 0 && early.finish != 0;
+}
+
 // Shares the texts where they only read the same, so that one look tells it the next time.
 bool areIn(const TaskRecord &task, Values &values)
 {
@@ -56,11 +61,11 @@ bool Kept::findChanges(const outline::Tasks &tasks)
                 return false;
             known.links = task.Depends;
         }
-        if (task.Start != known.start || task.Finish != known.finish) {
-            if (rollup::isDated(task) != (known.start != 0 && known.finish != 0))
+        if (task.Start != known.early.start || task.Finish != known.early.finish) {
+            if (rollup::isDated(task) != isDated(known.early))
                 return false;
             m_changedDates.push_back(pos);
-        } else if (hasBegun(task) != known.hasBegun || !areIn(task, known.values)) {
+        } else if (hasBegun(task) != known.early.hasBegun || !areIn(task, known.values)) {
             m_changedValues.push_back(pos);
         }
         if (!rollup::isDated(task))
@@ -123,8 +128,9 @@ void Kept::beginAnew(const outline::Tasks &tasks)
         const TaskRecord &task = *tasks.list[int(pos)];
         int &old = oldPos[pos] = oldPlaces.posOf(task.ID);
         Known *before = old < 0 ? nullptr : &oldKnown[std::size_t(old)];
-        const bool hasDates = before && before->start == task.Start && before->finish == task.Finish;
-        if (hasDates && before->hasBegun == hasBegun(task) && areIn(task, before->values)) {
+        const bool hasDates =
+            before && before->early.start == task.Start && before->early.finish == task.Finish;
+        if (hasDates && before->early.hasBegun == hasBegun(task) && areIn(task, before->values)) {
             m_known.push_back(std::move(*before)); // the numbers of it stay, and so does the ID
         } else {
             m_known.emplace_back();
@@ -135,8 +141,7 @@ void Kept::beginAnew(const outline::Tasks &tasks)
         known.parent = task.ParentID;
         if (!known.links.isSharedWith(task.Depends))
             known.links = task.Depends;
-        known.start = task.Start;
-        known.finish = task.Finish;
+        known.early = {task.Start, task.Finish, hasBegun(task)};
         if (task.ParentID != 0)
             m_parents[pos] = tasks.index.posOf(task.ParentID);
         if (!rollup::isDated(task))
@@ -262,8 +267,7 @@ Kept::Span Kept::update(const outline::Tasks &tasks, const worktime::WorkCalenda
     }
     for (const int pos : m_changedDates) {
         const TaskRecord &task = *tasks.list[pos];
-        m_known[pos].start = task.Start;
-        m_known[pos].finish = task.Finish;
+        m_known[pos].early = {task.Start, task.Finish, hasBegun(task)};
         addWork(pos);
         const quint32 length = rollup::isDated(task) ? m_late->length(task) : 0;
         if (length == m_lengths[pos])
@@ -271,8 +275,10 @@ Kept::Span Kept::update(const outline::Tasks &tasks, const worktime::WorkCalenda
         m_lengths[pos] = length;
         addTailsBefore(pos, true);
     }
-    for (const int pos : m_changedValues)
+    for (const int pos : m_changedValues) {
+        m_known[pos].early.hasBegun = hasBegun(*tasks.list[pos]);
         addWork(pos);
+    }
     followTails();
     if (m_projectFinish != m_span.finish) {
         for (int pos = 0; pos < tasks.list.size(); ++pos)
@@ -282,21 +288,11 @@ Kept::Span Kept::update(const outline::Tasks &tasks, const worktime::WorkCalenda
     m_late->setProjectFinish(m_span.finish);
 
     bool isSpread = isAnew;
-    const auto fetchToFill = [&](std::size_t i) {
-        if (i + tasksAhead >= m_toFill.size())
-            return;
-        const int ahead = m_toFill[i + tasksAhead];
-        fetchLateAhead(tasks.list, ahead);
-        __builtin_prefetch(&m_known[std::size_t(ahead)]);
-    };
-    for (std::size_t i = 0; i < m_toFill.size(); ++i) {
-        fetchToFill(i);
-        const int pos = m_toFill[i];
-        const TaskRecord &task = *tasks.list[pos];
+    for (const int pos : m_toFill) {
         Known &known = m_known[pos];
-        known.hasBegun = hasBegun(task);
         const bool wasCritical = known.values.isCritical;
-        known.values = rollup::isDated(task) ? m_late->values(task, m_lengths[pos], m_tails[pos]) : Values();
+        known.values =
+            isDated(known.early) ? m_late->values(known.early, m_lengths[pos], m_tails[pos]) : Values();
         isSpread = isSpread || known.values.isCritical != known.isOwnCritical;
         known.isOwnCritical = known.values.isCritical;
         known.values.isCritical = wasCritical; // with those below it, which may change yet
@@ -304,7 +300,8 @@ Kept::Span Kept::update(const outline::Tasks &tasks, const worktime::WorkCalenda
     if (isSpread)
         spread();
     for (std::size_t i = 0; i < m_toFill.size(); ++i) {
-        fetchToFill(i);
+        if (i + tasksAhead < m_toFill.size())
+            fetchLateAhead(tasks.list, m_toFill[i + tasksAhead]);
         const int pos = m_toFill[i];
         TaskRecord &task = *tasks.list[pos];
         Values &values = m_known[pos].values;

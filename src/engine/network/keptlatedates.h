@@ -34,10 +34,8 @@ private:
     {
         quint32 id = 0;
         quint32 parent = 0;
-        quint32 start = 0;
-        quint32 finish = 0;
+        Early early;
         QList<quint32> links; // shared with the task, so that mostly one look tells that they are the same
-        bool hasBegun = false;
         bool isOwnCritical = false; // without the tasks below it
         Values values;              // critical with these
     };

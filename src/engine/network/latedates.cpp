@@ -177,12 +177,16 @@ QString SlackTexts::text(double units)
 
 namespace {
 
-// From the late dates that are filled in already.
-void addSlack(const TaskRecord &task, SlackTexts &texts, Values &values)
+Early earlyOf(const TaskRecord &task)
 {
-    const bool begun = task.Percent != 0;
-    values.earlySlack = texts.text(begun ? 0.0 : texts.between(task.Start, values.lateStart));
-    const double units = texts.between(task.Finish, values.lateFinish);
+    return {task.Start, task.Finish, task.Percent != 0};
+}
+
+// From the late dates that are filled in already.
+void addSlack(const Early &early, SlackTexts &texts, Values &values)
+{
+    values.earlySlack = texts.text(early.hasBegun ? 0.0 : texts.between(early.start, values.lateStart));
+    const double units = texts.between(early.finish, values.lateFinish);
     values.lateSlack = texts.text(units);
     values.isCritical = units == 0.0;
 }
@@ -193,7 +197,7 @@ void writeSlack(TaskRecord &task, SlackTexts &texts)
     Values values;
     values.lateStart = task.LateStart;
     values.lateFinish = task.LateFinish;
-    addSlack(task, texts, values);
+    addSlack(earlyOf(task), texts, values);
     task.EarlySlack = values.earlySlack;
     task.LateSlack = values.lateSlack;
 }
@@ -229,23 +233,23 @@ void LateDates::setProjectFinish(quint32 projectFinish)
     m_projectFinish = projectFinish;
 }
 
-Values LateDates::values(const TaskRecord &task, quint32 lengthSecs, const Tail &tail)
+Values LateDates::values(const Early &early, quint32 lengthSecs, const Tail &tail)
 {
     Values values;
     if (tail.kind == Tail::Path) {
         values.lateStart = beforeFinish(tail.secs + lengthSecs);
         values.lateFinish = beforeFinish(tail.secs);
     } else {
-        values.lateStart = task.Finish == m_projectFinish ? task.Start : beforeFinish(lengthSecs);
+        values.lateStart = early.finish == m_projectFinish ? early.start : beforeFinish(lengthSecs);
         values.lateFinish = m_projectFinish;
     }
-    addSlack(task, m_slack, values);
+    addSlack(early, m_slack, values);
     return values;
 }
 
 void LateDates::apply(TaskRecord &task, quint32 lengthSecs, const Tail &tail)
 {
-    Values found = values(task, lengthSecs, tail);
+    Values found = values(earlyOf(task), lengthSecs, tail);
     task.LateStart = found.lateStart;
     task.LateFinish = found.lateFinish;
     task.EarlySlack = std::move(found.earlySlack);

@@ -86,6 +86,14 @@ private:
     Recent<QString> m_texts;
 };
 
+// What slack is measured from.
+struct Early
+{
+    quint32 start = 0;
+    quint32 finish = 0;
+    bool hasBegun = false;
+};
+
 // What a task takes from them.
 struct Values
 {
@@ -105,7 +113,7 @@ public:
 
     quint32 length(const TaskRecord &task) const; // seconds of work in the unit
     void apply(TaskRecord &task, quint32 lengthSecs, const Tail &tail);
-    Values values(const TaskRecord &task, quint32 lengthSecs, const Tail &tail);
+    Values values(const Early &early, quint32 lengthSecs, const Tail &tail);
     void setProjectFinish(quint32 projectFinish);
 
 private:

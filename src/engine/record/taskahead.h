@@ -18,15 +18,17 @@ void fetchTaskAhead(const Tasks &tasks, int pos)
     __builtin_prefetch(&task->CountWidth);
 }
 
-// The same for late dates: that, and the texts.
+// The same for what late dates are compared with: links, dates and texts.
 template <typename Tasks>
 void fetchLateAhead(const Tasks &tasks, int pos)
 {
     if (pos < 0 || pos >= int(tasks.size()))
         return;
-    fetchTaskAhead(tasks, pos);
-    __builtin_prefetch(&tasks[pos]->LateStart);
-    __builtin_prefetch(&tasks[pos]->LateSlack);
+    const TaskRecord *task = tasks[pos];
+    __builtin_prefetch(task);
+    __builtin_prefetch(&task->Depends);
+    __builtin_prefetch(&task->LateFinish);
+    __builtin_prefetch(&task->LateSlack);
 }
 
 // What a list or a text of a task that has arrived by now refers to.
