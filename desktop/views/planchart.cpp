@@ -205,6 +205,9 @@ void PlanChart::scrollTo(double left)
 // An edit may move the chart's beginning: the dates stay where they are on the screen.
 void PlanChart::followDocument()
 {
+    // What is dragged may be gone, or elsewhere: another edit ends a drag.
+    if (!m_isTrying && m_drag.kind != Drag::None && m_drag.kind != Drag::Pan)
+        leaveDrag();
     m_session.beginChartAt(m_anchor);
     const double left = m_anchor == 0 ? horizontalScrollBar()->value()
                                       : collectionOf(m_session).positionFromSecs(m_anchor) + m_anchorPixels;

@@ -125,6 +125,7 @@ private:
     double m_anchorPixels = 0;
     double m_exactPixels = 0; // of a day: small steps of the wheel add up
     bool m_isAdjusting = false;
+    bool m_isTrying = false; // the drag itself changes the plan
     bool m_isFitted = false; // until the user zooms, also when the window grows
     bool m_showsSheets = false;
     GanttPdfExport::SheetBorders m_sheets;

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <cmath>
 
@@ -91,6 +92,7 @@ quint32 PlanChart::snapped(quint32 secs, quint32 from) const
 
 void PlanChart::drag(const QPointF &point)
 {
+    const QScopedValueRollback<bool> trying(m_isTrying, true);
     const QRectF bar = barRect(m_drag.task);
     switch (m_drag.kind) {
     case Drag::Move:

@@ -261,6 +261,18 @@ TEST(Window, everyDragIsOneStepThatUndoTakesBackWhole)
         hands.key(Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(hands.saved(), before) << "undo of " << each.what;
         EXPECT_NEAR(chart.xOf(hands.task(1).Start), scrolled, 1.5) << "the dates stay where they are";
+
+        // The plan changes under the pointer: what is dragged may be gone.
+        way = each.way();
+        hands.drag(way.first, way.second, false);
+        hands.window->selectAll();
+        hands.window->removeTasks();
+        EXPECT_FALSE(chart.isDragging());
+        hands.mouse(QEvent::MouseMove, way.first);
+        hands.mouse(QEvent::MouseButtonRelease, way.first);
+        EXPECT_EQ(hands.steps(), steps + 1) << each.what;
+        hands.window->undo();
+        EXPECT_EQ(hands.saved(), before) << each.what;
     }
     // A ring is refused under the pointer, and again in the note.
     const std::string before = hands.saved();
@@ -463,9 +475,15 @@ TEST(Window, whatAKilledProgramHadOpenIsOffered)
     ASSERT_EQ(recovery::abandoned().size(), 1) << "that of the window that lives is not offered";
     hands.answer = QMessageBox::Open;
     hands.window->offerCopies();
-    EXPECT_EQ(hands.task(0).Name, QLatin1String("Unsaved"));
-    EXPECT_TRUE(hands.window->session().isModified());
-    EXPECT_EQ(hands.window->session().path(), path);
+    EXPECT_EQ(hands.task(1).Name, QLatin1String("Still alive")) << "it has changes of its own";
+    std::unique_ptr<MainWindow> other;
+    for (QWidget *widget : QApplication::topLevelWidgets())
+        if (auto *window = qobject_cast<MainWindow *>(widget); window && window != hands.window.get())
+            other.reset(window);
+    ASSERT_TRUE(other);
+    EXPECT_EQ(other->session().document().getTaskInfoAt(0)->Name, QLatin1String("Unsaved"));
+    EXPECT_TRUE(other->session().isModified());
+    EXPECT_EQ(other->session().path(), path);
     EXPECT_TRUE(recovery::abandoned().isEmpty());
 }
 
