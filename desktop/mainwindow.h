@@ -157,6 +157,7 @@ private:
     void foldEverything(bool isFolded);
     void hideOthers(); // as the filter's panel asks for
     void checkFile();
+    void openCopy(const recovery::Copy &copy);
     // Work that may last, watched and given up by the user.
     void watch(const QString &what, Busy::Plan plan, const std::function<void()> &work);
 

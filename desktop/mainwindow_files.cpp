@@ -66,16 +66,29 @@ void MainWindow::offerCopies()
             recovery::discard(copy);
         if (answer != QMessageBox::Open)
             continue;
-        QString error;
-        bool isOpen = false;
-        watch(tr("Opening %1…").arg(copy.name), Busy::Stays,
-              [&] { isOpen = m_session.openCopy(copy, error); });
-        if (!isOpen)
-            tellRefusal(error.isEmpty() ? tr("cancelled: the copy is kept") : error, QString());
-        else
-            m_note->say(tr("This is the copy. Saving it replaces the plan's own file."));
-        return;
+        // Another plan that is open stays in its window, and so does what was edited.
+        const QString &shown = m_session.source();
+        if (!m_session.isModified() && (shown.isEmpty() || shown == copy.original)) {
+            openCopy(copy);
+        } else {
+            auto *window = new MainWindow;
+            window->show();
+            window->openCopy(copy);
+        }
     }
+}
+
+void MainWindow::openCopy(const recovery::Copy &copy)
+{
+    QString error;
+    bool isOpen = false;
+    watch(tr("Opening %1…").arg(copy.name), Busy::Stays, [&] { isOpen = m_session.openCopy(copy, error); });
+    if (!isOpen)
+        tellRefusal(error.isEmpty() ? tr("cancelled: the copy is kept") : error, QString());
+    else
+        m_note->say(copy.original.isEmpty()
+                        ? tr("This is the copy of a plan that was never saved.")
+                        : tr("This is the copy. Saving it replaces the plan's own file."));
 }
 
 void MainWindow::newPlan()

@@ -5869,6 +5869,10 @@
         <translation>abgebrochen: die Kopie wird behalten</translation>
     </message>
     <message>
+        <source>This is the copy of a plan that was never saved.</source>
+        <translation>Dies ist die Kopie eines Plans, der nie gespeichert wurde.</translation>
+    </message>
+    <message>
         <source>This is the copy. Saving it replaces the plan's own file.</source>
         <translation>Das ist die Kopie. Speichern ersetzt die Datei des Plans.</translation>
     </message>

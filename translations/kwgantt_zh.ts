@@ -5869,6 +5869,10 @@
         <translation>已取消：副本保留</translation>
     </message>
     <message>
+        <source>This is the copy of a plan that was never saved.</source>
+        <translation>这是一份从未保存过的计划的副本。</translation>
+    </message>
+    <message>
         <source>This is the copy. Saving it replaces the plan's own file.</source>
         <translation>这是副本。保存会替换计划自身的文件。</translation>
     </message>
