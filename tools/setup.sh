@@ -46,12 +46,16 @@ need() {
     log=$(mktemp)
     say "Installing ${missing[*]}"
     # One source that does not answer need not be the one that has the packages, so the install is tried all the same.
-    "${apt[@]}" update >"$log" 2>&1 || sed -n 's/^[EW]: /apt: /p' "$log" >&2
-    if "${apt[@]}" install -y --no-install-recommends "${missing[@]}" 2>&1 | tee -a "$log" | apt_progress >&2; then
+    # What could not be fetched is a warning to apt, and the update a success.
+    "${apt[@]}" update >"$log" 2>&1 || true
+    reason=$(sed -n 's/^[EW]: //p' "$log" | head -1)
+    [ -z "$reason" ] || printf 'apt: %s\n' "$reason" >&2
+    if "${apt[@]}" install -y --no-install-recommends "${missing[@]}" 2>&1 | tee "$log" | apt_progress >&2; then
         rm -f "$log"
         return
     fi
-    reason=$(sed -n 's/^E: //p' "$log" | head -3)
+    # A package that is unknown now may stand in the list that could not be fetched, so both are told.
+    reason+=${reason:+$'\n'}$(sed -n 's/^E: //p' "$log" | head -3)
     rm -f "$log"
     die "the packages could not be installed: ${reason:-apt gave no reason}
 as root, run: apt-get update && $by_hand"
