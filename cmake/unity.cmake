@@ -9,8 +9,8 @@ function(kw_unity target)
     endif()
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "EXCEPT")
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
-    # Names at the top of one source are hidden by locals of another one.
-    target_compile_options(${target} PRIVATE -Wno-shadow)
+    # Names at the top of one source are hidden by locals of another one, and a source is a header to the joined one.
+    target_compile_options(${target} PRIVATE -Wno-shadow -Wno-subobject-linkage)
     get_target_property(sources ${target} SOURCES)
     foreach(folder IN LISTS arg_UNPARSED_ARGUMENTS)
         foreach(source IN LISTS sources)

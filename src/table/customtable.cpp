@@ -10,6 +10,7 @@
 #include "table/resourcetext.h"
 #include "table/rowcolumndata.h"
 #include <algorithm>
+#include <cmath>
 
 using columntypes::Kind;
 
