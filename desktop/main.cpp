@@ -34,20 +34,43 @@ bool hasScreen()
 
 int fail(Code code, const QString &what, const QString &hint)
 {
-    std::fprintf(stderr, "kwgantt-desktop: %s\n  hint: %s\n", qUtf8Printable(what), qUtf8Printable(hint));
+    std::fprintf(stderr, "kwgantt-desktop: %s\n  %s\n", qUtf8Printable(what),
+                 qUtf8Printable(t("hint: %1").arg(hint)));
     return code;
 }
+
+const QString zone = QStringLiteral("tz"), language = QStringLiteral("lang"), anew = QStringLiteral("new"),
+              keys = QStringLiteral("keys"), help = QStringLiteral("help"),
+              version = QStringLiteral("version");
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(t("Plans projects in working time."));
+    parser.addOptions({{zone, t("The time zone of the plan."), QStringLiteral("zone")},
+                       {language, t("The language of the program."), QStringLiteral("code")},
+                       {anew, t("Begins with an empty plan.")},
+                       {keys, t("Prints what each key does.")},
+                       {{QStringLiteral("h"), help}, t("Prints this.")},
+                       {version, t("Prints the version.")}});
+    parser.addPositionalArgument(QStringLiteral("file"), t("The plan to open."), QStringLiteral("[file]"));
+}
+
+// What Qt says in its help, for the catalogues.
+[[maybe_unused]] constexpr const char *ofQt[] = {QT_TRANSLATE_NOOP("QCommandLineParser", "Usage: %1"),
+                                                 QT_TRANSLATE_NOOP("QCommandLineParser", "[options]"),
+                                                 QT_TRANSLATE_NOOP("QCommandLineParser", "Options:"),
+                                                 QT_TRANSLATE_NOOP("QCommandLineParser", "Arguments:")};
 
 // The zone must stand before Qt looks at it.
 bool chooseZone(const QString &wanted)
 {
-    const QByteArray zone = wanted.isEmpty() ? qgetenv("TZ") : wanted.toUtf8();
-    if (!wanted.isEmpty() && !QTimeZone(zone).isValid())
+    const QByteArray chosen = wanted.isEmpty() ? qgetenv("TZ") : wanted.toUtf8();
+    if (!wanted.isEmpty() && !QTimeZone(chosen).isValid())
         return false;
     // Without the variable the C library looks at the machine's zone file again for every conversion.
     const QByteArray machineZone = QTimeZone::systemTimeZoneId();
-    if (!zone.isEmpty())
-        qputenv("TZ", zone);
+    if (!chosen.isEmpty())
+        qputenv("TZ", chosen);
     else if (QTimeZone(machineZone).isValid())
         qputenv("TZ", machineZone);
     tzset();
@@ -70,22 +93,22 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
         arguments.append(QString::fromUtf8(argv[i]));
+    QCommandLineParser asked;
+    describe(asked);
+    // Once for the language in which all else is said, what is wrong with the arguments included.
+    asked.parse(arguments);
+    const bool speaks = asked.value(language).isEmpty() || texts::choose(asked.value(language));
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Plans projects in working time."));
-    const QCommandLineOption zone(QStringLiteral("tz"), QStringLiteral("The time zone of the plan."),
-                                  QStringLiteral("zone"));
-    const QCommandLineOption language(QStringLiteral("lang"), QStringLiteral("The language of the program."),
-                                      QStringLiteral("code"));
-    const QCommandLineOption anew(QStringLiteral("new"), QStringLiteral("Begins with an empty plan."));
-    const QCommandLineOption keys(QStringLiteral("keys"), QStringLiteral("Prints what each key does."));
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Prints this."));
-    const QCommandLineOption version(QStringLiteral("version"), QStringLiteral("Prints the version."));
-    parser.addOptions({zone, language, anew, keys, help, version});
-    parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("The plan to open."),
-                                 QStringLiteral("[file]"));
+    describe(parser);
     if (!parser.parse(arguments))
-        return fail(WrongUse, parser.errorText(), QStringLiteral("kwgantt-desktop --help lists all options"));
+        return fail(WrongUse,
+                    parser.unknownOptionNames().isEmpty()
+                        ? parser.errorText()
+                        : t("unknown option '%1'").arg(parser.unknownOptionNames().first()),
+                    t("kwgantt-desktop --help lists all options"));
+    if (!speaks)
+        return fail(WrongUse, t("no texts in the language '%1'").arg(parser.value(language)),
+                    t("possible: %1").arg(texts::languages().join(QLatin1String(", "))));
     if (parser.isSet(help) || parser.isSet(version) || parser.isSet(keys)) {
         const QString text = parser.isSet(version) ? QStringLiteral("kwgantt-desktop " KWGANTT_VERSION "\n")
                              : parser.isSet(keys)  ? actiontable::asMarkdown()
@@ -93,6 +116,7 @@ int main(int argc, char **argv)
         if (parser.isSet(help)) {
             // The text of the help needs the program's name from an application.
             QCoreApplication application(argc, argv);
+            QCoreApplication::installTranslator(texts::translator());
             std::fputs(qUtf8Printable(parser.helpText()), stdout);
         } else {
             std::fputs(qUtf8Printable(text), stdout);
@@ -100,14 +124,10 @@ int main(int argc, char **argv)
         return Done;
     }
     if (!hasScreen())
-        return fail(MachineLacks, QStringLiteral("there is no screen here"),
-                    QStringLiteral("kwgantt works without one: kwgantt help"));
+        return fail(MachineLacks, t("there is no screen here"), t("kwgantt works without one: kwgantt help"));
     if (!chooseZone(parser.value(zone)))
-        return fail(MachineLacks, QStringLiteral("no time zone '%1' on this machine").arg(parser.value(zone)),
-                    QStringLiteral("names look like Europe/Berlin; the package tzdata brings them"));
-    if (!parser.value(language).isEmpty() && !texts::choose(parser.value(language)))
-        return fail(WrongUse, QStringLiteral("no texts in the language '%1'").arg(parser.value(language)),
-                    QStringLiteral("possible: %1").arg(texts::languages().join(QLatin1String(", "))));
+        return fail(MachineLacks, t("no time zone '%1' on this machine").arg(parser.value(zone)),
+                    t("names look like Europe/Berlin; the package tzdata brings them"));
 
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
