@@ -37,6 +37,7 @@ bool fail(const QString &what)
     return false;
 }
 
+// texts: "%1: %2"
 bool fail(const QByteArray &entryName, const QString &what)
 {
     return fail(kwzip::shownName(entryName) + QLatin1String(": ") + what);
@@ -69,10 +70,10 @@ Archive openArchive(const QString &path, int flags)
         zip_error_t error;
         zip_error_init_with_code(&error, code);
         if (isCut)
-            fail(text("the archive is cut off at byte ") + QString::number(file.size()) +
-                 text(": the list of its entries is missing"));
+            fail(text("the archive is cut off at byte %1: the list of its entries is missing")
+                     .arg(file.size()));
         else
-            fail(text("no archive: ") + QString::fromUtf8(zip_error_strerror(&error)));
+            fail(text("no archive: %1").arg(QString::fromUtf8(zip_error_strerror(&error))));
         zip_error_fini(&error);
     }
     return archive;
@@ -299,7 +300,7 @@ bool collect(const QString &folder, QVector<Source> &sources)
             break;
     }
     if (error)
-        return fail(text("a folder cannot be read: ") + QString::fromLocal8Bit(error.message().c_str()));
+        return fail(text("a folder cannot be read: %1").arg(QString::fromLocal8Bit(error.message().c_str())));
     if (sources.isEmpty())
         return fail(text("there is nothing to pack"));
     // The reader's rules, as far as they can be known before packing.

@@ -2,6 +2,7 @@
 #include "runinglog.h"
 #include "support/atomicfile.h"
 #include "support/kwlimits.h"
+#include "support/said.h"
 #include "support/xmlguard.h"
 #include <QDomDocument>
 #include <QFile>
@@ -23,7 +24,7 @@ bool XmlParser::loadFile(const QString &path, QDomDocument &document)
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return false;
     if (file.size() > xmlguard::maxDomBytes)
-        return refuse(path, QStringLiteral("too large"));
+        return refuse(path, KW_TEXT("too large"));
     const QByteArray bytes = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return refuse(path, file.errorString());

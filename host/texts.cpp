@@ -2,6 +2,9 @@
 #include "edits/editanswer.h"
 #include "exchange/XLSXDataBase.h"
 #include "exchange/exceltitles.h"
+#ifdef KW_WITH_EXPORT
+#include "export/exportoptions.h"
+#endif
 #include "model/kwdocument.h"
 #include "resources/resourceinfodata.h"
 #include "table/customtable.h"
@@ -94,6 +97,7 @@ public:
     {
         m_sentences.clear();
         m_patterns.clear();
+        m_libraryTexts.clear();
         if (language == QLatin1String(allLanguages[0]))
             return true;
         initCatalogues();
@@ -102,17 +106,23 @@ public:
             return false;
         QXmlStreamReader reader(&file);
         QByteArray source;
+        QString context;
         while (!reader.atEnd()) {
             if (reader.readNext() != QXmlStreamReader::StartElement)
                 continue;
-            if (reader.name() == QLatin1String("source")) {
+            if (reader.name() == QLatin1String("name")) {
+                context = reader.readElementText();
+            } else if (reader.name() == QLatin1String("source")) {
                 source = reader.readElementText().toUtf8();
             } else if (reader.name() == QLatin1String("translation")) {
                 // Unfinished ones, and those of texts that are gone, have a type.
                 const bool isFinished = !reader.attributes().hasAttribute(QLatin1String("type"));
                 const QString words = reader.readElementText();
-                if (isFinished && !words.isEmpty())
-                    m_sentences.insert(source, words);
+                if (!isFinished || words.isEmpty())
+                    continue;
+                m_sentences.insert(source, words);
+                if (context == QLatin1String("library") && source.contains('%'))
+                    m_libraryTexts.append(source);
             }
         }
         return !reader.hasError();
@@ -169,18 +179,15 @@ private:
     {
         if (!m_patterns.empty())
             return m_patterns;
-        for (const char *const *words = libraryWords; *words; ++words) {
-            const QString translation = sentence(*words);
-            const QString english = QString::fromUtf8(*words);
-            if (!translation.isEmpty() && english.contains(QLatin1Char('%')))
-                m_patterns.push_back(patternOf(english, translation));
-        }
+        for (const QByteArray &english : m_libraryTexts)
+            m_patterns.push_back(patternOf(QString::fromUtf8(english), m_sentences.value(english)));
         std::stable_sort(m_patterns.begin(), m_patterns.end(),
                          [](const Pattern &a, const Pattern &b) { return a.letters > b.letters; });
         return m_patterns;
     }
 
     QHash<QByteArray, QString> m_sentences; // by the English sentence
+    QList<QByteArray> m_libraryTexts;       // those of the library that have gaps
     mutable std::vector<Pattern> m_patterns;
 };
 
@@ -257,6 +264,10 @@ void fillLibraryTables()
     XLSXDataBase::s_xmlNameList = english.sheetNames;
     for (const QString &title : english.columnTitles)
         CustomTable::s_shownTitles.insert(title, t(title));
+#ifdef KW_WITH_EXPORT
+    for (const QString &text : KWExportOptions::allTexts())
+        KWExportOptions::s_shownTexts.insert(text, t(text));
+#endif
     for (QMap<EditRefusal, QString> *sentences : {&EditAnswer::s_sentences, &EditAnswer::s_hints})
         for (QString &sentence : *sentences)
             sentence = t(sentence);

@@ -28,9 +28,6 @@ struct EnglishTexts
 
 const EnglishTexts &englishTexts();
 
-// Every wording of the library's findings and refusals, %1 to %9 for what it puts into them. Ends with null.
-extern const char *const libraryWords[];
-
 namespace texts {
 
 // The language of "de", "zh_CN" or "en_GB.UTF-8". False when the program does not speak it; nothing changes
@@ -43,7 +40,7 @@ QStringList languages();
 // "de"
 QString chosen();
 // Fills the library's tables that a host has to fill: titles, which stand in files and are English in every
-// language, and what edits are refused for, in the chosen one. Once, before the first document.
+// language; what edits are refused for and pictures say, in the chosen one. Once, before the first document.
 void fillLibraryTables();
 // What the library said, which is English with its gaps filled, in the chosen language; unchanged when no
 // catalogue has it.

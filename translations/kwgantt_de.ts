@@ -244,10 +244,6 @@
         <translation>%1 Vorgang</translation>
     </message>
     <message>
-        <source>%1 tasks</source>
-        <translation>%1 Vorgänge</translation>
-    </message>
-    <message>
         <source>%1 task too early</source>
         <translation>%1 Vorgang zu früh</translation>
     </message>
@@ -298,14 +294,6 @@
     <message>
         <source>Late finish</source>
         <translation>Spät. Ende</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <translation>Nach</translation>
-    </message>
-    <message>
-        <source>Before</source>
-        <translation>Vor</translation>
     </message>
     <message>
         <source>Resources</source>
@@ -436,10 +424,6 @@
         <translation>Dauer</translation>
     </message>
     <message>
-        <source>done</source>
-        <translation>fertig</translation>
-    </message>
-    <message>
         <source>cost</source>
         <translation>Kosten</translation>
     </message>
@@ -454,10 +438,6 @@
     <message>
         <source>predecessors</source>
         <translation>Vorgänger</translation>
-    </message>
-    <message>
-        <source>milestone</source>
-        <translation>Meilenstein</translation>
     </message>
     <message>
         <source>yes</source>
@@ -548,14 +528,6 @@
         <translation>verlegt</translation>
     </message>
     <message>
-        <source>row %1</source>
-        <translation>Zeile %1</translation>
-    </message>
-    <message>
-        <source>working time</source>
-        <translation>Arbeitszeit</translation>
-    </message>
-    <message>
         <source>exception</source>
         <translation>Ausnahme</translation>
     </message>
@@ -574,10 +546,6 @@
     <message>
         <source>columns now hidden: %1</source>
         <translation>jetzt verborgene Spalten: %1</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>geändert</translation>
     </message>
     <message>
         <source>renamed</source>
@@ -712,10 +680,6 @@
         <translation>'%1' ist kein Prozentsatz</translation>
     </message>
     <message>
-        <source>write a number from 0 to 100</source>
-        <translation>schreiben Sie eine Zahl von 0 bis 100</translation>
-    </message>
-    <message>
         <source>'%1' is not a whole number</source>
         <translation>'%1' ist keine ganze Zahl</translation>
     </message>
@@ -726,14 +690,6 @@
     <message>
         <source>write a number of pixels</source>
         <translation>schreiben Sie eine Zahl von Pixeln</translation>
-    </message>
-    <message>
-        <source>'%1' is no amount</source>
-        <translation>'%1' ist kein Betrag</translation>
-    </message>
-    <message>
-        <source>write a number</source>
-        <translation>schreiben Sie eine Zahl</translation>
     </message>
     <message>
         <source>the quote %1 is never closed</source>
@@ -804,20 +760,12 @@
         <translation>möglich: %1</translation>
     </message>
     <message>
-        <source>no column '%1'</source>
-        <translation>keine Spalte '%1'</translation>
-    </message>
-    <message>
         <source>'%1' is no value for a column</source>
         <translation>'%1' ist kein Wert für eine Spalte</translation>
     </message>
     <message>
         <source>write show, hide or a width in pixels</source>
         <translation>schreiben Sie show, hide oder eine Breite in Pixeln</translation>
-    </message>
-    <message>
-        <source>no resource '%1'</source>
-        <translation>keine Ressource '%1'</translation>
     </message>
     <message>
         <source>'resource add %1' makes it</source>
@@ -840,10 +788,6 @@
         <translation>schreiben Sie 200%</translation>
     </message>
     <message>
-        <source>there is a resource '%1' already</source>
-        <translation>es gibt schon eine Ressource '%1'</translation>
-    </message>
-    <message>
         <source>'resource set' changes it</source>
         <translation>'resource set' ändert sie</translation>
     </message>
@@ -862,10 +806,6 @@
     <message>
         <source>did you mean %1%?</source>
         <translation>meinten Sie %1%?</translation>
-    </message>
-    <message>
-        <source>'%1' is not assigned to %2</source>
-        <translation>'%1' ist %2 nicht zugewiesen</translation>
     </message>
     <message>
         <source>assigned are: %1</source>
@@ -1244,10 +1184,6 @@
         <translation>dauert</translation>
     </message>
     <message>
-        <source>critical</source>
-        <translation>kritisch</translation>
-    </message>
-    <message>
         <source>holds up</source>
         <translation>hält auf</translation>
     </message>
@@ -1370,10 +1306,6 @@
     <message>
         <source>weekend</source>
         <translation>Wochenende</translation>
-    </message>
-    <message>
-        <source>day off</source>
-        <translation>freier Tag</translation>
     </message>
     <message>
         <source>nothing: it holds no task</source>
@@ -1522,10 +1454,6 @@
     <message>
         <source>%1 row heights for %2 tasks</source>
         <translation>%1 Zeilenhöhen für %2 Vorgänge</translation>
-    </message>
-    <message>
-        <source>remove one of these links</source>
-        <translation>entfernen Sie eine dieser Verknüpfungen</translation>
     </message>
     <message>
         <source>its time zone %1 is not known on this machine: read in %2</source>
@@ -1840,10 +1768,6 @@
         <translation>lesen</translation>
     </message>
     <message>
-        <source>line %1</source>
-        <translation>Zeile %1</translation>
-    </message>
-    <message>
         <source>building the tasks</source>
         <translation>Vorgänge anlegen</translation>
     </message>
@@ -1854,10 +1778,6 @@
     <message>
         <source>it is a folder</source>
         <translation>es ist ein Ordner</translation>
-    </message>
-    <message>
-        <source>longer than %1 bytes</source>
-        <translation>länger als %1 Bytes</translation>
     </message>
     <message>
         <source>%1: cannot be written</source>
@@ -1934,14 +1854,6 @@
     <message>
         <source>the bars end early: a greater --width or a coarser --scale shows the rest</source>
         <translation>die Balken enden früher: mehr --width oder ein gröberes --scale zeigt den Rest</translation>
-    </message>
-    <message>
-        <source>to do</source>
-        <translation>zu tun</translation>
-    </message>
-    <message>
-        <source>slack</source>
-        <translation>Puffer</translation>
     </message>
     <message>
         <source>! critical: a delay moves the finish</source>
@@ -2050,10 +1962,6 @@
     <message>
         <source>(%1 more tasks)</source>
         <translation>(%1 weitere Vorgänge)</translation>
-    </message>
-    <message>
-        <source>link the tasks below the summary</source>
-        <translation>verknüpfen Sie die Vorgänge unter dem Sammelvorgang</translation>
     </message>
     <message>
         <source>the task is its own predecessor</source>
@@ -2818,6 +2726,130 @@
 <context>
     <name>library</name>
     <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>the archive is cut off at byte %1: the list of its entries is missing</source>
+        <translation>das Archiv ist bei Byte %1 abgeschnitten: die Liste seiner Einträge fehlt</translation>
+    </message>
+    <message>
+        <source>no archive: %1</source>
+        <translation>kein Archiv: %1</translation>
+    </message>
+    <message>
+        <source>there are too many entries</source>
+        <translation>es sind zu viele Einträge</translation>
+    </message>
+    <message>
+        <source>an entry cannot be read</source>
+        <translation>ein Eintrag ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>the entry is encrypted</source>
+        <translation>der Eintrag ist verschlüsselt</translation>
+    </message>
+    <message>
+        <source>the entry is packed in an unknown way</source>
+        <translation>der Eintrag ist auf unbekannte Art gepackt</translation>
+    </message>
+    <message>
+        <source>the entry is neither a plain file nor a plain folder</source>
+        <translation>der Eintrag ist weder Datei noch Ordner</translation>
+    </message>
+    <message>
+        <source>a name holds a control character</source>
+        <translation>ein Name enthält ein Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>the name cannot be used on this machine</source>
+        <translation>der Name ist auf diesem Rechner nicht verwendbar</translation>
+    </message>
+    <message>
+        <source>something stands there already</source>
+        <translation>dort steht schon etwas</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>sein Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>the entry does not have the size it declares</source>
+        <translation>der Eintrag hat nicht die angegebene Größe</translation>
+    </message>
+    <message>
+        <source>neither a plain file nor a plain folder</source>
+        <translation>weder Datei noch Ordner</translation>
+    </message>
+    <message>
+        <source>a folder cannot be read: %1</source>
+        <translation>ein Ordner lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>there is nothing to pack</source>
+        <translation>es gibt nichts zu packen</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>diesen Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the archive lies in the folder that it packs</source>
+        <translation>das Archiv liegt in dem Ordner, den es packt</translation>
+    </message>
+    <message>
+        <source>there is no such archive</source>
+        <translation>dieses Archiv gibt es nicht</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>zu groß</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>fertig</translation>
+    </message>
+    <message>
+        <source>to do</source>
+        <translation>zu tun</translation>
+    </message>
+    <message>
+        <source>critical</source>
+        <translation>kritisch</translation>
+    </message>
+    <message>
+        <source>slack</source>
+        <translation>Puffer</translation>
+    </message>
+    <message>
+        <source>baseline</source>
+        <translation>Basisplan</translation>
+    </message>
+    <message>
+        <source>summary</source>
+        <translation>Sammelvorgang</translation>
+    </message>
+    <message>
+        <source>milestone</source>
+        <translation>Meilenstein</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>Verknüpfung</translation>
+    </message>
+    <message>
+        <source>day off</source>
+        <translation>freier Tag</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>heute</translation>
+    </message>
+    <message>
+        <source>%1 of %2 (%3)</source>
+        <translation>%1 von %2 (%3)</translation>
+    </message>
+    <message>
         <source>no task has the ID %1</source>
         <translation>kein Vorgang hat die ID %1</translation>
     </message>
@@ -2910,6 +2942,18 @@
         <translation>das ist kein Prozentsatz</translation>
     </message>
     <message>
+        <source>write a number from 0 to 100</source>
+        <translation>schreiben Sie eine Zahl von 0 bis 100</translation>
+    </message>
+    <message>
+        <source>'%1' is no amount</source>
+        <translation>'%1' ist kein Betrag</translation>
+    </message>
+    <message>
+        <source>write a number</source>
+        <translation>schreiben Sie eine Zahl</translation>
+    </message>
+    <message>
         <source>that is no row height</source>
         <translation>das ist keine Zeilenhöhe</translation>
     </message>
@@ -2930,6 +2974,10 @@
         <translation>%1: Vorgänger %2 liegt unter diesem Sammelvorgang, der mit ihm endet</translation>
     </message>
     <message>
+        <source>link the tasks below the summary</source>
+        <translation>verknüpfen Sie die Vorgänge unter dem Sammelvorgang</translation>
+    </message>
+    <message>
         <source>%1: predecessor %2 is the summary that holds this task</source>
         <translation>%1: Vorgänger %2 ist der Sammelvorgang, zu dem dieser Vorgang gehört</translation>
     </message>
@@ -2938,12 +2986,24 @@
         <translation>%1: Vorgänge würden aufeinander warten: %2</translation>
     </message>
     <message>
+        <source>remove one of these links</source>
+        <translation>entfernen Sie eine dieser Verknüpfungen</translation>
+    </message>
+    <message>
         <source>%1 does not wait for %2</source>
         <translation>%1 wartet nicht auf %2</translation>
     </message>
     <message>
+        <source>no resource '%1'</source>
+        <translation>keine Ressource '%1'</translation>
+    </message>
+    <message>
         <source>a resource needs a name</source>
         <translation>eine Ressource braucht einen Namen</translation>
+    </message>
+    <message>
+        <source>there is a resource '%1' already</source>
+        <translation>es gibt schon eine Ressource '%1'</translation>
     </message>
     <message>
         <source>%1 is a summary</source>
@@ -2952,6 +3012,10 @@
     <message>
         <source>assign resources to the tasks below it</source>
         <translation>weisen Sie die Ressourcen den Vorgängen darunter zu</translation>
+    </message>
+    <message>
+        <source>'%1' is not assigned to %2</source>
+        <translation>'%1' ist %2 nicht zugewiesen</translation>
     </message>
     <message>
         <source>these are no units</source>
@@ -2994,6 +3058,10 @@
         <translation>kein Feiertag oder Arbeitstag enthält %1</translation>
     </message>
     <message>
+        <source>no column '%1'</source>
+        <translation>keine Spalte '%1'</translation>
+    </message>
+    <message>
         <source>that is no width of a column</source>
         <translation>das ist keine Spaltenbreite</translation>
     </message>
@@ -3014,476 +3082,176 @@
         <translation>abgebrochen: der Plan ist, wie er war</translation>
     </message>
     <message>
-        <source>given up</source>
-        <translation>abgebrochen</translation>
+        <source>holds no workbook</source>
+        <translation>enthält keine Arbeitsmappe</translation>
     </message>
     <message>
-        <source>left out</source>
-        <translation>weggelassen</translation>
+        <source>the stream of the workbook is damaged</source>
+        <translation>der Datenstrom der Arbeitsmappe ist beschädigt</translation>
     </message>
     <message>
-        <source>not read</source>
-        <translation>nicht gelesen</translation>
-    </message>
-    <message>
-        <source>not written</source>
-        <translation>nicht geschrieben</translation>
-    </message>
-    <message>
-        <source>no predecessor</source>
-        <translation>kein Vorgänger</translation>
+        <source>the sheet "%1" lies where another does</source>
+        <translation>das Blatt "%1" liegt dort, wo ein anderes liegt</translation>
     </message>
     <message>
         <source>nothing imported</source>
         <translation>nichts importiert</translation>
     </message>
     <message>
-        <source>nothing was read</source>
-        <translation>nichts gelesen</translation>
-    </message>
-    <message>
-        <source>taken once</source>
-        <translation>einmal übernommen</translation>
-    </message>
-    <message>
-        <source>rounded</source>
-        <translation>gerundet</translation>
-    </message>
-    <message>
-        <source>a task</source>
-        <translation>ein Vorgang</translation>
-    </message>
-    <message>
-        <source>a material</source>
-        <translation>ein Material</translation>
-    </message>
-    <message>
-        <source>named %1</source>
-        <translation>heißt jetzt %1</translation>
-    </message>
-    <message>
-        <source>read as %1</source>
-        <translation>gelesen als %1</translation>
-    </message>
-    <message>
-        <source>not read; did you mean %1?</source>
-        <translation>nicht gelesen; meinten Sie %1?</translation>
-    </message>
-    <message>
-        <source>taken as one day long</source>
-        <translation>als ein Tag genommen</translation>
-    </message>
-    <message>
-        <source>taken as a task</source>
-        <translation>als Vorgang genommen</translation>
-    </message>
-    <message>
-        <source>the length counts</source>
-        <translation>die Dauer zählt</translation>
-    </message>
-    <message>
-        <source>start and finish count</source>
-        <translation>Anfang und Ende zählen</translation>
-    </message>
-    <message>
-        <source>a milestone at its start</source>
-        <translation>ein Meilenstein an seinem Anfang</translation>
-    </message>
-    <message>
-        <source>the next free ID</source>
-        <translation>die nächste freie ID</translation>
-    </message>
-    <message>
-        <source>level 1</source>
-        <translation>Ebene 1</translation>
-    </message>
-    <message>
-        <source>counted in days</source>
-        <translation>in Tagen gezählt</translation>
-    </message>
-    <message>
-        <source>today</source>
-        <translation>heute</translation>
-    </message>
-    <message>
-        <source>a work resource</source>
-        <translation>eine Arbeitsressource</translation>
-    </message>
-    <message>
-        <source>money for an hour</source>
-        <translation>Geld je Stunde</translation>
-    </message>
-    <message>
-        <source>read as percentages</source>
-        <translation>als Prozentsätze gelesen</translation>
-    </message>
-    <message>
-        <source>assigned once</source>
-        <translation>einmal zugewiesen</translation>
-    </message>
-    <message>
-        <source>assigned with 100%</source>
-        <translation>mit 100% zugewiesen</translation>
-    </message>
-    <message>
-        <source>assigned without a rate</source>
-        <translation>ohne Satz zugewiesen</translation>
-    </message>
-    <message>
-        <source>kept as a text that costs nothing</source>
-        <translation>als Text behalten, der nichts kostet</translation>
-    </message>
-    <message>
-        <source>all tasks are one day long</source>
-        <translation>alle Vorgänge dauern einen Tag</translation>
-    </message>
-    <message>
-        <source>the month first wherever that is a date</source>
-        <translation>der Monat zuerst, wo das einen Termin ergibt</translation>
-    </message>
-    <message>
-        <source>the first task of the name has the assignments</source>
-        <translation>der erste Vorgang des Namens hat die Zuweisungen</translation>
-    </message>
-    <message>
-        <source>work is the task's length times the units</source>
-        <translation>Arbeit ist Dauer mal Einheiten</translation>
-    </message>
-    <message>
-        <source>a task is one level below its summary</source>
-        <translation>ein Vorgang liegt eine Ebene unter seinem Sammelvorgang</translation>
+        <source>assignments</source>
+        <translation>Zuweisungen</translation>
     </message>
     <message>
         <source>a file that stood there was kept</source>
         <translation>eine Datei, die dort stand, blieb erhalten</translation>
     </message>
     <message>
-        <source>task sheet</source>
-        <translation>Vorgangsblatt</translation>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
     </message>
     <message>
-        <source>resource sheet</source>
-        <translation>Ressourcenblatt</translation>
+        <source>it is longer than %1 MB</source>
+        <translation>sie ist länger als %1 MB</translation>
     </message>
     <message>
-        <source>assignment sheet</source>
-        <translation>Zuweisungsblatt</translation>
+        <source>task %1 "%2"</source>
+        <translation>Vorgang %1 "%2"</translation>
     </message>
     <message>
-        <source>task sheet, row %1</source>
-        <translation>Vorgangsblatt, Zeile %1</translation>
+        <source>the file's costs of %1 are %2 here</source>
+        <translation>die Kosten der Datei von %1 sind hier %2</translation>
     </message>
     <message>
-        <source>resource sheet, row %1</source>
-        <translation>Ressourcenblatt, Zeile %1</translation>
+        <source>fixed costs, overtime and rates that change are not counted</source>
+        <translation>feste Kosten, Überstunden und veränderliche Sätze zählen nicht mit</translation>
     </message>
     <message>
-        <source>assignment sheet, row %1</source>
-        <translation>Zuweisungsblatt, Zeile %1</translation>
+        <source>it cannot be written</source>
+        <translation>sie kann nicht geschrieben werden</translation>
     </message>
     <message>
-        <source>row %1, '%2'</source>
-        <translation>Zeile %1, '%2'</translation>
-    </message>
-    <message>
-        <source>line %1, '%2'</source>
-        <translation>Zeile %1, '%2'</translation>
-    </message>
-    <message>
-        <source>%1, row %2, '%3'</source>
-        <translation>%1, Zeile %2, '%3'</translation>
-    </message>
-    <message>
-        <source>%1, line %2, '%3'</source>
-        <translation>%1, Zeile %2, '%3'</translation>
-    </message>
-    <message>
-        <source>task sheet, row %1, '%2'</source>
-        <translation>Vorgangsblatt, Zeile %1, '%2'</translation>
-    </message>
-    <message>
-        <source>resource sheet, row %1, '%2'</source>
-        <translation>Ressourcenblatt, Zeile %1, '%2'</translation>
-    </message>
-    <message>
-        <source>assignment sheet, row %1, '%2'</source>
-        <translation>Zuweisungsblatt, Zeile %1, '%2'</translation>
-    </message>
-    <message>
-        <source>assignments</source>
-        <translation>Zuweisungen</translation>
+        <source>there are %1 columns, of which the first %2 are written</source>
+        <translation>es gibt %1 Spalten, von denen die ersten %2 geschrieben werden</translation>
     </message>
     <message>
         <source>%1, row %2, column %3</source>
         <translation>%1, Zeile %2, Spalte %3</translation>
     </message>
     <message>
-        <source>%1, row %2</source>
-        <translation>%1, Zeile %2</translation>
+        <source>a text of %1 characters is cut to %2</source>
+        <translation>ein Text von %1 Zeichen wird auf %2 gekürzt</translation>
     </message>
     <message>
-        <source>%1, line %2</source>
-        <translation>%1, Zeile %2</translation>
+        <source>the sheet '%1' holds %2 rows, and there are more</source>
+        <translation>das Blatt '%1' fasst %2 Zeilen, und es sind mehr</translation>
     </message>
     <message>
-        <source>%1 is the ID of another task</source>
-        <translation>%1 ist die ID eines anderen Vorgangs</translation>
+        <source>an XLSX workbook has room for them</source>
+        <translation>eine XLSX-Arbeitsmappe hat Platz dafür</translation>
     </message>
     <message>
-        <source>%1 is the name of another task</source>
-        <translation>%1 ist der Name eines anderen Vorgangs</translation>
+        <source>%1 tasks belong to no summary and are not written</source>
+        <translation>%1 Vorgänge gehören zu keinem Sammelvorgang und werden nicht geschrieben</translation>
     </message>
     <message>
-        <source>%1 is the name of another resource</source>
-        <translation>%1 ist der Name einer anderen Ressource</translation>
+        <source>%1 tasks share a name: a workbook cannot tell their assignments apart</source>
+        <translation>%1 Vorgänge haben denselben Namen: eine Arbeitsmappe kann ihre Zuweisungen nicht unterscheiden</translation>
     </message>
     <message>
-        <source>it has neither a number nor a start, as totals have</source>
-        <translation>er hat weder Nummer noch Anfang, wie Summen</translation>
+        <source>give them different names</source>
+        <translation>geben Sie ihnen verschiedene Namen</translation>
     </message>
     <message>
-        <source>neither a length nor a finish</source>
-        <translation>weder Dauer noch Ende</translation>
+        <source>not read</source>
+        <translation>nicht gelesen</translation>
     </message>
     <message>
-        <source>neither a length nor a start</source>
-        <translation>weder Dauer noch Anfang</translation>
+        <source>a cell holds %1 characters, and there are more</source>
+        <translation>eine Zelle fasst %1 Zeichen, und es sind mehr</translation>
     </message>
     <message>
-        <source>neither dates nor a length</source>
-        <translation>weder Termine noch Dauer</translation>
+        <source>a sheet holds %1 rows, and there are more</source>
+        <translation>ein Blatt fasst %1 Zeilen, und es sind mehr</translation>
     </message>
     <message>
-        <source>it finishes before it starts</source>
-        <translation>er endet, bevor er anfängt</translation>
+        <source>there are more than %1 columns</source>
+        <translation>es gibt mehr als %1 Spalten</translation>
     </message>
     <message>
-        <source>the length is not that from start to finish</source>
-        <translation>die Dauer ist nicht die von Anfang bis Ende</translation>
+        <source>no temporary folder</source>
+        <translation>kein temporärer Ordner</translation>
     </message>
     <message>
-        <source>the finish is not where start and length lead</source>
-        <translation>das Ende liegt nicht dort, wohin Anfang und Dauer führen</translation>
+        <source>give them different names, or write readable sheets</source>
+        <translation>geben Sie ihnen verschiedene Namen, oder schreiben Sie lesbare Blätter</translation>
     </message>
     <message>
-        <source>the length is 0, and there is time between start and finish</source>
-        <translation>die Dauer ist 0, und zwischen Anfang und Ende liegt Zeit</translation>
+        <source>there is no temporary folder to unpack it into</source>
+        <translation>es gibt keinen temporären Ordner zum Entpacken</translation>
     </message>
     <message>
-        <source>a milestone with time between start and finish</source>
-        <translation>ein Meilenstein mit Zeit zwischen Anfang und Ende</translation>
+        <source>the workbook has no worksheet</source>
+        <translation>die Arbeitsmappe hat kein Arbeitsblatt</translation>
     </message>
     <message>
-        <source>it would wait for itself through %1</source>
-        <translation>er würde über %1 auf sich selbst warten</translation>
+        <source>is no plain file</source>
+        <translation>ist keine gewöhnliche Datei</translation>
     </message>
     <message>
-        <source>it cannot wait for its own summary or subtask in %1</source>
-        <translation>er kann nicht auf seinen Sammel- oder Untervorgang in %1 warten</translation>
+        <source>is larger than 2 GB</source>
+        <translation>ist größer als 2 GB</translation>
     </message>
     <message>
-        <source>there is no resource %1; did you mean '%2'?</source>
-        <translation>es gibt keine Ressource %1; meinten Sie '%2'?</translation>
+        <source>is no compound file</source>
+        <translation>ist keine Verbunddatei</translation>
     </message>
     <message>
-        <source>there is no resource %1</source>
-        <translation>es gibt keine Ressource %1</translation>
+        <source>the chain of its directory is damaged</source>
+        <translation>die Kette des Verzeichnisses ist beschädigt</translation>
     </message>
     <message>
-        <source>there is no task %1</source>
-        <translation>es gibt keinen Vorgang %1</translation>
+        <source>its directory has no root</source>
+        <translation>das Verzeichnis hat keine Wurzel</translation>
     </message>
     <message>
-        <source>there are several tasks %1</source>
-        <translation>es gibt mehrere Vorgänge %1</translation>
+        <source>its sector table lies outside of the file</source>
+        <translation>die Sektortabelle liegt außerhalb der Datei</translation>
     </message>
     <message>
-        <source>there is no task with the ID %1</source>
-        <translation>es gibt keinen Vorgang mit der ID %1</translation>
+        <source>is no workbook of the 97 to 2003 format</source>
+        <translation>ist keine Arbeitsmappe im Format 97 bis 2003</translation>
     </message>
     <message>
-        <source>there is no task in row %1</source>
-        <translation>in Zeile %1 steht kein Vorgang</translation>
+        <source>is a workbook of version 95 or before</source>
+        <translation>ist eine Arbeitsmappe der Version 95 oder früher</translation>
     </message>
     <message>
-        <source>a summary takes no resources</source>
-        <translation>ein Sammelvorgang nimmt keine Ressourcen</translation>
+        <source>is encrypted</source>
+        <translation>ist verschlüsselt</translation>
     </message>
     <message>
-        <source>%1 is assigned to this task already</source>
-        <translation>%1 ist diesem Vorgang schon zugewiesen</translation>
+        <source>the name of sheet %1 is cut</source>
+        <translation>der Name von Blatt %1 ist abgeschnitten</translation>
     </message>
     <message>
-        <source>assignments name tasks by names that several have, %1 in all: %2</source>
-        <translation>Zuweisungen nennen Vorgänge bei Namen, die mehrere haben, insgesamt %1: %2</translation>
+        <source>its table of texts is cut</source>
+        <translation>die Texttabelle ist abgeschnitten</translation>
     </message>
     <message>
-        <source>%1 hours of work are counted as %2</source>
-        <translation>%1 Stunden Arbeit zählen als %2</translation>
+        <source>its stream ends early</source>
+        <translation>der Datenstrom endet zu früh</translation>
     </message>
     <message>
-        <source>not a plan: no title 'Duration'</source>
-        <translation>kein Plan: kein Titel 'Duration'</translation>
+        <source>the sheet "%1" does not begin where the workbook says</source>
+        <translation>das Blatt "%1" beginnt nicht dort, wo die Arbeitsmappe es sagt</translation>
     </message>
     <message>
-        <source>not a plan: no title 'Name'</source>
-        <translation>kein Plan: kein Titel 'Name'</translation>
+        <source>the sheet "%2" is damaged at byte %1</source>
+        <translation>das Blatt "%2" ist bei Byte %1 beschädigt</translation>
     </message>
     <message>
-        <source>the first row holds the titles: Name, Duration, Start, Predecessors, ...</source>
-        <translation>die erste Zeile enthält die Titel: Name, Duration, Start, Predecessors, ...</translation>
-    </message>
-    <message>
-        <source>%1 stands twice</source>
-        <translation>%1 steht doppelt</translation>
-    </message>
-    <message>
-        <source>'%1' has no units such as 50%</source>
-        <translation>'%1' hat keine Einheiten wie 50%</translation>
-    </message>
-    <message>
-        <source>'%1' has no sign of percent</source>
-        <translation>'%1' hat kein Prozentzeichen</translation>
-    </message>
-    <message>
-        <source>the cells of its first row are empty</source>
-        <translation>die Zellen der ersten Zeile sind leer</translation>
-    </message>
-    <message>
-        <source>no title of its first row is known</source>
-        <translation>kein Titel der ersten Zeile ist bekannt</translation>
-    </message>
-    <message>
-        <source>it has no first row with titles</source>
-        <translation>es fehlt die erste Zeile mit Titeln</translation>
-    </message>
-    <message>
-        <source>%1 cannot be the ID</source>
-        <translation>%1 kann nicht die ID sein</translation>
-    </message>
-    <message>
-        <source>%1 is no type of resource</source>
-        <translation>%1 ist keine Ressourcenart</translation>
-    </message>
-    <message>
-        <source>%1 is no rate</source>
-        <translation>%1 ist kein Satz</translation>
-    </message>
-    <message>
-        <source>%1 is no rate for a month or less</source>
-        <translation>%1 ist kein Satz für einen Monat oder weniger</translation>
-    </message>
-    <message>
-        <source>%1 is no amount</source>
-        <translation>%1 ist kein Betrag</translation>
-    </message>
-    <message>
-        <source>%1 is taken as a percentage</source>
-        <translation>%1 wird als Prozentsatz genommen</translation>
-    </message>
-    <message>
-        <source>%1 is the ID of no task</source>
-        <translation>%1 ist die ID keines Vorgangs</translation>
-    </message>
-    <message>
-        <source>it is a second %1</source>
-        <translation>es ist ein zweites %1</translation>
-    </message>
-    <message>
-        <source>no such column</source>
-        <translation>keine solche Spalte</translation>
-    </message>
-    <message>
-        <source>column %1 has no title and %2 cells</source>
-        <translation>Spalte %1 hat keinen Titel und %2 Zellen</translation>
-    </message>
-    <message>
-        <source>%1 has a comma that groups no digits</source>
-        <translation>%1 hat ein Komma, das keine Ziffern gruppiert</translation>
-    </message>
-    <message>
-        <source>the level is below 1</source>
-        <translation>die Ebene ist kleiner als 1</translation>
-    </message>
-    <message>
-        <source>%1 is no ID</source>
-        <translation>%1 ist keine ID</translation>
-    </message>
-    <message>
-        <source>%1 is no level from 1 to 1000</source>
-        <translation>%1 ist keine Ebene von 1 bis 1000</translation>
-    </message>
-    <message>
-        <source>%1 is no number</source>
-        <translation>%1 ist keine Zahl</translation>
-    </message>
-    <message>
-        <source>%1 is no percentage</source>
-        <translation>%1 ist kein Prozentsatz</translation>
-    </message>
-    <message>
-        <source>%1 is no percentage from 0 to 100</source>
-        <translation>%1 ist kein Prozentsatz von 0 bis 100</translation>
-    </message>
-    <message>
-        <source>%1 is no length of time</source>
-        <translation>%1 ist keine Zeitdauer</translation>
-    </message>
-    <message>
-        <source>%1 has no known unit of time</source>
-        <translation>%1 hat keine bekannte Zeiteinheit</translation>
-    </message>
-    <message>
-        <source>there are too many links</source>
-        <translation>es sind zu viele Hyperlinks</translation>
-    </message>
-    <message>
-        <source>%1 has no closing quote</source>
-        <translation>bei %1 fehlt das schließende Anführungszeichen</translation>
-    </message>
-    <message>
-        <source>%1 is no task</source>
-        <translation>%1 ist kein Vorgang</translation>
-    </message>
-    <message>
-        <source>%1 is no link from finish to start without lag</source>
-        <translation>%1 ist keine Ende-Anfang-Verknüpfung ohne Zeitabstand</translation>
-    </message>
-    <message>
-        <source>%1 is an outline code, and no column has these</source>
-        <translation>%1 ist ein Gliederungscode, und keine Spalte hat solche</translation>
-    </message>
-    <message>
-        <source>there are too many predecessors</source>
-        <translation>es sind zu viele Vorgänger</translation>
-    </message>
-    <message>
-        <source>%1 names a predecessor twice</source>
-        <translation>%1 nennt einen Vorgänger zweimal</translation>
-    </message>
-    <message>
-        <source>%1 is no date from 1970 to 2105</source>
-        <translation>%1 ist kein Termin von 1970 bis 2105</translation>
-    </message>
-    <message>
-        <source>some of its dates have the day first, others the month</source>
-        <translation>bei manchen Terminen steht der Tag vorn, bei anderen der Monat</translation>
-    </message>
-    <message>
-        <source>nothing says whether day or month stand first in its dates</source>
-        <translation>nichts sagt, ob in den Terminen Tag oder Monat vorn steht</translation>
-    </message>
-    <message>
-        <source>its numbers may be fractions</source>
-        <translation>die Zahlen könnten Bruchteile sein</translation>
-    </message>
-    <message>
-        <source>level %1 follows level %2</source>
-        <translation>Ebene %1 folgt auf Ebene %2</translation>
-    </message>
-    <message>
-        <source>there are neither dates nor lengths</source>
-        <translation>es gibt weder Termine noch Dauern</translation>
+        <source>the sheet "%1" ends early</source>
+        <translation>das Blatt "%1" endet zu früh</translation>
     </message>
     <message>
         <source>more than %1 columns</source>
@@ -3530,6 +3298,10 @@
         <translation>speichern Sie die Datei als CSV (UTF-8)</translation>
     </message>
     <message>
+        <source>longer than %1 bytes</source>
+        <translation>länger als %1 Bytes</translation>
+    </message>
+    <message>
         <source>the text is not UTF-8</source>
         <translation>der Text ist nicht UTF-8</translation>
     </message>
@@ -3538,176 +3310,12 @@
         <translation>mehr als %1 Zeilen</translation>
     </message>
     <message>
-        <source>holds no workbook</source>
-        <translation>enthält keine Arbeitsmappe</translation>
-    </message>
-    <message>
-        <source>the stream of the workbook is damaged</source>
-        <translation>der Datenstrom der Arbeitsmappe ist beschädigt</translation>
-    </message>
-    <message>
-        <source>is no workbook of the 97 to 2003 format</source>
-        <translation>ist keine Arbeitsmappe im Format 97 bis 2003</translation>
-    </message>
-    <message>
-        <source>is a workbook of version 95 or before</source>
-        <translation>ist eine Arbeitsmappe der Version 95 oder früher</translation>
-    </message>
-    <message>
-        <source>is encrypted</source>
-        <translation>ist verschlüsselt</translation>
-    </message>
-    <message>
-        <source>is no plain file</source>
-        <translation>ist keine gewöhnliche Datei</translation>
-    </message>
-    <message>
-        <source>is larger than 2 GB</source>
-        <translation>ist größer als 2 GB</translation>
-    </message>
-    <message>
-        <source>is no compound file</source>
-        <translation>ist keine Verbunddatei</translation>
-    </message>
-    <message>
-        <source>the chain of its directory is damaged</source>
-        <translation>die Kette des Verzeichnisses ist beschädigt</translation>
-    </message>
-    <message>
-        <source>its directory has no root</source>
-        <translation>das Verzeichnis hat keine Wurzel</translation>
-    </message>
-    <message>
-        <source>its sector table lies outside of the file</source>
-        <translation>die Sektortabelle liegt außerhalb der Datei</translation>
-    </message>
-    <message>
-        <source>the name of sheet %1 is cut</source>
-        <translation>der Name von Blatt %1 ist abgeschnitten</translation>
-    </message>
-    <message>
-        <source>its table of texts is cut</source>
-        <translation>die Texttabelle ist abgeschnitten</translation>
-    </message>
-    <message>
-        <source>its stream ends early</source>
-        <translation>der Datenstrom endet zu früh</translation>
-    </message>
-    <message>
-        <source>the sheet "%1" lies where another does</source>
-        <translation>das Blatt "%1" liegt dort, wo ein anderes liegt</translation>
-    </message>
-    <message>
-        <source>the sheet "%1" does not begin where the workbook says</source>
-        <translation>das Blatt "%1" beginnt nicht dort, wo die Arbeitsmappe es sagt</translation>
-    </message>
-    <message>
-        <source>the sheet "%1" is damaged at byte %2</source>
-        <translation>das Blatt "%1" ist bei Byte %2 beschädigt</translation>
-    </message>
-    <message>
-        <source>the sheet "%1" ends early</source>
-        <translation>das Blatt "%1" endet zu früh</translation>
-    </message>
-    <message>
-        <source>there are %1 columns, of which the first %2 are written</source>
-        <translation>es gibt %1 Spalten, von denen die ersten %2 geschrieben werden</translation>
-    </message>
-    <message>
-        <source>a text of %1 characters is cut to %2</source>
-        <translation>ein Text von %1 Zeichen wird auf %2 gekürzt</translation>
-    </message>
-    <message>
-        <source>the sheet '%1' holds %2 rows, and there are more</source>
-        <translation>das Blatt '%1' fasst %2 Zeilen, und es sind mehr</translation>
-    </message>
-    <message>
-        <source>a sheet holds %1 rows, and there are more</source>
-        <translation>ein Blatt fasst %1 Zeilen, und es sind mehr</translation>
-    </message>
-    <message>
-        <source>a cell holds %1 characters, and there are more</source>
-        <translation>eine Zelle fasst %1 Zeichen, und es sind mehr</translation>
-    </message>
-    <message>
-        <source>there are more than %1 columns</source>
-        <translation>es gibt mehr als %1 Spalten</translation>
-    </message>
-    <message>
-        <source>an XLSX workbook has room for them</source>
-        <translation>eine XLSX-Arbeitsmappe hat Platz dafür</translation>
-    </message>
-    <message>
-        <source>%1 tasks belong to no summary and are not written</source>
-        <translation>%1 Vorgänge gehören zu keinem Sammelvorgang und werden nicht geschrieben</translation>
-    </message>
-    <message>
-        <source>%1 tasks share a name: a workbook cannot tell their assignments apart</source>
-        <translation>%1 Vorgänge haben denselben Namen: eine Arbeitsmappe kann ihre Zuweisungen nicht unterscheiden</translation>
-    </message>
-    <message>
-        <source>give them different names</source>
-        <translation>geben Sie ihnen verschiedene Namen</translation>
-    </message>
-    <message>
-        <source>give them different names, or write readable sheets</source>
-        <translation>geben Sie ihnen verschiedene Namen, oder schreiben Sie lesbare Blätter</translation>
-    </message>
-    <message>
-        <source>the workbook has no worksheet</source>
-        <translation>die Arbeitsmappe hat kein Arbeitsblatt</translation>
-    </message>
-    <message>
-        <source>there is no temporary folder to unpack it into</source>
-        <translation>es gibt keinen temporären Ordner zum Entpacken</translation>
-    </message>
-    <message>
-        <source>no temporary folder</source>
-        <translation>kein temporärer Ordner</translation>
-    </message>
-    <message>
-        <source>there is no such part</source>
-        <translation>diesen Teil gibt es nicht</translation>
-    </message>
-    <message>
-        <source>the part is too large</source>
-        <translation>der Teil ist zu groß</translation>
-    </message>
-    <message>
-        <source>%1 references in texts stand for no character</source>
-        <translation>%1 Verweise in Texten stehen für kein Zeichen</translation>
-    </message>
-    <message>
-        <source>control characters left out, unknown names as they are written</source>
-        <translation>Steuerzeichen weggelassen, unbekannte Namen wie geschrieben</translation>
-    </message>
-    <message>
-        <source>the places of %1 cells are not understood, the first is %2</source>
-        <translation>die Orte von %1 Zellen sind nicht zu verstehen, der erste ist %2</translation>
-    </message>
-    <message>
-        <source>the places of %1 cells name no row, the first is %2</source>
-        <translation>die Orte von %1 Zellen nennen keine Zeile, der erste ist %2</translation>
-    </message>
-    <message>
-        <source>taken as cells of the rows that hold them</source>
-        <translation>als Zellen ihrer Zeilen genommen</translation>
-    </message>
-    <message>
-        <source>%1 formulas have no value, the first in row %2</source>
-        <translation>%1 Formeln haben keinen Wert, die erste in Zeile %2</translation>
-    </message>
-    <message>
-        <source>left out: save the workbook with a program that calculates them</source>
-        <translation>weggelassen: speichern Sie die Mappe mit einem Programm, das sie berechnet</translation>
-    </message>
-    <message>
-        <source>%1 numbers have more digits than their texts</source>
-        <translation>%1 Zahlen haben mehr Stellen als ihre Texte</translation>
-    </message>
-    <message>
         <source>a second list of the same kind</source>
         <translation>eine zweite Liste derselben Art</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>weggelassen</translation>
     </message>
     <message>
         <source>a value that cannot be read</source>
@@ -3826,6 +3434,10 @@
         <translation>weggelassen; die Termine bleiben</translation>
     </message>
     <message>
+        <source>the level is below 1</source>
+        <translation>die Ebene ist kleiner als 1</translation>
+    </message>
+    <message>
         <source>all levels count from 1</source>
         <translation>alle Ebenen zählen ab 1</translation>
     </message>
@@ -3844,6 +3456,10 @@
     <message>
         <source>a milestone that lasts</source>
         <translation>ein Meilenstein, der dauert</translation>
+    </message>
+    <message>
+        <source>a task</source>
+        <translation>ein Vorgang</translation>
     </message>
     <message>
         <source>scheduled by hand</source>
@@ -3910,6 +3526,10 @@
         <translation>eine Verknüpfung, die doppelt steht</translation>
     </message>
     <message>
+        <source>taken once</source>
+        <translation>einmal übernommen</translation>
+    </message>
+    <message>
         <source>further baselines</source>
         <translation>weitere Basispläne</translation>
     </message>
@@ -3918,16 +3538,20 @@
         <translation>die Termine eines Sammelvorgangs sind nicht die seiner Untervorgänge</translation>
     </message>
     <message>
-        <source>a summary's progress is not that of its subtasks</source>
-        <translation>der Fortschritt eines Sammelvorgangs ist nicht der seiner Untervorgänge</translation>
-    </message>
-    <message>
         <source>taken from the subtasks</source>
         <translation>von den Untervorgängen genommen</translation>
     </message>
     <message>
+        <source>a summary's progress is not that of its subtasks</source>
+        <translation>der Fortschritt eines Sammelvorgangs ist nicht der seiner Untervorgänge</translation>
+    </message>
+    <message>
         <source>a cost resource</source>
         <translation>eine Kostenressource</translation>
+    </message>
+    <message>
+        <source>a material</source>
+        <translation>ein Material</translation>
     </message>
     <message>
         <source>a resource's name is taken or empty</source>
@@ -3966,6 +3590,10 @@
         <translation>eine Ressource ist einem Vorgang mehrmals zugewiesen</translation>
     </message>
     <message>
+        <source>joined</source>
+        <translation>zusammengefasst</translation>
+    </message>
+    <message>
         <source>how work is spread over its task: day by day, by a contour, a delay or overtime</source>
         <translation>wie Arbeit über ihren Vorgang verteilt ist: Tag für Tag, nach Profil, Verzögerung oder Überstunden</translation>
     </message>
@@ -3994,6 +3622,10 @@
         <translation>Zeilen anderer Höhe</translation>
     </message>
     <message>
+        <source>not written</source>
+        <translation>nicht geschrieben</translation>
+    </message>
+    <message>
         <source>a priority outside -500 to 500</source>
         <translation>eine Priorität außerhalb von -500 bis 500</translation>
     </message>
@@ -4006,8 +3638,16 @@
         <translation>ein Prozentsatz, der nicht ganz ist</translation>
     </message>
     <message>
+        <source>rounded</source>
+        <translation>gerundet</translation>
+    </message>
+    <message>
         <source>a name that the format cannot hold</source>
         <translation>ein Name, den das Format nicht fasst</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>geändert</translation>
     </message>
     <message>
         <source>an ID above 2,097,150, or one that is there twice</source>
@@ -4042,80 +3682,708 @@
         <translation>auf seiner Ebene geschrieben</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
         <source>%1 (%2 times)</source>
         <translation>%1 (%2-mal)</translation>
-    </message>
-    <message>
-        <source>task %1</source>
-        <translation>Vorgang %1</translation>
-    </message>
-    <message>
-        <source>task %1 "%2"</source>
-        <translation>Vorgang %1 "%2"</translation>
     </message>
     <message>
         <source>resource %1</source>
         <translation>Ressource %1</translation>
     </message>
     <message>
-        <source>resource "%1"</source>
-        <translation>Ressource "%1"</translation>
+        <source>calendar %1</source>
+        <translation>Kalender %1</translation>
     </message>
     <message>
         <source>assignment %1</source>
         <translation>Zuweisung %1</translation>
     </message>
     <message>
-        <source>calendar %1</source>
-        <translation>Kalender %1</translation>
-    </message>
-    <message>
-        <source>column %1</source>
-        <translation>Spalte %1</translation>
-    </message>
-    <message>
-        <source>exception %1</source>
-        <translation>Ausnahme %1</translation>
-    </message>
-    <message>
-        <source>the file's costs of %1 are %2 here</source>
-        <translation>die Kosten der Datei von %1 sind hier %2</translation>
-    </message>
-    <message>
-        <source>fixed costs, overtime and rates that change are not counted</source>
-        <translation>feste Kosten, Überstunden und veränderliche Sätze zählen nicht mit</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>diese Datei gibt es nicht</translation>
-    </message>
-    <message>
-        <source>it is longer than %1 MB</source>
-        <translation>sie ist länger als %1 MB</translation>
-    </message>
-    <message>
-        <source>it cannot be written</source>
-        <translation>sie kann nicht geschrieben werden</translation>
+        <source>resource "%1"</source>
+        <translation>Ressource "%1"</translation>
     </message>
     <message>
         <source>the XML ends early</source>
         <translation>das XML endet zu früh</translation>
     </message>
     <message>
-        <source>it has more than %1 %2s</source>
-        <translation>sie hat mehr als %1 %2</translation>
+        <source>given up</source>
+        <translation>abgebrochen</translation>
     </message>
     <message>
-        <source>it has more than %1 links</source>
-        <translation>sie hat mehr als %1 Verknüpfungen</translation>
+        <source>it has more than %1 %2s</source>
+        <translation>sie hat mehr als %1 %2</translation>
     </message>
     <message>
         <source>its calendars have more than %1 days</source>
         <translation>die Kalender haben mehr als %1 Tage</translation>
     </message>
     <message>
+        <source>it has more than %1 links</source>
+        <translation>sie hat mehr als %1 Verknüpfungen</translation>
+    </message>
+    <message>
         <source>it is no project XML: its root is no Project of that format</source>
         <translation>es ist kein Projekt-XML: die Wurzel ist kein Project dieses Formats</translation>
+    </message>
+    <message>
+        <source>%1 numbers have more digits than their texts</source>
+        <translation>%1 Zahlen haben mehr Stellen als ihre Texte</translation>
+    </message>
+    <message>
+        <source>%1 is the ID of another task</source>
+        <translation>%1 ist die ID eines anderen Vorgangs</translation>
+    </message>
+    <message>
+        <source>%1 is the name of another task</source>
+        <translation>%1 ist der Name eines anderen Vorgangs</translation>
+    </message>
+    <message>
+        <source>named %1</source>
+        <translation>heißt jetzt %1</translation>
+    </message>
+    <message>
+        <source>taken as one day long</source>
+        <translation>als ein Tag genommen</translation>
+    </message>
+    <message>
+        <source>it has neither a number nor a start, as totals have</source>
+        <translation>er hat weder Nummer noch Anfang, wie Summen</translation>
+    </message>
+    <message>
+        <source>taken as a task</source>
+        <translation>als Vorgang genommen</translation>
+    </message>
+    <message>
+        <source>neither a length nor a finish</source>
+        <translation>weder Dauer noch Ende</translation>
+    </message>
+    <message>
+        <source>neither a length nor a start</source>
+        <translation>weder Dauer noch Anfang</translation>
+    </message>
+    <message>
+        <source>neither dates nor a length</source>
+        <translation>weder Termine noch Dauer</translation>
+    </message>
+    <message>
+        <source>it finishes before it starts</source>
+        <translation>er endet, bevor er anfängt</translation>
+    </message>
+    <message>
+        <source>the length counts</source>
+        <translation>die Dauer zählt</translation>
+    </message>
+    <message>
+        <source>the length is not that from start to finish</source>
+        <translation>die Dauer ist nicht die von Anfang bis Ende</translation>
+    </message>
+    <message>
+        <source>start and finish count</source>
+        <translation>Anfang und Ende zählen</translation>
+    </message>
+    <message>
+        <source>the finish is not where start and length lead</source>
+        <translation>das Ende liegt nicht dort, wohin Anfang und Dauer führen</translation>
+    </message>
+    <message>
+        <source>the length is 0, and there is time between start and finish</source>
+        <translation>die Dauer ist 0, und zwischen Anfang und Ende liegt Zeit</translation>
+    </message>
+    <message>
+        <source>a milestone with time between start and finish</source>
+        <translation>ein Meilenstein mit Zeit zwischen Anfang und Ende</translation>
+    </message>
+    <message>
+        <source>a milestone at its start</source>
+        <translation>ein Meilenstein an seinem Anfang</translation>
+    </message>
+    <message>
+        <source>it would wait for itself through %1</source>
+        <translation>er würde über %1 auf sich selbst warten</translation>
+    </message>
+    <message>
+        <source>it cannot wait for its own summary or subtask in %1</source>
+        <translation>er kann nicht auf seinen Sammel- oder Untervorgang in %1 warten</translation>
+    </message>
+    <message>
+        <source>no predecessor</source>
+        <translation>kein Vorgänger</translation>
+    </message>
+    <message>
+        <source>there is no resource %1</source>
+        <translation>es gibt keine Ressource %1</translation>
+    </message>
+    <message>
+        <source>there is no resource %1; did you mean '%2'?</source>
+        <translation>es gibt keine Ressource %1; meinten Sie '%2'?</translation>
+    </message>
+    <message>
+        <source>there is no task %1</source>
+        <translation>es gibt keinen Vorgang %1</translation>
+    </message>
+    <message>
+        <source>a summary takes no resources</source>
+        <translation>ein Sammelvorgang nimmt keine Ressourcen</translation>
+    </message>
+    <message>
+        <source>%1 is assigned to this task already</source>
+        <translation>%1 ist diesem Vorgang schon zugewiesen</translation>
+    </message>
+    <message>
+        <source>assignments name tasks by names that several have, %1 in all: %2</source>
+        <translation>Zuweisungen nennen Vorgänge bei Namen, die mehrere haben, insgesamt %1: %2</translation>
+    </message>
+    <message>
+        <source>the first task of the name has the assignments</source>
+        <translation>der erste Vorgang des Namens hat die Zuweisungen</translation>
+    </message>
+    <message>
+        <source>%1 hours of work are counted as %2</source>
+        <translation>%1 Stunden Arbeit zählen als %2</translation>
+    </message>
+    <message>
+        <source>work is the task's length times the units</source>
+        <translation>Arbeit ist Dauer mal Einheiten</translation>
+    </message>
+    <message>
+        <source>assigned without a rate</source>
+        <translation>ohne Satz zugewiesen</translation>
+    </message>
+    <message>
+        <source>not a plan: no title 'Duration'</source>
+        <translation>kein Plan: kein Titel 'Duration'</translation>
+    </message>
+    <message>
+        <source>not a plan: no title 'Name'</source>
+        <translation>kein Plan: kein Titel 'Name'</translation>
+    </message>
+    <message>
+        <source>the first row holds the titles: Name, Duration, Start, Predecessors, ...</source>
+        <translation>die erste Zeile enthält die Titel: Name, Duration, Start, Predecessors, ...</translation>
+    </message>
+    <message>
+        <source>kept as a text that costs nothing</source>
+        <translation>als Text behalten, der nichts kostet</translation>
+    </message>
+    <message>
+        <source>%1 stands twice</source>
+        <translation>%1 steht doppelt</translation>
+    </message>
+    <message>
+        <source>assigned once</source>
+        <translation>einmal zugewiesen</translation>
+    </message>
+    <message>
+        <source>'%1' has no units such as 50%</source>
+        <translation>'%1' hat keine Einheiten wie 50%</translation>
+    </message>
+    <message>
+        <source>assigned with 100%</source>
+        <translation>mit 100% zugewiesen</translation>
+    </message>
+    <message>
+        <source>'%1' has no sign of percent</source>
+        <translation>'%1' hat kein Prozentzeichen</translation>
+    </message>
+    <message>
+        <source>read as %1</source>
+        <translation>gelesen als %1</translation>
+    </message>
+    <message>
+        <source>the cells of its first row are empty</source>
+        <translation>die Zellen der ersten Zeile sind leer</translation>
+    </message>
+    <message>
+        <source>no title of its first row is known</source>
+        <translation>kein Titel der ersten Zeile ist bekannt</translation>
+    </message>
+    <message>
+        <source>it has no first row with titles</source>
+        <translation>es fehlt die erste Zeile mit Titeln</translation>
+    </message>
+    <message>
+        <source>task sheet</source>
+        <translation>Vorgangsblatt</translation>
+    </message>
+    <message>
+        <source>resource sheet</source>
+        <translation>Ressourcenblatt</translation>
+    </message>
+    <message>
+        <source>assignment sheet</source>
+        <translation>Zuweisungsblatt</translation>
+    </message>
+    <message>
+        <source>%1 is the name of another resource</source>
+        <translation>%1 ist der Name einer anderen Ressource</translation>
+    </message>
+    <message>
+        <source>%1 cannot be the ID</source>
+        <translation>%1 kann nicht die ID sein</translation>
+    </message>
+    <message>
+        <source>the next free ID</source>
+        <translation>die nächste freie ID</translation>
+    </message>
+    <message>
+        <source>%1 is no type of resource</source>
+        <translation>%1 ist keine Ressourcenart</translation>
+    </message>
+    <message>
+        <source>a work resource</source>
+        <translation>eine Arbeitsressource</translation>
+    </message>
+    <message>
+        <source>%1 is no rate</source>
+        <translation>%1 ist kein Satz</translation>
+    </message>
+    <message>
+        <source>%1 has no known unit of time</source>
+        <translation>%1 hat keine bekannte Zeiteinheit</translation>
+    </message>
+    <message>
+        <source>money for an hour</source>
+        <translation>Geld je Stunde</translation>
+    </message>
+    <message>
+        <source>%1 is no rate for a month or less</source>
+        <translation>%1 ist kein Satz für einen Monat oder weniger</translation>
+    </message>
+    <message>
+        <source>%1 is no amount</source>
+        <translation>%1 ist kein Betrag</translation>
+    </message>
+    <message>
+        <source>%1 is taken as a percentage</source>
+        <translation>%1 wird als Prozentsatz genommen</translation>
+    </message>
+    <message>
+        <source>%1 is the ID of no task</source>
+        <translation>%1 ist die ID keines Vorgangs</translation>
+    </message>
+    <message>
+        <source>it is a second %1</source>
+        <translation>es ist ein zweites %1</translation>
+    </message>
+    <message>
+        <source>no such column</source>
+        <translation>keine solche Spalte</translation>
+    </message>
+    <message>
+        <source>not read; did you mean %1?</source>
+        <translation>nicht gelesen; meinten Sie %1?</translation>
+    </message>
+    <message>
+        <source>column %1 has no title and %2 cells</source>
+        <translation>Spalte %1 hat keinen Titel und %2 Zellen</translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>%1, row %2</source>
+        <translation>%1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>row %1, '%2'</source>
+        <translation>Zeile %1, '%2'</translation>
+    </message>
+    <message>
+        <source>%1, row %2, '%3'</source>
+        <translation>%1, Zeile %2, '%3'</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>line %1, '%2'</source>
+        <translation>Zeile %1, '%2'</translation>
+    </message>
+    <message>
+        <source>%1, line %2, '%3'</source>
+        <translation>%1, Zeile %2, '%3'</translation>
+    </message>
+    <message>
+        <source>nothing was read</source>
+        <translation>nichts gelesen</translation>
+    </message>
+    <message>
+        <source>%1 has a comma that groups no digits</source>
+        <translation>%1 hat ein Komma, das keine Ziffern gruppiert</translation>
+    </message>
+    <message>
+        <source>level 1</source>
+        <translation>Ebene 1</translation>
+    </message>
+    <message>
+        <source>%1 is no ID</source>
+        <translation>%1 ist keine ID</translation>
+    </message>
+    <message>
+        <source>%1 is no level from 1 to 1000</source>
+        <translation>%1 ist keine Ebene von 1 bis 1000</translation>
+    </message>
+    <message>
+        <source>%1 is no number</source>
+        <translation>%1 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 is no percentage</source>
+        <translation>%1 ist kein Prozentsatz</translation>
+    </message>
+    <message>
+        <source>%1 is no percentage from 0 to 100</source>
+        <translation>%1 ist kein Prozentsatz von 0 bis 100</translation>
+    </message>
+    <message>
+        <source>%1 is no length of time</source>
+        <translation>%1 ist keine Zeitdauer</translation>
+    </message>
+    <message>
+        <source>counted in days</source>
+        <translation>in Tagen gezählt</translation>
+    </message>
+    <message>
+        <source>there are too many links</source>
+        <translation>es sind zu viele Hyperlinks</translation>
+    </message>
+    <message>
+        <source>%1 has no closing quote</source>
+        <translation>bei %1 fehlt das schließende Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>%1 is no task</source>
+        <translation>%1 ist kein Vorgang</translation>
+    </message>
+    <message>
+        <source>%1 is no link from finish to start without lag</source>
+        <translation>%1 ist keine Ende-Anfang-Verknüpfung ohne Zeitabstand</translation>
+    </message>
+    <message>
+        <source>%1 is an outline code, and no column has these</source>
+        <translation>%1 ist ein Gliederungscode, und keine Spalte hat solche</translation>
+    </message>
+    <message>
+        <source>there are too many predecessors</source>
+        <translation>es sind zu viele Vorgänger</translation>
+    </message>
+    <message>
+        <source>%1 names a predecessor twice</source>
+        <translation>%1 nennt einen Vorgänger zweimal</translation>
+    </message>
+    <message>
+        <source>%1 is no date from 1970 to 2105</source>
+        <translation>%1 ist kein Termin von 1970 bis 2105</translation>
+    </message>
+    <message>
+        <source>some of its dates have the day first, others the month</source>
+        <translation>bei manchen Terminen steht der Tag vorn, bei anderen der Monat</translation>
+    </message>
+    <message>
+        <source>nothing says whether day or month stand first in its dates</source>
+        <translation>nichts sagt, ob in den Terminen Tag oder Monat vorn steht</translation>
+    </message>
+    <message>
+        <source>the month first wherever that is a date</source>
+        <translation>der Monat zuerst, wo das einen Termin ergibt</translation>
+    </message>
+    <message>
+        <source>its numbers may be fractions</source>
+        <translation>die Zahlen könnten Bruchteile sein</translation>
+    </message>
+    <message>
+        <source>read as percentages</source>
+        <translation>als Prozentsätze gelesen</translation>
+    </message>
+    <message>
+        <source>level %1 follows level %2</source>
+        <translation>Ebene %1 folgt auf Ebene %2</translation>
+    </message>
+    <message>
+        <source>a task is one level below its summary</source>
+        <translation>ein Vorgang liegt eine Ebene unter seinem Sammelvorgang</translation>
+    </message>
+    <message>
+        <source>there is no task with the ID %1</source>
+        <translation>es gibt keinen Vorgang mit der ID %1</translation>
+    </message>
+    <message>
+        <source>there is no task in row %1</source>
+        <translation>in Zeile %1 steht kein Vorgang</translation>
+    </message>
+    <message>
+        <source>there are several tasks %1</source>
+        <translation>es gibt mehrere Vorgänge %1</translation>
+    </message>
+    <message>
+        <source>there are neither dates nor lengths</source>
+        <translation>es gibt weder Termine noch Dauern</translation>
+    </message>
+    <message>
+        <source>all tasks are one day long</source>
+        <translation>alle Vorgänge dauern einen Tag</translation>
+    </message>
+    <message>
+        <source>there is no such part</source>
+        <translation>diesen Teil gibt es nicht</translation>
+    </message>
+    <message>
+        <source>the part is too large</source>
+        <translation>der Teil ist zu groß</translation>
+    </message>
+    <message>
+        <source>%1 references in texts stand for no character</source>
+        <translation>%1 Verweise in Texten stehen für kein Zeichen</translation>
+    </message>
+    <message>
+        <source>control characters left out, unknown names as they are written</source>
+        <translation>Steuerzeichen weggelassen, unbekannte Namen wie geschrieben</translation>
+    </message>
+    <message>
+        <source>the places of %1 cells are not understood, the first is %2</source>
+        <translation>die Orte von %1 Zellen sind nicht zu verstehen, der erste ist %2</translation>
+    </message>
+    <message>
+        <source>the places of %1 cells name no row, the first is %2</source>
+        <translation>die Orte von %1 Zellen nennen keine Zeile, der erste ist %2</translation>
+    </message>
+    <message>
+        <source>taken as cells of the rows that hold them</source>
+        <translation>als Zellen ihrer Zeilen genommen</translation>
+    </message>
+    <message>
+        <source>%1 formulas have no value, the first in row %2</source>
+        <translation>%1 Formeln haben keinen Wert, die erste in Zeile %2</translation>
+    </message>
+    <message>
+        <source>left out: save the workbook with a program that calculates them</source>
+        <translation>weggelassen: speichern Sie die Mappe mit einem Programm, das sie berechnet</translation>
+    </message>
+    <message>
+        <source>cancelled: nothing was written</source>
+        <translation>abgebrochen: nichts wurde geschrieben</translation>
+    </message>
+    <message>
+        <source>there is no plan to draw</source>
+        <translation>es gibt keinen Plan zum Zeichnen</translation>
+    </message>
+    <message>
+        <source>no font is installed: nothing can be drawn</source>
+        <translation>keine Schrift ist installiert: nichts lässt sich zeichnen</translation>
+    </message>
+    <message>
+        <source>the package fonts-dejavu-core brings some</source>
+        <translation>das Paket fonts-dejavu-core bringt welche mit</translation>
+    </message>
+    <message>
+        <source>the plan has no tasks: there is nothing to draw</source>
+        <translation>der Plan hat keine Vorgänge: es gibt nichts zu zeichnen</translation>
+    </message>
+    <message>
+        <source>no task is shown: there is nothing to draw</source>
+        <translation>kein Vorgang wird gezeigt: es gibt nichts zu zeichnen</translation>
+    </message>
+    <message>
+        <source>print setup</source>
+        <translation>Druckeinrichtung</translation>
+    </message>
+    <message>
+        <source>the picture would take %1 x %2 sheets</source>
+        <translation>das Bild bräuchte %1 x %2 Blätter</translation>
+    </message>
+    <message>
+        <source>fit it to fewer, take a coarser scale, or print a part of it</source>
+        <translation>passen Sie es auf weniger ein, nehmen Sie einen gröberen Maßstab oder drucken Sie einen Teil</translation>
+    </message>
+    <message>
+        <source>no font has all characters of %1 texts, the first of them '%2'</source>
+        <translation>keine Schrift hat alle Zeichen von %1 Texten, der erste davon '%2'</translation>
+    </message>
+    <message>
+        <source>for Chinese the package fonts-wqy-microhei brings one</source>
+        <translation>für Chinesisch bringt das Paket fonts-wqy-microhei eine mit</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>there is nothing to paint on</source>
+        <translation>es gibt nichts, worauf gezeichnet werden kann</translation>
+    </message>
+    <message>
+        <source>the smallest text is %1 points high</source>
+        <translation>der kleinste Text ist %1 Punkt hoch</translation>
+    </message>
+    <message>
+        <source>on %1 x %2 sheets it is %3</source>
+        <translation>auf %1 x %2 Blättern sind es %3</translation>
+    </message>
+    <message>
+        <source>an image of %1 x %2 pixels is too large</source>
+        <translation>ein Bild von %1 x %2 Pixeln ist zu groß</translation>
+    </message>
+    <message>
+        <source>export a PDF, take a coarser scale, or draw a part of the plan</source>
+        <translation>exportieren Sie ein PDF, nehmen Sie einen gröberen Maßstab oder zeichnen Sie einen Teil des Plans</translation>
+    </message>
+    <message>
+        <source>there is no memory for the image</source>
+        <translation>für das Bild fehlt der Speicher</translation>
+    </message>
+    <message>
+        <source>a chart of %1 pixels is too wide</source>
+        <translation>ein Diagramm von %1 Pixeln ist zu breit</translation>
+    </message>
+    <message>
+        <source>Waits for %1</source>
+        <translation>Wartet auf %1</translation>
+    </message>
+    <message>
+        <source>Critical: a delay moves the finish</source>
+        <translation>Kritisch: eine Verspätung verschiebt das Ende</translation>
+    </message>
+    <message>
+        <source>Starts with the project</source>
+        <translation>Beginnt mit dem Projekt</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nach</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vor</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>nothing found</source>
+        <translation>nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Show more time (-)</source>
+        <translation>Mehr Zeit zeigen (-)</translation>
+    </message>
+    <message>
+        <source>Show less time (+)</source>
+        <translation>Weniger Zeit zeigen (+)</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Show the whole plan (0)</source>
+        <translation>Den ganzen Plan zeigen (0)</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Go to today (T)</source>
+        <translation>Zu heute gehen (T)</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Zuklappen</translation>
+    </message>
+    <message>
+        <source>Fold all summaries</source>
+        <translation>Alle Sammelvorgänge zuklappen</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>Aufklappen</translation>
+    </message>
+    <message>
+        <source>Unfold all summaries</source>
+        <translation>Alle Sammelvorgänge aufklappen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>More or fewer columns (C)</source>
+        <translation>Mehr oder weniger Spalten (C)</translation>
+    </message>
+    <message>
+        <source>Keys (?)</source>
+        <translation>Tasten (?)</translation>
+    </message>
+    <message>
+        <source>%1 tasks</source>
+        <translation>%1 Vorgänge</translation>
+    </message>
+    <message>
+        <source>Choose a task with a click or the arrow keys.</source>
+        <translation>Ein Klick oder die Pfeiltasten wählen einen Vorgang.</translation>
+    </message>
+    <message>
+        <source>another task</source>
+        <translation>ein anderer Vorgang</translation>
+    </message>
+    <message>
+        <source>fold and unfold</source>
+        <translation>zuklappen und aufklappen</translation>
+    </message>
+    <message>
+        <source>go to the task's bar</source>
+        <translation>zum Balken des Vorgangs gehen</translation>
+    </message>
+    <message>
+        <source>go to what it waits for, to what waits for it</source>
+        <translation>zu dem gehen, worauf er wartet; zu dem, was auf ihn wartet</translation>
+    </message>
+    <message>
+        <source>go back</source>
+        <translation>zurückgehen</translation>
+    </message>
+    <message>
+        <source>find; Enter and Shift+Enter for the next and the one before</source>
+        <translation>suchen; Enter und Umschalt+Enter für den nächsten und den vorigen</translation>
+    </message>
+    <message>
+        <source>less time, more time, the whole plan</source>
+        <translation>weniger Zeit, mehr Zeit, der ganze Plan</translation>
+    </message>
+    <message>
+        <source>columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>paper of %1 cannot be printed on; A4 was taken</source>
+        <translation>auf Papier von %1 lässt sich nicht drucken; A4 wurde genommen</translation>
+    </message>
+    <message>
+        <source>at least 40 mm and at most 5 m each way</source>
+        <translation>mindestens 40 mm und höchstens 5 m je Seite</translation>
+    </message>
+    <message>
+        <source>the margins leave less than 20 mm of the paper; margins of 10 mm were taken</source>
+        <translation>die Ränder lassen weniger als 20 mm vom Papier; Ränder von 10 mm wurden genommen</translation>
+    </message>
+    <message>
+        <source>task %1</source>
+        <translation>Vorgang %1</translation>
     </message>
     <message>
         <source>it is hidden below the task with ID %1, which does not exist: shown</source>
@@ -4146,6 +4414,18 @@
         <translation>%1 an Stelle %2 ist keine Zahl: 0 wird genommen</translation>
     </message>
     <message>
+        <source>%1 for day %2 is neither 1 nor 0: a day off is taken</source>
+        <translation>%1 für Tag %2 ist weder 1 noch 0: ein freier Tag wird genommen</translation>
+    </message>
+    <message>
+        <source>%1 flags for seven days: the others stay as they were</source>
+        <translation>%1 Angaben für sieben Tage: die anderen bleiben, wie sie waren</translation>
+    </message>
+    <message>
+        <source>%1 flags for seven days: the first seven are taken</source>
+        <translation>%1 Angaben für sieben Tage: die ersten sieben werden genommen</translation>
+    </message>
+    <message>
         <source>%1 is neither 1 nor 0: no is taken</source>
         <translation>%1 ist weder 1 noch 0: nein wird genommen</translation>
     </message>
@@ -4154,12 +4434,12 @@
         <translation>%1 ist keine ganze Zahl: 0 wird genommen</translation>
     </message>
     <message>
-        <source>%1 is no whole number: passed over</source>
-        <translation>%1 ist keine ganze Zahl: übergangen</translation>
-    </message>
-    <message>
         <source>%1 is no such number: passed over</source>
         <translation>%1 ist keine solche Zahl: übergangen</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number: passed over</source>
+        <translation>%1 ist keine ganze Zahl: übergangen</translation>
     </message>
     <message>
         <source>%1 is no number from 0 to 4294967295: 0 is taken</source>
@@ -4172,18 +4452,6 @@
     <message>
         <source>%1 is no number: 0 is taken</source>
         <translation>%1 ist keine Zahl: 0 wird genommen</translation>
-    </message>
-    <message>
-        <source>%1 for day %2 is neither 1 nor 0: a day off is taken</source>
-        <translation>%1 für Tag %2 ist weder 1 noch 0: ein freier Tag wird genommen</translation>
-    </message>
-    <message>
-        <source>%1 flags for seven days: the others stay as they were</source>
-        <translation>%1 Angaben für sieben Tage: die anderen bleiben, wie sie waren</translation>
-    </message>
-    <message>
-        <source>%1 flags for seven days: the first seven are taken</source>
-        <translation>%1 Angaben für sieben Tage: die ersten sieben werden genommen</translation>
     </message>
     <message>
         <source>%1, in %2 places</source>
@@ -4202,12 +4470,12 @@
         <translation>ein Element %1 wird als '%2' gelesen</translation>
     </message>
     <message>
-        <source>the element %1 in '%2' is not known: passed over</source>
-        <translation>das Element %1 in '%2' ist unbekannt: übergangen</translation>
-    </message>
-    <message>
         <source>the element %1 in '%2' is not known: passed over with the %3 elements in it</source>
         <translation>das Element %1 in '%2' ist unbekannt: mit den %3 Elementen darin übergangen</translation>
+    </message>
+    <message>
+        <source>the element %1 in '%2' is not known: passed over</source>
+        <translation>das Element %1 in '%2' ist unbekannt: übergangen</translation>
     </message>
     <message>
         <source>'%1' stands twice: intervals of both are taken, of other values the last</source>
@@ -4218,12 +4486,12 @@
         <translation>'%1' steht doppelt: das erste wird genommen</translation>
     </message>
     <message>
-        <source>'%1' stands twice: the last one is taken</source>
-        <translation>'%1' steht doppelt: das letzte wird genommen</translation>
-    </message>
-    <message>
         <source>'%1' stands twice: the last one is taken, and the %2 elements of the one before are not</source>
         <translation>'%1' steht doppelt: das letzte wird genommen, die %2 Elemente des vorigen nicht</translation>
+    </message>
+    <message>
+        <source>'%1' stands twice: the last one is taken</source>
+        <translation>'%1' steht doppelt: das letzte wird genommen</translation>
     </message>
     <message>
         <source>the file has none of the lists of a plan</source>
@@ -4290,6 +4558,10 @@
         <translation>die Spanne %1 besteht nicht aus ganzen Stunden: angebrochene Stunden am Ende zählen nicht, am Anfang schon</translation>
     </message>
     <message>
+        <source>working time</source>
+        <translation>Arbeitszeit</translation>
+    </message>
+    <message>
         <source>a day has no hours of work: nothing can be scheduled</source>
         <translation>ein Tag hat keine Arbeitsstunden: nichts lässt sich planen</translation>
     </message>
@@ -4300,6 +4572,10 @@
     <message>
         <source>no day of the week is a working day: nothing can be scheduled</source>
         <translation>kein Wochentag ist ein Arbeitstag: nichts lässt sich planen</translation>
+    </message>
+    <message>
+        <source>exception %1</source>
+        <translation>Ausnahme %1</translation>
     </message>
     <message>
         <source>there is no %1: today is taken</source>
@@ -4342,6 +4618,10 @@
         <translation>die Einheit ihres Satzes ist unbekannt: sie kostet nichts</translation>
     </message>
     <message>
+        <source>column %1</source>
+        <translation>Spalte %1</translation>
+    </message>
+    <message>
         <source>there is no column of its kind: it stays empty</source>
         <translation>es gibt keine Spalte dieser Art: sie bleibt leer</translation>
     </message>
@@ -4382,132 +4662,12 @@
         <translation>es ist nichts darin: beim Speichern fällt es weg</translation>
     </message>
     <message>
-        <source>the archive is cut off at byte %1: the list of its entries is missing</source>
-        <translation>das Archiv ist bei Byte %1 abgeschnitten: die Liste seiner Einträge fehlt</translation>
-    </message>
-    <message>
-        <source>no archive: %1</source>
-        <translation>kein Archiv: %1</translation>
-    </message>
-    <message>
-        <source>there are too many entries</source>
-        <translation>es sind zu viele Einträge</translation>
-    </message>
-    <message>
-        <source>there are too many folders</source>
-        <translation>es sind zu viele Ordner</translation>
-    </message>
-    <message>
-        <source>an entry cannot be read</source>
-        <translation>ein Eintrag ist nicht lesbar</translation>
-    </message>
-    <message>
-        <source>the entry is encrypted</source>
-        <translation>der Eintrag ist verschlüsselt</translation>
-    </message>
-    <message>
-        <source>the entry is packed in an unknown way</source>
-        <translation>der Eintrag ist auf unbekannte Art gepackt</translation>
-    </message>
-    <message>
-        <source>the entry is neither a plain file nor a plain folder</source>
-        <translation>der Eintrag ist weder Datei noch Ordner</translation>
-    </message>
-    <message>
-        <source>neither a plain file nor a plain folder</source>
-        <translation>weder Datei noch Ordner</translation>
-    </message>
-    <message>
-        <source>a name holds a control character</source>
-        <translation>ein Name enthält ein Steuerzeichen</translation>
-    </message>
-    <message>
-        <source>the name cannot be used on this machine</source>
-        <translation>der Name ist auf diesem Rechner nicht verwendbar</translation>
-    </message>
-    <message>
-        <source>something stands there already</source>
-        <translation>dort steht schon etwas</translation>
-    </message>
-    <message>
-        <source>its folder cannot be made</source>
-        <translation>sein Ordner kann nicht angelegt werden</translation>
-    </message>
-    <message>
-        <source>the entry does not have the size it declares</source>
-        <translation>der Eintrag hat nicht die angegebene Größe</translation>
-    </message>
-    <message>
-        <source>there is no such folder</source>
-        <translation>diesen Ordner gibt es nicht</translation>
-    </message>
-    <message>
-        <source>there is no such archive</source>
-        <translation>dieses Archiv gibt es nicht</translation>
-    </message>
-    <message>
-        <source>the name is empty</source>
-        <translation>der Name ist leer</translation>
-    </message>
-    <message>
-        <source>the name is absolute</source>
-        <translation>der Name ist absolut</translation>
-    </message>
-    <message>
-        <source>the name holds a backslash</source>
-        <translation>der Name enthält einen umgekehrten Schrägstrich</translation>
-    </message>
-    <message>
-        <source>the name holds a control character</source>
-        <translation>der Name enthält ein Steuerzeichen</translation>
-    </message>
-    <message>
-        <source>the name is no sound UTF-8</source>
-        <translation>der Name ist kein gültiges UTF-8</translation>
-    </message>
-    <message>
-        <source>the name is too long</source>
-        <translation>der Name ist zu lang</translation>
-    </message>
-    <message>
-        <source>the name leaves its folder or goes round in it</source>
-        <translation>der Name verlässt seinen Ordner oder läuft darin im Kreis</translation>
-    </message>
-    <message>
-        <source>the entry is too large</source>
-        <translation>der Eintrag ist zu groß</translation>
-    </message>
-    <message>
-        <source>the entry unpacks to far more than it holds</source>
-        <translation>der Eintrag entpackt sich zu weit mehr, als er enthält</translation>
-    </message>
-    <message>
-        <source>a folder has content</source>
-        <translation>ein Ordner hat Inhalt</translation>
-    </message>
-    <message>
-        <source>the name stands there twice</source>
-        <translation>der Name steht doppelt</translation>
-    </message>
-    <message>
-        <source>the archive unpacks to too much</source>
-        <translation>das Archiv entpackt sich zu zu viel</translation>
-    </message>
-    <message>
-        <source>the archive unpacks to far more than it holds</source>
-        <translation>das Archiv entpackt sich zu weit mehr, als es enthält</translation>
-    </message>
-    <message>
-        <source>%1: the name stands for a file and for a folder</source>
-        <translation>%1: der Name steht für eine Datei und für einen Ordner</translation>
+        <source>writing was given up</source>
+        <translation>das Schreiben wurde aufgegeben</translation>
     </message>
     <message>
         <source>byte %1: %2</source>
         <translation>Byte %1: %2</translation>
-    </message>
-    <message>
-        <source>byte %1: no sound UTF-8</source>
-        <translation>Byte %1: kein gültiges UTF-8</translation>
     </message>
     <message>
         <source>the text ends inside an element</source>
@@ -4554,12 +4714,12 @@
         <translation>ein Tag endet nicht</translation>
     </message>
     <message>
-        <source>no sound XML</source>
-        <translation>kein gültiges XML</translation>
+        <source>byte %1: no sound UTF-8</source>
+        <translation>Byte %1: kein gültiges UTF-8</translation>
     </message>
     <message>
-        <source>too large</source>
-        <translation>zu groß</translation>
+        <source>no sound XML</source>
+        <translation>kein gültiges XML</translation>
     </message>
     <message>
         <source>there is something beside the root element</source>
@@ -4570,108 +4730,64 @@
         <translation>ein Attribut steht doppelt im Element %1</translation>
     </message>
     <message>
-        <source>writing was given up</source>
-        <translation>das Schreiben wurde aufgegeben</translation>
+        <source>the name is empty</source>
+        <translation>der Name ist leer</translation>
     </message>
     <message>
-        <source>print setup</source>
-        <translation>Druckeinrichtung</translation>
+        <source>the name is absolute</source>
+        <translation>der Name ist absolut</translation>
     </message>
     <message>
-        <source>cancelled: nothing was written</source>
-        <translation>abgebrochen: nichts wurde geschrieben</translation>
+        <source>the name holds a backslash</source>
+        <translation>der Name enthält einen umgekehrten Schrägstrich</translation>
     </message>
     <message>
-        <source>there is no plan to draw</source>
-        <translation>es gibt keinen Plan zum Zeichnen</translation>
+        <source>the name holds a control character</source>
+        <translation>der Name enthält ein Steuerzeichen</translation>
     </message>
     <message>
-        <source>no font is installed: nothing can be drawn</source>
-        <translation>keine Schrift ist installiert: nichts lässt sich zeichnen</translation>
+        <source>the name is no sound UTF-8</source>
+        <translation>der Name ist kein gültiges UTF-8</translation>
     </message>
     <message>
-        <source>the package fonts-dejavu-core brings some</source>
-        <translation>das Paket fonts-dejavu-core bringt welche mit</translation>
+        <source>the name is too long</source>
+        <translation>der Name ist zu lang</translation>
     </message>
     <message>
-        <source>the plan has no tasks: there is nothing to draw</source>
-        <translation>der Plan hat keine Vorgänge: es gibt nichts zu zeichnen</translation>
+        <source>the name leaves its folder or goes round in it</source>
+        <translation>der Name verlässt seinen Ordner oder läuft darin im Kreis</translation>
     </message>
     <message>
-        <source>no task is shown: there is nothing to draw</source>
-        <translation>kein Vorgang wird gezeigt: es gibt nichts zu zeichnen</translation>
+        <source>the entry is too large</source>
+        <translation>der Eintrag ist zu groß</translation>
     </message>
     <message>
-        <source>the picture would take %1 x %2 sheets</source>
-        <translation>das Bild bräuchte %1 x %2 Blätter</translation>
+        <source>the entry unpacks to far more than it holds</source>
+        <translation>der Eintrag entpackt sich zu weit mehr, als er enthält</translation>
     </message>
     <message>
-        <source>fit it to fewer, take a coarser scale, or print a part of it</source>
-        <translation>passen Sie es auf weniger ein, nehmen Sie einen gröberen Maßstab oder drucken Sie einen Teil</translation>
+        <source>a folder has content</source>
+        <translation>ein Ordner hat Inhalt</translation>
     </message>
     <message>
-        <source>no font has all characters of %1 texts, the first of them '%2'</source>
-        <translation>keine Schrift hat alle Zeichen von %1 Texten, der erste davon '%2'</translation>
+        <source>the name stands there twice</source>
+        <translation>der Name steht doppelt</translation>
     </message>
     <message>
-        <source>for Chinese the package fonts-wqy-microhei brings one</source>
-        <translation>für Chinesisch bringt das Paket fonts-wqy-microhei eine mit</translation>
+        <source>there are too many folders</source>
+        <translation>es sind zu viele Ordner</translation>
     </message>
     <message>
-        <source>there is nothing to paint on</source>
-        <translation>es gibt nichts, worauf gezeichnet werden kann</translation>
+        <source>the archive unpacks to too much</source>
+        <translation>das Archiv entpackt sich zu zu viel</translation>
     </message>
     <message>
-        <source>the smallest text is %1 points high</source>
-        <translation>der kleinste Text ist %1 Punkt hoch</translation>
+        <source>the archive unpacks to far more than it holds</source>
+        <translation>das Archiv entpackt sich zu weit mehr, als es enthält</translation>
     </message>
     <message>
-        <source>on %1 x %2 sheets it is %3</source>
-        <translation>auf %1 x %2 Blättern sind es %3</translation>
-    </message>
-    <message>
-        <source>cannot be written: %1</source>
-        <translation>kann nicht geschrieben werden: %1</translation>
-    </message>
-    <message>
-        <source>an image of %1 x %2 pixels is too large</source>
-        <translation>ein Bild von %1 x %2 Pixeln ist zu groß</translation>
-    </message>
-    <message>
-        <source>export a PDF, take a coarser scale, or draw a part of the plan</source>
-        <translation>exportieren Sie ein PDF, nehmen Sie einen gröberen Maßstab oder zeichnen Sie einen Teil des Plans</translation>
-    </message>
-    <message>
-        <source>there is no memory for the image</source>
-        <translation>für das Bild fehlt der Speicher</translation>
-    </message>
-    <message>
-        <source>a chart of %1 pixels is too wide</source>
-        <translation>ein Diagramm von %1 Pixeln ist zu breit</translation>
-    </message>
-    <message>
-        <source>paper of %1 cannot be printed on; A4 was taken</source>
-        <translation>auf Papier von %1 lässt sich nicht drucken; A4 wurde genommen</translation>
-    </message>
-    <message>
-        <source>at least 40 mm and at most 5 m each way</source>
-        <translation>mindestens 40 mm und höchstens 5 m je Seite</translation>
-    </message>
-    <message>
-        <source>the margins leave less than 20 mm of the paper; margins of 10 mm were taken</source>
-        <translation>die Ränder lassen weniger als 20 mm vom Papier; Ränder von 10 mm wurden genommen</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1, %2</source>
-        <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>%1; %2</source>
-        <translation>%1; %2</translation>
+        <source>%1: the name stands for a file and for a folder</source>
+        <translation>%1: der Name steht für eine Datei und für einen Ordner</translation>
     </message>
 </context>
 <context>
@@ -5689,6 +5805,66 @@
         <translation>&amp;Abbrechen</translation>
     </message>
     <message>
+        <source>Plans projects in working time.</source>
+        <translation>Plant Projekte in Arbeitszeit.</translation>
+    </message>
+    <message>
+        <source>The time zone of the plan.</source>
+        <translation>Die Zeitzone des Plans.</translation>
+    </message>
+    <message>
+        <source>The language of the program.</source>
+        <translation>Die Sprache des Programms.</translation>
+    </message>
+    <message>
+        <source>Begins with an empty plan.</source>
+        <translation>Beginnt mit einem leeren Plan.</translation>
+    </message>
+    <message>
+        <source>Prints what each key does.</source>
+        <translation>Nennt, was jede Taste tut.</translation>
+    </message>
+    <message>
+        <source>Prints this.</source>
+        <translation>Zeigt diese Hilfe.</translation>
+    </message>
+    <message>
+        <source>Prints the version.</source>
+        <translation>Nennt die Version.</translation>
+    </message>
+    <message>
+        <source>The plan to open.</source>
+        <translation>Der Plan, der geöffnet wird.</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumente:</translation>
+    </message>
+    <message>
+        <source>kwgantt-desktop --help lists all options</source>
+        <translation>kwgantt-desktop --help nennt alle Optionen</translation>
+    </message>
+    <message>
+        <source>there is no screen here</source>
+        <translation>hier gibt es keinen Bildschirm</translation>
+    </message>
+    <message>
+        <source>kwgantt works without one: kwgantt help</source>
+        <translation>kwgantt kommt ohne aus: kwgantt help</translation>
+    </message>
+    <message>
         <source>State of the plan</source>
         <translation>Stand des Plans</translation>
     </message>
@@ -5909,10 +6085,6 @@
         <translation>Noch keine</translation>
     </message>
     <message>
-        <source>Unfold</source>
-        <translation>Aufklappen</translation>
-    </message>
-    <message>
         <source>It waits for no other task.</source>
         <translation>Er wartet auf keinen anderen Vorgang.</translation>
     </message>
@@ -6011,10 +6183,6 @@
     <message>
         <source>Move down</source>
         <translation>Nach unten</translation>
-    </message>
-    <message>
-        <source>Fold</source>
-        <translation>Zuklappen</translation>
     </message>
     <message>
         <source>Link tasks</source>

@@ -244,10 +244,6 @@
         <translation>%1 个任务</translation>
     </message>
     <message>
-        <source>%1 tasks</source>
-        <translation>%1 个任务</translation>
-    </message>
-    <message>
         <source>%1 task too early</source>
         <translation>%1 个任务过早</translation>
     </message>
@@ -298,14 +294,6 @@
     <message>
         <source>Late finish</source>
         <translation>最晚完成</translation>
-    </message>
-    <message>
-        <source>After</source>
-        <translation>前置</translation>
-    </message>
-    <message>
-        <source>Before</source>
-        <translation>后续</translation>
     </message>
     <message>
         <source>Resources</source>
@@ -436,10 +424,6 @@
         <translation>工期</translation>
     </message>
     <message>
-        <source>done</source>
-        <translation>已完成</translation>
-    </message>
-    <message>
         <source>cost</source>
         <translation>成本</translation>
     </message>
@@ -454,10 +438,6 @@
     <message>
         <source>predecessors</source>
         <translation>前置任务</translation>
-    </message>
-    <message>
-        <source>milestone</source>
-        <translation>里程碑</translation>
     </message>
     <message>
         <source>yes</source>
@@ -548,14 +528,6 @@
         <translation>换位</translation>
     </message>
     <message>
-        <source>row %1</source>
-        <translation>第 %1 行</translation>
-    </message>
-    <message>
-        <source>working time</source>
-        <translation>工作时间</translation>
-    </message>
-    <message>
         <source>exception</source>
         <translation>例外</translation>
     </message>
@@ -574,10 +546,6 @@
     <message>
         <source>columns now hidden: %1</source>
         <translation>现在隐藏的列：%1</translation>
-    </message>
-    <message>
-        <source>changed</source>
-        <translation>更改</translation>
     </message>
     <message>
         <source>renamed</source>
@@ -712,10 +680,6 @@
         <translation>'%1' 不是百分比</translation>
     </message>
     <message>
-        <source>write a number from 0 to 100</source>
-        <translation>请写 0 到 100 之间的数</translation>
-    </message>
-    <message>
         <source>'%1' is not a whole number</source>
         <translation>'%1' 不是整数</translation>
     </message>
@@ -726,14 +690,6 @@
     <message>
         <source>write a number of pixels</source>
         <translation>请写像素数</translation>
-    </message>
-    <message>
-        <source>'%1' is no amount</source>
-        <translation>'%1' 不是金额</translation>
-    </message>
-    <message>
-        <source>write a number</source>
-        <translation>请写一个数</translation>
     </message>
     <message>
         <source>the quote %1 is never closed</source>
@@ -804,20 +760,12 @@
         <translation>可用：%1</translation>
     </message>
     <message>
-        <source>no column '%1'</source>
-        <translation>没有列 '%1'</translation>
-    </message>
-    <message>
         <source>'%1' is no value for a column</source>
         <translation>'%1' 不是列的有效值</translation>
     </message>
     <message>
         <source>write show, hide or a width in pixels</source>
         <translation>请写 show、hide 或以像素计的宽度</translation>
-    </message>
-    <message>
-        <source>no resource '%1'</source>
-        <translation>没有资源 '%1'</translation>
     </message>
     <message>
         <source>'resource add %1' makes it</source>
@@ -840,10 +788,6 @@
         <translation>请写成 200%</translation>
     </message>
     <message>
-        <source>there is a resource '%1' already</source>
-        <translation>已有资源 '%1'</translation>
-    </message>
-    <message>
         <source>'resource set' changes it</source>
         <translation>'resource set' 可更改</translation>
     </message>
@@ -862,10 +806,6 @@
     <message>
         <source>did you mean %1%?</source>
         <translation>您是指 %1% 吗？</translation>
-    </message>
-    <message>
-        <source>'%1' is not assigned to %2</source>
-        <translation>'%1' 未分配给 %2</translation>
     </message>
     <message>
         <source>assigned are: %1</source>
@@ -1244,10 +1184,6 @@
         <translation>需要</translation>
     </message>
     <message>
-        <source>critical</source>
-        <translation>关键</translation>
-    </message>
-    <message>
         <source>holds up</source>
         <translation>制约</translation>
     </message>
@@ -1370,10 +1306,6 @@
     <message>
         <source>weekend</source>
         <translation>周末</translation>
-    </message>
-    <message>
-        <source>day off</source>
-        <translation>休息日</translation>
     </message>
     <message>
         <source>nothing: it holds no task</source>
@@ -1522,10 +1454,6 @@
     <message>
         <source>%1 row heights for %2 tasks</source>
         <translation>%2 个任务有 %1 个行高</translation>
-    </message>
-    <message>
-        <source>remove one of these links</source>
-        <translation>请删除其中一个链接</translation>
     </message>
     <message>
         <source>its time zone %1 is not known on this machine: read in %2</source>
@@ -1840,10 +1768,6 @@
         <translation>正在读取</translation>
     </message>
     <message>
-        <source>line %1</source>
-        <translation>第 %1 行</translation>
-    </message>
-    <message>
         <source>building the tasks</source>
         <translation>正在建立任务</translation>
     </message>
@@ -1854,10 +1778,6 @@
     <message>
         <source>it is a folder</source>
         <translation>这是文件夹</translation>
-    </message>
-    <message>
-        <source>longer than %1 bytes</source>
-        <translation>超过 %1 字节</translation>
     </message>
     <message>
         <source>%1: cannot be written</source>
@@ -1934,14 +1854,6 @@
     <message>
         <source>the bars end early: a greater --width or a coarser --scale shows the rest</source>
         <translation>条形未显示完：加大 --width 或用更粗的 --scale 可看到其余部分</translation>
-    </message>
-    <message>
-        <source>to do</source>
-        <translation>待完成</translation>
-    </message>
-    <message>
-        <source>slack</source>
-        <translation>浮动时间</translation>
     </message>
     <message>
         <source>! critical: a delay moves the finish</source>
@@ -2050,10 +1962,6 @@
     <message>
         <source>(%1 more tasks)</source>
         <translation>（另有 %1 个任务）</translation>
-    </message>
-    <message>
-        <source>link the tasks below the summary</source>
-        <translation>请链接摘要任务之下的任务</translation>
     </message>
     <message>
         <source>the task is its own predecessor</source>
@@ -2818,6 +2726,130 @@
 <context>
     <name>library</name>
     <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>the archive is cut off at byte %1: the list of its entries is missing</source>
+        <translation>压缩包在第 %1 字节处被截断：缺少条目列表</translation>
+    </message>
+    <message>
+        <source>no archive: %1</source>
+        <translation>不是压缩包：%1</translation>
+    </message>
+    <message>
+        <source>there are too many entries</source>
+        <translation>条目过多</translation>
+    </message>
+    <message>
+        <source>an entry cannot be read</source>
+        <translation>有条目无法读取</translation>
+    </message>
+    <message>
+        <source>the entry is encrypted</source>
+        <translation>条目已加密</translation>
+    </message>
+    <message>
+        <source>the entry is packed in an unknown way</source>
+        <translation>条目以未知方式压缩</translation>
+    </message>
+    <message>
+        <source>the entry is neither a plain file nor a plain folder</source>
+        <translation>条目既非普通文件也非普通文件夹</translation>
+    </message>
+    <message>
+        <source>a name holds a control character</source>
+        <translation>名称含控制字符</translation>
+    </message>
+    <message>
+        <source>the name cannot be used on this machine</source>
+        <translation>此名称不能在本机使用</translation>
+    </message>
+    <message>
+        <source>something stands there already</source>
+        <translation>该处已有内容</translation>
+    </message>
+    <message>
+        <source>its folder cannot be made</source>
+        <translation>无法创建其文件夹</translation>
+    </message>
+    <message>
+        <source>the entry does not have the size it declares</source>
+        <translation>条目大小与声明不符</translation>
+    </message>
+    <message>
+        <source>neither a plain file nor a plain folder</source>
+        <translation>既非普通文件也非普通文件夹</translation>
+    </message>
+    <message>
+        <source>a folder cannot be read: %1</source>
+        <translation>无法读取文件夹：%1</translation>
+    </message>
+    <message>
+        <source>there is nothing to pack</source>
+        <translation>没有可打包的内容</translation>
+    </message>
+    <message>
+        <source>there is no such folder</source>
+        <translation>没有这个文件夹</translation>
+    </message>
+    <message>
+        <source>the archive lies in the folder that it packs</source>
+        <translation>归档文件位于它要打包的文件夹中</translation>
+    </message>
+    <message>
+        <source>there is no such archive</source>
+        <translation>没有这个压缩包</translation>
+    </message>
+    <message>
+        <source>too large</source>
+        <translation>过大</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>已完成</translation>
+    </message>
+    <message>
+        <source>to do</source>
+        <translation>待完成</translation>
+    </message>
+    <message>
+        <source>critical</source>
+        <translation>关键</translation>
+    </message>
+    <message>
+        <source>slack</source>
+        <translation>浮动时间</translation>
+    </message>
+    <message>
+        <source>baseline</source>
+        <translation>基线</translation>
+    </message>
+    <message>
+        <source>summary</source>
+        <translation>摘要任务</translation>
+    </message>
+    <message>
+        <source>milestone</source>
+        <translation>里程碑</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>day off</source>
+        <translation>休息日</translation>
+    </message>
+    <message>
+        <source>today</source>
+        <translation>取今天</translation>
+    </message>
+    <message>
+        <source>%1 of %2 (%3)</source>
+        <translation>%1 / %2（%3）</translation>
+    </message>
+    <message>
         <source>no task has the ID %1</source>
         <translation>没有标识号为 %1 的任务</translation>
     </message>
@@ -2910,6 +2942,18 @@
         <translation>这不是百分比</translation>
     </message>
     <message>
+        <source>write a number from 0 to 100</source>
+        <translation>请写 0 到 100 之间的数</translation>
+    </message>
+    <message>
+        <source>'%1' is no amount</source>
+        <translation>'%1' 不是金额</translation>
+    </message>
+    <message>
+        <source>write a number</source>
+        <translation>请写一个数</translation>
+    </message>
+    <message>
         <source>that is no row height</source>
         <translation>这不是行高</translation>
     </message>
@@ -2930,6 +2974,10 @@
         <translation>%1：前置任务 %2 在此摘要任务之下，摘要任务随它结束</translation>
     </message>
     <message>
+        <source>link the tasks below the summary</source>
+        <translation>请链接摘要任务之下的任务</translation>
+    </message>
+    <message>
         <source>%1: predecessor %2 is the summary that holds this task</source>
         <translation>%1：前置任务 %2 是包含此任务的摘要任务</translation>
     </message>
@@ -2938,12 +2986,24 @@
         <translation>%1：任务会互相等待：%2</translation>
     </message>
     <message>
+        <source>remove one of these links</source>
+        <translation>请删除其中一个链接</translation>
+    </message>
+    <message>
         <source>%1 does not wait for %2</source>
         <translation>%1 并不等待 %2</translation>
     </message>
     <message>
+        <source>no resource '%1'</source>
+        <translation>没有资源 '%1'</translation>
+    </message>
+    <message>
         <source>a resource needs a name</source>
         <translation>资源需要名称</translation>
+    </message>
+    <message>
+        <source>there is a resource '%1' already</source>
+        <translation>已有资源 '%1'</translation>
     </message>
     <message>
         <source>%1 is a summary</source>
@@ -2952,6 +3012,10 @@
     <message>
         <source>assign resources to the tasks below it</source>
         <translation>请把资源分配给其子任务</translation>
+    </message>
+    <message>
+        <source>'%1' is not assigned to %2</source>
+        <translation>'%1' 未分配给 %2</translation>
     </message>
     <message>
         <source>these are no units</source>
@@ -2994,6 +3058,10 @@
         <translation>没有包含 %1 的休息日或工作日</translation>
     </message>
     <message>
+        <source>no column '%1'</source>
+        <translation>没有列 '%1'</translation>
+    </message>
+    <message>
         <source>that is no width of a column</source>
         <translation>这不是列宽</translation>
     </message>
@@ -3014,476 +3082,176 @@
         <translation>已取消：计划保持原样</translation>
     </message>
     <message>
-        <source>given up</source>
-        <translation>已放弃</translation>
+        <source>holds no workbook</source>
+        <translation>不含工作簿</translation>
     </message>
     <message>
-        <source>left out</source>
-        <translation>已略去</translation>
+        <source>the stream of the workbook is damaged</source>
+        <translation>工作簿的数据流已损坏</translation>
     </message>
     <message>
-        <source>not read</source>
-        <translation>未读取</translation>
-    </message>
-    <message>
-        <source>not written</source>
-        <translation>未写入</translation>
-    </message>
-    <message>
-        <source>no predecessor</source>
-        <translation>不作为前置任务</translation>
+        <source>the sheet "%1" lies where another does</source>
+        <translation>工作表 "%1" 与另一个重叠</translation>
     </message>
     <message>
         <source>nothing imported</source>
         <translation>未导入任何内容</translation>
     </message>
     <message>
-        <source>nothing was read</source>
-        <translation>未读取任何内容</translation>
-    </message>
-    <message>
-        <source>taken once</source>
-        <translation>只取一次</translation>
-    </message>
-    <message>
-        <source>rounded</source>
-        <translation>已取整</translation>
-    </message>
-    <message>
-        <source>a task</source>
-        <translation>作为任务</translation>
-    </message>
-    <message>
-        <source>a material</source>
-        <translation>作为材料</translation>
-    </message>
-    <message>
-        <source>named %1</source>
-        <translation>改名为 %1</translation>
-    </message>
-    <message>
-        <source>read as %1</source>
-        <translation>读作 %1</translation>
-    </message>
-    <message>
-        <source>not read; did you mean %1?</source>
-        <translation>未读取；您是指 %1 吗？</translation>
-    </message>
-    <message>
-        <source>taken as one day long</source>
-        <translation>按一天计</translation>
-    </message>
-    <message>
-        <source>taken as a task</source>
-        <translation>作为任务</translation>
-    </message>
-    <message>
-        <source>the length counts</source>
-        <translation>以工期为准</translation>
-    </message>
-    <message>
-        <source>start and finish count</source>
-        <translation>以开始和完成时间为准</translation>
-    </message>
-    <message>
-        <source>a milestone at its start</source>
-        <translation>作为其开始时间处的里程碑</translation>
-    </message>
-    <message>
-        <source>the next free ID</source>
-        <translation>取下一个空闲标识号</translation>
-    </message>
-    <message>
-        <source>level 1</source>
-        <translation>级别 1</translation>
-    </message>
-    <message>
-        <source>counted in days</source>
-        <translation>按天计</translation>
-    </message>
-    <message>
-        <source>today</source>
-        <translation>取今天</translation>
-    </message>
-    <message>
-        <source>a work resource</source>
-        <translation>作为工时资源</translation>
-    </message>
-    <message>
-        <source>money for an hour</source>
-        <translation>按每小时计费</translation>
-    </message>
-    <message>
-        <source>read as percentages</source>
-        <translation>读作百分比</translation>
-    </message>
-    <message>
-        <source>assigned once</source>
-        <translation>只分配一次</translation>
-    </message>
-    <message>
-        <source>assigned with 100%</source>
-        <translation>按 100% 分配</translation>
-    </message>
-    <message>
-        <source>assigned without a rate</source>
-        <translation>不带费率分配</translation>
-    </message>
-    <message>
-        <source>kept as a text that costs nothing</source>
-        <translation>保留为不计成本的文本</translation>
-    </message>
-    <message>
-        <source>all tasks are one day long</source>
-        <translation>所有任务均为一天</translation>
-    </message>
-    <message>
-        <source>the month first wherever that is a date</source>
-        <translation>凡能成日期处月份在前</translation>
-    </message>
-    <message>
-        <source>the first task of the name has the assignments</source>
-        <translation>同名的第一个任务得到分配</translation>
-    </message>
-    <message>
-        <source>work is the task's length times the units</source>
-        <translation>工时等于工期乘以单位</translation>
-    </message>
-    <message>
-        <source>a task is one level below its summary</source>
-        <translation>任务比其摘要任务低一级</translation>
+        <source>assignments</source>
+        <translation>分配</translation>
     </message>
     <message>
         <source>a file that stood there was kept</source>
         <translation>原有文件已保留</translation>
     </message>
     <message>
-        <source>task sheet</source>
-        <translation>任务表</translation>
+        <source>there is no such file</source>
+        <translation>没有这个文件</translation>
     </message>
     <message>
-        <source>resource sheet</source>
-        <translation>资源表</translation>
+        <source>it is longer than %1 MB</source>
+        <translation>超过 %1 MB</translation>
     </message>
     <message>
-        <source>assignment sheet</source>
-        <translation>分配表</translation>
+        <source>task %1 "%2"</source>
+        <translation>任务 %1 "%2"</translation>
     </message>
     <message>
-        <source>task sheet, row %1</source>
-        <translation>任务表，第 %1 行</translation>
+        <source>the file's costs of %1 are %2 here</source>
+        <translation>文件中的成本 %1 在此为 %2</translation>
     </message>
     <message>
-        <source>resource sheet, row %1</source>
-        <translation>资源表，第 %1 行</translation>
+        <source>fixed costs, overtime and rates that change are not counted</source>
+        <translation>不计固定成本、加班和变动费率</translation>
     </message>
     <message>
-        <source>assignment sheet, row %1</source>
-        <translation>分配表，第 %1 行</translation>
+        <source>it cannot be written</source>
+        <translation>无法写入</translation>
     </message>
     <message>
-        <source>row %1, '%2'</source>
-        <translation>第 %1 行 '%2'</translation>
-    </message>
-    <message>
-        <source>line %1, '%2'</source>
-        <translation>第 %1 行 '%2'</translation>
-    </message>
-    <message>
-        <source>%1, row %2, '%3'</source>
-        <translation>%1，第 %2 行 '%3'</translation>
-    </message>
-    <message>
-        <source>%1, line %2, '%3'</source>
-        <translation>%1，第 %2 行 '%3'</translation>
-    </message>
-    <message>
-        <source>task sheet, row %1, '%2'</source>
-        <translation>任务表，第 %1 行 '%2'</translation>
-    </message>
-    <message>
-        <source>resource sheet, row %1, '%2'</source>
-        <translation>资源表，第 %1 行 '%2'</translation>
-    </message>
-    <message>
-        <source>assignment sheet, row %1, '%2'</source>
-        <translation>分配表，第 %1 行 '%2'</translation>
-    </message>
-    <message>
-        <source>assignments</source>
-        <translation>分配</translation>
+        <source>there are %1 columns, of which the first %2 are written</source>
+        <translation>共 %1 列，只写前 %2 列</translation>
     </message>
     <message>
         <source>%1, row %2, column %3</source>
         <translation>%1，第 %2 行第 %3 列</translation>
     </message>
     <message>
-        <source>%1, row %2</source>
-        <translation>%1，第 %2 行</translation>
+        <source>a text of %1 characters is cut to %2</source>
+        <translation>%1 个字符的文本截为 %2 个</translation>
     </message>
     <message>
-        <source>%1, line %2</source>
-        <translation>%1，第 %2 行</translation>
+        <source>the sheet '%1' holds %2 rows, and there are more</source>
+        <translation>工作表 '%1' 可容 %2 行，而实际更多</translation>
     </message>
     <message>
-        <source>%1 is the ID of another task</source>
-        <translation>%1 是另一任务的标识号</translation>
+        <source>an XLSX workbook has room for them</source>
+        <translation>XLSX 工作簿容得下</translation>
     </message>
     <message>
-        <source>%1 is the name of another task</source>
-        <translation>%1 是另一任务的名称</translation>
+        <source>%1 tasks belong to no summary and are not written</source>
+        <translation>%1 个任务不属于任何摘要任务，未写入</translation>
     </message>
     <message>
-        <source>%1 is the name of another resource</source>
-        <translation>%1 是另一资源的名称</translation>
+        <source>%1 tasks share a name: a workbook cannot tell their assignments apart</source>
+        <translation>%1 个任务重名：工作簿无法区分其分配</translation>
     </message>
     <message>
-        <source>it has neither a number nor a start, as totals have</source>
-        <translation>既无编号也无开始时间，像是合计行</translation>
+        <source>give them different names</source>
+        <translation>请给它们不同的名称</translation>
     </message>
     <message>
-        <source>neither a length nor a finish</source>
-        <translation>既无工期也无完成时间</translation>
+        <source>not read</source>
+        <translation>未读取</translation>
     </message>
     <message>
-        <source>neither a length nor a start</source>
-        <translation>既无工期也无开始时间</translation>
+        <source>a cell holds %1 characters, and there are more</source>
+        <translation>单元格可容 %1 个字符，而实际更多</translation>
     </message>
     <message>
-        <source>neither dates nor a length</source>
-        <translation>既无日期也无工期</translation>
+        <source>a sheet holds %1 rows, and there are more</source>
+        <translation>工作表可容 %1 行，而实际更多</translation>
     </message>
     <message>
-        <source>it finishes before it starts</source>
-        <translation>完成早于开始</translation>
+        <source>there are more than %1 columns</source>
+        <translation>超过 %1 列</translation>
     </message>
     <message>
-        <source>the length is not that from start to finish</source>
-        <translation>工期与起止时间不符</translation>
+        <source>no temporary folder</source>
+        <translation>没有临时文件夹</translation>
     </message>
     <message>
-        <source>the finish is not where start and length lead</source>
-        <translation>完成时间与开始时间加工期不符</translation>
+        <source>give them different names, or write readable sheets</source>
+        <translation>请给它们不同的名称，或写出易读的表</translation>
     </message>
     <message>
-        <source>the length is 0, and there is time between start and finish</source>
-        <translation>工期为 0，但起止之间有时间</translation>
+        <source>there is no temporary folder to unpack it into</source>
+        <translation>没有用于解包的临时文件夹</translation>
     </message>
     <message>
-        <source>a milestone with time between start and finish</source>
-        <translation>里程碑的起止之间有时间</translation>
+        <source>the workbook has no worksheet</source>
+        <translation>工作簿没有工作表</translation>
     </message>
     <message>
-        <source>it would wait for itself through %1</source>
-        <translation>会经由 %1 等待自己</translation>
+        <source>is no plain file</source>
+        <translation>不是普通文件</translation>
     </message>
     <message>
-        <source>it cannot wait for its own summary or subtask in %1</source>
-        <translation>不能等待 %1 中自己的摘要任务或子任务</translation>
+        <source>is larger than 2 GB</source>
+        <translation>大于 2 GB</translation>
     </message>
     <message>
-        <source>there is no resource %1; did you mean '%2'?</source>
-        <translation>没有资源 %1；您是指 '%2' 吗？</translation>
+        <source>is no compound file</source>
+        <translation>不是复合文件</translation>
     </message>
     <message>
-        <source>there is no resource %1</source>
-        <translation>没有资源 %1</translation>
+        <source>the chain of its directory is damaged</source>
+        <translation>其目录链已损坏</translation>
     </message>
     <message>
-        <source>there is no task %1</source>
-        <translation>没有任务 %1</translation>
+        <source>its directory has no root</source>
+        <translation>其目录没有根</translation>
     </message>
     <message>
-        <source>there are several tasks %1</source>
-        <translation>有多个任务 %1</translation>
+        <source>its sector table lies outside of the file</source>
+        <translation>其扇区表在文件之外</translation>
     </message>
     <message>
-        <source>there is no task with the ID %1</source>
-        <translation>没有标识号为 %1 的任务</translation>
+        <source>is no workbook of the 97 to 2003 format</source>
+        <translation>不是 97 至 2003 格式的工作簿</translation>
     </message>
     <message>
-        <source>there is no task in row %1</source>
-        <translation>第 %1 行没有任务</translation>
+        <source>is a workbook of version 95 or before</source>
+        <translation>是 95 或更早版本的工作簿</translation>
     </message>
     <message>
-        <source>a summary takes no resources</source>
-        <translation>摘要任务不能分配资源</translation>
+        <source>is encrypted</source>
+        <translation>已加密</translation>
     </message>
     <message>
-        <source>%1 is assigned to this task already</source>
-        <translation>%1 已分配给此任务</translation>
+        <source>the name of sheet %1 is cut</source>
+        <translation>工作表 %1 的名称被截断</translation>
     </message>
     <message>
-        <source>assignments name tasks by names that several have, %1 in all: %2</source>
-        <translation>分配所用的任务名称有重名，共 %1 个：%2</translation>
+        <source>its table of texts is cut</source>
+        <translation>其文本表被截断</translation>
     </message>
     <message>
-        <source>%1 hours of work are counted as %2</source>
-        <translation>%1 小时工时按 %2 计</translation>
+        <source>its stream ends early</source>
+        <translation>其数据流提前结束</translation>
     </message>
     <message>
-        <source>not a plan: no title 'Duration'</source>
-        <translation>不是计划：缺少标题 'Duration'</translation>
+        <source>the sheet "%1" does not begin where the workbook says</source>
+        <translation>工作表 "%1" 不在工作簿所说的位置</translation>
     </message>
     <message>
-        <source>not a plan: no title 'Name'</source>
-        <translation>不是计划：缺少标题 'Name'</translation>
+        <source>the sheet "%2" is damaged at byte %1</source>
+        <translation>工作表 "%2" 在第 %1 字节处损坏</translation>
     </message>
     <message>
-        <source>the first row holds the titles: Name, Duration, Start, Predecessors, ...</source>
-        <translation>第一行是标题：Name、Duration、Start、Predecessors……</translation>
-    </message>
-    <message>
-        <source>%1 stands twice</source>
-        <translation>%1 重复</translation>
-    </message>
-    <message>
-        <source>'%1' has no units such as 50%</source>
-        <translation>'%1' 没有 50% 之类的单位</translation>
-    </message>
-    <message>
-        <source>'%1' has no sign of percent</source>
-        <translation>'%1' 没有百分号</translation>
-    </message>
-    <message>
-        <source>the cells of its first row are empty</source>
-        <translation>第一行的单元格为空</translation>
-    </message>
-    <message>
-        <source>no title of its first row is known</source>
-        <translation>第一行没有已知的标题</translation>
-    </message>
-    <message>
-        <source>it has no first row with titles</source>
-        <translation>没有带标题的第一行</translation>
-    </message>
-    <message>
-        <source>%1 cannot be the ID</source>
-        <translation>%1 不能作为标识号</translation>
-    </message>
-    <message>
-        <source>%1 is no type of resource</source>
-        <translation>%1 不是资源类型</translation>
-    </message>
-    <message>
-        <source>%1 is no rate</source>
-        <translation>%1 不是费率</translation>
-    </message>
-    <message>
-        <source>%1 is no rate for a month or less</source>
-        <translation>%1 不是一个月或更短时间的费率</translation>
-    </message>
-    <message>
-        <source>%1 is no amount</source>
-        <translation>%1 不是金额</translation>
-    </message>
-    <message>
-        <source>%1 is taken as a percentage</source>
-        <translation>%1 按百分比计</translation>
-    </message>
-    <message>
-        <source>%1 is the ID of no task</source>
-        <translation>没有标识号为 %1 的任务</translation>
-    </message>
-    <message>
-        <source>it is a second %1</source>
-        <translation>这是第二个 %1</translation>
-    </message>
-    <message>
-        <source>no such column</source>
-        <translation>没有这样的列</translation>
-    </message>
-    <message>
-        <source>column %1 has no title and %2 cells</source>
-        <translation>第 %1 列没有标题，有 %2 个单元格</translation>
-    </message>
-    <message>
-        <source>%1 has a comma that groups no digits</source>
-        <translation>%1 中的逗号不是千位分隔</translation>
-    </message>
-    <message>
-        <source>the level is below 1</source>
-        <translation>级别小于 1</translation>
-    </message>
-    <message>
-        <source>%1 is no ID</source>
-        <translation>%1 不是标识号</translation>
-    </message>
-    <message>
-        <source>%1 is no level from 1 to 1000</source>
-        <translation>%1 不是 1 到 1000 的级别</translation>
-    </message>
-    <message>
-        <source>%1 is no number</source>
-        <translation>%1 不是数字</translation>
-    </message>
-    <message>
-        <source>%1 is no percentage</source>
-        <translation>%1 不是百分比</translation>
-    </message>
-    <message>
-        <source>%1 is no percentage from 0 to 100</source>
-        <translation>%1 不是 0 到 100 的百分比</translation>
-    </message>
-    <message>
-        <source>%1 is no length of time</source>
-        <translation>%1 不是时间长度</translation>
-    </message>
-    <message>
-        <source>%1 has no known unit of time</source>
-        <translation>%1 没有已知的时间单位</translation>
-    </message>
-    <message>
-        <source>there are too many links</source>
-        <translation>链接过多</translation>
-    </message>
-    <message>
-        <source>%1 has no closing quote</source>
-        <translation>%1 缺少右引号</translation>
-    </message>
-    <message>
-        <source>%1 is no task</source>
-        <translation>%1 不是任务</translation>
-    </message>
-    <message>
-        <source>%1 is no link from finish to start without lag</source>
-        <translation>%1 不是无延隔的完成-开始链接</translation>
-    </message>
-    <message>
-        <source>%1 is an outline code, and no column has these</source>
-        <translation>%1 是大纲编号，而没有含大纲编号的列</translation>
-    </message>
-    <message>
-        <source>there are too many predecessors</source>
-        <translation>前置任务过多</translation>
-    </message>
-    <message>
-        <source>%1 names a predecessor twice</source>
-        <translation>%1 重复列出前置任务</translation>
-    </message>
-    <message>
-        <source>%1 is no date from 1970 to 2105</source>
-        <translation>%1 不是 1970 到 2105 年的日期</translation>
-    </message>
-    <message>
-        <source>some of its dates have the day first, others the month</source>
-        <translation>有些日期日在前，有些月在前</translation>
-    </message>
-    <message>
-        <source>nothing says whether day or month stand first in its dates</source>
-        <translation>无法判断日期中日在前还是月在前</translation>
-    </message>
-    <message>
-        <source>its numbers may be fractions</source>
-        <translation>其中的数可能是小数比例</translation>
-    </message>
-    <message>
-        <source>level %1 follows level %2</source>
-        <translation>级别 %1 跟在级别 %2 之后</translation>
-    </message>
-    <message>
-        <source>there are neither dates nor lengths</source>
-        <translation>既无日期也无工期</translation>
+        <source>the sheet "%1" ends early</source>
+        <translation>工作表 "%1" 提前结束</translation>
     </message>
     <message>
         <source>more than %1 columns</source>
@@ -3530,6 +3298,10 @@
         <translation>请把文件存为 CSV (UTF-8)</translation>
     </message>
     <message>
+        <source>longer than %1 bytes</source>
+        <translation>超过 %1 字节</translation>
+    </message>
+    <message>
         <source>the text is not UTF-8</source>
         <translation>文本不是 UTF-8 编码</translation>
     </message>
@@ -3538,176 +3310,12 @@
         <translation>超过 %1 行</translation>
     </message>
     <message>
-        <source>holds no workbook</source>
-        <translation>不含工作簿</translation>
-    </message>
-    <message>
-        <source>the stream of the workbook is damaged</source>
-        <translation>工作簿的数据流已损坏</translation>
-    </message>
-    <message>
-        <source>is no workbook of the 97 to 2003 format</source>
-        <translation>不是 97 至 2003 格式的工作簿</translation>
-    </message>
-    <message>
-        <source>is a workbook of version 95 or before</source>
-        <translation>是 95 或更早版本的工作簿</translation>
-    </message>
-    <message>
-        <source>is encrypted</source>
-        <translation>已加密</translation>
-    </message>
-    <message>
-        <source>is no plain file</source>
-        <translation>不是普通文件</translation>
-    </message>
-    <message>
-        <source>is larger than 2 GB</source>
-        <translation>大于 2 GB</translation>
-    </message>
-    <message>
-        <source>is no compound file</source>
-        <translation>不是复合文件</translation>
-    </message>
-    <message>
-        <source>the chain of its directory is damaged</source>
-        <translation>其目录链已损坏</translation>
-    </message>
-    <message>
-        <source>its directory has no root</source>
-        <translation>其目录没有根</translation>
-    </message>
-    <message>
-        <source>its sector table lies outside of the file</source>
-        <translation>其扇区表在文件之外</translation>
-    </message>
-    <message>
-        <source>the name of sheet %1 is cut</source>
-        <translation>工作表 %1 的名称被截断</translation>
-    </message>
-    <message>
-        <source>its table of texts is cut</source>
-        <translation>其文本表被截断</translation>
-    </message>
-    <message>
-        <source>its stream ends early</source>
-        <translation>其数据流提前结束</translation>
-    </message>
-    <message>
-        <source>the sheet "%1" lies where another does</source>
-        <translation>工作表 "%1" 与另一个重叠</translation>
-    </message>
-    <message>
-        <source>the sheet "%1" does not begin where the workbook says</source>
-        <translation>工作表 "%1" 不在工作簿所说的位置</translation>
-    </message>
-    <message>
-        <source>the sheet "%1" is damaged at byte %2</source>
-        <translation>工作表 "%1" 在第 %2 字节处损坏</translation>
-    </message>
-    <message>
-        <source>the sheet "%1" ends early</source>
-        <translation>工作表 "%1" 提前结束</translation>
-    </message>
-    <message>
-        <source>there are %1 columns, of which the first %2 are written</source>
-        <translation>共 %1 列，只写前 %2 列</translation>
-    </message>
-    <message>
-        <source>a text of %1 characters is cut to %2</source>
-        <translation>%1 个字符的文本截为 %2 个</translation>
-    </message>
-    <message>
-        <source>the sheet '%1' holds %2 rows, and there are more</source>
-        <translation>工作表 '%1' 可容 %2 行，而实际更多</translation>
-    </message>
-    <message>
-        <source>a sheet holds %1 rows, and there are more</source>
-        <translation>工作表可容 %1 行，而实际更多</translation>
-    </message>
-    <message>
-        <source>a cell holds %1 characters, and there are more</source>
-        <translation>单元格可容 %1 个字符，而实际更多</translation>
-    </message>
-    <message>
-        <source>there are more than %1 columns</source>
-        <translation>超过 %1 列</translation>
-    </message>
-    <message>
-        <source>an XLSX workbook has room for them</source>
-        <translation>XLSX 工作簿容得下</translation>
-    </message>
-    <message>
-        <source>%1 tasks belong to no summary and are not written</source>
-        <translation>%1 个任务不属于任何摘要任务，未写入</translation>
-    </message>
-    <message>
-        <source>%1 tasks share a name: a workbook cannot tell their assignments apart</source>
-        <translation>%1 个任务重名：工作簿无法区分其分配</translation>
-    </message>
-    <message>
-        <source>give them different names</source>
-        <translation>请给它们不同的名称</translation>
-    </message>
-    <message>
-        <source>give them different names, or write readable sheets</source>
-        <translation>请给它们不同的名称，或写出易读的表</translation>
-    </message>
-    <message>
-        <source>the workbook has no worksheet</source>
-        <translation>工作簿没有工作表</translation>
-    </message>
-    <message>
-        <source>there is no temporary folder to unpack it into</source>
-        <translation>没有用于解包的临时文件夹</translation>
-    </message>
-    <message>
-        <source>no temporary folder</source>
-        <translation>没有临时文件夹</translation>
-    </message>
-    <message>
-        <source>there is no such part</source>
-        <translation>没有这个部分</translation>
-    </message>
-    <message>
-        <source>the part is too large</source>
-        <translation>该部分过大</translation>
-    </message>
-    <message>
-        <source>%1 references in texts stand for no character</source>
-        <translation>文本中有 %1 个引用不代表任何字符</translation>
-    </message>
-    <message>
-        <source>control characters left out, unknown names as they are written</source>
-        <translation>略去控制字符，未知名称照原样</translation>
-    </message>
-    <message>
-        <source>the places of %1 cells are not understood, the first is %2</source>
-        <translation>%1 个单元格的位置无法识别，第一个是 %2</translation>
-    </message>
-    <message>
-        <source>the places of %1 cells name no row, the first is %2</source>
-        <translation>%1 个单元格的位置没有行号，第一个是 %2</translation>
-    </message>
-    <message>
-        <source>taken as cells of the rows that hold them</source>
-        <translation>按所在行的单元格处理</translation>
-    </message>
-    <message>
-        <source>%1 formulas have no value, the first in row %2</source>
-        <translation>%1 个公式没有值，第一个在第 %2 行</translation>
-    </message>
-    <message>
-        <source>left out: save the workbook with a program that calculates them</source>
-        <translation>已略去：请用能计算公式的程序保存工作簿</translation>
-    </message>
-    <message>
-        <source>%1 numbers have more digits than their texts</source>
-        <translation>%1 个数的位数多于其文本</translation>
-    </message>
-    <message>
         <source>a second list of the same kind</source>
         <translation>同类的第二个列表</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>已略去</translation>
     </message>
     <message>
         <source>a value that cannot be read</source>
@@ -3826,6 +3434,10 @@
         <translation>已略去；日期保留</translation>
     </message>
     <message>
+        <source>the level is below 1</source>
+        <translation>级别小于 1</translation>
+    </message>
+    <message>
         <source>all levels count from 1</source>
         <translation>所有级别从 1 算起</translation>
     </message>
@@ -3844,6 +3456,10 @@
     <message>
         <source>a milestone that lasts</source>
         <translation>有工期的里程碑</translation>
+    </message>
+    <message>
+        <source>a task</source>
+        <translation>作为任务</translation>
     </message>
     <message>
         <source>scheduled by hand</source>
@@ -3910,6 +3526,10 @@
         <translation>重复的链接</translation>
     </message>
     <message>
+        <source>taken once</source>
+        <translation>只取一次</translation>
+    </message>
+    <message>
         <source>further baselines</source>
         <translation>其他基线</translation>
     </message>
@@ -3918,16 +3538,20 @@
         <translation>摘要任务的日期与子任务不符</translation>
     </message>
     <message>
-        <source>a summary's progress is not that of its subtasks</source>
-        <translation>摘要任务的进度与子任务不符</translation>
-    </message>
-    <message>
         <source>taken from the subtasks</source>
         <translation>取自子任务</translation>
     </message>
     <message>
+        <source>a summary's progress is not that of its subtasks</source>
+        <translation>摘要任务的进度与子任务不符</translation>
+    </message>
+    <message>
         <source>a cost resource</source>
         <translation>成本资源</translation>
+    </message>
+    <message>
+        <source>a material</source>
+        <translation>作为材料</translation>
     </message>
     <message>
         <source>a resource's name is taken or empty</source>
@@ -3966,6 +3590,10 @@
         <translation>资源多次分配给同一任务</translation>
     </message>
     <message>
+        <source>joined</source>
+        <translation>已合并</translation>
+    </message>
+    <message>
         <source>how work is spread over its task: day by day, by a contour, a delay or overtime</source>
         <translation>工时在任务中的分布：逐日、按分布曲线、延迟或加班</translation>
     </message>
@@ -3994,6 +3622,10 @@
         <translation>其他高度的行</translation>
     </message>
     <message>
+        <source>not written</source>
+        <translation>未写入</translation>
+    </message>
+    <message>
         <source>a priority outside -500 to 500</source>
         <translation>-500 到 500 之外的优先级</translation>
     </message>
@@ -4006,8 +3638,16 @@
         <translation>非整数百分比</translation>
     </message>
     <message>
+        <source>rounded</source>
+        <translation>已取整</translation>
+    </message>
+    <message>
         <source>a name that the format cannot hold</source>
         <translation>格式容不下的名称</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>更改</translation>
     </message>
     <message>
         <source>an ID above 2,097,150, or one that is there twice</source>
@@ -4042,80 +3682,708 @@
         <translation>按其级别写入</translation>
     </message>
     <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
         <source>%1 (%2 times)</source>
         <translation>%1（%2 次）</translation>
-    </message>
-    <message>
-        <source>task %1</source>
-        <translation>任务 %1</translation>
-    </message>
-    <message>
-        <source>task %1 "%2"</source>
-        <translation>任务 %1 "%2"</translation>
     </message>
     <message>
         <source>resource %1</source>
         <translation>资源 %1</translation>
     </message>
     <message>
-        <source>resource "%1"</source>
-        <translation>资源 "%1"</translation>
+        <source>calendar %1</source>
+        <translation>日历 %1</translation>
     </message>
     <message>
         <source>assignment %1</source>
         <translation>分配 %1</translation>
     </message>
     <message>
-        <source>calendar %1</source>
-        <translation>日历 %1</translation>
-    </message>
-    <message>
-        <source>column %1</source>
-        <translation>列 %1</translation>
-    </message>
-    <message>
-        <source>exception %1</source>
-        <translation>例外 %1</translation>
-    </message>
-    <message>
-        <source>the file's costs of %1 are %2 here</source>
-        <translation>文件中的成本 %1 在此为 %2</translation>
-    </message>
-    <message>
-        <source>fixed costs, overtime and rates that change are not counted</source>
-        <translation>不计固定成本、加班和变动费率</translation>
-    </message>
-    <message>
-        <source>there is no such file</source>
-        <translation>没有这个文件</translation>
-    </message>
-    <message>
-        <source>it is longer than %1 MB</source>
-        <translation>超过 %1 MB</translation>
-    </message>
-    <message>
-        <source>it cannot be written</source>
-        <translation>无法写入</translation>
+        <source>resource "%1"</source>
+        <translation>资源 "%1"</translation>
     </message>
     <message>
         <source>the XML ends early</source>
         <translation>XML 提前结束</translation>
     </message>
     <message>
-        <source>it has more than %1 %2s</source>
-        <translation>超过 %1 个 %2</translation>
+        <source>given up</source>
+        <translation>已放弃</translation>
     </message>
     <message>
-        <source>it has more than %1 links</source>
-        <translation>超过 %1 个链接</translation>
+        <source>it has more than %1 %2s</source>
+        <translation>超过 %1 个 %2</translation>
     </message>
     <message>
         <source>its calendars have more than %1 days</source>
         <translation>日历超过 %1 天</translation>
     </message>
     <message>
+        <source>it has more than %1 links</source>
+        <translation>超过 %1 个链接</translation>
+    </message>
+    <message>
         <source>it is no project XML: its root is no Project of that format</source>
         <translation>不是项目 XML：根元素不是该格式的 Project</translation>
+    </message>
+    <message>
+        <source>%1 numbers have more digits than their texts</source>
+        <translation>%1 个数的位数多于其文本</translation>
+    </message>
+    <message>
+        <source>%1 is the ID of another task</source>
+        <translation>%1 是另一任务的标识号</translation>
+    </message>
+    <message>
+        <source>%1 is the name of another task</source>
+        <translation>%1 是另一任务的名称</translation>
+    </message>
+    <message>
+        <source>named %1</source>
+        <translation>改名为 %1</translation>
+    </message>
+    <message>
+        <source>taken as one day long</source>
+        <translation>按一天计</translation>
+    </message>
+    <message>
+        <source>it has neither a number nor a start, as totals have</source>
+        <translation>既无编号也无开始时间，像是合计行</translation>
+    </message>
+    <message>
+        <source>taken as a task</source>
+        <translation>作为任务</translation>
+    </message>
+    <message>
+        <source>neither a length nor a finish</source>
+        <translation>既无工期也无完成时间</translation>
+    </message>
+    <message>
+        <source>neither a length nor a start</source>
+        <translation>既无工期也无开始时间</translation>
+    </message>
+    <message>
+        <source>neither dates nor a length</source>
+        <translation>既无日期也无工期</translation>
+    </message>
+    <message>
+        <source>it finishes before it starts</source>
+        <translation>完成早于开始</translation>
+    </message>
+    <message>
+        <source>the length counts</source>
+        <translation>以工期为准</translation>
+    </message>
+    <message>
+        <source>the length is not that from start to finish</source>
+        <translation>工期与起止时间不符</translation>
+    </message>
+    <message>
+        <source>start and finish count</source>
+        <translation>以开始和完成时间为准</translation>
+    </message>
+    <message>
+        <source>the finish is not where start and length lead</source>
+        <translation>完成时间与开始时间加工期不符</translation>
+    </message>
+    <message>
+        <source>the length is 0, and there is time between start and finish</source>
+        <translation>工期为 0，但起止之间有时间</translation>
+    </message>
+    <message>
+        <source>a milestone with time between start and finish</source>
+        <translation>里程碑的起止之间有时间</translation>
+    </message>
+    <message>
+        <source>a milestone at its start</source>
+        <translation>作为其开始时间处的里程碑</translation>
+    </message>
+    <message>
+        <source>it would wait for itself through %1</source>
+        <translation>会经由 %1 等待自己</translation>
+    </message>
+    <message>
+        <source>it cannot wait for its own summary or subtask in %1</source>
+        <translation>不能等待 %1 中自己的摘要任务或子任务</translation>
+    </message>
+    <message>
+        <source>no predecessor</source>
+        <translation>不作为前置任务</translation>
+    </message>
+    <message>
+        <source>there is no resource %1</source>
+        <translation>没有资源 %1</translation>
+    </message>
+    <message>
+        <source>there is no resource %1; did you mean '%2'?</source>
+        <translation>没有资源 %1；您是指 '%2' 吗？</translation>
+    </message>
+    <message>
+        <source>there is no task %1</source>
+        <translation>没有任务 %1</translation>
+    </message>
+    <message>
+        <source>a summary takes no resources</source>
+        <translation>摘要任务不能分配资源</translation>
+    </message>
+    <message>
+        <source>%1 is assigned to this task already</source>
+        <translation>%1 已分配给此任务</translation>
+    </message>
+    <message>
+        <source>assignments name tasks by names that several have, %1 in all: %2</source>
+        <translation>分配所用的任务名称有重名，共 %1 个：%2</translation>
+    </message>
+    <message>
+        <source>the first task of the name has the assignments</source>
+        <translation>同名的第一个任务得到分配</translation>
+    </message>
+    <message>
+        <source>%1 hours of work are counted as %2</source>
+        <translation>%1 小时工时按 %2 计</translation>
+    </message>
+    <message>
+        <source>work is the task's length times the units</source>
+        <translation>工时等于工期乘以单位</translation>
+    </message>
+    <message>
+        <source>assigned without a rate</source>
+        <translation>不带费率分配</translation>
+    </message>
+    <message>
+        <source>not a plan: no title 'Duration'</source>
+        <translation>不是计划：缺少标题 'Duration'</translation>
+    </message>
+    <message>
+        <source>not a plan: no title 'Name'</source>
+        <translation>不是计划：缺少标题 'Name'</translation>
+    </message>
+    <message>
+        <source>the first row holds the titles: Name, Duration, Start, Predecessors, ...</source>
+        <translation>第一行是标题：Name、Duration、Start、Predecessors……</translation>
+    </message>
+    <message>
+        <source>kept as a text that costs nothing</source>
+        <translation>保留为不计成本的文本</translation>
+    </message>
+    <message>
+        <source>%1 stands twice</source>
+        <translation>%1 重复</translation>
+    </message>
+    <message>
+        <source>assigned once</source>
+        <translation>只分配一次</translation>
+    </message>
+    <message>
+        <source>'%1' has no units such as 50%</source>
+        <translation>'%1' 没有 50% 之类的单位</translation>
+    </message>
+    <message>
+        <source>assigned with 100%</source>
+        <translation>按 100% 分配</translation>
+    </message>
+    <message>
+        <source>'%1' has no sign of percent</source>
+        <translation>'%1' 没有百分号</translation>
+    </message>
+    <message>
+        <source>read as %1</source>
+        <translation>读作 %1</translation>
+    </message>
+    <message>
+        <source>the cells of its first row are empty</source>
+        <translation>第一行的单元格为空</translation>
+    </message>
+    <message>
+        <source>no title of its first row is known</source>
+        <translation>第一行没有已知的标题</translation>
+    </message>
+    <message>
+        <source>it has no first row with titles</source>
+        <translation>没有带标题的第一行</translation>
+    </message>
+    <message>
+        <source>task sheet</source>
+        <translation>任务表</translation>
+    </message>
+    <message>
+        <source>resource sheet</source>
+        <translation>资源表</translation>
+    </message>
+    <message>
+        <source>assignment sheet</source>
+        <translation>分配表</translation>
+    </message>
+    <message>
+        <source>%1 is the name of another resource</source>
+        <translation>%1 是另一资源的名称</translation>
+    </message>
+    <message>
+        <source>%1 cannot be the ID</source>
+        <translation>%1 不能作为标识号</translation>
+    </message>
+    <message>
+        <source>the next free ID</source>
+        <translation>取下一个空闲标识号</translation>
+    </message>
+    <message>
+        <source>%1 is no type of resource</source>
+        <translation>%1 不是资源类型</translation>
+    </message>
+    <message>
+        <source>a work resource</source>
+        <translation>作为工时资源</translation>
+    </message>
+    <message>
+        <source>%1 is no rate</source>
+        <translation>%1 不是费率</translation>
+    </message>
+    <message>
+        <source>%1 has no known unit of time</source>
+        <translation>%1 没有已知的时间单位</translation>
+    </message>
+    <message>
+        <source>money for an hour</source>
+        <translation>按每小时计费</translation>
+    </message>
+    <message>
+        <source>%1 is no rate for a month or less</source>
+        <translation>%1 不是一个月或更短时间的费率</translation>
+    </message>
+    <message>
+        <source>%1 is no amount</source>
+        <translation>%1 不是金额</translation>
+    </message>
+    <message>
+        <source>%1 is taken as a percentage</source>
+        <translation>%1 按百分比计</translation>
+    </message>
+    <message>
+        <source>%1 is the ID of no task</source>
+        <translation>没有标识号为 %1 的任务</translation>
+    </message>
+    <message>
+        <source>it is a second %1</source>
+        <translation>这是第二个 %1</translation>
+    </message>
+    <message>
+        <source>no such column</source>
+        <translation>没有这样的列</translation>
+    </message>
+    <message>
+        <source>not read; did you mean %1?</source>
+        <translation>未读取；您是指 %1 吗？</translation>
+    </message>
+    <message>
+        <source>column %1 has no title and %2 cells</source>
+        <translation>第 %1 列没有标题，有 %2 个单元格</translation>
+    </message>
+    <message>
+        <source>row %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>%1, row %2</source>
+        <translation>%1，第 %2 行</translation>
+    </message>
+    <message>
+        <source>row %1, '%2'</source>
+        <translation>第 %1 行 '%2'</translation>
+    </message>
+    <message>
+        <source>%1, row %2, '%3'</source>
+        <translation>%1，第 %2 行 '%3'</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>第 %1 行</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1，第 %2 行</translation>
+    </message>
+    <message>
+        <source>line %1, '%2'</source>
+        <translation>第 %1 行 '%2'</translation>
+    </message>
+    <message>
+        <source>%1, line %2, '%3'</source>
+        <translation>%1，第 %2 行 '%3'</translation>
+    </message>
+    <message>
+        <source>nothing was read</source>
+        <translation>未读取任何内容</translation>
+    </message>
+    <message>
+        <source>%1 has a comma that groups no digits</source>
+        <translation>%1 中的逗号不是千位分隔</translation>
+    </message>
+    <message>
+        <source>level 1</source>
+        <translation>级别 1</translation>
+    </message>
+    <message>
+        <source>%1 is no ID</source>
+        <translation>%1 不是标识号</translation>
+    </message>
+    <message>
+        <source>%1 is no level from 1 to 1000</source>
+        <translation>%1 不是 1 到 1000 的级别</translation>
+    </message>
+    <message>
+        <source>%1 is no number</source>
+        <translation>%1 不是数字</translation>
+    </message>
+    <message>
+        <source>%1 is no percentage</source>
+        <translation>%1 不是百分比</translation>
+    </message>
+    <message>
+        <source>%1 is no percentage from 0 to 100</source>
+        <translation>%1 不是 0 到 100 的百分比</translation>
+    </message>
+    <message>
+        <source>%1 is no length of time</source>
+        <translation>%1 不是时间长度</translation>
+    </message>
+    <message>
+        <source>counted in days</source>
+        <translation>按天计</translation>
+    </message>
+    <message>
+        <source>there are too many links</source>
+        <translation>链接过多</translation>
+    </message>
+    <message>
+        <source>%1 has no closing quote</source>
+        <translation>%1 缺少右引号</translation>
+    </message>
+    <message>
+        <source>%1 is no task</source>
+        <translation>%1 不是任务</translation>
+    </message>
+    <message>
+        <source>%1 is no link from finish to start without lag</source>
+        <translation>%1 不是无延隔的完成-开始链接</translation>
+    </message>
+    <message>
+        <source>%1 is an outline code, and no column has these</source>
+        <translation>%1 是大纲编号，而没有含大纲编号的列</translation>
+    </message>
+    <message>
+        <source>there are too many predecessors</source>
+        <translation>前置任务过多</translation>
+    </message>
+    <message>
+        <source>%1 names a predecessor twice</source>
+        <translation>%1 重复列出前置任务</translation>
+    </message>
+    <message>
+        <source>%1 is no date from 1970 to 2105</source>
+        <translation>%1 不是 1970 到 2105 年的日期</translation>
+    </message>
+    <message>
+        <source>some of its dates have the day first, others the month</source>
+        <translation>有些日期日在前，有些月在前</translation>
+    </message>
+    <message>
+        <source>nothing says whether day or month stand first in its dates</source>
+        <translation>无法判断日期中日在前还是月在前</translation>
+    </message>
+    <message>
+        <source>the month first wherever that is a date</source>
+        <translation>凡能成日期处月份在前</translation>
+    </message>
+    <message>
+        <source>its numbers may be fractions</source>
+        <translation>其中的数可能是小数比例</translation>
+    </message>
+    <message>
+        <source>read as percentages</source>
+        <translation>读作百分比</translation>
+    </message>
+    <message>
+        <source>level %1 follows level %2</source>
+        <translation>级别 %1 跟在级别 %2 之后</translation>
+    </message>
+    <message>
+        <source>a task is one level below its summary</source>
+        <translation>任务比其摘要任务低一级</translation>
+    </message>
+    <message>
+        <source>there is no task with the ID %1</source>
+        <translation>没有标识号为 %1 的任务</translation>
+    </message>
+    <message>
+        <source>there is no task in row %1</source>
+        <translation>第 %1 行没有任务</translation>
+    </message>
+    <message>
+        <source>there are several tasks %1</source>
+        <translation>有多个任务 %1</translation>
+    </message>
+    <message>
+        <source>there are neither dates nor lengths</source>
+        <translation>既无日期也无工期</translation>
+    </message>
+    <message>
+        <source>all tasks are one day long</source>
+        <translation>所有任务均为一天</translation>
+    </message>
+    <message>
+        <source>there is no such part</source>
+        <translation>没有这个部分</translation>
+    </message>
+    <message>
+        <source>the part is too large</source>
+        <translation>该部分过大</translation>
+    </message>
+    <message>
+        <source>%1 references in texts stand for no character</source>
+        <translation>文本中有 %1 个引用不代表任何字符</translation>
+    </message>
+    <message>
+        <source>control characters left out, unknown names as they are written</source>
+        <translation>略去控制字符，未知名称照原样</translation>
+    </message>
+    <message>
+        <source>the places of %1 cells are not understood, the first is %2</source>
+        <translation>%1 个单元格的位置无法识别，第一个是 %2</translation>
+    </message>
+    <message>
+        <source>the places of %1 cells name no row, the first is %2</source>
+        <translation>%1 个单元格的位置没有行号，第一个是 %2</translation>
+    </message>
+    <message>
+        <source>taken as cells of the rows that hold them</source>
+        <translation>按所在行的单元格处理</translation>
+    </message>
+    <message>
+        <source>%1 formulas have no value, the first in row %2</source>
+        <translation>%1 个公式没有值，第一个在第 %2 行</translation>
+    </message>
+    <message>
+        <source>left out: save the workbook with a program that calculates them</source>
+        <translation>已略去：请用能计算公式的程序保存工作簿</translation>
+    </message>
+    <message>
+        <source>cancelled: nothing was written</source>
+        <translation>已取消：未写入任何内容</translation>
+    </message>
+    <message>
+        <source>there is no plan to draw</source>
+        <translation>没有可绘制的计划</translation>
+    </message>
+    <message>
+        <source>no font is installed: nothing can be drawn</source>
+        <translation>没有安装字体：无法绘制</translation>
+    </message>
+    <message>
+        <source>the package fonts-dejavu-core brings some</source>
+        <translation>软件包 fonts-dejavu-core 提供字体</translation>
+    </message>
+    <message>
+        <source>the plan has no tasks: there is nothing to draw</source>
+        <translation>计划没有任务：没有可绘制的内容</translation>
+    </message>
+    <message>
+        <source>no task is shown: there is nothing to draw</source>
+        <translation>没有显示的任务：没有可绘制的内容</translation>
+    </message>
+    <message>
+        <source>print setup</source>
+        <translation>打印设置</translation>
+    </message>
+    <message>
+        <source>the picture would take %1 x %2 sheets</source>
+        <translation>图需要 %1 x %2 张纸</translation>
+    </message>
+    <message>
+        <source>fit it to fewer, take a coarser scale, or print a part of it</source>
+        <translation>请减少页数、用更粗的刻度，或只打印一部分</translation>
+    </message>
+    <message>
+        <source>no font has all characters of %1 texts, the first of them '%2'</source>
+        <translation>没有字体含全部字符，涉及 %1 段文本，第一段是 '%2'</translation>
+    </message>
+    <message>
+        <source>for Chinese the package fonts-wqy-microhei brings one</source>
+        <translation>中文字体由软件包 fonts-wqy-microhei 提供</translation>
+    </message>
+    <message>
+        <source>cannot be written: %1</source>
+        <translation>无法写入：%1</translation>
+    </message>
+    <message>
+        <source>there is nothing to paint on</source>
+        <translation>没有可绘制的画布</translation>
+    </message>
+    <message>
+        <source>the smallest text is %1 points high</source>
+        <translation>最小文字高 %1 点</translation>
+    </message>
+    <message>
+        <source>on %1 x %2 sheets it is %3</source>
+        <translation>在 %1 x %2 张纸上为 %3</translation>
+    </message>
+    <message>
+        <source>an image of %1 x %2 pixels is too large</source>
+        <translation>%1 x %2 像素的图像过大</translation>
+    </message>
+    <message>
+        <source>export a PDF, take a coarser scale, or draw a part of the plan</source>
+        <translation>请导出 PDF、用更粗的刻度，或只绘制一部分</translation>
+    </message>
+    <message>
+        <source>there is no memory for the image</source>
+        <translation>没有足够内存生成图像</translation>
+    </message>
+    <message>
+        <source>a chart of %1 pixels is too wide</source>
+        <translation>%1 像素的图表过宽</translation>
+    </message>
+    <message>
+        <source>Waits for %1</source>
+        <translation>等待 %1</translation>
+    </message>
+    <message>
+        <source>Critical: a delay moves the finish</source>
+        <translation>关键：延误会推迟完成日期</translation>
+    </message>
+    <message>
+        <source>Starts with the project</source>
+        <translation>随项目开始</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>前置</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>后续</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>nothing found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Show more time (-)</source>
+        <translation>显示更长时间 (-)</translation>
+    </message>
+    <message>
+        <source>Show less time (+)</source>
+        <translation>显示更短时间 (+)</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>适应</translation>
+    </message>
+    <message>
+        <source>Show the whole plan (0)</source>
+        <translation>显示整个计划 (0)</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>Go to today (T)</source>
+        <translation>转到今天 (T)</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>折叠</translation>
+    </message>
+    <message>
+        <source>Fold all summaries</source>
+        <translation>折叠所有摘要任务</translation>
+    </message>
+    <message>
+        <source>Unfold</source>
+        <translation>展开</translation>
+    </message>
+    <message>
+        <source>Unfold all summaries</source>
+        <translation>展开所有摘要任务</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>More or fewer columns (C)</source>
+        <translation>更多或更少的列 (C)</translation>
+    </message>
+    <message>
+        <source>Keys (?)</source>
+        <translation>按键 (?)</translation>
+    </message>
+    <message>
+        <source>%1 tasks</source>
+        <translation>%1 个任务</translation>
+    </message>
+    <message>
+        <source>Choose a task with a click or the arrow keys.</source>
+        <translation>单击或用方向键选择任务。</translation>
+    </message>
+    <message>
+        <source>another task</source>
+        <translation>另一个任务</translation>
+    </message>
+    <message>
+        <source>fold and unfold</source>
+        <translation>折叠与展开</translation>
+    </message>
+    <message>
+        <source>go to the task's bar</source>
+        <translation>转到任务的条形</translation>
+    </message>
+    <message>
+        <source>go to what it waits for, to what waits for it</source>
+        <translation>转到它所等待的任务，或等待它的任务</translation>
+    </message>
+    <message>
+        <source>go back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>find; Enter and Shift+Enter for the next and the one before</source>
+        <translation>查找；Enter 和 Shift+Enter 转到下一个和上一个</translation>
+    </message>
+    <message>
+        <source>less time, more time, the whole plan</source>
+        <translation>更短时间、更长时间、整个计划</translation>
+    </message>
+    <message>
+        <source>columns</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>paper of %1 cannot be printed on; A4 was taken</source>
+        <translation>无法在 %1 的纸上打印；改用 A4</translation>
+    </message>
+    <message>
+        <source>at least 40 mm and at most 5 m each way</source>
+        <translation>每边至少 40 毫米，至多 5 米</translation>
+    </message>
+    <message>
+        <source>the margins leave less than 20 mm of the paper; margins of 10 mm were taken</source>
+        <translation>页边距后纸面不足 20 毫米；改用 10 毫米边距</translation>
+    </message>
+    <message>
+        <source>task %1</source>
+        <translation>任务 %1</translation>
     </message>
     <message>
         <source>it is hidden below the task with ID %1, which does not exist: shown</source>
@@ -4146,6 +4414,18 @@
         <translation>第 %2 处的 %1 不是数字：取 0</translation>
     </message>
     <message>
+        <source>%1 for day %2 is neither 1 nor 0: a day off is taken</source>
+        <translation>第 %2 天的 %1 既非 1 也非 0：取休息日</translation>
+    </message>
+    <message>
+        <source>%1 flags for seven days: the others stay as they were</source>
+        <translation>七天只有 %1 个标志：其余保持原样</translation>
+    </message>
+    <message>
+        <source>%1 flags for seven days: the first seven are taken</source>
+        <translation>七天有 %1 个标志：取前七个</translation>
+    </message>
+    <message>
         <source>%1 is neither 1 nor 0: no is taken</source>
         <translation>%1 既非 1 也非 0：取否</translation>
     </message>
@@ -4154,12 +4434,12 @@
         <translation>%1 不是整数：取 0</translation>
     </message>
     <message>
-        <source>%1 is no whole number: passed over</source>
-        <translation>%1 不是整数：跳过</translation>
-    </message>
-    <message>
         <source>%1 is no such number: passed over</source>
         <translation>%1 不是这样的数：跳过</translation>
+    </message>
+    <message>
+        <source>%1 is no whole number: passed over</source>
+        <translation>%1 不是整数：跳过</translation>
     </message>
     <message>
         <source>%1 is no number from 0 to 4294967295: 0 is taken</source>
@@ -4172,18 +4452,6 @@
     <message>
         <source>%1 is no number: 0 is taken</source>
         <translation>%1 不是数字：取 0</translation>
-    </message>
-    <message>
-        <source>%1 for day %2 is neither 1 nor 0: a day off is taken</source>
-        <translation>第 %2 天的 %1 既非 1 也非 0：取休息日</translation>
-    </message>
-    <message>
-        <source>%1 flags for seven days: the others stay as they were</source>
-        <translation>七天只有 %1 个标志：其余保持原样</translation>
-    </message>
-    <message>
-        <source>%1 flags for seven days: the first seven are taken</source>
-        <translation>七天有 %1 个标志：取前七个</translation>
     </message>
     <message>
         <source>%1, in %2 places</source>
@@ -4202,12 +4470,12 @@
         <translation>元素 %1 读作 '%2'</translation>
     </message>
     <message>
-        <source>the element %1 in '%2' is not known: passed over</source>
-        <translation>'%2' 中的元素 %1 未知：跳过</translation>
-    </message>
-    <message>
         <source>the element %1 in '%2' is not known: passed over with the %3 elements in it</source>
         <translation>'%2' 中的元素 %1 未知：连同其中 %3 个元素跳过</translation>
+    </message>
+    <message>
+        <source>the element %1 in '%2' is not known: passed over</source>
+        <translation>'%2' 中的元素 %1 未知：跳过</translation>
     </message>
     <message>
         <source>'%1' stands twice: intervals of both are taken, of other values the last</source>
@@ -4218,12 +4486,12 @@
         <translation>'%1' 重复：取第一个</translation>
     </message>
     <message>
-        <source>'%1' stands twice: the last one is taken</source>
-        <translation>'%1' 重复：取最后一个</translation>
-    </message>
-    <message>
         <source>'%1' stands twice: the last one is taken, and the %2 elements of the one before are not</source>
         <translation>'%1' 重复：取最后一个，前一个的 %2 个元素不取</translation>
+    </message>
+    <message>
+        <source>'%1' stands twice: the last one is taken</source>
+        <translation>'%1' 重复：取最后一个</translation>
     </message>
     <message>
         <source>the file has none of the lists of a plan</source>
@@ -4290,6 +4558,10 @@
         <translation>时段 %1 不是整小时：末尾的不足小时不计，开头的计入</translation>
     </message>
     <message>
+        <source>working time</source>
+        <translation>工作时间</translation>
+    </message>
+    <message>
         <source>a day has no hours of work: nothing can be scheduled</source>
         <translation>一天没有工作小时：无法排程</translation>
     </message>
@@ -4300,6 +4572,10 @@
     <message>
         <source>no day of the week is a working day: nothing can be scheduled</source>
         <translation>一周没有工作日：无法排程</translation>
+    </message>
+    <message>
+        <source>exception %1</source>
+        <translation>例外 %1</translation>
     </message>
     <message>
         <source>there is no %1: today is taken</source>
@@ -4342,6 +4618,10 @@
         <translation>其费率单位未知：不计成本</translation>
     </message>
     <message>
+        <source>column %1</source>
+        <translation>列 %1</translation>
+    </message>
+    <message>
         <source>there is no column of its kind: it stays empty</source>
         <translation>没有这种列：保持为空</translation>
     </message>
@@ -4382,132 +4662,12 @@
         <translation>其中没有内容：保存时略去</translation>
     </message>
     <message>
-        <source>the archive is cut off at byte %1: the list of its entries is missing</source>
-        <translation>压缩包在第 %1 字节处被截断：缺少条目列表</translation>
-    </message>
-    <message>
-        <source>no archive: %1</source>
-        <translation>不是压缩包：%1</translation>
-    </message>
-    <message>
-        <source>there are too many entries</source>
-        <translation>条目过多</translation>
-    </message>
-    <message>
-        <source>there are too many folders</source>
-        <translation>文件夹过多</translation>
-    </message>
-    <message>
-        <source>an entry cannot be read</source>
-        <translation>有条目无法读取</translation>
-    </message>
-    <message>
-        <source>the entry is encrypted</source>
-        <translation>条目已加密</translation>
-    </message>
-    <message>
-        <source>the entry is packed in an unknown way</source>
-        <translation>条目以未知方式压缩</translation>
-    </message>
-    <message>
-        <source>the entry is neither a plain file nor a plain folder</source>
-        <translation>条目既非普通文件也非普通文件夹</translation>
-    </message>
-    <message>
-        <source>neither a plain file nor a plain folder</source>
-        <translation>既非普通文件也非普通文件夹</translation>
-    </message>
-    <message>
-        <source>a name holds a control character</source>
-        <translation>名称含控制字符</translation>
-    </message>
-    <message>
-        <source>the name cannot be used on this machine</source>
-        <translation>此名称不能在本机使用</translation>
-    </message>
-    <message>
-        <source>something stands there already</source>
-        <translation>该处已有内容</translation>
-    </message>
-    <message>
-        <source>its folder cannot be made</source>
-        <translation>无法创建其文件夹</translation>
-    </message>
-    <message>
-        <source>the entry does not have the size it declares</source>
-        <translation>条目大小与声明不符</translation>
-    </message>
-    <message>
-        <source>there is no such folder</source>
-        <translation>没有这个文件夹</translation>
-    </message>
-    <message>
-        <source>there is no such archive</source>
-        <translation>没有这个压缩包</translation>
-    </message>
-    <message>
-        <source>the name is empty</source>
-        <translation>名称为空</translation>
-    </message>
-    <message>
-        <source>the name is absolute</source>
-        <translation>名称是绝对路径</translation>
-    </message>
-    <message>
-        <source>the name holds a backslash</source>
-        <translation>名称含反斜杠</translation>
-    </message>
-    <message>
-        <source>the name holds a control character</source>
-        <translation>名称含控制字符</translation>
-    </message>
-    <message>
-        <source>the name is no sound UTF-8</source>
-        <translation>名称不是有效的 UTF-8</translation>
-    </message>
-    <message>
-        <source>the name is too long</source>
-        <translation>名称过长</translation>
-    </message>
-    <message>
-        <source>the name leaves its folder or goes round in it</source>
-        <translation>名称越出文件夹或在其中绕行</translation>
-    </message>
-    <message>
-        <source>the entry is too large</source>
-        <translation>条目过大</translation>
-    </message>
-    <message>
-        <source>the entry unpacks to far more than it holds</source>
-        <translation>条目解压后远大于其内容</translation>
-    </message>
-    <message>
-        <source>a folder has content</source>
-        <translation>文件夹条目带有内容</translation>
-    </message>
-    <message>
-        <source>the name stands there twice</source>
-        <translation>名称重复</translation>
-    </message>
-    <message>
-        <source>the archive unpacks to too much</source>
-        <translation>压缩包解压后过大</translation>
-    </message>
-    <message>
-        <source>the archive unpacks to far more than it holds</source>
-        <translation>压缩包解压后远大于其内容</translation>
-    </message>
-    <message>
-        <source>%1: the name stands for a file and for a folder</source>
-        <translation>%1：名称既是文件又是文件夹</translation>
+        <source>writing was given up</source>
+        <translation>已放弃写入</translation>
     </message>
     <message>
         <source>byte %1: %2</source>
         <translation>第 %1 字节：%2</translation>
-    </message>
-    <message>
-        <source>byte %1: no sound UTF-8</source>
-        <translation>第 %1 字节：不是有效的 UTF-8</translation>
     </message>
     <message>
         <source>the text ends inside an element</source>
@@ -4554,12 +4714,12 @@
         <translation>标签没有结束</translation>
     </message>
     <message>
-        <source>no sound XML</source>
-        <translation>不是有效的 XML</translation>
+        <source>byte %1: no sound UTF-8</source>
+        <translation>第 %1 字节：不是有效的 UTF-8</translation>
     </message>
     <message>
-        <source>too large</source>
-        <translation>过大</translation>
+        <source>no sound XML</source>
+        <translation>不是有效的 XML</translation>
     </message>
     <message>
         <source>there is something beside the root element</source>
@@ -4570,108 +4730,64 @@
         <translation>元素 %1 中的属性重复</translation>
     </message>
     <message>
-        <source>writing was given up</source>
-        <translation>已放弃写入</translation>
+        <source>the name is empty</source>
+        <translation>名称为空</translation>
     </message>
     <message>
-        <source>print setup</source>
-        <translation>打印设置</translation>
+        <source>the name is absolute</source>
+        <translation>名称是绝对路径</translation>
     </message>
     <message>
-        <source>cancelled: nothing was written</source>
-        <translation>已取消：未写入任何内容</translation>
+        <source>the name holds a backslash</source>
+        <translation>名称含反斜杠</translation>
     </message>
     <message>
-        <source>there is no plan to draw</source>
-        <translation>没有可绘制的计划</translation>
+        <source>the name holds a control character</source>
+        <translation>名称含控制字符</translation>
     </message>
     <message>
-        <source>no font is installed: nothing can be drawn</source>
-        <translation>没有安装字体：无法绘制</translation>
+        <source>the name is no sound UTF-8</source>
+        <translation>名称不是有效的 UTF-8</translation>
     </message>
     <message>
-        <source>the package fonts-dejavu-core brings some</source>
-        <translation>软件包 fonts-dejavu-core 提供字体</translation>
+        <source>the name is too long</source>
+        <translation>名称过长</translation>
     </message>
     <message>
-        <source>the plan has no tasks: there is nothing to draw</source>
-        <translation>计划没有任务：没有可绘制的内容</translation>
+        <source>the name leaves its folder or goes round in it</source>
+        <translation>名称越出文件夹或在其中绕行</translation>
     </message>
     <message>
-        <source>no task is shown: there is nothing to draw</source>
-        <translation>没有显示的任务：没有可绘制的内容</translation>
+        <source>the entry is too large</source>
+        <translation>条目过大</translation>
     </message>
     <message>
-        <source>the picture would take %1 x %2 sheets</source>
-        <translation>图需要 %1 x %2 张纸</translation>
+        <source>the entry unpacks to far more than it holds</source>
+        <translation>条目解压后远大于其内容</translation>
     </message>
     <message>
-        <source>fit it to fewer, take a coarser scale, or print a part of it</source>
-        <translation>请减少页数、用更粗的刻度，或只打印一部分</translation>
+        <source>a folder has content</source>
+        <translation>文件夹条目带有内容</translation>
     </message>
     <message>
-        <source>no font has all characters of %1 texts, the first of them '%2'</source>
-        <translation>没有字体含全部字符，涉及 %1 段文本，第一段是 '%2'</translation>
+        <source>the name stands there twice</source>
+        <translation>名称重复</translation>
     </message>
     <message>
-        <source>for Chinese the package fonts-wqy-microhei brings one</source>
-        <translation>中文字体由软件包 fonts-wqy-microhei 提供</translation>
+        <source>there are too many folders</source>
+        <translation>文件夹过多</translation>
     </message>
     <message>
-        <source>there is nothing to paint on</source>
-        <translation>没有可绘制的画布</translation>
+        <source>the archive unpacks to too much</source>
+        <translation>压缩包解压后过大</translation>
     </message>
     <message>
-        <source>the smallest text is %1 points high</source>
-        <translation>最小文字高 %1 点</translation>
+        <source>the archive unpacks to far more than it holds</source>
+        <translation>压缩包解压后远大于其内容</translation>
     </message>
     <message>
-        <source>on %1 x %2 sheets it is %3</source>
-        <translation>在 %1 x %2 张纸上为 %3</translation>
-    </message>
-    <message>
-        <source>cannot be written: %1</source>
-        <translation>无法写入：%1</translation>
-    </message>
-    <message>
-        <source>an image of %1 x %2 pixels is too large</source>
-        <translation>%1 x %2 像素的图像过大</translation>
-    </message>
-    <message>
-        <source>export a PDF, take a coarser scale, or draw a part of the plan</source>
-        <translation>请导出 PDF、用更粗的刻度，或只绘制一部分</translation>
-    </message>
-    <message>
-        <source>there is no memory for the image</source>
-        <translation>没有足够内存生成图像</translation>
-    </message>
-    <message>
-        <source>a chart of %1 pixels is too wide</source>
-        <translation>%1 像素的图表过宽</translation>
-    </message>
-    <message>
-        <source>paper of %1 cannot be printed on; A4 was taken</source>
-        <translation>无法在 %1 的纸上打印；改用 A4</translation>
-    </message>
-    <message>
-        <source>at least 40 mm and at most 5 m each way</source>
-        <translation>每边至少 40 毫米，至多 5 米</translation>
-    </message>
-    <message>
-        <source>the margins leave less than 20 mm of the paper; margins of 10 mm were taken</source>
-        <translation>页边距后纸面不足 20 毫米；改用 10 毫米边距</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>%1, %2</source>
-        <translation>%1, %2</translation>
-    </message>
-    <message>
-        <source>%1; %2</source>
-        <translation>%1; %2</translation>
+        <source>%1: the name stands for a file and for a folder</source>
+        <translation>%1：名称既是文件又是文件夹</translation>
     </message>
 </context>
 <context>
@@ -5689,6 +5805,66 @@
         <translation>取消(&amp;C)</translation>
     </message>
     <message>
+        <source>Plans projects in working time.</source>
+        <translation>按工作时间规划项目。</translation>
+    </message>
+    <message>
+        <source>The time zone of the plan.</source>
+        <translation>计划的时区。</translation>
+    </message>
+    <message>
+        <source>The language of the program.</source>
+        <translation>程序的语言。</translation>
+    </message>
+    <message>
+        <source>Begins with an empty plan.</source>
+        <translation>以空白计划开始。</translation>
+    </message>
+    <message>
+        <source>Prints what each key does.</source>
+        <translation>列出每个按键的作用。</translation>
+    </message>
+    <message>
+        <source>Prints this.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Prints the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>The plan to open.</source>
+        <translation>要打开的计划。</translation>
+    </message>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[选项]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>选项：</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>参数：</translation>
+    </message>
+    <message>
+        <source>kwgantt-desktop --help lists all options</source>
+        <translation>kwgantt-desktop --help 列出所有选项</translation>
+    </message>
+    <message>
+        <source>there is no screen here</source>
+        <translation>这里没有屏幕</translation>
+    </message>
+    <message>
+        <source>kwgantt works without one: kwgantt help</source>
+        <translation>kwgantt 不需要屏幕：kwgantt help</translation>
+    </message>
+    <message>
         <source>State of the plan</source>
         <translation>计划状态</translation>
     </message>
@@ -5909,10 +6085,6 @@
         <translation>暂无</translation>
     </message>
     <message>
-        <source>Unfold</source>
-        <translation>展开</translation>
-    </message>
-    <message>
         <source>It waits for no other task.</source>
         <translation>它不等待其他任务。</translation>
     </message>
@@ -6011,10 +6183,6 @@
     <message>
         <source>Move down</source>
         <translation>下移</translation>
-    </message>
-    <message>
-        <source>Fold</source>
-        <translation>折叠</translation>
     </message>
     <message>
         <source>Link tasks</source>

@@ -1,6 +1,7 @@
 #include "dialogs/previewdialog.h"
 #include "documents/session.h"
 #include "export/ganttpdfexport.h"
+#include "texts.h"
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -66,7 +67,7 @@ void PreviewDialog::restart()
     m_count->setText(tr("of %1").arg(m_pages));
     m_number->setRange(qMin(1, m_pages), m_pages);
     if (m_pages == 0 && !drawing.findings().isEmpty())
-        m_sheet->setText(drawing.findings().list().first().what);
+        m_sheet->setText(texts::said(drawing.findings().list().first().what));
     showPage(qBound(0, m_number->value() - 1, qMax(0, m_pages - 1)));
 }
 

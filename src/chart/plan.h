@@ -1,8 +1,10 @@
 #pragma once
 #include "styles/chartstyle.h"
+#include "support/said.h"
 #include <QDate>
 #include <QLocale>
 #include <QString>
+#include <QVector>
 #include <functional>
 #include <limits>
 #include <vector>
@@ -118,17 +120,23 @@ struct Axis
 // The words of the picture, for hosts that speak another language.
 struct Texts
 {
-    QString done = QStringLiteral("done");
-    QString toDo = QStringLiteral("to do");
-    QString critical = QStringLiteral("critical");
-    QString slack = QStringLiteral("slack");
-    QString baseline = QStringLiteral("baseline");
-    QString summary = QStringLiteral("summary");
-    QString milestone = QStringLiteral("milestone");
-    QString link = QStringLiteral("link");
-    QString dayOff = QStringLiteral("day off");
-    QString today = QStringLiteral("today");
-    QString sheet = QStringLiteral("%1 of %2 (%3)"); // page, pages, place such as B1
+    QString done = KW_TEXT("done");
+    QString toDo = KW_TEXT("to do");
+    QString critical = KW_TEXT("critical");
+    QString slack = KW_TEXT("slack");
+    QString baseline = KW_TEXT("baseline");
+    QString summary = KW_TEXT("summary");
+    QString milestone = KW_TEXT("milestone");
+    QString link = KW_TEXT("link");
+    QString dayOff = KW_TEXT("day off");
+    QString today = KW_TEXT("today");
+    QString sheet = KW_TEXT("%1 of %2 (%3)"); // page, pages, place such as B1
+
+    QVector<QString *> all()
+    {
+        return {&done,      &toDo, &critical, &slack, &baseline, &summary,
+                &milestone, &link, &dayOff,   &today, &sheet};
+    }
 };
 
 struct Plan

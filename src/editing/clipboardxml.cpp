@@ -1,6 +1,7 @@
 #include "editing/clipboardxml.h"
 #include "model/kwdocument_xml.h"
 #include "support/kwlimits.h"
+#include "support/said.h"
 #include "support/xmlsink.h"
 #include <QBuffer>
 
@@ -59,7 +60,7 @@ bool Content::read(const QByteArray &bytes, QString *error)
 {
     m_tasks.clear();
     m_heights.clear();
-    *error = QStringLiteral("too large");
+    *error = KW_TEXT("too large");
     if (bytes.size() > maxBytes || !m_tree.parse(bytes, error))
         return false;
     *error = QStringLiteral("it holds no tasks, or too many");

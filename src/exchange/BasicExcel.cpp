@@ -1,4 +1,5 @@
 #include "exchange/BasicExcel.h"
+#include "support/said.h"
 #include <QBuffer>
 #include <QFile>
 #include <cmath>
@@ -321,9 +322,9 @@ bool BasicExcel::load(CompoundFile &file)
     // Some writers keep the name that the versions before had.
     const QString name = file.FindProperty(streamName) ? streamName : olderStreamName;
     if (!file.FindProperty(name))
-        return fail(QStringLiteral("holds no workbook"));
+        return fail(KW_TEXT("holds no workbook"));
     if (!file.ReadFile(name, &stream))
-        return fail(QStringLiteral("the stream of the workbook is damaged"));
+        return fail(KW_TEXT("the stream of the workbook is damaged"));
     file.Close();
 
     Workbook workbook;
@@ -354,9 +355,9 @@ bool BasicExcel::load(CompoundFile &file)
             cell.m_isPercent = workbook.showsPercent(format);
         };
         if (next - ownOffset > 1)
-            return fail(QStringLiteral("the sheet \"%1\" lies where another does").arg(sheet->m_name));
+            return fail(KW_TEXT("the sheet \"%1\" lies where another does").arg(sheet->m_name));
         if (!Worksheet::Read(stream, bound.offset, end, workbook.strings, put, &error))
-            return fail(QStringLiteral("the sheet \"%1\" %2").arg(sheet->m_name, error));
+            return fail(error.arg(sheet->m_name));
         sheets.push_back(std::move(sheet));
     }
     m_sheets = std::move(sheets);

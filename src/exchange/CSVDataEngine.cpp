@@ -4,6 +4,7 @@
 #include "exchange/planimport.h"
 #include "model/kwdocument.h"
 #include "support/atomicfile.h"
+#include "support/said.h"
 #include <QFile>
 #include <algorithm>
 #include <optional>
@@ -92,7 +93,7 @@ bool CSVDataEngine::readText(const QString &path, csv::Text &text)
     const csv::Limits limits;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        m_findings.add(path, file.errorString(), QStringLiteral("nothing imported"));
+        m_findings.add(path, file.errorString(), KW_TEXT("nothing imported"));
         return false;
     }
     // One byte more tells that there are too many.
@@ -126,7 +127,7 @@ bool CSVDataEngine::importTexts(csv::Text tasks, const csv::Text *resources, con
     TextSource assignmentRows(assignments ? *assignments : none);
     planimport::Book book;
     book.sheets = {&taskRows, resources ? &resourceRows : nullptr, assignments ? &assignmentRows : nullptr};
-    book.names = {QString(), QStringLiteral("resources"), QStringLiteral("assignments")};
+    book.names = {QString(), QStringLiteral("resources"), KW_TEXT("assignments")};
     return planimport::importBook(*m_document, book, readingOf(m_placesBehind), &m_findings, &m_imported,
                                   m_start);
 }
@@ -136,7 +137,7 @@ bool CSVDataEngine::writeFile(const QString &path, const QByteArray &bytes)
     QString error;
     if (atomicfile::replace(path, bytes, &error))
         return true;
-    m_findings.add(path, error, QStringLiteral("a file that stood there was kept"));
+    m_findings.add(path, error, KW_TEXT("a file that stood there was kept"));
     return false;
 }
 

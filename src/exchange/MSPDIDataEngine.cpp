@@ -9,6 +9,7 @@
 #include "support/atomicfile.h"
 #include "support/kwlimits.h"
 #include "support/longwork.h"
+#include "support/said.h"
 #include <QFile>
 #include <QFileInfo>
 #include <cmath>
@@ -23,7 +24,7 @@ bool readAll(const QString &path, QByteArray &bytes, QString &error)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile()) {
-        error = QStringLiteral("there is no such file");
+        error = KW_TEXT("there is no such file");
         return false;
     }
     if (!file.open(QIODevice::ReadOnly)) {
@@ -31,7 +32,7 @@ bool readAll(const QString &path, QByteArray &bytes, QString &error)
         return false;
     }
     if (file.size() > mspdi::maxFileBytes) {
-        error = QStringLiteral("it is longer than %1 MB").arg(mspdi::maxFileBytes >> 20);
+        error = KW_TEXT("it is longer than %1 MB").arg(mspdi::maxFileBytes >> 20);
         return false;
     }
     bytes = file.read(mspdi::maxFileBytes);
@@ -44,7 +45,7 @@ bool readAll(const QString &path, QByteArray &bytes, QString &error)
 
 QString placeOf(const KWTaskInfo &task, int pos)
 {
-    return QStringLiteral("task %1 \"%2\"").arg(pos + 1).arg(task.Name.simplified());
+    return KW_TEXT("task %1 \"%2\"").arg(pos + 1).arg(task.Name.simplified());
 }
 
 // What staged plans have no word for.
@@ -122,7 +123,7 @@ bool MSPDIDataEngine::importFile(const QString &path)
     QByteArray bytes;
     QString error;
     if (!readAll(path, bytes, error))
-        return fail(path, error, QStringLiteral("nothing imported"));
+        return fail(path, error, KW_TEXT("nothing imported"));
     return importBytes(bytes, path);
 }
 
@@ -137,7 +138,7 @@ bool MSPDIDataEngine::importBytes(const QByteArray &bytes, const QString &place)
     if (!m_document)
         return fail(place, QStringLiteral("there is no document"));
     if (!mspdi::readFile(bytes, file, error))
-        return fail(place, error, QStringLiteral("nothing imported"));
+        return fail(place, error, KW_TEXT("nothing imported"));
     mspdi::FindingList list;
     mspdi::PlanOfFile plan = mspdi::toPlan(file, list);
     m_customValues = file.customValues;
@@ -161,10 +162,10 @@ bool MSPDIDataEngine::importBytes(const QByteArray &bytes, const QString &place)
     const double ours = m_document->getToltalCost();
     if (plan.cost && !isSameMoney(*plan.cost / hundredths, ours, amounts))
         m_findings.add(QString(),
-                       QStringLiteral("the file's costs of %1 are %2 here")
+                       KW_TEXT("the file's costs of %1 are %2 here")
                            .arg(*plan.cost / hundredths, 0, 'f', 2)
                            .arg(ours, 0, 'f', 2),
-                       QStringLiteral("fixed costs, overtime and rates that change are not counted"));
+                       KW_TEXT("fixed costs, overtime and rates that change are not counted"));
     for (const Finding &finding : ofPlan.list())
         m_findings.add(finding.place, finding.what, finding.hint);
     return true;
@@ -182,7 +183,7 @@ bool MSPDIDataEngine::exportFile(const QString &path)
     QString error;
     const auto write = [&](QIODevice &device) { return mspdi::write(device, *m_document, heading, list); };
     if (!atomicfile::replace(path, write, &error))
-        return fail(path, error.isEmpty() ? QStringLiteral("it cannot be written") : error);
+        return fail(path, error.isEmpty() ? KW_TEXT("it cannot be written") : error);
     list.tell(m_findings);
     return true;
 }

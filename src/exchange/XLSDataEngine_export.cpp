@@ -4,6 +4,7 @@
 #include "exchange/planexport.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
+#include "support/said.h"
 #include <QFile>
 #include <QSet>
 
@@ -29,7 +30,7 @@ public:
     void begin(int, int columns) override
     {
         if (columns > biff::columnLimit)
-            m_findings->add(name(), QStringLiteral("there are %1 columns, of which the first %2 are written")
+            m_findings->add(name(), KW_TEXT("there are %1 columns, of which the first %2 are written")
                                         .arg(columns)
                                         .arg(biff::columnLimit));
     }
@@ -44,10 +45,9 @@ private:
     void write(int row, int column, const QString &text)
     {
         if (text.size() > planexport::maxUnits)
-            m_findings->add(QStringLiteral("%1, row %2, column %3").arg(name()).arg(row).arg(column),
-                            QStringLiteral("a text of %1 characters is cut to %2")
-                                .arg(text.size())
-                                .arg(planexport::maxUnits));
+            m_findings->add(
+                KW_TEXT("%1, row %2, column %3").arg(name()).arg(row).arg(column),
+                KW_TEXT("a text of %1 characters is cut to %2").arg(text.size()).arg(planexport::maxUnits));
         XLSDataEngine::setCellCont(row - 1, column - 1, m_sheet, planexport::cellText(text));
     }
 
@@ -80,21 +80,21 @@ bool XLSDataEngine::exportData(const QString &path)
     for (const Sheet sheet : allSheets) {
         if (titleRows + rows.count(sheet, biff::rowLimit) > biff::rowLimit)
             return fail(path,
-                        QStringLiteral("the sheet '%1' holds %2 rows, and there are more")
+                        KW_TEXT("the sheet '%1' holds %2 rows, and there are more")
                             .arg(names[sheet])
                             .arg(biff::rowLimit),
-                        QStringLiteral("an XLSX workbook has room for them"));
+                        KW_TEXT("an XLSX workbook has room for them"));
     }
     if (rows.unreachedTasks() > 0)
         m_findings.add(
             names[exceltitles::TaskSheet],
-            QStringLiteral("%1 tasks belong to no summary and are not written").arg(rows.unreachedTasks()));
+            KW_TEXT("%1 tasks belong to no summary and are not written").arg(rows.unreachedTasks()));
 
     if (const int shared = rows.sharedNames())
-        m_findings.add(names[exceltitles::AssignmentSheet],
-                       QStringLiteral("%1 tasks share a name: a workbook cannot tell their assignments apart")
-                           .arg(shared),
-                       QStringLiteral("give them different names"));
+        m_findings.add(
+            names[exceltitles::AssignmentSheet],
+            KW_TEXT("%1 tasks share a name: a workbook cannot tell their assignments apart").arg(shared),
+            KW_TEXT("give them different names"));
 
     BasicExcel book;
     book.New(int(std::size(allSheets)));

@@ -1,5 +1,6 @@
 #include "exchange/XLSXDataBase.h"
 #include "exchange/xlsxsheet.h"
+#include "support/said.h"
 #include "support/xmlguard.h"
 #include <QDir>
 
@@ -96,7 +97,7 @@ bool XLSXDataBase::praserShareStrXml(const QString &folder)
     const QByteArray part = xlsx::readPart(parts + name, &error);
     int oddReferences = 0;
     if (!error.isEmpty() || !xlsx::readSharedStrings(part, m_sharedStrings, &error, &oddReferences)) {
-        m_findings.add(name, error, QStringLiteral("not read"));
+        m_findings.add(name, error, KW_TEXT("not read"));
         return false;
     }
     xlsx::tellOddReferences(m_findings, name, oddReferences);

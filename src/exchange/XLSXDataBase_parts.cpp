@@ -5,6 +5,7 @@
 #include "exchange/planexport.h"
 #include "exchange/xlsxsheet.h"
 #include "support/kwclock.h"
+#include "support/said.h"
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -255,10 +256,9 @@ int XLSXDataBase::sharedStringIndex(const QString &text)
         return *known;
     if (text.size() > planexport::maxUnits && cleaned.size() >= planexport::maxUnits - 1) {
         constexpr int shownUnits = 30;
-        m_findings.add(
-            cleaned.left(shownUnits) + QChar(0x2026),
-            QStringLiteral("a cell holds %1 characters, and there are more").arg(planexport::maxUnits),
-            QStringLiteral("cut"));
+        m_findings.add(cleaned.left(shownUnits) + QChar(0x2026),
+                       KW_TEXT("a cell holds %1 characters, and there are more").arg(planexport::maxUnits),
+                       QStringLiteral("cut"));
     }
     const int index = m_sharedStrings.size();
     m_stringIndex.insert(cleaned, index);

@@ -6,6 +6,7 @@
 #include "kwtemporarydir.h"
 #include "kwzip.h"
 #include "model/kwdocument.h"
+#include "support/said.h"
 #include "table/rowcolumndata.h"
 #include <QBuffer>
 #include <QDir>
@@ -86,14 +87,14 @@ void XLSXDataEngine::createMindmapSheet()
             m_stringCells += writer.stringCells();
         });
         if (!isComplete)
-            fail(names.at(sheet), QStringLiteral("a sheet holds %1 rows, and there are more").arg(maxRows));
+            fail(names.at(sheet), KW_TEXT("a sheet holds %1 rows, and there are more").arg(maxRows));
         if (exceltitles::workbookTitles(sheet).size() > SheetWriter::letters)
-            fail(names.at(sheet), QStringLiteral("there are more than %1 columns").arg(SheetWriter::letters));
+            fail(names.at(sheet), KW_TEXT("there are more than %1 columns").arg(SheetWriter::letters));
     }
     if (rows.unreachedTasks() > 0)
         m_findings.add(
             names.first(),
-            QStringLiteral("%1 tasks belong to no summary and are not written").arg(rows.unreachedTasks()));
+            KW_TEXT("%1 tasks belong to no summary and are not written").arg(rows.unreachedTasks()));
 }
 
 QDomDocument XLSXDataEngine::sheetDocument(int sheet)
@@ -214,7 +215,7 @@ bool XLSXDataEngine::exportFile(const QString &path)
         fallback = std::make_unique<KWTemporaryDir>();
     const QString folder = fallback ? fallback->path() : usual.path();
     if (folder.isEmpty()) {
-        fail(path, QStringLiteral("no temporary folder"));
+        fail(path, KW_TEXT("no temporary folder"));
         return false;
     }
     const bool wasRich = m_isRich;
@@ -232,10 +233,10 @@ bool XLSXDataEngine::exportFile(const QString &path)
     if (addsIds)
         delete titles.takeLast();
     if (sharedNames > 0 && !addsIds && !hasIds)
-        m_findings.add(sheetNames().at(exceltitles::AssignmentSheet),
-                       QStringLiteral("%1 tasks share a name: a workbook cannot tell their assignments apart")
-                           .arg(sharedNames),
-                       QStringLiteral("give them different names, or write readable sheets"));
+        m_findings.add(
+            sheetNames().at(exceltitles::AssignmentSheet),
+            KW_TEXT("%1 tasks share a name: a workbook cannot tell their assignments apart").arg(sharedNames),
+            KW_TEXT("give them different names, or write readable sheets"));
     m_isRich = wasRich;
     if (isWhole() && !KWZip::zip(path, folder))
         fail(path, KWZip::lastError());

@@ -5,6 +5,7 @@
 #include "kwtemporarydir.h"
 #include "kwzip.h"
 #include "model/kwdocument.h"
+#include "support/said.h"
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -28,7 +29,7 @@ public:
     QString unpack(const QString &archive)
     {
         if ((m_fallback ? m_fallback->path() : m_folder.path()).isEmpty())
-            return QStringLiteral("there is no temporary folder to unpack it into");
+            return KW_TEXT("there is no temporary folder to unpack it into");
         return KWZip::unZip(archive, path()) ? QString() : KWZip::lastError();
     }
 
@@ -59,8 +60,8 @@ public:
                 open(parts, file, strings, findings);
         }
         if (m_sources.empty())
-            findings.add(QStringLiteral("xl/worksheets"), QStringLiteral("the workbook has no worksheet"),
-                         QStringLiteral("nothing imported"));
+            findings.add(QStringLiteral("xl/worksheets"), KW_TEXT("the workbook has no worksheet"),
+                         KW_TEXT("nothing imported"));
         for (std::size_t sheet = 0; sheet < m_sources.size(); ++sheet)
             m_book.sheets[sheet] = m_sources[sheet].get();
         m_book.is1904 = xlsx::is1904(workbook);
@@ -84,7 +85,7 @@ private:
         auto source = std::make_unique<xlsx::SheetSource>(xlsx::readPart(folder + file, &error), strings,
                                                           &m_percentStyles);
         if (!error.isEmpty())
-            findings.add(file, error, QStringLiteral("not read"));
+            findings.add(file, error, KW_TEXT("not read"));
         // Other XML among the sheets is none, a sheet that is spoilt is one all the same.
         if (!source->isWorksheet() && source->error().isEmpty())
             return;
@@ -131,7 +132,7 @@ bool XLSXDataEngine::importSheets(const QString &path, const std::function<bool(
     m_findings.clear();
     const QString error = unpacked.unpack(path);
     if (!error.isEmpty()) {
-        m_findings.add(path, error, QStringLiteral("nothing imported"));
+        m_findings.add(path, error, KW_TEXT("nothing imported"));
         return false;
     }
     // Without its texts a sheet would take the names of all tasks away.

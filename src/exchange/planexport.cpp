@@ -10,6 +10,7 @@
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
 #include "support/findings.h"
+#include "support/said.h"
 #include "support/xmlguard.h"
 #include "table/documenttexts.h"
 #include "table/resourcetext.h"
@@ -520,8 +521,8 @@ bool Rows::write(Sheet sheet, RowSink &sink, int maxRows, bool withValues, Findi
         });
     }
     if (cut > 0 && findings)
-        findings->add(place, QStringLiteral("%1 numbers have more digits than their texts").arg(cut),
-                      QStringLiteral("rounded"));
+        findings->add(place, KW_TEXT("%1 numbers have more digits than their texts").arg(cut),
+                      KW_TEXT("rounded"));
     return needed == rows;
 }
 }

@@ -14,6 +14,7 @@
 #include "support/kwclock.h"
 #include "support/likeness.h"
 #include "support/longwork.h"
+#include "support/said.h"
 #include "table/rowcolumndata.h"
 #include <QMap>
 #include <QPair>
@@ -191,8 +192,8 @@ private:
             staged::Task &staged = m_tasks[i];
             staged.task->ID = ids.takeNext();
             if (staged.id != 0)
-                report(staged, QString::number(staged.id) + text(" is the ID of another task"),
-                       text("ID ") + QString::number(staged.task->ID));
+                report(staged, text("%1 is the ID of another task").arg(staged.id),
+                       text("ID %1").arg(staged.task->ID));
         };
         for (std::size_t i = 0; i < m_tasks.size(); ++i) {
             isTaken[i] = ids.take(m_tasks[i].id);
@@ -216,8 +217,8 @@ private:
             const QString name = staged.task->Name;
             staged.task->Name = names.take(name);
             if (staged.task->Name != name)
-                report(staged, name + text(" is the name of another task"),
-                       text("named ") + staged.task->Name);
+                report(staged, text("%1 is the name of another task").arg(name),
+                       text("named %1").arg(staged.task->Name));
         }
     }
 
@@ -408,10 +409,10 @@ private:
         ++m_imported.refusedLinks;
         const bool isLoop = link.refusal == LinkRefusal::Loop || link.refusal == LinkRefusal::Self;
         report(m_tasks[std::size_t(wanted.successor)],
-               (isLoop ? text("it would wait for itself through ")
-                       : text("it cannot wait for its own summary or subtask in ")) +
-                   m_rules.place.section(QLatin1Char(' '), -1) + QLatin1Char(' ') +
-                   QString::number(m_tasks[std::size_t(wanted.predecessor)].row),
+               (isLoop ? text("it would wait for itself through %1")
+                       : text("it cannot wait for its own summary or subtask in %1"))
+                   .arg(m_rules.place.section(QLatin1Char(' '), -1) + QLatin1Char(' ') +
+                        QString::number(m_tasks[std::size_t(wanted.predecessor)].row)),
                text("no predecessor"));
     }
 
@@ -478,8 +479,8 @@ public:
             candidates.sort();
             guess = m_guesses.insert(name, likeness::nearest(name, candidates));
         }
-        return text("there is no resource ") + name +
-               (guess->isEmpty() ? QString() : text("; did you mean '") + *guess + text("'?"));
+        return guess->isEmpty() ? text("there is no resource %1").arg(name)
+                                : text("there is no resource %1; did you mean '%2'?").arg(name, *guess);
     }
 
 private:
@@ -516,7 +517,7 @@ public:
         KWTaskInfo *task =
             row.task >= 0 ? m_document.getTaskInfoAt(row.task) : m_tasks.value(row.taskName.trimmed());
         if (!task) {
-            report(row, text("there is no task ") + row.taskName, text("left out"));
+            report(row, text("there is no task %1").arg(row.taskName), text("left out"));
             return;
         }
         if (row.task < 0 && m_shared.contains(row.taskName.trimmed()))
@@ -531,7 +532,7 @@ public:
             return;
         }
         if (m_rules.assignsOnce && find(*task, row.resource)) {
-            report(row, row.resource + text(" is assigned to this task already"), text("left out"));
+            report(row, text("%1 is assigned to this task already").arg(row.resource), text("left out"));
             return;
         }
         Resource &resource = assigned(*task, row);
@@ -562,7 +563,7 @@ public:
             places.append(
                 QStringLiteral("%1 (%2 %3)").arg(name.key(), m_rules.assignmentPlace).arg(name.value()));
         m_findings->add(QString(),
-                        QStringLiteral("assignments name tasks by names that several have, %1 in all: %2")
+                        KW_TEXT("assignments name tasks by names that several have, %1 in all: %2")
                             .arg(m_uncertain.size())
                             .arg(places.join(QLatin1String(", "))),
                         text("the first task of the name has the assignments"));
@@ -582,7 +583,7 @@ private:
         const double written =
             cost::toHours(m_measures, *row.work, isMaterial ? duration::Hour : row.workUnit);
         if (std::fabs(counted - written) > sameHours)
-            report(row, QStringLiteral("%1 hours of work are counted as %2").arg(written).arg(counted),
+            report(row, KW_TEXT("%1 hours of work are counted as %2").arg(written).arg(counted),
                    text("work is the task's length times the units"));
     }
 
@@ -727,7 +728,8 @@ bool isPlan(const TaskSheet &tasks, Findings *findings)
         return true;
     if (findings)
         findings->add(tasks.place() + text(" 1"),
-                      text(hasNames ? "not a plan: no title 'Duration'" : "not a plan: no title 'Name'"),
+                      hasNames ? text("not a plan: no title 'Duration'")
+                               : text("not a plan: no title 'Name'"),
                       text("the first row holds the titles: Name, Duration, Start, Predecessors, ..."));
     return false;
 }
@@ -782,7 +784,7 @@ private:
             return;
         }
         if (names.contains(assignment.resource)) {
-            report(task, assignment.resource + text(" stands twice"), text("assigned once"));
+            report(task, text("%1 stands twice").arg(assignment.resource), text("assigned once"));
             return;
         }
         names.insert(assignment.resource);
@@ -791,14 +793,13 @@ private:
             cell.text = part.mid(bracket + 1).chopped(1);
             const std::optional<double> units = cellvalues::fraction(cell, cellvalues::Comma::Decimal);
             if (!units || *units < 0)
-                report(task, QLatin1Char('\'') + part + text("' has no units such as 50%"),
-                       text("assigned with 100%"));
+                report(task, text("'%1' has no units such as 50%").arg(part), text("assigned with 100%"));
             else
                 assignment.units = *units;
             if (units && *units >= mostWithoutSign && resourcetypes::isWork(info->type) &&
                 !cellvalues::hasPercentSign(cell))
-                report(task, QLatin1Char('\'') + part + text("' has no sign of percent"),
-                       text("read as ") + QString::number(*units * 100) + QLatin1Char('%'));
+                report(task, text("'%1' has no sign of percent").arg(part),
+                       text("read as %1").arg(QString::number(*units * 100) + QLatin1Char('%')));
         }
         m_plan.assignments.push_back(std::move(assignment));
     }

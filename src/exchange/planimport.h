@@ -4,6 +4,7 @@
 #include "exchange/sheetrows.h"
 #include "exchange/stagedplan.h"
 #include "support/findings.h"
+#include "support/said.h"
 #include <array>
 
 class KWDocument;
@@ -22,7 +23,7 @@ struct Book
     bool is1904 = false; // day numbers count from 1 January 1904
     // As findings call the sheets.
     std::array<QString, exceltitles::SheetCount> names{
-        {QStringLiteral("task sheet"), QStringLiteral("resource sheet"), QStringLiteral("assignment sheet")}};
+        {KW_TEXT("task sheet"), KW_TEXT("resource sheet"), KW_TEXT("assignment sheet")}};
 };
 
 // Rebuilds the title tables of ExcelTitles, reading each sheet no further than its first row.

@@ -69,8 +69,8 @@ void ResourceSheet::addRow(const sheetrows::Row &source, const std::vector<Known
                                                 : info->name;
     info->name = m_names.has(wanted) ? m_names.different(wanted.left(maxNumberedUnits)) : wanted;
     if (info->name != wanted)
-        report(row, QString(), wanted + text(" is the name of another resource"),
-               text("named ") + info->name);
+        report(row, QString(), text("%1 is the name of another resource").arg(wanted),
+               text("named %1").arg(info->name));
     m_names.add(info->name, info->ID);
     m_infos.push_back(std::move(info));
 }
@@ -87,7 +87,7 @@ void ResourceSheet::apply(int row, const KnownCell &known, ResourceInfo &info)
         const bool fits = id > std::numeric_limits<qint32>::min() && id <= std::numeric_limits<qint32>::max();
         info.ID = fits ? int(id) : 0;
         if (info.ID == 0 || m_ids.contains(info.ID))
-            report(row, &cell, text("cannot be the ID"), text("the next free ID"));
+            report(row, &cell, text("%1 cannot be the ID"), text("the next free ID"));
         return;
     }
     case Name:
@@ -101,7 +101,7 @@ void ResourceSheet::apply(int row, const KnownCell &known, ResourceInfo &info)
         if (type >= 0)
             info.type = type;
         else
-            report(row, &cell, text("is no type of resource"), text("a work resource"));
+            report(row, &cell, text("%1 is no type of resource"), text("a work resource"));
         return;
     }
     case Rate:
@@ -139,7 +139,7 @@ void ResourceSheet::readRate(int row, const Cell &cell, double &money, qint32 &u
 {
     const std::optional<cellvalues::Rate> rate = cellvalues::rate(cell, reading().comma);
     if (!rate) {
-        report(row, &cell, text("is no rate"), text("left out"));
+        report(row, &cell, text("%1 is no rate"), text("left out"));
         return;
     }
     reportComma(row, cell, rate->money);
@@ -153,16 +153,16 @@ void ResourceSheet::readRate(int row, const Cell &cell, double &money, qint32 &u
     }
     const std::optional<cellvalues::CostUnit> called = cellvalues::costUnitCalled(rate->unit.mid(1));
     if (!called) {
-        report(row, &cell, text("has no known unit of time"), text("money for an hour"));
+        report(row, &cell, text("%1 has no known unit of time"), text("money for an hour"));
         return;
     }
     unit = called->unit;
     if (called->parts == 1)
         return;
     money /= called->parts;
-    report(row, &cell, text("is no rate for a month or less"),
-           text("read as ") + QString::number(money, 'g', 12) + QLatin1Char('/') +
-               cellvalues::costUnitText(unit));
+    report(row, &cell, text("%1 is no rate for a month or less"),
+           text("read as %1")
+               .arg(QString::number(money, 'g', 12) + QLatin1Char('/') + cellvalues::costUnitText(unit)));
 }
 
 void ResourceSheet::readMaxUnits(int row, const KnownCell &known, double &units)
@@ -171,21 +171,22 @@ void ResourceSheet::readMaxUnits(int row, const KnownCell &known, double &units)
     const bool isSigned = cellvalues::hasPercentSign(cell);
     const std::optional<double> read = cellvalues::fraction(cell, reading().comma);
     if (!read || *read < 0) {
-        report(row, &cell, text("is no amount"), text("left out"));
+        report(row, &cell, text("%1 is no amount"), text("left out"));
         return;
     }
     reportComma(row, cell, isSigned ? *read * 100 : *read);
     // A percentage even without its sign.
     units = isSigned ? *read : *read / 100;
     if (!isSigned && !known.title->isPercent && *read > 0 && *read <= 1)
-        report(row, &cell, text("is taken as a percentage"), QString::number(units * 100) + QLatin1Char('%'));
+        report(row, &cell, text("%1 is taken as a percentage"),
+               QString::number(units * 100) + QLatin1Char('%'));
 }
 
 void ResourceSheet::readAmount(int row, const Cell &cell, double &amount)
 {
     const std::optional<double> read = cellvalues::number(cell, reading().comma);
     if (!read) {
-        report(row, &cell, text("is no amount"), text("left out"));
+        report(row, &cell, text("%1 is no amount"), text("left out"));
         return;
     }
     reportComma(row, cell, *read);
@@ -252,7 +253,7 @@ void AssignmentSheet::addRow(const sheetrows::Row &row, const std::vector<KnownC
             assignment.task =
                 id > 0 && id <= std::numeric_limits<quint32>::max() ? m_placeOfId.value(quint32(id), -1) : -1;
             if (assignment.task < 0) {
-                report(row.line, &cell, text("is the ID of no task"), text("left out"));
+                report(row.line, &cell, text("%1 is the ID of no task"), text("left out"));
                 return;
             }
             break;
@@ -300,7 +301,7 @@ AssignmentSheet::Amount AssignmentSheet::amountOf(int row, const KnownCell &know
     if (!amount.value || *amount.value < 0) {
         if (cell.text.trimmed().isEmpty())
             return Amount();
-        report(row, &cell, text("is no amount"), text("left out"));
+        report(row, &cell, text("%1 is no amount"), text("left out"));
         amount.value.reset();
         return amount;
     }

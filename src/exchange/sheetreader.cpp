@@ -1,6 +1,7 @@
 #include "exchange/sheetreader.h"
 #include "format/wholenumber.h"
 #include "support/longwork.h"
+#include "support/said.h"
 #include <QLocale>
 #include <algorithm>
 
@@ -69,7 +70,7 @@ bool Reader::read(Source &source)
     }
     m_hasLostRows = !m_hasTitles && !early.empty();
     if (!source.error().isEmpty() && m_findings)
-        m_findings->add(m_name, source.error(), QStringLiteral("not read"));
+        m_findings->add(m_name, source.error(), KW_TEXT("not read"));
     if (m_isKnown)
         reportUntitled();
     return source.error().isEmpty();
@@ -117,16 +118,15 @@ void Reader::readTitles(const Row &row)
         const bool isIgnored =
             known.field == titletable::Ignored || known.field == titletable::IgnoredAssignment;
         if (known.field >= 0 && !isIgnored && !m_reading.isExact && hasField(known.field)) {
-            report(row.line, cell.text, QStringLiteral("it is a second ") + shown(titleOfField(known.field)),
-                   QStringLiteral("not read"));
+            report(row.line, cell.text, KW_TEXT("it is a second %1").arg(shown(titleOfField(known.field))),
+                   KW_TEXT("not read"));
             known.field = -1;
         } else if (known.field < 0) {
             const QString nearest =
                 isCounting() ? QString() : titletable::nearest(m_kind, cell.text, m_reading.isExact);
-            report(row.line, cell.text, QStringLiteral("no such column"),
-                   nearest.isEmpty()
-                       ? QStringLiteral("not read")
-                       : QStringLiteral("not read; did you mean ") + shown(nearest) + QLatin1Char('?'));
+            report(row.line, cell.text, KW_TEXT("no such column"),
+                   nearest.isEmpty() ? KW_TEXT("not read")
+                                     : KW_TEXT("not read; did you mean %1?").arg(shown(nearest)));
         }
         m_fieldOfColumn[column] = known;
     }
@@ -186,11 +186,13 @@ void Reader::reportUntitled() const
         const Untitled &untitled = m_untitled[column];
         if (untitled.cells > 0)
             report(untitled.firstRow, QString(),
-                   QStringLiteral("column %1 has no title and %2 cells").arg(column).arg(untitled.cells),
-                   QStringLiteral("not read"));
+                   KW_TEXT("column %1 has no title and %2 cells").arg(column).arg(untitled.cells),
+                   KW_TEXT("not read"));
     }
 }
 
+// texts: "row %1", "%1, row %2", "row %1, '%2'", "%1, row %2, '%3'"
+// texts: "line %1", "%1, line %2", "line %1, '%2'", "%1, line %2, '%3'"
 QString Reader::place() const
 {
     return m_name.isEmpty() ? m_reading.word : m_name + QLatin1String(", ") + m_reading.word;
@@ -199,14 +201,13 @@ QString Reader::place() const
 void Reader::refuse(int row, const Cell *cell, const QString &what, const QString &instead)
 {
     m_isRefused = m_isRefused || m_reading.isStrict;
-    report(row, cell, what, m_reading.isStrict ? QStringLiteral("nothing was read") : instead);
+    report(row, cell, what, m_reading.isStrict ? KW_TEXT("nothing was read") : instead);
 }
 
 void Reader::reportComma(int row, const Cell &cell, double value) const
 {
     if (m_reading.comma == cellvalues::Comma::Groups && cellvalues::hasOddComma(cell))
-        report(row, &cell, QStringLiteral("has a comma that groups no digits"),
-               QStringLiteral("read as ") + QString::number(value));
+        report(row, &cell, KW_TEXT("%1 has a comma that groups no digits"), KW_TEXT("read as %1").arg(value));
 }
 
 QString Reader::titleOf(const Cell &cell) const
@@ -227,7 +228,7 @@ void Reader::report(int row, const Cell *cell, const QString &what, const QStrin
     if (isCounting())
         m_findings->add(QString(), what);
     else
-        report(row, titleOf(*cell), shown(cell->text) + QLatin1Char(' ') + what, instead);
+        report(row, titleOf(*cell), what.arg(shown(cell->text)), instead);
 }
 
 void Reader::report(int row, const QString &column, const QString &what, const QString &instead) const

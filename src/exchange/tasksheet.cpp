@@ -4,6 +4,7 @@
 #include "format/dataformat.h"
 #include "model/kwdocument.h"
 #include "support/kwclock.h"
+#include "support/said.h"
 #include <QSet>
 #include <algorithm>
 #include <cmath>
@@ -198,7 +199,7 @@ void TaskSheet::readId(const Cell &cell, staged::Task &staged)
     if (id > 0 && id <= std::numeric_limits<quint32>::max())
         staged.id = quint32(id);
     else if (!isBlank(cell))
-        refuse(staged.row, &cell, text("is no ID"), text("the next free ID"));
+        refuse(staged.row, &cell, text("%1 is no ID"), text("the next free ID"));
 }
 
 void TaskSheet::readNumber(const KnownCell &known, staged::Task &staged)
@@ -211,7 +212,7 @@ void TaskSheet::readNumber(const KnownCell &known, staged::Task &staged)
     const bool isOutside =
         known.field == columntypes::Level && value && !reading().isExact && *value > deepestLevel;
     if (!value || isOutside) {
-        refuse(staged.row, &cell, isOutside ? text("is no level from 1 to 1000") : text("is no number"),
+        refuse(staged.row, &cell, isOutside ? text("%1 is no level from 1 to 1000") : text("%1 is no number"),
                text("left out"));
         return;
     }
@@ -232,7 +233,7 @@ void TaskSheet::readPercent(const Cell &cell, staged::Task &staged)
         return;
     std::optional<double> value = cellvalues::fraction(cell, reading().comma);
     if (!value) {
-        refuse(staged.row, &cell, text("is no percentage"), text("left out"));
+        refuse(staged.row, &cell, text("%1 is no percentage"), text("left out"));
         return;
     }
     const bool isPlain = !cellvalues::hasPercentSign(cell);
@@ -243,8 +244,8 @@ void TaskSheet::readPercent(const Cell &cell, staged::Task &staged)
     reportComma(staged.row, cell, isPlain ? *value : *value * 100);
     staged.task->setPercent(*value);
     if (*value < 0 || *value > 1)
-        report(staged.row, &cell, text("is no percentage from 0 to 100"),
-               text("read as ") + QString::number(staged.task->Percent * 100) + QLatin1Char('%'));
+        report(staged.row, &cell, text("%1 is no percentage from 0 to 100"),
+               text("read as %1").arg(QString::number(staged.task->Percent * 100) + QLatin1Char('%')));
 }
 
 void TaskSheet::readLength(const KnownCell &known, staged::Task &staged)
@@ -259,12 +260,12 @@ void TaskSheet::readLength(const KnownCell &known, staged::Task &staged)
         found = reads.insert(cell.text, cellvalues::length(cell.text, m_unitNames, known.title->bareUnit));
     const std::optional<cellvalues::Length> &length = *found;
     if (!length) {
-        refuse(staged.row, &cell, text("is no length of time"), text("left out"));
+        refuse(staged.row, &cell, text("%1 is no length of time"), text("left out"));
         return;
     }
     staged.length = staged::Length{length->value, length->unit};
     if (!length->isUnitKnown)
-        refuse(staged.row, &cell, text("has no known unit of time"), text("counted in days"));
+        refuse(staged.row, &cell, text("%1 has no known unit of time"), text("counted in days"));
 }
 
 void TaskSheet::readHyperlinks(const Cell &cell, staged::Task &staged)
@@ -300,7 +301,7 @@ bool TaskSheet::readPredecessor(const QString &part, QString &refusal)
     if (quote == QLatin1Char('"') || quote == QLatin1Char('\'')) {
         const bool isClosed = part.size() > 2 && part.at(part.size() - 1) == quote;
         if (!isClosed) {
-            refusal = text("has no closing quote");
+            refusal = text("%1 has no closing quote");
             return false;
         }
         m_wantedTexts.push_back({task, part.mid(1, part.size() - 2).trimmed(), false});
@@ -316,7 +317,7 @@ bool TaskSheet::readPredecessor(const QString &part, QString &refusal)
     const QString number = part.mid(isId ? 1 : 0, end - (isId ? 1 : 0));
     const QString kind = part.mid(end).trimmed().toUpper();
     if (number.isEmpty()) {
-        refusal = text("is no task");
+        refusal = text("%1 is no task");
         return false;
     }
     if (!kind.isEmpty() && kind != QLatin1String("FS")) {
@@ -324,7 +325,7 @@ bool TaskSheet::readPredecessor(const QString &part, QString &refusal)
                                           QStringLiteral("SF")};
         const bool isLink = kinds.contains(kind.left(2)) || kind.startsWith(QLatin1Char('+')) ||
                             kind.startsWith(QLatin1Char('-'));
-        refusal = isLink ? text("is no link from finish to start without lag") : text("is no task");
+        refusal = isLink ? text("%1 is no link from finish to start without lag") : text("%1 is no task");
         return false;
     }
     if (hasDot && hasField(titletable::OutlineCode)) {
@@ -334,8 +335,8 @@ bool TaskSheet::readPredecessor(const QString &part, QString &refusal)
     bool isNumber = false;
     const quint32 value = cellvalues::withPlainDigits(number).toUInt(&isNumber);
     if (!isNumber || value == 0) {
-        refusal = hasDot && !reading().isExact ? text("is an outline code, and no column has these")
-                                               : text("is no task");
+        refusal = hasDot && !reading().isExact ? text("%1 is an outline code, and no column has these")
+                                               : text("%1 is no task");
         return false;
     }
     m_wanted.push_back({task, value, isId || (reading().linksById && hasField(columntypes::Id))});
@@ -430,7 +431,7 @@ void TaskSheet::leaveOutRepeated(std::size_t first, const Cell &cell, const stag
     };
     const auto end = std::remove_if(begin, m_wanted.end(), isRepeated);
     if (end != m_wanted.end() && !reading().isExact)
-        report(staged.row, &cell, text("names a predecessor twice"), text("taken once"));
+        report(staged.row, &cell, text("%1 names a predecessor twice"), text("taken once"));
     m_wanted.erase(end, m_wanted.end());
 }
 
@@ -455,8 +456,8 @@ void TaskSheet::readMoment(const KnownCell &known, staged::MomentField field, st
         found = reads.insert(cell.text, {moment.has_value(), moment.value_or(cellvalues::Moment())});
     }
     if (!found->isSound) {
-        refuse(staged.row, &cell, text("is no date from 1970 to 2105"),
-               reading().isExact ? text("today") : text("left out"));
+        refuse(staged.row, &cell, text("%1 is no date from 1970 to 2105"),
+               reading().isExact ? KW_TEXT("today") : text("left out"));
         if (reading().isExact)
             staged.moments[field] = shownmoment::Moment{LocalClock::dayOf(KWClock::now().date()), 0, false};
         return;
@@ -526,8 +527,8 @@ void TaskSheet::settlePercent()
         staged.task->Progress = KWTaskInfo::indexFromPercent(staged.task->Percent);
         if (value < 0 || value > 1)
             report(staged.row, titleOfField(columntypes::Percent),
-                   QString::number(percent.value) + text(" is no percentage from 0 to 100"),
-                   text("read as ") + QString::number(staged.task->Percent * 100) + QLatin1Char('%'));
+                   text("%1 is no percentage from 0 to 100").arg(percent.value),
+                   text("read as %1").arg(QString::number(staged.task->Percent * 100) + QLatin1Char('%')));
     }
 }
 
@@ -554,9 +555,7 @@ void TaskSheet::settleLevels()
         else if (m_hasLevelZero && !reading().isExact)
             ++task.Level;
         if (task.Level > before + 1 && !reading().isExact)
-            report(staged.row, QString(),
-                   text("level ") + QString::number(task.Level) + text(" follows level ") +
-                       QString::number(before),
+            report(staged.row, QString(), text("level %1 follows level %2").arg(task.Level).arg(before),
                    text("a task is one level below its summary"));
         before = task.Level;
     }
@@ -632,10 +631,9 @@ void TaskSheet::findLinks(staged::Plan &plan)
         if (place >= 0)
             plan.links.push_back({place, wanted.task});
         else
-            refuse(wanted.task,
-                   wanted.isId ? text("there is no task with the ID ") + QString::number(wanted.number)
-                   : reading().linksById ? text("there is no task ") + QString::number(wanted.number)
-                                         : text("there is no task in row ") + QString::number(row));
+            refuse(wanted.task, wanted.isId ? text("there is no task with the ID %1").arg(wanted.number)
+                                : reading().linksById ? text("there is no task %1").arg(wanted.number)
+                                                      : text("there is no task in row %1").arg(row));
     }
     for (const WantedText &wanted : m_wantedTexts) {
         const QString key =
@@ -645,8 +643,8 @@ void TaskSheet::findLinks(staged::Plan &plan)
             plan.links.push_back({place, wanted.task});
         else
             refuse(wanted.task,
-                   (place == several ? text("there are several tasks ") : text("there is no task ")) +
-                       wanted.text);
+                   (place == several ? text("there are several tasks %1") : text("there is no task %1"))
+                       .arg(wanted.text));
     }
     plan.refusedLinks = m_refusedLinks;
 }

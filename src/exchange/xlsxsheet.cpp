@@ -1,6 +1,7 @@
 #include "exchange/xlsxsheet.h"
 #include "exchange/cellvalues.h"
 #include "support/kwlimits.h"
+#include "support/said.h"
 #include "support/xmlguard.h"
 #include <QDir>
 #include <QDomElement>
@@ -110,9 +111,9 @@ QByteArray readPart(const QString &path, QString *error)
         return QByteArray();
     };
     if (!QFileInfo(path).isFile())
-        return fail(QStringLiteral("there is no such part"));
+        return fail(KW_TEXT("there is no such part"));
     if (file.size() > kwzip::maxEntryBytes)
-        return fail(QStringLiteral("the part is too large"));
+        return fail(KW_TEXT("the part is too large"));
     if (!file.open(QIODevice::ReadOnly))
         return fail(file.errorString());
     return XmlPull::toUtf8(file.readAll());
@@ -341,8 +342,8 @@ int columnWithDoubts(std::string_view reference, int row, Doubts &doubts)
 void tellOddReferences(Findings &findings, const QString &part, int references)
 {
     if (references > 0)
-        findings.add(part, QStringLiteral("%1 references in texts stand for no character").arg(references),
-                     QStringLiteral("control characters left out, unknown names as they are written"));
+        findings.add(part, KW_TEXT("%1 references in texts stand for no character").arg(references),
+                     KW_TEXT("control characters left out, unknown names as they are written"));
 }
 
 void Doubts::addTo(Findings &findings, const QString &sheet) const
@@ -350,22 +351,21 @@ void Doubts::addTo(Findings &findings, const QString &sheet) const
     tellOddReferences(findings, sheet, oddReferences);
     if (references > 0)
         findings.add(sheet,
-                     QStringLiteral("the places of %1 cells are not understood, the first is %2")
+                     KW_TEXT("the places of %1 cells are not understood, the first is %2")
                          .arg(references)
                          .arg(firstReference),
-                     QStringLiteral("left out"));
+                     KW_TEXT("left out"));
     if (rowReferences > 0)
         findings.add(sheet,
-                     QStringLiteral("the places of %1 cells name no row, the first is %2")
+                     KW_TEXT("the places of %1 cells name no row, the first is %2")
                          .arg(rowReferences)
                          .arg(firstReference),
-                     QStringLiteral("taken as cells of the rows that hold them"));
+                     KW_TEXT("taken as cells of the rows that hold them"));
     if (emptyFormulas > 0)
-        findings.add(sheet,
-                     QStringLiteral("%1 formulas have no value, the first in row %2")
-                         .arg(emptyFormulas)
-                         .arg(firstFormula),
-                     QStringLiteral("left out: save the workbook with a program that calculates them"));
+        findings.add(
+            sheet,
+            KW_TEXT("%1 formulas have no value, the first in row %2").arg(emptyFormulas).arg(firstFormula),
+            KW_TEXT("left out: save the workbook with a program that calculates them"));
 }
 
 // ---- A worksheet as text ----------------------------------------------------------------------------------

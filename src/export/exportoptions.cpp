@@ -1,4 +1,6 @@
 #include "export/exportoptions.h"
+#include "chart/plan.h"
+#include "export/planpage.h"
 #include "support/xmlguard.h"
 #include <QStringList>
 #include <functional>
@@ -68,6 +70,17 @@ constexpr Words words[] = {{"Family", &KWExportOptions::family},
                            {"Foot", &KWExportOptions::foot}};
 
 constexpr const char *elementName = "ExportOptions";
+}
+
+QMap<QString, QString> KWExportOptions::s_shownTexts;
+
+QStringList KWExportOptions::allTexts()
+{
+    QStringList all = PlanPage::texts();
+    chart::Texts ofPicture;
+    for (const QString *text : ofPicture.all())
+        all.append(*text);
+    return all;
 }
 
 // The stamp, the moment of today and the branch belong to one run and are not kept.

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QDateTime>
 #include <QDomElement>
+#include <QMap>
 #include <QString>
 #include <vector>
 
@@ -63,6 +64,12 @@ public:
     // set, else the clock.
     QDateTime stamp;
     QDateTime now; // where the line of today stands; invalid: the stamp
+
+    // What pictures and pages say beside the plan, host-filled: by the English text, one of allTexts(). What
+    // is not there is said in English.
+    static QMap<QString, QString> s_shownTexts;
+    static QString shownText(const QString &english) { return s_shownTexts.value(english, english); }
+    static QStringList allTexts();
 
     // Appends an "ExportOptions" element.
     void saveTo(QDomElement &parent) const;

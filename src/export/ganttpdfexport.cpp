@@ -9,6 +9,7 @@
 #include "schedule/kwtaskcollection.h"
 #include "support/atomicfile.h"
 #include "support/kwclock.h"
+#include "support/said.h"
 #include <QFileInfo>
 #include <algorithm>
 #include <cairo-pdf.h>
@@ -103,20 +104,20 @@ bool GanttPdfExport::isCancelled(int done, int total)
 {
     if (!progress || progress(done, total))
         return false;
-    m_findings.add(QString(), QStringLiteral("cancelled: nothing was written"));
+    m_findings.add(QString(), KW_TEXT("cancelled: nothing was written"));
     return true;
 }
 
 bool GanttPdfExport::canDraw()
 {
     if (!m_document || !m_document->taskCollection() || !m_document->rowColumnData()) {
-        m_findings.add(QString(), QStringLiteral("there is no plan to draw"));
+        m_findings.add(QString(), KW_TEXT("there is no plan to draw"));
         return false;
     }
     if (TextShaper::hasFonts())
         return true;
-    m_findings.add(QString(), QStringLiteral("no font is installed: nothing can be drawn"),
-                   QStringLiteral("the package fonts-dejavu-core brings some"));
+    m_findings.add(QString(), KW_TEXT("no font is installed: nothing can be drawn"),
+                   KW_TEXT("the package fonts-dejavu-core brings some"));
     return false;
 }
 
@@ -137,8 +138,8 @@ std::unique_ptr<GanttPdfExport::Drawing> GanttPdfExport::prepare()
     auto drawing = std::make_unique<Drawing>(*m_document, options, styleOf(*m_document, options));
     if (drawing->plan().rowCount == 0) {
         m_findings.add(QString(), m_document->taskCount() == 0
-                                      ? QStringLiteral("the plan has no tasks: there is nothing to draw")
-                                      : QStringLiteral("no task is shown: there is nothing to draw"));
+                                      ? KW_TEXT("the plan has no tasks: there is nothing to draw")
+                                      : KW_TEXT("no task is shown: there is nothing to draw"));
         return nullptr;
     }
     setToday(drawing->view);
@@ -173,11 +174,11 @@ std::unique_ptr<GanttPdfExport::Drawing> GanttPdfExport::prepareSheets()
         };
     drawing->sheets = chart::cutIntoSheets(plan, setup);
     if (drawing->sheets.parts.empty()) {
-        m_findings.add(QStringLiteral("print setup"),
-                       QStringLiteral("the picture would take %1 x %2 sheets")
+        m_findings.add(KW_TEXT("print setup"),
+                       KW_TEXT("the picture would take %1 x %2 sheets")
                            .arg(drawing->sheets.across)
                            .arg(drawing->sheets.down),
-                       QStringLiteral("fit it to fewer, take a coarser scale, or print a part of it"));
+                       KW_TEXT("fit it to fewer, take a coarser scale, or print a part of it"));
         return nullptr;
     }
     plan.least /= std::min(1.0, drawing->sheets.scale);
@@ -193,10 +194,10 @@ void GanttPdfExport::tellGaps(const Drawing &drawing)
     const int texts = drawing.shaper.textsWithGaps();
     if (texts > 0)
         m_findings.add(QString(),
-                       QStringLiteral("no font has all characters of %1 texts, the first of them '%2'")
+                       KW_TEXT("no font has all characters of %1 texts, the first of them '%2'")
                            .arg(texts)
                            .arg(drawing.shaper.firstTextWithGaps().left(60)),
-                       QStringLiteral("for Chinese the package fonts-wqy-microhei brings one"));
+                       KW_TEXT("for Chinese the package fonts-wqy-microhei brings one"));
 }
 
 bool GanttPdfExport::replace(const QString &path, const std::function<bool(QIODevice &)> &write)
@@ -208,7 +209,7 @@ bool GanttPdfExport::replace(const QString &path, const std::function<bool(QIODe
         return true;
     // What stopped the writing has been told.
     if (isWritten || m_findings.isEmpty())
-        m_findings.add(path, QStringLiteral("cannot be written: %1").arg(error));
+        m_findings.add(path, KW_TEXT("cannot be written: %1").arg(error));
     return false;
 }
 
@@ -322,7 +323,7 @@ bool GanttPdfExport::paint(QImage &image, const QRectF &visible, double ratio)
     constexpr double leastRatio = 0.1, mostRatio = 16;
     if (!m_document || image.isNull() || !isImage || !visible.isValid() ||
         !(ratio >= leastRatio && ratio <= mostRatio)) {
-        m_findings.add(QString(), QStringLiteral("there is nothing to paint on"));
+        m_findings.add(QString(), KW_TEXT("there is nothing to paint on"));
         return false;
     }
     if (!screenIsReady())
@@ -547,9 +548,9 @@ bool GanttPdfExport::writeSheets(Drawing &drawing, QIODevice &device)
     if (smallest < readableText) {
         const chart::Sheets proposed = chart::cutAtScale(drawing.plan(), drawing.setup,
                                                          comfortableText / smallestPoints(drawing.plan()));
-        m_findings.add(QStringLiteral("print setup"),
-                       QStringLiteral("the smallest text is %1 points high").arg(points(smallest)),
-                       QStringLiteral("on %1 x %2 sheets it is %3")
+        m_findings.add(KW_TEXT("print setup"),
+                       KW_TEXT("the smallest text is %1 points high").arg(points(smallest)),
+                       KW_TEXT("on %1 x %2 sheets it is %3")
                            .arg(proposed.across)
                            .arg(proposed.down)
                            .arg(comfortableText));
@@ -599,7 +600,7 @@ bool GanttPdfExport::writeSheets(Drawing &drawing, QIODevice &device)
     if (finished == CAIRO_STATUS_SUCCESS && isPacked && !packer.finish())
         finished = CAIRO_STATUS_WRITE_ERROR;
     if (drawn != CAIRO_STATUS_SUCCESS || finished != CAIRO_STATUS_SUCCESS) {
-        m_findings.add(QString(), QStringLiteral("cannot be written: %1")
+        m_findings.add(QString(), KW_TEXT("cannot be written: %1")
                                       .arg(QString::fromUtf8(cairo_status_to_string(
                                           drawn != CAIRO_STATUS_SUCCESS ? drawn : finished))));
         return false;

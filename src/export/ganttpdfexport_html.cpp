@@ -2,6 +2,7 @@
 #include "export/ganttpdfexport.h"
 #include "export/htmlpage.h"
 #include "model/kwdocument.h"
+#include "support/said.h"
 #include <QIODevice>
 
 bool GanttPdfExport::exportHtml(const QString &path)
@@ -22,8 +23,8 @@ bool GanttPdfExport::hasTasks()
 {
     if (m_document && m_document->taskCount() > 0)
         return true;
-    m_findings.add(QString(), m_document ? QStringLiteral("the plan has no tasks: there is nothing to draw")
-                                         : QStringLiteral("there is no plan to draw"));
+    m_findings.add(QString(), m_document ? KW_TEXT("the plan has no tasks: there is nothing to draw")
+                                         : KW_TEXT("there is no plan to draw"));
     return false;
 }
 
@@ -36,10 +37,10 @@ bool GanttPdfExport::writePage(QIODevice &device)
     case htmlpage::Result::Written:
         return true;
     case htmlpage::Result::Failed:
-        m_findings.add(QString(), QStringLiteral("cannot be written: %1").arg(device.errorString()));
+        m_findings.add(QString(), KW_TEXT("cannot be written: %1").arg(device.errorString()));
         return false;
     case htmlpage::Result::NoTask:
-        m_findings.add(QString(), QStringLiteral("no task is shown: there is nothing to draw"));
+        m_findings.add(QString(), KW_TEXT("no task is shown: there is nothing to draw"));
         return false;
     case htmlpage::Result::Cancelled: // which has been told
         break;

@@ -4,6 +4,7 @@
 #include "export/ganttpdfexport.h"
 #include "export/svgwriter.h"
 #include "model/kwdocument.h"
+#include "support/said.h"
 #include <cmath>
 
 namespace {
@@ -36,16 +37,15 @@ QImage GanttPdfExport::Drawing::image(double width, double height, double ratio,
 {
     const double across = std::ceil(width * ratio), down = std::ceil(height * ratio);
     if (!(across <= longestSide && down <= longestSide && across * down <= mostPixels)) {
-        findings.add(QString(),
-                     QStringLiteral("an image of %1 x %2 pixels is too large")
-                         .arg(across, 0, 'f', 0)
-                         .arg(down, 0, 'f', 0),
-                     QStringLiteral("export a PDF, take a coarser scale, or draw a part of the plan"));
+        findings.add(
+            QString(),
+            KW_TEXT("an image of %1 x %2 pixels is too large").arg(across, 0, 'f', 0).arg(down, 0, 'f', 0),
+            KW_TEXT("export a PDF, take a coarser scale, or draw a part of the plan"));
         return QImage();
     }
     QImage image(int(across), int(down), QImage::Format_RGB32);
     if (image.isNull()) {
-        findings.add(QString(), QStringLiteral("there is no memory for the image"));
+        findings.add(QString(), KW_TEXT("there is no memory for the image"));
         return image;
     }
     cairo_surface_t *surface = cairo_image_surface_create_for_data(
@@ -90,7 +90,7 @@ bool GanttPdfExport::writeImage(QIODevice &device, double ratio)
         return false;
     if (image.save(&device, "PNG"))
         return true;
-    m_findings.add(QString(), QStringLiteral("cannot be written: %1").arg(device.errorString()));
+    m_findings.add(QString(), KW_TEXT("cannot be written: %1").arg(device.errorString()));
     return false;
 }
 
@@ -129,7 +129,7 @@ bool GanttPdfExport::writeSvg(QIODevice &device)
         return false;
     if (device.write(text) == text.size())
         return true;
-    m_findings.add(QString(), QStringLiteral("cannot be written: %1").arg(device.errorString()));
+    m_findings.add(QString(), KW_TEXT("cannot be written: %1").arg(device.errorString()));
     return false;
 }
 
@@ -141,8 +141,8 @@ QByteArray GanttPdfExport::svgText()
     if (drawing->to - drawing->from > widestSvg) {
         m_findings.add(
             QString(),
-            QStringLiteral("a chart of %1 pixels is too wide").arg(drawing->to - drawing->from, 0, 'f', 0),
-            QStringLiteral("export a PDF, take a coarser scale, or draw a part of the plan"));
+            KW_TEXT("a chart of %1 pixels is too wide").arg(drawing->to - drawing->from, 0, 'f', 0),
+            KW_TEXT("export a PDF, take a coarser scale, or draw a part of the plan"));
         return QByteArray();
     }
     const QString title = filled(options.title, 1, 1);

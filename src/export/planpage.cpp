@@ -26,38 +26,38 @@ struct Word
     const char *key;
     const char *text;
 };
-constexpr Word words[] = {{"waits", "Waits for %1"},
-                          {"critical", "Critical: a delay moves the finish"},
-                          {"atStart", "Starts with the project"},
-                          {"before", "After"},
-                          {"after", "Before"},
-                          {"found", "%1 of %2"},
-                          {"notFound", "nothing found"},
-                          {"find", "Find"},
-                          {"zoomOut", "Show more time (-)"},
-                          {"zoomIn", "Show less time (+)"},
-                          {"fit", "Fit"},
-                          {"fitTitle", "Show the whole plan (0)"},
-                          {"today", "Today"},
-                          {"todayTitle", "Go to today (T)"},
-                          {"fold", "Fold"},
-                          {"foldTitle", "Fold all summaries"},
-                          {"unfold", "Unfold"},
-                          {"unfoldTitle", "Unfold all summaries"},
-                          {"columns", "Columns"},
-                          {"columnsTitle", "More or fewer columns (C)"},
-                          {"keys", "Keys (?)"},
-                          {"tasks", "%1 tasks"},
-                          {"hint", "Choose a task with a click or the arrow keys."}};
-constexpr Word keys[] = {{"\u2191 \u2193 PgUp PgDn Home End", "another task"},
-                         {"\u2190 \u2192", "fold and unfold"},
-                         {"Enter", "go to the task's bar"},
-                         {"P, S", "go to what it waits for, to what waits for it"},
-                         {"Backspace", "go back"},
-                         {"/", "find; Enter and Shift+Enter for the next and the one before"},
-                         {"+ - 0", "less time, more time, the whole plan"},
-                         {"T", "today"},
-                         {"C", "columns"}};
+constexpr Word words[] = {{"waits", QT_TR_NOOP("Waits for %1")},
+                          {"critical", QT_TR_NOOP("Critical: a delay moves the finish")},
+                          {"atStart", QT_TR_NOOP("Starts with the project")},
+                          {"before", QT_TR_NOOP("After")},
+                          {"after", QT_TR_NOOP("Before")},
+                          {"found", QT_TR_NOOP("%1 of %2")},
+                          {"notFound", QT_TR_NOOP("nothing found")},
+                          {"find", QT_TR_NOOP("Find")},
+                          {"zoomOut", QT_TR_NOOP("Show more time (-)")},
+                          {"zoomIn", QT_TR_NOOP("Show less time (+)")},
+                          {"fit", QT_TR_NOOP("Fit")},
+                          {"fitTitle", QT_TR_NOOP("Show the whole plan (0)")},
+                          {"today", QT_TR_NOOP("Today")},
+                          {"todayTitle", QT_TR_NOOP("Go to today (T)")},
+                          {"fold", QT_TR_NOOP("Fold")},
+                          {"foldTitle", QT_TR_NOOP("Fold all summaries")},
+                          {"unfold", QT_TR_NOOP("Unfold")},
+                          {"unfoldTitle", QT_TR_NOOP("Unfold all summaries")},
+                          {"columns", QT_TR_NOOP("Columns")},
+                          {"columnsTitle", QT_TR_NOOP("More or fewer columns (C)")},
+                          {"keys", QT_TR_NOOP("Keys (?)")},
+                          {"tasks", QT_TR_NOOP("%1 tasks")},
+                          {"hint", QT_TR_NOOP("Choose a task with a click or the arrow keys.")}};
+constexpr Word keys[] = {{"\u2191 \u2193 PgUp PgDn Home End", QT_TR_NOOP("another task")},
+                         {"\u2190 \u2192", QT_TR_NOOP("fold and unfold")},
+                         {"Enter", QT_TR_NOOP("go to the task's bar")},
+                         {"P, S", QT_TR_NOOP("go to what it waits for, to what waits for it")},
+                         {"Backspace", QT_TR_NOOP("go back")},
+                         {"/", QT_TR_NOOP("find; Enter and Shift+Enter for the next and the one before")},
+                         {"+ - 0", QT_TR_NOOP("less time, more time, the whole plan")},
+                         {"T", QT_TR_NOOP("today")},
+                         {"C", QT_TR_NOOP("columns")}};
 
 // Names of tasks stand inside a script element, which nothing in them may end.
 QByteArray embedded(const QByteArray &json)
@@ -99,6 +99,16 @@ std::vector<int> columnTypes(KWDocument &document, const KWExportOptions &option
         addMissing(type);
     return types;
 }
+}
+
+QStringList PlanPage::texts()
+{
+    QStringList all;
+    for (const Word &word : words)
+        all.append(QString::fromLatin1(word.text));
+    for (const Word &key : keys)
+        all.append(QString::fromLatin1(key.text));
+    return all;
 }
 
 PlanPage::PlanPage(KWDocument &document, const KWExportOptions &options, const QDateTime &now)
@@ -237,10 +247,12 @@ QByteArray PlanPage::head() const
     }
     QJsonObject text;
     for (const Word &word : words)
-        text.insert(QString::fromLatin1(word.key), QString::fromUtf8(word.text));
+        text.insert(QString::fromLatin1(word.key),
+                    KWExportOptions::shownText(QString::fromLatin1(word.text)));
     QJsonArray keyList;
     for (const Word &key : keys)
-        keyList.append(QJsonArray{QString::fromUtf8(key.key), QString::fromUtf8(key.text)});
+        keyList.append(QJsonArray{QString::fromUtf8(key.key),
+                                  KWExportOptions::shownText(QString::fromLatin1(key.text))});
     text.insert(QStringLiteral("keyList"), keyList);
 
     QJsonArray week;

@@ -27,6 +27,8 @@ public:
     QByteArray head() const;
     QByteArray row(int row) const;
 
+    static QStringList texts(); // what the page says beside the plan, in English
+
 private:
     void chooseTasks();
     void chooseDates();

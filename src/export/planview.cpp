@@ -105,6 +105,8 @@ PlanView::PlanView(KWDocument &document, const KWExportOptions &options, TextSha
     m_plan.measure = [this](const QString &text, int font) { return m_shaper.width(text, font); };
     m_plan.locale = QLocale(options.language.isEmpty() ? QStringLiteral("en_GB") : options.language);
     m_plan.showsLabels = options.labels != KWExportOptions::NoLabels;
+    for (QString *text : m_plan.texts.all())
+        *text = KWExportOptions::shownText(*text);
     chooseRows();
     makeAxis();
     makeColumns();

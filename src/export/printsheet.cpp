@@ -1,6 +1,7 @@
 #include "export/printsheet.h"
 #include "format/unitutil.h"
 #include "support/findings.h"
+#include "support/said.h"
 #include <algorithm>
 #include <cmath>
 
@@ -31,9 +32,9 @@ Paper paperOf(const KWPrintConfig &config, Findings &findings)
     const double least = pixels(leastInside + 2 * spareMargin), most = pixels(largestPaper);
     if (!isLength(width) || !isLength(height) || std::min(width, height) < least ||
         std::max(width, height) > most) {
-        findings.add(QStringLiteral("print setup"),
-                     QStringLiteral("paper of %1 cannot be printed on; A4 was taken").arg(config.paperSize()),
-                     QStringLiteral("at least 40 mm and at most 5 m each way"));
+        findings.add(KW_TEXT("print setup"),
+                     KW_TEXT("paper of %1 cannot be printed on; A4 was taken").arg(config.paperSize()),
+                     KW_TEXT("at least 40 mm and at most 5 m each way"));
         width = pixels(210);
         height = pixels(297);
     }
@@ -46,9 +47,8 @@ Paper paperOf(const KWPrintConfig &config, Findings &findings)
         return std::isfinite(margin) && margin >= 0 && side - 2 * margin >= pixels(leastInside) - 1e-6;
     };
     if (!isMargin(paper.marginX, width) || !isMargin(paper.marginY, height)) {
-        findings.add(
-            QStringLiteral("print setup"),
-            QStringLiteral("the margins leave less than 20 mm of the paper; margins of 10 mm were taken"));
+        findings.add(KW_TEXT("print setup"),
+                     KW_TEXT("the margins leave less than 20 mm of the paper; margins of 10 mm were taken"));
         paper.marginX = paper.marginY = pixels(spareMargin);
     }
     return paper;

@@ -10,6 +10,7 @@
 #include "runinglog.h"
 #include "support/kwlimits.h"
 #include "support/longwork.h"
+#include "support/said.h"
 #include "support/xmlguard.h"
 #include "support/xmlsink.h"
 #include "support/xmltree.h"
@@ -225,8 +226,8 @@ void showLostTasks(KWDocument &document, Findings &findings)
         KWTaskInfo &task = *document.getTaskInfoAt(pos);
         if (task.HideID == 0 || index.contains(task.HideID))
             continue;
-        findings.add(Finding::Changed, QStringLiteral("task %1").arg(pos + 1),
-                     QStringLiteral("it is hidden below the task with ID %1, which does not exist: shown")
+        findings.add(Finding::Changed, KW_TEXT("task %1").arg(pos + 1),
+                     KW_TEXT("it is hidden below the task with ID %1, which does not exist: shown")
                          .arg(task.HideID.value()));
         task.HideID = 0;
     }
@@ -247,7 +248,7 @@ public:
     bool unpack(const QString &path, Findings &findings)
     {
         if (!m_folder.isValid())
-            return refuseReading(findings, path, QString(), QStringLiteral("no temporary folder"));
+            return refuseReading(findings, path, QString(), KW_TEXT("no temporary folder"));
         if (!KWZip::unZip(path, m_folder.path()))
             return refuseReading(findings, path, QString(), KWZip::lastError());
         QString error;
@@ -268,7 +269,7 @@ public:
                 ++entries;
             if (entries > 0)
                 m_passedOver.add(Finding::Lost, latin1(name),
-                                 QStringLiteral("%1 elements are passed over").arg(entries));
+                                 KW_TEXT("%1 elements are passed over").arg(entries));
         }
         return true;
     }
@@ -284,7 +285,7 @@ public:
         if (ZoneScope::isName(name))
             return QString::fromLatin1(name);
         m_passedOver.add(Finding::Lost, latin1(zoneFile),
-                         QStringLiteral("this is no name of a time zone: passed over"));
+                         KW_TEXT("this is no name of a time zone: passed over"));
         return {};
     }
 
@@ -301,7 +302,7 @@ public:
             xmlguard::clean(name) == name && !name.contains(QChar::ReplacementCharacter))
             return name;
         m_passedOver.add(Finding::Lost, latin1(nameFile),
-                         QStringLiteral("this is no name on one line: passed over"));
+                         KW_TEXT("this is no name on one line: passed over"));
         return {};
     }
 
@@ -319,7 +320,7 @@ public:
         }
         unknown.sort();
         for (const QString &name : qAsConst(unknown))
-            m_passedOver.add(Finding::Lost, name, QStringLiteral("this part of the package is passed over"));
+            m_passedOver.add(Finding::Lost, name, KW_TEXT("this part of the package is passed over"));
         return m_passedOver;
     }
 
@@ -341,7 +342,7 @@ bool KWDocument::saveTo(const QString &path, bool isBackup, bool updatePath)
 {
     const PackageFolder folder({QStringLiteral("page"), QStringLiteral("rels")});
     if (!folder.isValid())
-        return refuse("Package not written: ", path, QStringLiteral("no temporary folder"));
+        return refuse("Package not written: ", path, KW_TEXT("no temporary folder"));
     s_relsNode = newRelations();
     const QString name = xmlguard::clean(PlanName).simplified().left(maxNameUnits);
     // The relationships last, so that they hold what was added while the rest was written.
@@ -431,7 +432,7 @@ bool KWDocument::loadDocument(const QString &folder, unsigned int)
             return takeOver(parts.root(), look, &tasks);
     }
     if (LongWork::wasGivenUp())
-        return refuseReading(m_loadFindings, folder, latin1(documentFile), QStringLiteral("given up"));
+        return refuseReading(m_loadFindings, folder, latin1(documentFile), KW_TEXT("given up"));
     // As a whole it may be read all the same, and if not, it is told where.
     m_loadFindings.clear();
     XmlTree tree;
@@ -440,7 +441,7 @@ bool KWDocument::loadDocument(const QString &folder, unsigned int)
     TreeSource root = tree.root();
     if (!root.is("Document"))
         return refuseReading(m_loadFindings, folder, latin1(documentFile),
-                             QStringLiteral("the root element is not \"Document\""));
+                             KW_TEXT("the root element is not \"Document\""));
     loadcheck::XmlLook look(m_loadFindings);
     look.lookAtElements(root);
     return takeOver(root, look, nullptr);

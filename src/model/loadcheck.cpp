@@ -7,6 +7,7 @@
 #include "model/kwdocument.h"
 #include "model/kwdocument_xml.h"
 #include "support/findings.h"
+#include "support/said.h"
 #include <QHash>
 #include <algorithm>
 #include <cmath>
@@ -33,7 +34,7 @@ QString quoted(const QString &text)
 
 QString taskPlace(int pos)
 {
-    return QStringLiteral("task %1").arg(pos + 1);
+    return KW_TEXT("task %1").arg(pos + 1);
 }
 
 pugi::xml_node elementFrom(pugi::xml_node node)
@@ -106,9 +107,7 @@ QString badPart(const XmlText &text, Type type, Qt::SplitBehaviorFlags empty)
     text.split(';', empty, [&](const XmlText &part) {
         ++place;
         if (bad.isEmpty() && !isOf(type, part))
-            bad = QStringLiteral("%1 at place %2 is no number: 0 is taken")
-                      .arg(quoted(part.toString()))
-                      .arg(place);
+            bad = KW_TEXT("%1 at place %2 is no number: 0 is taken").arg(quoted(part.toString())).arg(place);
     });
     return bad;
 }
@@ -120,13 +119,13 @@ QString badDays(const XmlText &text)
     text.split(';', Qt::KeepEmptyParts, [&](const XmlText &part) {
         ++count;
         if (bad.isEmpty() && !(part == "1") && !(part == "0"))
-            bad = QStringLiteral("%1 for day %2 is neither 1 nor 0: a day off is taken")
+            bad = KW_TEXT("%1 for day %2 is neither 1 nor 0: a day off is taken")
                       .arg(quoted(part.toString()))
                       .arg(count);
     });
     if (bad.isEmpty() && count != 7)
-        bad = count < 7 ? QStringLiteral("%1 flags for seven days: the others stay as they were").arg(count)
-                        : QStringLiteral("%1 flags for seven days: the first seven are taken").arg(count);
+        bad = count < 7 ? KW_TEXT("%1 flags for seven days: the others stay as they were").arg(count)
+                        : KW_TEXT("%1 flags for seven days: the first seven are taken").arg(count);
     return bad;
 }
 
@@ -136,25 +135,25 @@ QString badValue(Kind kind, const XmlText &text)
     if (text.isEmpty() || kind == Kind::Text)
         return {};
     const auto unless = [&](Type type, const char *words) {
-        return isOf(type, text) ? QString() : quoted(text.toString()) + QLatin1String(words);
+        return isOf(type, text) ? QString() : QString::fromLatin1(words).arg(quoted(text.toString()));
     };
     switch (kind) {
     case Kind::Text:
         break;
     case Kind::Flag:
-        return unless(Type::Whole, " is neither 1 nor 0: no is taken");
+        return unless(Type::Whole, QT_TR_NOOP("%1 is neither 1 nor 0: no is taken"));
     case Kind::Whole:
-        return unless(Type::Whole, " is no whole number: 0 is taken");
+        return unless(Type::Whole, QT_TR_NOOP("%1 is no whole number: 0 is taken"));
     case Kind::Short:
-        return unless(Type::Short, " is no such number: passed over");
+        return unless(Type::Short, QT_TR_NOOP("%1 is no such number: passed over"));
     case Kind::Kept:
-        return unless(Type::Whole, " is no whole number: passed over");
+        return unless(Type::Whole, QT_TR_NOOP("%1 is no whole number: passed over"));
     case Kind::Unsigned:
-        return unless(Type::Unsigned, " is no number from 0 to 4294967295: 0 is taken");
+        return unless(Type::Unsigned, QT_TR_NOOP("%1 is no number from 0 to 4294967295: 0 is taken"));
     case Kind::Positive:
-        return unless(Type::Positive, " is no number from 0 to 2147483647: 0 is taken");
+        return unless(Type::Positive, QT_TR_NOOP("%1 is no number from 0 to 2147483647: 0 is taken"));
     case Kind::Number:
-        return unless(Type::Number, " is no number: 0 is taken");
+        return unless(Type::Number, QT_TR_NOOP("%1 is no number: 0 is taken"));
     case Kind::Ids:
         return badPart(text, Type::Unsigned, Qt::SkipEmptyParts);
     case Kind::Numbers:
@@ -198,7 +197,7 @@ public:
         for (const auto &[key, seen] : m_repeated) {
             QString words = seen.words;
             if (seen.count > 1)
-                words += QStringLiteral(", in %1 places").arg(seen.count);
+                words = KW_TEXT("%1, in %2 places").arg(words, QString::number(seen.count));
             m_findings.add(seen.kind, seen.place, words);
         }
     }
@@ -252,7 +251,7 @@ private:
             const auto known = find(schema.attributes, expected, one.name());
             if (known == schema.attributes.end()) {
                 tellOnce(Finding::Lost, schema, one.name(),
-                         QStringLiteral("the attribute %1 of '%2' is not known: passed over")
+                         KW_TEXT("the attribute %1 of '%2' is not known: passed over")
                              .arg(quoted(QString::fromUtf8(one.name())), QLatin1String(schema.name)));
                 continue;
             }
@@ -291,7 +290,7 @@ private:
         for (pugi::xml_node child = node.first_child(); child; child = child.next_sibling()) {
             if (child.type() == pugi::node_pcdata)
                 tellOnce(Finding::Lost, schema, "",
-                         QStringLiteral("text beside the elements of '%1' is passed over")
+                         KW_TEXT("text beside the elements of '%1' is passed over")
                              .arg(QLatin1String(schema.name)));
             if (child.type() != pugi::node_element)
                 continue;
@@ -303,7 +302,7 @@ private:
             }
             if (std::strcmp(known->name, child.name()) != 0)
                 tellOnce(Finding::Changed, schema, child.name(),
-                         QStringLiteral("an element %1 is read as a '%2'")
+                         KW_TEXT("an element %1 is read as a '%2'")
                              .arg(quoted(QString::fromUtf8(child.name())), QLatin1String(known->name)));
             if (known->twice != Twice::IsOneMore) {
                 const auto first = std::find_if(seen.begin(), seen.end(),
@@ -329,7 +328,7 @@ private:
             return;
         if (std::strcmp(known.name, child.name()) != 0)
             tellOnce(Finding::Changed, schema, child.name(),
-                     QStringLiteral("an element %1 is read as a '%2'")
+                     KW_TEXT("an element %1 is read as a '%2'")
                          .arg(quoted(QString::fromUtf8(child.name())), QLatin1String(known.name)));
         element(child, known, number);
     }
@@ -346,11 +345,13 @@ private:
     void unknownChild(pugi::xml_node child, const Element &schema)
     {
         const int inside = elementsIn(child);
-        QString words = QStringLiteral("the element %1 in '%2' is not known: passed over")
-                            .arg(quoted(QString::fromUtf8(child.name())), QLatin1String(schema.name));
-        if (inside > 0)
-            words += QStringLiteral(" with the %1 elements in it").arg(inside);
-        tellOnce(Finding::Lost, schema, child.name(), words);
+        const QString name = quoted(QString::fromUtf8(child.name()));
+        const QLatin1String parent(schema.name);
+        tellOnce(Finding::Lost, schema, child.name(),
+                 inside > 0
+                     ? KW_TEXT("the element %1 in '%2' is not known: passed over with the %3 elements in it")
+                           .arg(name, parent, QString::number(inside))
+                     : KW_TEXT("the element %1 in '%2' is not known: passed over").arg(name, parent));
     }
 
     void second(const Element &known, pugi::xml_node first, pugi::xml_node)
@@ -358,19 +359,18 @@ private:
         const QString name = QLatin1String(known.name);
         const int inside = elementsIn(first);
         if (known.twice == Twice::Joins)
-            tell(Finding::Changed, QStringLiteral("'%1' stands twice: intervals of both are taken, of other "
-                                                  "values the last")
+            tell(Finding::Changed, KW_TEXT("'%1' stands twice: intervals of both are taken, of other "
+                                           "values the last")
                                        .arg(name));
         else if (known.twice == Twice::IsIgnored)
-            tell(Finding::Lost, QStringLiteral("'%1' stands twice: the first one is taken").arg(name));
+            tell(Finding::Lost, KW_TEXT("'%1' stands twice: the first one is taken").arg(name));
         else if (inside > 0)
-            tell(Finding::Lost,
-                 QStringLiteral("'%1' stands twice: the last one is taken, and the %2 elements of "
-                                "the one before are not")
-                     .arg(name)
-                     .arg(inside));
+            tell(Finding::Lost, KW_TEXT("'%1' stands twice: the last one is taken, and the %2 elements of "
+                                        "the one before are not")
+                                    .arg(name)
+                                    .arg(inside));
         else
-            tell(Finding::Changed, QStringLiteral("'%1' stands twice: the last one is taken").arg(name));
+            tell(Finding::Changed, KW_TEXT("'%1' stands twice: the last one is taken").arg(name));
     }
 
     // Lists without entries are not written; what else is missing was taken away.
@@ -380,20 +380,19 @@ private:
         for (const Element &list : documentschema::document().children)
             hasAny = hasAny || root.child(list.name);
         if (!hasAny) {
-            m_findings.add(Finding::Lost, QString(),
-                           QStringLiteral("the file has none of the lists of a plan"));
+            m_findings.add(Finding::Lost, QString(), KW_TEXT("the file has none of the lists of a plan"));
             return;
         }
         const auto tellMissing = [&](const char *name, const char *words) {
             if (!root.child(name))
-                m_findings.add(
-                    Finding::Changed, QString(),
-                    QStringLiteral("there is no '%1': %2").arg(QLatin1String(name), QLatin1String(words)));
+                m_findings.add(Finding::Changed, QString(),
+                               QString::fromLatin1(words).arg(QLatin1String(name)));
         };
-        tellMissing("GanttOption", "the plan has no working hours, and the usual options");
-        tellMissing("ResourceInfo", "the plan's resources stay as they were");
-        tellMissing("RowColumn", "the plan's columns stay as they were");
-        tellMissing("PrintCfg", "the page stays as it was");
+        tellMissing("GanttOption",
+                    QT_TR_NOOP("there is no '%1': the plan has no working hours, and the usual options"));
+        tellMissing("ResourceInfo", QT_TR_NOOP("there is no '%1': the plan's resources stay as they were"));
+        tellMissing("RowColumn", QT_TR_NOOP("there is no '%1': the plan's columns stay as they were"));
+        tellMissing("PrintCfg", QT_TR_NOOP("there is no '%1': the page stays as it was"));
         int heights = 0;
         const char *const text =
             root.child("RowColumn").child("RowHeightList").attribute("RowHeight").value();
@@ -402,7 +401,7 @@ private:
         });
         if (heights != 0 && heights != document.taskCount())
             m_findings.add(document.taskCount() < heights ? Finding::Lost : Finding::Changed, QString(),
-                           QStringLiteral("there are %1 tasks in the file and %2 row heights")
+                           KW_TEXT("there are %1 tasks in the file and %2 row heights")
                                .arg(document.taskCount())
                                .arg(heights));
     }
@@ -412,14 +411,13 @@ private:
         const KWVersion version(text);
         const KWVersion current(QString::fromLatin1(documentxml::currentVersion));
         if (version.major() <= 0 || version.minor() < 0)
-            m_findings.add(QString(), QStringLiteral("the version %1 is none: %2 is taken")
+            m_findings.add(QString(), KW_TEXT("the version %1 is none: %2 is taken")
                                           .arg(quoted(text), QLatin1String(documentxml::currentVersion)));
         else if (version.major() > current.major() ||
                  (version.major() == current.major() && version.minor() > current.minor()))
-            m_findings.add(
-                Finding::Read, QString(),
-                QStringLiteral("the file has version %1, and what a version after %2 added is not known")
-                    .arg(text, QLatin1String(documentxml::currentVersion)));
+            m_findings.add(Finding::Read, QString(),
+                           KW_TEXT("the file has version %1, and what a version after %2 added is not known")
+                               .arg(text, QLatin1String(documentxml::currentVersion)));
     }
 
     struct Step
@@ -483,57 +481,54 @@ private:
         const int ended = partsIn(finishes);
         if (begun > ended)
             tell(Finding::Changed, place,
-                 QStringLiteral("%1 starts and %2 finishes: intervals without one end at 12:00")
+                 KW_TEXT("%1 starts and %2 finishes: intervals without one end at 12:00")
                      .arg(begun)
                      .arg(ended));
         else if (ended > begun)
             tell(Finding::Lost, place,
-                 QStringLiteral("%1 starts and %2 finishes: the surplus is passed over")
-                     .arg(begun)
-                     .arg(ended));
+                 KW_TEXT("%1 starts and %2 finishes: the surplus is passed over").arg(begun).arg(ended));
     }
 
     // Whether there was something to tell.
     bool intervals(const QString &place, const QList<KWDayTime *> &hours)
     {
-        static constexpr const char *words[] = {
-            "lies past midnight: it counts up to 24:00",
-            "ends before it begins: it counts as nothing",
-            "has no length",
-            "overlaps one before it: the hours of both count",
-            "lies before one that stands ahead of it: breaks are counted in the order of the list",
-            ("is not made of whole hours: the hours that it touches at its end do not count, those at its "
+        static constexpr const char *texts[] = {
+            "the interval %1 lies past midnight: it counts up to 24:00",
+            "the interval %1 ends before it begins: it counts as nothing",
+            "the interval %1 has no length",
+            "the interval %1 overlaps one before it: the hours of both count",
+            "the interval %1 lies before one that stands ahead of it: breaks are counted in the order of the "
+            "list",
+            ("the interval %1 is not made of whole hours: the hours that it touches at its end do not count, "
+             "those at its "
              "beginning do"),
         };
         const QVector<dayhours::Found> found = dayhours::faults(hours);
         for (const dayhours::Found &one : found)
             tell(one.fault == dayhours::PastMidnight || one.fault == dayhours::PartHour ? Finding::Changed
                                                                                         : Finding::Read,
-                 place,
-                 QStringLiteral("the interval %1 %2")
-                     .arg(dayhours::text(*hours.at(one.index)), QLatin1String(words[one.fault])));
+                 place, QString::fromLatin1(texts[one.fault]).arg(dayhours::text(*hours.at(one.index))));
         return !found.isEmpty();
     }
 
     void workingTime(pugi::xml_node options)
     {
-        const QString place = QStringLiteral("working time");
+        const QString place = KW_TEXT("working time");
         counts(place, lastChild(options, "StartTime").attribute("V").value(),
                lastChild(options, "FinishTime").attribute("V").value());
         const bool isOdd = intervals(place, m_document.workTimes);
         const worktime::WorkCalendar &calendar = m_document.workCalendar();
         if (calendar.hoursPerDay() <= 0)
-            tell(Finding::Refused, place,
-                 QStringLiteral("a day has no hours of work: nothing can be scheduled"));
+            tell(Finding::Refused, place, KW_TEXT("a day has no hours of work: nothing can be scheduled"));
         else if (isOdd)
             tell(Finding::Changed, place,
-                 QStringLiteral("a day counts as %1 hours of work from %2:00 to %3:00")
+                 KW_TEXT("a day counts as %1 hours of work from %2:00 to %3:00")
                      .arg(calendar.hoursPerDay())
                      .arg(calendar.startHour())
                      .arg(calendar.finishHour()));
         if (!calendar.hasWorkday())
             tell(Finding::Refused, place,
-                 QStringLiteral("no day of the week is a working day: nothing can be scheduled"));
+                 KW_TEXT("no day of the week is a working day: nothing can be scheduled"));
     }
 
     void exceptions(pugi::xml_node list)
@@ -549,7 +544,7 @@ private:
     {
         const QString place =
             calendar.name.isEmpty()
-                ? QStringLiteral("exception %1").arg(number + 1)
+                ? KW_TEXT("exception %1").arg(number + 1)
                 : QStringLiteral("exception %1 %2").arg(number + 1).arg(quoted(calendar.name));
         bool hasDates = true;
         for (const auto &[name, end] :
@@ -557,30 +552,30 @@ private:
             const QLatin1String date(element.attribute(name).value());
             if (date.isEmpty())
                 tell(Finding::Changed, place,
-                     QStringLiteral("there is no %1: today is taken").arg(QLatin1String(end)));
+                     KW_TEXT("there is no %1: today is taken").arg(QLatin1String(end)));
             else if (date == QLatin1String("0"))
                 tell(Finding::Read, place,
-                     QStringLiteral("there is no %1 (0): 1 January 1970 is taken").arg(QLatin1String(end)));
+                     KW_TEXT("there is no %1 (0): 1 January 1970 is taken").arg(QLatin1String(end)));
             else
                 continue;
             hasDates = false;
         }
         if (hasDates && calendar.startDate > calendar.finishDate)
             tell(Finding::Read, place,
-                 QStringLiteral("it begins on %1 and ends on %2: it covers no date")
+                 KW_TEXT("it begins on %1 and ends on %2: it covers no date")
                      .arg(calendar.startDate.toString(Qt::ISODate),
                           calendar.finishDate.toString(Qt::ISODate)));
         if (!element.attribute("CdIsException"))
-            tell(Finding::Changed, place,
-                 QStringLiteral(
-                     "nothing says that it is an exception: it makes no date a day off or a working day"));
+            tell(
+                Finding::Changed, place,
+                KW_TEXT("nothing says that it is an exception: it makes no date a day off or a working day"));
         counts(place, element.attribute("CdStartTime").value(), element.attribute("CdFinishTime").value());
         intervals(place, calendar.dayTimes);
         const int hours = dayhours::wholeHours(calendar.dayTimes);
         const int usual = m_document.workCalendar().hoursPerDay();
         if (calendar.isException && calendar.isWork && !calendar.dayTimes.isEmpty() && hours != usual)
             tell(Finding::Changed, place,
-                 QStringLiteral("its hours %1 are not kept: a whole working day of %2 hours is counted")
+                 KW_TEXT("its hours %1 are not kept: a whole working day of %2 hours is counted")
                      .arg(dayhours::text(calendar.dayTimes))
                      .arg(usual));
     }
@@ -592,15 +587,14 @@ private:
         const QVector<ResourceInfo *> &infos = m_document.resourceInfoData()->infos;
         for (int i = 0; i < infos.size(); ++i) {
             const ResourceInfo &info = *infos.at(i);
-            const QString place = QStringLiteral("resource %1").arg(i + 1);
+            const QString place = KW_TEXT("resource %1").arg(i + 1);
             for (const recordfaults::Found &found : recordfaults::of(info))
                 tell(Finding::Read, place, entryWords(found.fault));
             const int sameId = info.ID == 0 ? i : ids.value(info.ID, i);
             ids.insert(info.ID, sameId);
             if (sameId != i)
                 tell(Finding::Read, place,
-                     QStringLiteral(
-                         "ID %1 is that of resource %2, too: resources are told apart by their names")
+                     KW_TEXT("ID %1 is that of resource %2, too: resources are told apart by their names")
                          .arg(info.ID)
                          .arg(sameId + 1));
             const QString name = info.name.trimmed();
@@ -608,7 +602,7 @@ private:
             names.insert(name, sameName);
             if (sameName != i && !name.isEmpty())
                 tell(Finding::Read, place,
-                     QStringLiteral("%1 is the name of resource %2, too: tasks mean that one")
+                     KW_TEXT("%1 is the name of resource %2, too: tasks mean that one")
                          .arg(quoted(name))
                          .arg(sameName + 1));
         }
@@ -617,10 +611,10 @@ private:
     static QString entryWords(recordfaults::Fault fault)
     {
         if (fault == recordfaults::NoName)
-            return QStringLiteral("it has no name");
+            return KW_TEXT("it has no name");
         if (fault == recordfaults::NegativeUnits)
-            return QStringLiteral("its units are negative");
-        return QStringLiteral("the unit of its rate is not known: it costs nothing");
+            return KW_TEXT("its units are negative");
+        return KW_TEXT("the unit of its rate is not known: it costs nothing");
     }
 
     void columns()
@@ -630,8 +624,8 @@ private:
         const QList<RowColumnData::ColumnData *> &all = m_document.rowColumnData()->columns();
         for (int i = 0; i < all.size(); ++i) {
             if (QString(all.at(i)->title).isEmpty())
-                tell(Finding::Changed, QStringLiteral("column %1").arg(i + 1),
-                     QStringLiteral("there is no column of its kind: it stays empty"));
+                tell(Finding::Changed, KW_TEXT("column %1").arg(i + 1),
+                     KW_TEXT("there is no column of its kind: it stays empty"));
         }
     }
 
@@ -654,24 +648,23 @@ private:
     {
         switch (found.fault) {
         case recordfaults::PercentOutside:
-            return QStringLiteral("%1 done is not within 0 to 1 (100 %): kept").arg(task.Percent);
+            return KW_TEXT("%1 done is not within 0 to 1 (100 %): kept").arg(task.Percent);
         case recordfaults::NoStart:
-            return QStringLiteral("it has a finish and no start: kept, as if it began in 1970");
+            return KW_TEXT("it has a finish and no start: kept, as if it began in 1970");
         case recordfaults::NoFinish:
-            return QStringLiteral("it has a start and no finish: kept");
+            return KW_TEXT("it has a start and no finish: kept");
         case recordfaults::FinishFirst:
-            return QStringLiteral("it finishes before it starts: kept");
+            return KW_TEXT("it finishes before it starts: kept");
         case recordfaults::LongMilestone:
-            return QStringLiteral("a milestone that takes time: kept, and shown without its length");
+            return KW_TEXT("a milestone that takes time: kept, and shown without its length");
         case recordfaults::UnknownUnit:
-            return QStringLiteral("%1 is no unit of durations: kept, and counted in days")
-                .arg(task.DurationUnits);
+            return KW_TEXT("%1 is no unit of durations: kept, and counted in days").arg(task.DurationUnits);
         case recordfaults::RepeatedPredecessor:
-            return QStringLiteral("it names the predecessor %1 twice: kept").arg(found.other);
+            return KW_TEXT("it names the predecessor %1 twice: kept").arg(found.other);
         case recordfaults::RepeatedSuccessor:
-            return QStringLiteral("it names the successor %1 twice: kept").arg(found.other);
+            return KW_TEXT("it names the successor %1 twice: kept").arg(found.other);
         default:
-            return QStringLiteral("there is nothing in it: saving leaves it out");
+            return KW_TEXT("there is nothing in it: saving leaves it out");
         }
     }
 

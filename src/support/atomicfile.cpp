@@ -1,4 +1,5 @@
 #include "support/atomicfile.h"
+#include "support/said.h"
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -49,7 +50,7 @@ bool mayBeReplaced(const QString &path, QString *error)
 {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
-        return fail(error, path, QStringLiteral("is no plain file"));
+        return fail(error, path, KW_TEXT("is no plain file"));
     return true;
 }
 }
@@ -71,7 +72,7 @@ bool atomicfile::replace(const QString &path, const std::function<bool(QIODevice
     if (!write(file)) {
         file.cancelWriting();
         return fail(error, path,
-                    file.error() == QFileDevice::NoError ? QStringLiteral("writing was given up")
+                    file.error() == QFileDevice::NoError ? KW_TEXT("writing was given up")
                                                          : file.errorString());
     }
     // commit() does not look whether its own last flush worked.

@@ -1,4 +1,5 @@
 #include "support/xmlguard.h"
+#include "support/said.h"
 #include <cstring>
 
 namespace {
@@ -47,7 +48,7 @@ private:
 
 bool Scan::fail(const char *what)
 {
-    m_error = QStringLiteral("byte %1: %2").arg(m_at - m_begin).arg(QLatin1String(what));
+    m_error = KW_TEXT("byte %1: %2").arg(m_at - m_begin).arg(QLatin1String(what));
     return false;
 }
 
@@ -91,16 +92,16 @@ bool Scan::markup()
         ++m_nodes;
     if (startsWith("<!--")) {
         m_at += 4;
-        return skipPast("-->", "a comment does not end");
+        return skipPast("-->", QT_TR_NOOP("a comment does not end"));
     }
     if (startsWith("<![CDATA[")) {
         m_at += 9;
-        return skipPast("]]>", "a CDATA section does not end");
+        return skipPast("]]>", QT_TR_NOOP("a CDATA section does not end"));
     }
     if (startsWith("<!"))
         return fail("a document type declaration is not accepted");
     if (startsWith("<?"))
-        return skipPast("?>", "a processing instruction does not end");
+        return skipPast("?>", QT_TR_NOOP("a processing instruction does not end"));
     return tag();
 }
 
@@ -248,7 +249,7 @@ bool xmlguard::isSoundText(const QByteArray &text, QString *error)
 {
     const int badByte = firstBadByte(text);
     if (badByte >= 0 && error)
-        *error = QStringLiteral("byte %1: no sound UTF-8").arg(badByte);
+        *error = KW_TEXT("byte %1: no sound UTF-8").arg(badByte);
     return badByte < 0;
 }
 

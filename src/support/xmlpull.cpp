@@ -1,4 +1,5 @@
 #include "support/xmlpull.h"
+#include "support/said.h"
 #include "support/xmlguard.h"
 #include <algorithm>
 #include <cstring>
@@ -123,7 +124,7 @@ XmlPull::XmlPull(const QByteArray &utf8)
 XmlPull::Token XmlPull::fail(const char *what)
 {
     m_hasFailed = true;
-    m_error = QStringLiteral("byte %1: %2").arg(m_at - m_bytes.constData()).arg(QLatin1String(what));
+    m_error = KW_TEXT("byte %1: %2").arg(m_at - m_bytes.constData()).arg(QLatin1String(what));
     return Failed;
 }
 

@@ -62,7 +62,7 @@ private:
         std::string_view name;
         std::string_view value;
     };
-    Token fail(const char *what = "no sound XML");
+    Token fail(const char *what = QT_TR_NOOP("no sound XML"));
     Token beginTag();
     Token endTag();
     bool readAttributes();

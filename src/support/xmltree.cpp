@@ -1,5 +1,6 @@
 #include "support/xmltree.h"
 #include "support/longwork.h"
+#include "support/said.h"
 #include "support/xmlguard.h"
 #include <QFile>
 #include <QFileInfo>
@@ -123,11 +124,11 @@ bool readFile(const QString &path, qint64 maxBytes, QByteArray &bytes, QString *
     // A pipe would block and a device never ends.
     QFile file(path);
     if (!QFileInfo(path).isFile())
-        return fail(error, QStringLiteral("there is no such file"));
+        return fail(error, KW_TEXT("there is no such file"));
     if (!file.open(QIODevice::ReadOnly))
         return fail(error, file.errorString());
     if (file.size() > maxBytes)
-        return fail(error, QStringLiteral("too large"));
+        return fail(error, KW_TEXT("too large"));
     bytes = file.readAll();
     return file.error() == QFileDevice::NoError || fail(error, file.errorString());
 }
@@ -159,14 +160,14 @@ bool XmlTree::build(QString *error)
     for (pugi::xml_node node : m_document.children()) {
         if (node != root) {
             m_document.reset();
-            return fail(error, QStringLiteral("there is something beside the root element"));
+            return fail(error, KW_TEXT("there is something beside the root element"));
         }
     }
     AttributeCheck check;
     if (const pugi::xml_node unsound = unsoundBelow(root, check)) {
         const QString name = QString::fromUtf8(unsound.name());
         m_document.reset();
-        return fail(error, QLatin1String("an attribute stands twice in the element ") + name);
+        return fail(error, KW_TEXT("an attribute stands twice in the element %1").arg(name));
     }
     return true;
 }

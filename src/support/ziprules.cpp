@@ -124,7 +124,7 @@ QString kwzip::Inventory::finish() const
 {
     for (const QByteArray &file : m_files) {
         if (m_folders.contains(file))
-            return shownName(file) + text(": the name stands for a file and for a folder");
+            return text("%1: the name stands for a file and for a folder").arg(shownName(file));
     }
     return QString();
 }

@@ -118,7 +118,7 @@ TEST_P(Session, saysWhatItSaid)
 }
 
 // Two English words in a row that stand in no quotes: a text without a translation, or one whose words the
-// library put together in a way that host/librarywords.cpp does not know. What the system and Qt say comes
+// library put together in a way that no mark (src/support/said.h) tells of. What the system and Qt say comes
 // from their catalogues.
 TEST_P(Session, saysNothingInEnglishToTheChinese)
 {

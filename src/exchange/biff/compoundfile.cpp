@@ -1,5 +1,6 @@
 #include "exchange/biff/compoundfile.h"
 #include "support/atomicfile.h"
+#include "support/said.h"
 #include <QFile>
 #include <QFileInfo>
 
@@ -269,13 +270,13 @@ bool CompoundFile::Open(const QString &path)
     // A pipe or a device has no size to hold the reading to.
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
-        return fail(QStringLiteral("is no plain file"));
+        return fail(KW_TEXT("is no plain file"));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return fail(file.errorString());
     const qint64 size = file.size();
     if (size > qint64(biff::Sink::limitBytes))
-        return fail(QStringLiteral("is larger than 2 GB"));
+        return fail(KW_TEXT("is larger than 2 GB"));
     const QByteArray bytes = file.read(size);
     if (file.error() != QFileDevice::NoError || bytes.size() != size)
         return fail(file.errorString());
@@ -291,7 +292,7 @@ bool CompoundFile::OpenBytes(const QByteArray &bytes)
 bool CompoundFile::parse(const QByteArray &bytes)
 {
     if (!m_header.Read(biff::Bytes(bytes)))
-        return fail(QStringLiteral("is no compound file"));
+        return fail(KW_TEXT("is no compound file"));
     m_block = Block(bytes, m_header.sectorShift);
     if (!readTable())
         return false;
@@ -299,7 +300,7 @@ bool CompoundFile::parse(const QByteArray &bytes)
     std::vector<quint32> sectors;
     constexpr bool mayEndEarly = true;
     if (!follow(m_table, m_header.firstDirectorySector, m_table.size(), mayEndEarly, &sectors))
-        return fail(QStringLiteral("the chain of its directory is damaged"));
+        return fail(KW_TEXT("the chain of its directory is damaged"));
     QVector<Property> entries;
     for (const quint32 sector : sectors) {
         biff::Bytes bytesOfSector = m_block.Read(sector);
@@ -309,7 +310,7 @@ bool CompoundFile::parse(const QByteArray &bytes)
         }
     }
     if (!m_tree.Build(entries))
-        return fail(QStringLiteral("its directory has no root"));
+        return fail(KW_TEXT("its directory has no root"));
     m_isOpen = true;
     return true;
 }
@@ -333,7 +334,7 @@ bool CompoundFile::readTable()
             if (m_table.size() >= sectorCount || sector == freeSector)
                 return true;
             if (!appendTableSector(sector))
-                return fail(QStringLiteral("its sector table lies outside of the file"));
+                return fail(KW_TEXT("its sector table lies outside of the file"));
         }
         return true;
     };

@@ -1,5 +1,6 @@
 #include "exchange/biff/workbook.h"
 #include "exchange/cellvalues.h"
+#include "support/said.h"
 
 using namespace YExcel;
 
@@ -96,9 +97,9 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
     BOF bof;
     if (!records.next() || records.code() != BOF::code || !bof.Read(records) || bof.version > BOF::Biff8 ||
         bof.type != BOF::Globals)
-        return fail(error, QStringLiteral("is no workbook of the 97 to 2003 format"));
+        return fail(error, KW_TEXT("is no workbook of the 97 to 2003 format"));
     if (bof.version < BOF::Biff8)
-        return fail(error, QStringLiteral("is a workbook of version 95 or before"));
+        return fail(error, KW_TEXT("is a workbook of version 95 or before"));
     fonts.clear();
     formats.clear();
     styles.clear();
@@ -115,7 +116,7 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
         case biff::code::eof:
             return true;
         case biff::code::filePass:
-            return fail(error, QStringLiteral("is encrypted"));
+            return fail(error, KW_TEXT("is encrypted"));
         case biff::code::bof:
             return fail(error, QStringLiteral("a sheet begins before the shared part of the workbook ends"));
         case biff::code::date1904: {
@@ -126,11 +127,11 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
         case biff::code::boundSheet:
             sheets.emplace_back();
             if (!sheets.back().Read(records))
-                return fail(error, QStringLiteral("the name of sheet %1 is cut").arg(sheets.size()));
+                return fail(error, KW_TEXT("the name of sheet %1 is cut").arg(sheets.size()));
             break;
         case biff::code::sharedStrings:
             if (!strings.Read(records))
-                return fail(error, QStringLiteral("its table of texts is cut"));
+                return fail(error, KW_TEXT("its table of texts is cut"));
             break;
         case biff::code::window1:
             window.Read(records);
@@ -156,7 +157,7 @@ bool Workbook::Read(const QByteArray &stream, QString *error)
             break;
         }
     }
-    return fail(error, QStringLiteral("its stream ends early"));
+    return fail(error, KW_TEXT("its stream ends early"));
 }
 
 void Workbook::Write(biff::Sink &to)

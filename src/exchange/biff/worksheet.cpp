@@ -1,4 +1,5 @@
 #include "exchange/biff/worksheet.h"
+#include "support/said.h"
 #include <cmath>
 
 using namespace YExcel;
@@ -286,7 +287,7 @@ bool Worksheet::Read(const QByteArray &stream, quint32 begin, quint32 end,
     };
     biff::RecordStream records(stream, begin, end);
     if (!Begins(stream, begin) || !records.next())
-        return fail(QStringLiteral("does not begin where the workbook says"));
+        return fail(KW_TEXT("the sheet \"%1\" does not begin where the workbook says"));
     SheetReader reader(strings, take);
     int embedded = 0; // charts in the sheet, one in another
     while (records.next()) {
@@ -297,10 +298,10 @@ bool Worksheet::Read(const QByteArray &stream, quint32 begin, quint32 end,
                 return true;
             --embedded;
         } else if (embedded == 0 && !reader.read(records)) {
-            return fail(QStringLiteral("is damaged at byte %1").arg(records.offset()));
+            return fail(KW_TEXT("the sheet \"%2\" is damaged at byte %1").arg(records.offset()));
         }
     }
-    return fail(QStringLiteral("ends early"));
+    return fail(KW_TEXT("the sheet \"%1\" ends early"));
 }
 
 void Worksheet::Begin(biff::Sink &to, int rows, int columns)

@@ -1,5 +1,6 @@
 #include "exchange/mspdi/findinglist.h"
 #include "support/findings.h"
+#include "support/said.h"
 
 namespace mspdi {
 namespace {
@@ -101,12 +102,13 @@ void FindingList::tell(Findings &findings) const
         const Entry &entry = m_entries[std::size_t(text.kind)];
         if (entry.count == 0)
             continue;
+        // texts: "%1, %2"
         QString places = entry.places.join(QLatin1String(", "));
         if (!places.isEmpty() && entry.count > entry.places.size())
             places += QLatin1String(", ...");
         QString what = QString::fromLatin1(text.what);
         if (entry.count > 1)
-            what += QStringLiteral(" (%1 times)").arg(entry.count);
+            what = KW_TEXT("%1 (%2 times)").arg(what, QString::number(entry.count));
         findings.add(places, what, QString::fromLatin1(text.instead));
     }
 }

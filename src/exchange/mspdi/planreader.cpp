@@ -4,6 +4,7 @@
 #include "engine/time/walk.h"
 #include "exchange/mspdi/calendar.h"
 #include "resources/resourceinfodata.h"
+#include "support/said.h"
 #include <QHash>
 #include <QSet>
 #include <algorithm>
@@ -267,11 +268,11 @@ private:
             if (spoilt.list == Spoilt::OfTask)
                 place = placeOf(m_file.tasks[spoilt.place]);
             else if (spoilt.list == Spoilt::OfResource)
-                place = QStringLiteral("resource ") + quoted(m_file.resources[spoilt.place].name);
+                place = KW_TEXT("resource %1").arg(quoted(m_file.resources[spoilt.place].name));
             else if (spoilt.list == Spoilt::OfCalendar)
-                place = QStringLiteral("calendar ") + quoted(m_file.calendars[spoilt.place].name);
+                place = KW_TEXT("calendar %1").arg(quoted(m_file.calendars[spoilt.place].name));
             else if (spoilt.list == Spoilt::OfAssignment)
-                place = QStringLiteral("assignment %1").arg(m_file.assignments[spoilt.place].uid);
+                place = KW_TEXT("assignment %1").arg(m_file.assignments[spoilt.place].uid);
             else
                 place = QStringLiteral("project");
             m_findings.add(Kind::SpoiltValue,
@@ -632,7 +633,7 @@ private:
                 m_findings.add(Kind::RenamedResource, quoted(info->name));
             const bool isTaken = from.uid != noUid && m_resources.contains(from.uid);
             if (isTaken)
-                m_findings.add(Kind::RepeatedUid, QStringLiteral("resource ") + quoted(info->name));
+                m_findings.add(Kind::RepeatedUid, KW_TEXT("resource %1").arg(quoted(info->name)));
             const bool hasId = from.uid > 0 && from.uid < std::numeric_limits<qint32>::max() &&
                                !ids.contains(qint32(from.uid));
             while (!hasId && ids.contains(nextId))
@@ -680,7 +681,7 @@ private:
         say(from.hasFurtherRates, Kind::MoreRates);
         say(from.hasAvailability, Kind::Availability);
         if (from.calendar != noUid && m_calendars.differs(from.calendar))
-            m_findings.add(Kind::OtherCalendar, QStringLiteral("resource ") + quoted(info.name));
+            m_findings.add(Kind::OtherCalendar, KW_TEXT("resource %1").arg(quoted(info.name)));
     }
 
     // ---- Assignments --------------------------------------------------------------------------------------
@@ -725,7 +726,7 @@ private:
         for (const Assignment &from : m_file.assignments) {
             const int place = m_placeOfUid.value(from.task, -1);
             const auto say = [&](Kind kind) {
-                const QString at = place < 0 ? QStringLiteral("assignment %1").arg(from.uid)
+                const QString at = place < 0 ? KW_TEXT("assignment %1").arg(from.uid)
                                              : placeOf(m_file.tasks[std::size_t(m_rows[std::size_t(place)])]);
                 m_findings.add(kind, m_findings.wantsPlace(kind) ? at : QString());
             };

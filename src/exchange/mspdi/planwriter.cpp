@@ -10,6 +10,7 @@
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
 #include "schedule/kwcalendar.h"
+#include "support/said.h"
 #include "support/xmlguard.h"
 #include <QHash>
 #include <QSet>
@@ -65,9 +66,8 @@ public:
 private:
     QString placeOf(const KWTaskInfo &task, Kind kind, int number) const
     {
-        return m_findings.wantsPlace(kind)
-                   ? QStringLiteral("task %1 \"%2\"").arg(number).arg(task.Name.simplified())
-                   : QString();
+        return m_findings.wantsPlace(kind) ? KW_TEXT("task %1 \"%2\"").arg(number).arg(task.Name.simplified())
+                                           : QString();
     }
 
     // ---- Working time -------------------------------------------------------------------------------------
@@ -468,8 +468,7 @@ private:
             }
             names.insert(row.name, 1);
             if (row.name != info->name.trimmed())
-                m_findings.add(Kind::NameChanged,
-                               QStringLiteral("resource \"%1\"").arg(info->name.simplified()));
+                m_findings.add(Kind::NameChanged, KW_TEXT("resource \"%1\"").arg(info->name.simplified()));
             const QString key = info->name.trimmed();
             if (!m_resourceUids.contains(key))
                 m_resourceUids.insert(key, row.uid);

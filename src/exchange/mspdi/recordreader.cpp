@@ -1,6 +1,7 @@
 #include "exchange/mspdi/recordreader.h"
 #include "support/kwlimits.h"
 #include "support/longwork.h"
+#include "support/said.h"
 #include "support/xmlpull.h"
 #include <QTextCodec>
 #include <algorithm>
@@ -36,7 +37,7 @@ public:
         if (!isWhole)
             error = m_limit.isEmpty() ? m_xml.error() : m_limit;
         if (!isWhole && error.isEmpty())
-            error = QStringLiteral("the XML ends early");
+            error = KW_TEXT("the XML ends early");
         return isWhole;
     }
 
@@ -115,7 +116,7 @@ private:
             constexpr std::size_t recordsBetween = 256;
             if (records.size() % recordsBetween == 0 &&
                 !LongWork::goesOn(LongWork::Reading, m_xml.bytesRead(), m_xml.bytes())) {
-                m_limit = QStringLiteral("given up");
+                m_limit = KW_TEXT("given up");
                 break;
             }
             const XmlPull::Token token = m_xml.next();
@@ -129,7 +130,7 @@ private:
                 continue;
             }
             if (records.size() == most) {
-                m_limit = QStringLiteral("it has more than %1 %2s").arg(most).arg(QLatin1String(name));
+                m_limit = KW_TEXT("it has more than %1 %2s").arg(most).arg(QLatin1String(name));
                 return;
             }
             records.emplace_back();
@@ -354,7 +355,7 @@ private:
     bool countException()
     {
         if (++m_exceptions > maxExceptions)
-            m_limit = QStringLiteral("its calendars have more than %1 days").arg(maxExceptions);
+            m_limit = KW_TEXT("its calendars have more than %1 days").arg(maxExceptions);
         return m_limit.isEmpty();
     }
 
@@ -383,7 +384,7 @@ private:
             {"Type", field<&Link::type>},
         });
         if (++reader.m_links > maxLinks) {
-            reader.m_limit = QStringLiteral("it has more than %1 links").arg(maxLinks);
+            reader.m_limit = KW_TEXT("it has more than %1 links").arg(maxLinks);
             return;
         }
         Link link;
@@ -696,7 +697,7 @@ bool readFile(const QByteArray &bytes, File &file, QString &error)
 {
     file = File();
     if (!isProject(bytes.left(int(beginningBytes)))) {
-        error = QStringLiteral("it is no project XML: its root is no Project of that format");
+        error = KW_TEXT("it is no project XML: its root is no Project of that format");
         return false;
     }
     RecordReader reader(decoded(bytes), file);

@@ -391,7 +391,9 @@ function measureColumns() {
       const r = rows[i], indent = at === plan.name ? 22 + Math.min(r.level - 1, 8) * 16 : 0;
       need = Math.max(need, measure(r.cells[at].slice(0, 200), r.flags & SUMMARY ? BOLD : TEXT) + indent);
     }
-    const column = {at, title: c.title, right: c.right, width: Math.ceil(Math.max(40, Math.min(at ? c.width : 99, need + 22)))};
+    // The document's width was chosen for a title in its own language, which may be a shorter one.
+    const title = at ? Math.min(measure(c.title, BOLD) + 22, 120) : 0;
+    const column = {at, title: c.title, right: c.right, width: Math.ceil(Math.max(40, title, Math.min(at ? c.width : 99, need + 22)))};
     if (at === plan.name) namesWidth = column.width;
     else if (c.shown && at < named && at === 0 && c.right) numbered.push(column);
     else if (c.shown) others.push(column);
