@@ -135,14 +135,19 @@ constexpr Field fields[] = {
 class Rewriter
 {
 public:
-    Rewriter(const Plan &before, const Plan &after)
+    Rewriter(const Plan &before, const Plan &after, MissingStarts missing)
         : m_before(before)
         , m_after(after)
+        , m_missing(missing)
         , m_oldRows(*before.document, before.imported)
         , m_newRows(*after.document, after.imported)
         , m_table(after.table)
         , m_titles(m_table.rows.front().cells)
     {
+        for (const Plan::Move &move : after.moves) {
+            if (move.byEdit)
+                m_setByEdit.insert(after.task(move.pos)->ID);
+        }
         findColumns();
         findRows();
     }
@@ -219,7 +224,24 @@ private:
     bool isChanged(const Field &field, int pos) const
     {
         const int old = m_old[pos];
+        const quint32 id = m_after.task(pos)->ID;
+        const bool isStart = field.field == columntypes::Start;
+        if (old >= 0 && (isStart || field.field == columntypes::Finish) &&
+            m_before.imported.withoutStart.contains(id)) {
+            if (m_missing == MissingStarts::StayEmpty && !m_setByEdit.contains(id))
+                return false;
+            if (m_missing == MissingStarts::AreWritten && isStart)
+                return true;
+        }
         return old < 0 || text(field, m_before, m_oldRows, old) != text(field, m_after, m_newRows, pos);
+    }
+
+    // Whether the field is one that a summary takes from the tasks below it, so that nothing need be written.
+    bool isRolledUp(const Field &field, int pos) const
+    {
+        return m_old[pos] >= 0 && m_after.task(pos)->isParent() &&
+               (field.field == columntypes::Start || field.field == columntypes::Finish ||
+                field.field == columntypes::Duration || field.field == columntypes::Percent);
     }
 
     // A column for what has changed and has none.
@@ -239,7 +261,7 @@ private:
                 (field.field == columntypes::Level && m_columns.contains(titletable::OutlineCode)))
                 continue;
             for (int pos = 0; pos < m_after.taskCount(); ++pos) {
-                if (isChanged(field, pos) &&
+                if (isChanged(field, pos) && !isRolledUp(field, pos) &&
                     text(field, m_after, m_newRows, pos) != QLatin1String(field.plain)) {
                     add(field, title);
                     break;
@@ -259,7 +281,7 @@ private:
                 setCell(cells, column, QString::number(quint32(m_after.task(pos)->ID)));
             return;
         }
-        if (!isChanged(field, pos))
+        if (!isChanged(field, pos) || (isRolledUp(field, pos) && cells.value(column).trimmed().isEmpty()))
             return;
         if (field.field == columntypes::Start || field.field == columntypes::Finish)
             dates.write(cells, column, pos, field.field == columntypes::Start);
@@ -290,6 +312,8 @@ private:
 
     const Plan &m_before;
     const Plan &m_after;
+    const MissingStarts m_missing;
+    QSet<quint32> m_setByEdit;
     const csvplan::Rows m_oldRows;
     const csvplan::Rows m_newRows;
     csv::Table m_table;
@@ -328,8 +352,8 @@ QByteArray withDates(const Plan &plan)
     return csv::toBytes(table);
 }
 
-QByteArray withEdits(const Plan &before, const Plan &after)
+QByteArray withEdits(const Plan &before, const Plan &after, MissingStarts missing)
 {
-    return Rewriter(before, after).run();
+    return Rewriter(before, after, missing).run();
 }
 }

@@ -8,7 +8,13 @@ namespace csvrewrite {
 
 // With the dates as scheduling left them. `plan` was loaded to be written in place.
 QByteArray withDates(const Plan &plan);
+// Of tasks that the file gives no start: scheduling places them, so that an empty cell may go on meaning the
+// date that an edit led to.
+enum class MissingStarts {
+    StayEmpty, // but those that the edit itself set
+    AreWritten
+};
 // With what edits changed. `before` is the file as it was, `after` was loaded to be written in place and
 // edited.
-QByteArray withEdits(const Plan &before, const Plan &after);
+QByteArray withEdits(const Plan &before, const Plan &after, MissingStarts missing);
 }

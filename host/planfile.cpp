@@ -397,32 +397,55 @@ bool writeAll(const QString &folder, const QString &name, const QByteArray &plan
 }
 }
 
-int saveRows(Console &console, Plan &before, const Plan &after)
+namespace {
+
+// Reads what was written, and tells what does not come back as the plan has it.
+int readAgain(Console &console, const QString &file, const Plan &plan, QStringList &lost)
 {
-    const QByteArray bytes = csvrewrite::withEdits(before, after);
-    std::vector<Side> sides;
-    std::vector<bool> isChanged;
-    const QTemporaryDir folder;
-    const QString name = QFileInfo(after.file).fileName();
-    if (!sidesAfter(before, after, console.options(), sides, isChanged) ||
-        !writeAll(folder.path(), name, bytes, sides)) {
-        console.error(t("%1: cannot be written").arg(after.file), t("-o PLAN.kwpx writes it as a package"));
-        return Console::CannotWrite;
-    }
-    // What was written is read again: only a plan that comes back as it is now may replace the file.
     Plan again;
     Findings findings;
-    if (const int code = load(folder.filePath(name), console, again, findings))
+    if (const int code = load(file, console, again, findings))
         return code;
     if (again.withoutStart > 0)
         plan::schedule(again, plan::AsGiven, nullptr);
     plan::refresh(again, nullptr);
-    QStringList lost;
-    for (const diff::Change &change : diff::between(after, again, {}))
+    lost.clear();
+    for (const diff::Change &change : diff::between(plan, again, {}))
         lost.append((change.before < 0 ? QString()
-                                       : taskref::named(*after.document, after.task(change.before)->ID) +
+                                       : taskref::named(*plan.document, plan.task(change.before)->ID) +
                                              QLatin1String(": ")) +
                     t(change.kind) + QLatin1Char(' ') + change.what);
+    return Console::Done;
+}
+}
+
+int saveRows(Console &console, Plan &before, const Plan &after)
+{
+    using csvrewrite::MissingStarts;
+    std::vector<Side> sides;
+    std::vector<bool> isChanged;
+    const QTemporaryDir folder;
+    const QString name = QFileInfo(after.file).fileName();
+    bool isWritten = sidesAfter(before, after, console.options(), sides, isChanged);
+    QByteArray bytes;
+    QStringList lost;
+    // Only a plan that comes back as it is now may replace the file. Tasks do not move back when what they
+    // wait for becomes shorter, and then their starts have to be in the file.
+    const bool mayStayEmpty = !before.imported.withoutStart.isEmpty();
+    for (const MissingStarts missing : {MissingStarts::StayEmpty, MissingStarts::AreWritten}) {
+        if (missing == MissingStarts::StayEmpty ? !mayStayEmpty : mayStayEmpty && lost.isEmpty())
+            continue;
+        bytes = csvrewrite::withEdits(before, after, missing);
+        isWritten = isWritten && writeAll(folder.path(), name, bytes, sides);
+        if (!isWritten)
+            break;
+        if (const int code = readAgain(console, folder.filePath(name), after, lost))
+            return code;
+    }
+    if (!isWritten) {
+        console.error(t("%1: cannot be written").arg(after.file), t("-o PLAN.kwpx writes it as a package"));
+        return Console::CannotWrite;
+    }
     if (!lost.isEmpty()) {
         constexpr int mostNamed = 3;
         console.error(t("%1: not written, for the file cannot say all of it: %2")
