@@ -230,7 +230,10 @@ QRegion PlanTable::visualRegionForSelection(const QItemSelection &) const
 
 void PlanTable::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
-    QAbstractItemView::currentChanged(current, previous);
+    // An open cell is taken on the way, and what follows from it may choose another row: the indexes that are
+    // referred to are gone then.
+    const QModelIndex now = current, before = previous;
+    QAbstractItemView::currentChanged(now, before);
     viewport()->update();
 }
 
@@ -256,6 +259,7 @@ quint32 PlanTable::currentTask() const
 
 void PlanTable::selectRow(int row, int column)
 {
+    finishEditing(); // before the row is looked for: it may come with what was typed
     if (m_model.columnCount() == 0)
         return;
     if (column < 0)
