@@ -174,7 +174,9 @@ QString dayText(const QLocale &locale, const QDate &date)
 
 QString monthText(const QLocale &locale, const QDate &date, QLocale::FormatType form)
 {
-    return locale.standaloneMonthName(date.month(), form);
+    // The long names spell the number out, which nobody writes before the number of a day.
+    const bool isSpelt = writesHan(locale) && form == QLocale::LongFormat;
+    return locale.standaloneMonthName(date.month(), isSpelt ? QLocale::ShortFormat : form);
 }
 
 // Month and year, the year only where it is asked for.
