@@ -43,17 +43,40 @@ bool breaksBehind(QChar c)
     return textwidth::ofCharacter(c.unicode()) == 2;
 }
 
+// No line begins with a wide comma or closing bracket, and none ends with an opening one.
+bool staysBehind(QChar c)
+{
+    return breaksBehind(c) &&
+           (c.category() == QChar::Punctuation_Other || c.category() == QChar::Punctuation_Close);
+}
+
+bool staysBefore(QChar c)
+{
+    return breaksBehind(c) && c.category() == QChar::Punctuation_Open;
+}
+
+int endOfWord(const QString &text, int begin)
+{
+    int end = begin;
+    while (end < text.size() && staysBefore(text.at(end)))
+        ++end;
+    const int narrow = end;
+    while (end < text.size() && text.at(end) != QLatin1Char(' ') && !breaksBehind(text.at(end)))
+        ++end;
+    if (end == narrow && end < text.size() && text.at(end) != QLatin1Char(' '))
+        ++end; // a wide character
+    while (end < text.size() && staysBehind(text.at(end)))
+        ++end;
+    return end;
+}
+
 QStringList wrapped(const QString &text, int columns)
 {
     QStringList lines{QString()};
     int used = 0;
     int begin = 0;
     while (begin < text.size()) {
-        int end = begin;
-        while (end < text.size() && text.at(end) != QLatin1Char(' ') && !breaksBehind(text.at(end)))
-            ++end;
-        if (end < text.size() && text.at(end) != QLatin1Char(' '))
-            ++end; // the wide character itself
+        const int end = endOfWord(text, begin);
         QString word = text.mid(begin, end - begin);
         const bool isSpaced = begin > 0 && text.at(begin - 1) == QLatin1Char(' ');
         const int width = textwidth::of(word);
