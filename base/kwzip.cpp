@@ -48,6 +48,48 @@ QString text(const char *latin1)
     return QString::fromLatin1(latin1);
 }
 
+// Why, in words that hosts' catalogues can have: those of the packing library change with its version.
+struct Reason
+{
+    int code;
+    const char *words;
+};
+constexpr Reason texts[] = {
+    {ZIP_ER_NOZIP, "it is no ZIP file"},
+    {ZIP_ER_INCONS, "its parts contradict each other"},
+    {ZIP_ER_EOF, "it ends too early"},
+    {ZIP_ER_CRC, "the bytes do not have their checksum (CRC)"},
+    {ZIP_ER_ZLIB, "the packed bytes are damaged"},
+    {ZIP_ER_COMPRESSED_DATA, "the packed bytes are damaged"},
+    {ZIP_ER_COMPNOTSUPP, "the way it is packed is not known"},
+    {ZIP_ER_ENCRNOTSUPP, "it is encrypted"},
+    {ZIP_ER_NOPASSWD, "it is encrypted"},
+    {ZIP_ER_MULTIDISK, "it is one of several parts"},
+    {ZIP_ER_MEMORY, "there is not enough memory"},
+    {ZIP_ER_NOENT, "No such file or directory"},
+    {ZIP_ER_OPEN, "it cannot be opened"},
+    {ZIP_ER_READ, "it cannot be read"},
+    {ZIP_ER_WRITE, "it cannot be written"},
+    {ZIP_ER_CLOSE, "it cannot be written"},
+    {ZIP_ER_TMPOPEN, "no file can be made in the folder"},
+    {ZIP_ER_RENAME, "the new file cannot take its place"},
+};
+
+// texts: "%1: %2"
+QString reasonOf(zip_error_t *error)
+{
+    const int code = zip_error_code_zip(error);
+    for (const Reason &reason : texts) {
+        if (reason.code != code)
+            continue;
+        if (zip_error_system_type(error) != ZIP_ET_SYS)
+            return text(reason.words);
+        const char *system = std::strerror(zip_error_code_system(error));
+        return text(reason.words) + QLatin1String(": ") + QString::fromLocal8Bit(system);
+    }
+    return QString::fromUtf8(zip_error_strerror(error));
+}
+
 struct Discard
 {
     void operator()(zip_t *archive) const { zip_discard(archive); }
@@ -73,7 +115,7 @@ Archive openArchive(const QString &path, int flags)
             fail(text("the archive is cut off at byte %1: the list of its entries is missing")
                      .arg(file.size()));
         else
-            fail(text("no archive: %1").arg(QString::fromUtf8(zip_error_strerror(&error))));
+            fail(text("no archive: %1").arg(reasonOf(&error)));
         zip_error_fini(&error);
     }
     return archive;
@@ -236,7 +278,7 @@ bool Unpacker::unpack(zip_t *archive, zip_uint64_t index, const kwzip::Entry &en
 
     const OpenEntry packed(zip_fopen_index(archive, index, 0));
     if (!packed)
-        return fail(entry.name, QString::fromUtf8(zip_strerror(archive)));
+        return fail(entry.name, reasonOf(zip_get_error(archive)));
     QFile file(place);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return fail(entry.name, file.errorString());
@@ -252,7 +294,7 @@ bool Unpacker::unpack(zip_t *archive, zip_uint64_t index, const kwzip::Entry &en
     while (true) {
         const zip_int64_t got = zip_fread(packed.get(), buffer.data(), zip_uint64_t(buffer.size()));
         if (got < 0)
-            return fail(entry.name, QString::fromUtf8(zip_file_strerror(packed.get())));
+            return fail(entry.name, reasonOf(zip_file_get_error(packed.get())));
         if (got == 0)
             break;
         bytes += got;
@@ -444,11 +486,11 @@ bool write(const QString &path, const QVector<Source> &sources, zip_int32_t meth
     qint64 room = kwzip::maxPackedBytesHeld;
     for (const Source &source : sources) {
         if (!addTo(archive.get(), source, method, room))
-            return fail(source.name, QString::fromUtf8(zip_strerror(archive.get())));
+            return fail(source.name, reasonOf(zip_get_error(archive.get())));
     }
     // Everything is read, packed and written here.
     if (zip_close(archive.get()) != 0)
-        return fail(QString::fromUtf8(zip_strerror(archive.get())));
+        return fail(reasonOf(zip_get_error(archive.get())));
     static_cast<void>(archive.release()); // closed and freed
     return true;
 }

@@ -46,6 +46,6 @@ bool XmlParser::saveToFile(const QString &path, const QDomDocument &document, in
     // The document writes control characters as they are, and no reader would take the file back.
     if (atomicfile::replace(path, xmlguard::clean(document.toString(indent)).toUtf8(), &error))
         return true;
-    RuningLog::log(QLatin1String("XML not written: ") + error);
+    RuningLog::log(QLatin1String("XML not written: ") + path + QLatin1String(": ") + error);
     return false;
 }

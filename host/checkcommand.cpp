@@ -39,7 +39,7 @@ QString summaryText(const Plan &plan, const Style &style, int width, int finding
     // What there is none of is not counted up.
     const auto counts = [&line](const QStringList &parts) {
         if (!parts.isEmpty())
-            line(parts.join(QLatin1String(", ")));
+            line(parts.join(t(", ")));
     };
     const auto some = [](int number, const char *one, const char *many) {
         return number > 0 ? QStringList(counted(number, one, many)) : QStringList();
@@ -187,7 +187,7 @@ Checked checkFile(Console &console, const QString &file, bool isOneOfMany)
         parts.append(counted(findings.count(), "%1 finding", "%1 findings"));
     if (early > 0)
         parts.append(counted(early, "%1 task too early", "%1 tasks too early"));
-    checked.line = (parts + refusals).join(QLatin1String(", "));
+    checked.line = (parts + refusals).join(t(", "));
     checked.data = options.format == Options::Json ? machine::summaryJson(plan, findings, early, refusals)
                                                    : summaryText(plan, styleOf(console), console.width(),
                                                                  findings.count(), early, refusals)

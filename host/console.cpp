@@ -215,7 +215,7 @@ bool Console::replaceFile(const QString &path, const Make &make, bool overwrite)
         QFile device(path);
         if (device.open(QIODevice::WriteOnly) && into(device) && device.flush())
             return true;
-        error(t("%1: cannot be written: %2").arg(path, device.errorString()));
+        error(t("%1: cannot be written: %2").arg(path, texts::said(device.errorString())));
         return false;
     }
     if (info.exists() && !overwrite) {
@@ -226,7 +226,7 @@ bool Console::replaceFile(const QString &path, const Make &make, bool overwrite)
     // commit() alone would not notice that the last buffered bytes failed.
     if (file.open(QIODevice::WriteOnly) && into(file) && file.flush() && file.commit())
         return true;
-    error(t("%1: cannot be written: %2").arg(path, file.errorString()),
+    error(t("%1: cannot be written: %2").arg(path, texts::said(file.errorString())),
           t("the folder must exist and have room; nothing was changed"));
     return false;
 }

@@ -482,7 +482,7 @@ QString text(const Plan &before, const Plan &after, const std::vector<Change> &c
     const double newCost = after.document->getToltalCost();
     QString summary = counted(qint64(changes.size()), "%1 difference", "%1 differences");
     const auto total = [&](const QString &name, const QString &was, const QString &is) {
-        summary += QLatin1String("; ") + name + QLatin1Char(' ') +
+        summary += t("; ") + name + QLatin1Char(' ') +
                    (was == is ? was + QLatin1Char(' ') + t("(unchanged)")
                               : was + QLatin1Char(' ') + style.arrow + QLatin1Char(' ') + is);
     };

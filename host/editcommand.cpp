@@ -91,7 +91,7 @@ int edit(Console &console)
     const Style style = styleOf(console);
     QString summary = counted(done, "%1 edit made", "%1 edits made");
     if (!plan.moves.empty())
-        summary += QLatin1String("; ") + report::editMovesSummary(plan, style);
+        summary += t("; ") + report::editMovesSummary(plan, style);
     const int code = writeChanged(console, plan, summary);
     // In place, the plan itself goes into its file and standard output is free for the details.
     if (code == Console::Done && options.verbose && options.inPlace)

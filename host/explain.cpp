@@ -112,15 +112,14 @@ private:
         QString text = t("no earlier: %1 drives it").arg(named(last));
         for (int i = 1; i < reasons.size(); ++i) {
             if (i > mostListed) {
-                text += QLatin1String("; ") + t("%1 more").arg(reasons.size() - i);
+                text += t("; ") + t("%1 more").arg(reasons.size() - i);
                 break;
             }
             const int pos = m_plan.posOf(reasons.at(i).predecessor);
-            text += QLatin1String("; ") +
-                    (reasons.at(i).isDriving
-                         ? t("%1 drives it, too").arg(named(pos))
-                         : t("%1 has %2 to spare")
-                               .arg(named(pos), length(m_plan.task(pos)->Finish, m_task->Start)));
+            text += t("; ") + (reasons.at(i).isDriving
+                                   ? t("%1 drives it, too").arg(named(pos))
+                                   : t("%1 has %2 to spare")
+                                         .arg(named(pos), length(m_plan.task(pos)->Finish, m_task->Start)));
         }
         return text;
     }

@@ -193,7 +193,9 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
     KWDocument &document = *plan.document;
     if (!document.loadFromKWGT(path)) {
         const Finding why = document.loadFindings().list().value(0);
-        const QString words = why.place.isEmpty() ? why.what : why.place + QLatin1String(": ") + why.what;
+        const QString words = why.place.isEmpty()
+                                  ? texts::said(why.what)
+                                  : texts::said(why.place) + QLatin1String(": ") + texts::said(why.what);
         console.error(
             t("%1: not a plan: %2").arg(path, words.isEmpty() ? t("its XML cannot be read") : words),
             t("'kwgantt recover' lists autosave copies"));

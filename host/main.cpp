@@ -95,7 +95,7 @@ bool openLog(Console &console, const QStringList &arguments)
         return true;
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append)) {
-        console.error(t("%1: cannot be written: %2").arg(path, file.errorString()));
+        console.error(t("%1: cannot be written: %2").arg(path, texts::said(file.errorString())));
         return false;
     }
     file.close();

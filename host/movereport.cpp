@@ -110,12 +110,12 @@ QString movesSummary(const Plan &plan, const Style &style)
     if (plan.moves.empty())
         return t("nothing moves: every task starts at or after the end of its predecessors") +
                QLatin1Char('\n');
-    return movedCount(plan) + QLatin1String(", ") + t("%1 unchanged").arg(grouped(unchanged)) +
-           QLatin1String("; ") + finishText(plan, style) + QLatin1Char('\n');
+    return movedCount(plan) + t(", ") + t("%1 unchanged").arg(grouped(unchanged)) + t("; ") +
+           finishText(plan, style) + QLatin1Char('\n');
 }
 
 QString editMovesSummary(const Plan &plan, const Style &style)
 {
-    return movedCount(plan) + QLatin1String("; ") + finishText(plan, style);
+    return movedCount(plan) + t("; ") + finishText(plan, style);
 }
 }

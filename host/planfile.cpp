@@ -212,7 +212,7 @@ bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &err
         return false;
     }
     if (isStandardInput ? !file.open(stdin, QIODevice::ReadOnly) : !file.open(QIODevice::ReadOnly)) {
-        error = file.errorString();
+        error = texts::said(file.errorString());
         return false;
     }
     constexpr qint64 blockBytes = 1024 * 1024;
@@ -222,7 +222,7 @@ bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &err
     for (qint64 done = 0;;) {
         const qint64 count = file.read(bytes.data() + done, bytes.size() - done);
         if (file.error() != QFileDevice::NoError) {
-            error = file.errorString();
+            error = texts::said(file.errorString());
             return false;
         }
         if (count <= 0) {

@@ -29,6 +29,36 @@ namespace {
 constexpr const char *weekdays[] = {"monday", "tuesday",  "wednesday", "thursday",
                                     "friday", "saturday", "sunday"};
 
+struct JsonFault
+{
+    QJsonParseError::ParseError code;
+    const char *words;
+};
+constexpr JsonFault jsonFaults[] = {
+    {QJsonParseError::UnterminatedObject, QT_TR_NOOP("the end of an object is missing")},
+    {QJsonParseError::MissingNameSeparator, QT_TR_NOOP("a colon is missing behind a name")},
+    {QJsonParseError::UnterminatedArray, QT_TR_NOOP("the end of a list is missing")},
+    {QJsonParseError::MissingValueSeparator, QT_TR_NOOP("a comma is missing between values")},
+    {QJsonParseError::IllegalValue, QT_TR_NOOP("no value")},
+    {QJsonParseError::TerminationByNumber, QT_TR_NOOP("the text ends in a number")},
+    {QJsonParseError::IllegalNumber, QT_TR_NOOP("no number")},
+    {QJsonParseError::IllegalEscapeSequence, QT_TR_NOOP("a backslash with nothing that it can mark")},
+    {QJsonParseError::IllegalUTF8String, QT_TR_NOOP("a text is no UTF-8")},
+    {QJsonParseError::UnterminatedString, QT_TR_NOOP("the closing quote of a text is missing")},
+    {QJsonParseError::MissingObject, QT_TR_NOOP("nothing stands behind a comma")},
+    {QJsonParseError::DeepNesting, QT_TR_NOOP("nested too deeply")},
+    {QJsonParseError::DocumentTooLarge, QT_TR_NOOP("too large")},
+    {QJsonParseError::GarbageAtEnd, QT_TR_NOOP("more text stands behind the end")},
+};
+
+QString jsonFault(QJsonParseError::ParseError code)
+{
+    for (const JsonFault &fault : jsonFaults)
+        if (fault.code == code)
+            return t(fault.words);
+    return t("no JSON");
+}
+
 // The weekday a word names, 0 = Monday; -1 when it names none. Three letters and more of the English name do,
 // and the short name of the chosen language.
 int weekdayNamed(const QString &word)
@@ -250,7 +280,7 @@ bool read(const QByteArray &json, WorkingTime &result, Findings &warnings, QStri
     if (!document.isObject()) {
         error = fault.error == QJsonParseError::NoError
                     ? t("not a JSON object")
-                    : t("not JSON at byte %1: %2").arg(fault.offset).arg(fault.errorString());
+                    : t("not JSON at byte %1: %2").arg(fault.offset).arg(jsonFault(fault.error));
         return false;
     }
     const QJsonObject root = document.object();

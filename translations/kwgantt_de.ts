@@ -136,6 +136,10 @@
         <translation>kein Basisplan: 'kwgantt baseline FILE set' hält einen fest</translation>
     </message>
     <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
         <source>%1 summary task</source>
         <translation>%1 Sammelvorgang</translation>
     </message>
@@ -604,6 +608,10 @@
         <translation>%1 Unterschiede</translation>
     </message>
     <message>
+        <source>; </source>
+        <translation>; </translation>
+    </message>
+    <message>
         <source>(unchanged)</source>
         <translation>(unverändert)</translation>
     </message>
@@ -661,7 +669,7 @@
     </message>
     <message>
         <source>'%1' is not a date</source>
-        <translation>'%1' ist kein Termin</translation>
+        <translation>'%1' ist kein Datum</translation>
     </message>
     <message>
         <source>write it as 2026-02-28 or 2026-02-28T17:00</source>
@@ -717,7 +725,7 @@
     </message>
     <message>
         <source>'%1' is no date</source>
-        <translation>'%1' ist kein Termin</translation>
+        <translation>'%1' ist kein Datum</translation>
     </message>
     <message>
         <source>write it as 2026-12-25 or 2026-12-24..2026-12-31</source>
@@ -1669,7 +1677,7 @@
     </message>
     <message>
         <source>%1: written with %2</source>
-        <translation>%1: geschrieben mit %2</translation>
+        <translation>%1: geschrieben, %2</translation>
     </message>
     <message>
         <source>baseline set</source>
@@ -2004,6 +2012,62 @@
         <translation>--sheets rich macht bei .xlsx einen Unterschied</translation>
     </message>
     <message>
+        <source>the end of an object is missing</source>
+        <translation>das Ende eines Objekts fehlt</translation>
+    </message>
+    <message>
+        <source>a colon is missing behind a name</source>
+        <translation>hinter einem Namen fehlt der Doppelpunkt</translation>
+    </message>
+    <message>
+        <source>the end of a list is missing</source>
+        <translation>das Ende einer Liste fehlt</translation>
+    </message>
+    <message>
+        <source>a comma is missing between values</source>
+        <translation>zwischen Werten fehlt ein Komma</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>the text ends in a number</source>
+        <translation>der Text endet in einer Zahl</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>keine Zahl</translation>
+    </message>
+    <message>
+        <source>a backslash with nothing that it can mark</source>
+        <translation>ein umgekehrter Schrägstrich vor einem Zeichen, das er nicht meinen kann</translation>
+    </message>
+    <message>
+        <source>a text is no UTF-8</source>
+        <translation>ein Text ist kein UTF-8</translation>
+    </message>
+    <message>
+        <source>the closing quote of a text is missing</source>
+        <translation>das schließende Anführungszeichen eines Textes fehlt</translation>
+    </message>
+    <message>
+        <source>nothing stands behind a comma</source>
+        <translation>hinter einem Komma steht nichts</translation>
+    </message>
+    <message>
+        <source>nested too deeply</source>
+        <translation>zu tief verschachtelt</translation>
+    </message>
+    <message>
+        <source>more text stands behind the end</source>
+        <translation>hinter dem Ende steht noch Text</translation>
+    </message>
+    <message>
+        <source>no JSON</source>
+        <translation>kein JSON</translation>
+    </message>
+    <message>
         <source>no hours</source>
         <translation>keine Zeiten</translation>
     </message>
@@ -2093,7 +2157,7 @@
     </message>
     <message>
         <source>'start': '%1' is not a date</source>
-        <translation>'start': '%1' ist kein Termin</translation>
+        <translation>'start': '%1' ist kein Datum</translation>
     </message>
     <message>
         <source>'%1' is not from one time of day to another</source>
@@ -2220,7 +2284,7 @@
     </message>
     <message>
         <source>a date or dates off: 2026-12-24..2027-01-01</source>
-        <translation>ein freier Termin oder mehrere: 2026-12-24..2027-01-01</translation>
+        <translation>ein freier Tag oder mehrere: 2026-12-24..2027-01-01</translation>
     </message>
     <message>
         <source>where tasks without a start begin</source>
@@ -2730,6 +2794,66 @@
         <translation>%1: %2</translation>
     </message>
     <message>
+        <source>it is no ZIP file</source>
+        <translation>es ist keine ZIP-Datei</translation>
+    </message>
+    <message>
+        <source>its parts contradict each other</source>
+        <translation>seine Teile widersprechen sich</translation>
+    </message>
+    <message>
+        <source>it ends too early</source>
+        <translation>es endet zu früh</translation>
+    </message>
+    <message>
+        <source>the bytes do not have their checksum (CRC)</source>
+        <translation>die Bytes passen nicht zu ihrer Prüfsumme (CRC)</translation>
+    </message>
+    <message>
+        <source>the packed bytes are damaged</source>
+        <translation>die gepackten Bytes sind beschädigt</translation>
+    </message>
+    <message>
+        <source>the way it is packed is not known</source>
+        <translation>so Gepacktes ist hier nicht bekannt</translation>
+    </message>
+    <message>
+        <source>it is encrypted</source>
+        <translation>es ist verschlüsselt</translation>
+    </message>
+    <message>
+        <source>it is one of several parts</source>
+        <translation>es ist nur einer von mehreren Teilen</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Arbeitsspeicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>es lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>es ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>it cannot be written</source>
+        <translation>sie kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>no file can be made in the folder</source>
+        <translation>im Ordner lässt sich keine Datei anlegen</translation>
+    </message>
+    <message>
+        <source>the new file cannot take its place</source>
+        <translation>die neue Datei kann nicht an ihre Stelle treten</translation>
+    </message>
+    <message>
         <source>the archive is cut off at byte %1: the list of its entries is missing</source>
         <translation>das Archiv ist bei Byte %1 abgeschnitten: die Liste seiner Einträge fehlt</translation>
     </message>
@@ -3102,6 +3226,10 @@
         <translation>Zuweisungen</translation>
     </message>
     <message>
+        <source>cannot be written: %1</source>
+        <translation>kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
         <source>a file that stood there was kept</source>
         <translation>eine Datei, die dort stand, blieb erhalten</translation>
     </message>
@@ -3124,10 +3252,6 @@
     <message>
         <source>fixed costs, overtime and rates that change are not counted</source>
         <translation>feste Kosten, Überstunden und veränderliche Sätze zählen nicht mit</translation>
-    </message>
-    <message>
-        <source>it cannot be written</source>
-        <translation>sie kann nicht geschrieben werden</translation>
     </message>
     <message>
         <source>there are %1 columns, of which the first %2 are written</source>
@@ -3164,6 +3288,10 @@
     <message>
         <source>not read</source>
         <translation>nicht gelesen</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>der Ordner lässt sich nicht anlegen</translation>
     </message>
     <message>
         <source>a cell holds %1 characters, and there are more</source>
@@ -4083,7 +4211,7 @@
     </message>
     <message>
         <source>%1 is no date from 1970 to 2105</source>
-        <translation>%1 ist kein Termin von 1970 bis 2105</translation>
+        <translation>%1 ist kein Datum von 1970 bis 2105</translation>
     </message>
     <message>
         <source>some of its dates have the day first, others the month</source>
@@ -4212,10 +4340,6 @@
     <message>
         <source>for Chinese the package fonts-wqy-microhei brings one</source>
         <translation>für Chinesisch bringt das Paket fonts-wqy-microhei eine mit</translation>
-    </message>
-    <message>
-        <source>cannot be written: %1</source>
-        <translation>kann nicht geschrieben werden: %1</translation>
     </message>
     <message>
         <source>there is nothing to paint on</source>
@@ -4660,6 +4784,50 @@
     <message>
         <source>there is nothing in it: saving leaves it out</source>
         <translation>es ist nichts darin: beim Speichern fällt es weg</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>ein Ordner</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>Dateiname zu lang</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>zu viele Ebenen symbolischer Links</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>kein Platz mehr auf dem Gerät</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>zugeteilter Speicherplatz erschöpft</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>Datei zu groß</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>Dateisystem nur lesbar</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>Gerät oder Ressource belegt</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>unbekannter Fehler</translation>
     </message>
     <message>
         <source>writing was given up</source>
@@ -5707,10 +5875,6 @@
     <message>
         <source>%1 is no plan: %2</source>
         <translation>%1 ist kein Plan: %2</translation>
-    </message>
-    <message>
-        <source>it cannot be read</source>
-        <translation>es ist nicht lesbar</translation>
     </message>
     <message>
         <source>Untitled</source>

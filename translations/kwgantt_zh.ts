@@ -136,6 +136,10 @@
         <translation>没有基线：'kwgantt baseline FILE set' 可记录一个</translation>
     </message>
     <message>
+        <source>, </source>
+        <translation>，</translation>
+    </message>
+    <message>
         <source>%1 summary task</source>
         <translation>%1 个摘要任务</translation>
     </message>
@@ -602,6 +606,10 @@
     <message>
         <source>%1 differences</source>
         <translation>%1 处差别</translation>
+    </message>
+    <message>
+        <source>; </source>
+        <translation>；</translation>
     </message>
     <message>
         <source>(unchanged)</source>
@@ -1669,7 +1677,7 @@
     </message>
     <message>
         <source>%1: written with %2</source>
-        <translation>%1：由 %2 写成</translation>
+        <translation>%1：已写入 %2</translation>
     </message>
     <message>
         <source>baseline set</source>
@@ -2002,6 +2010,62 @@
     <message>
         <source>--sheets rich makes a difference to .xlsx</source>
         <translation>--sheets rich 只对 .xlsx 有作用</translation>
+    </message>
+    <message>
+        <source>the end of an object is missing</source>
+        <translation>缺少对象的结尾</translation>
+    </message>
+    <message>
+        <source>a colon is missing behind a name</source>
+        <translation>名称后缺少冒号</translation>
+    </message>
+    <message>
+        <source>the end of a list is missing</source>
+        <translation>缺少列表的结尾</translation>
+    </message>
+    <message>
+        <source>a comma is missing between values</source>
+        <translation>值之间缺少逗号</translation>
+    </message>
+    <message>
+        <source>no value</source>
+        <translation>不是值</translation>
+    </message>
+    <message>
+        <source>the text ends in a number</source>
+        <translation>文本在数字中结束</translation>
+    </message>
+    <message>
+        <source>no number</source>
+        <translation>不是数字</translation>
+    </message>
+    <message>
+        <source>a backslash with nothing that it can mark</source>
+        <translation>反斜杠后的字符无效</translation>
+    </message>
+    <message>
+        <source>a text is no UTF-8</source>
+        <translation>有文本不是 UTF-8</translation>
+    </message>
+    <message>
+        <source>the closing quote of a text is missing</source>
+        <translation>文本缺少结束引号</translation>
+    </message>
+    <message>
+        <source>nothing stands behind a comma</source>
+        <translation>逗号后没有内容</translation>
+    </message>
+    <message>
+        <source>nested too deeply</source>
+        <translation>嵌套过深</translation>
+    </message>
+    <message>
+        <source>more text stands behind the end</source>
+        <translation>结尾之后还有文本</translation>
+    </message>
+    <message>
+        <source>no JSON</source>
+        <translation>不是 JSON</translation>
     </message>
     <message>
         <source>no hours</source>
@@ -2730,6 +2794,66 @@
         <translation>%1: %2</translation>
     </message>
     <message>
+        <source>it is no ZIP file</source>
+        <translation>不是 ZIP 文件</translation>
+    </message>
+    <message>
+        <source>its parts contradict each other</source>
+        <translation>其各部分互相矛盾</translation>
+    </message>
+    <message>
+        <source>it ends too early</source>
+        <translation>过早结束</translation>
+    </message>
+    <message>
+        <source>the bytes do not have their checksum (CRC)</source>
+        <translation>字节与校验和 (CRC) 不符</translation>
+    </message>
+    <message>
+        <source>the packed bytes are damaged</source>
+        <translation>压缩的字节已损坏</translation>
+    </message>
+    <message>
+        <source>the way it is packed is not known</source>
+        <translation>不认识其压缩方式</translation>
+    </message>
+    <message>
+        <source>it is encrypted</source>
+        <translation>已加密</translation>
+    </message>
+    <message>
+        <source>it is one of several parts</source>
+        <translation>只是多个部分之一</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>没有该文件或文件夹</translation>
+    </message>
+    <message>
+        <source>it cannot be opened</source>
+        <translation>无法打开</translation>
+    </message>
+    <message>
+        <source>it cannot be read</source>
+        <translation>无法读取</translation>
+    </message>
+    <message>
+        <source>it cannot be written</source>
+        <translation>无法写入</translation>
+    </message>
+    <message>
+        <source>no file can be made in the folder</source>
+        <translation>无法在该文件夹中创建文件</translation>
+    </message>
+    <message>
+        <source>the new file cannot take its place</source>
+        <translation>新文件无法取代它</translation>
+    </message>
+    <message>
         <source>the archive is cut off at byte %1: the list of its entries is missing</source>
         <translation>压缩包在第 %1 字节处被截断：缺少条目列表</translation>
     </message>
@@ -3102,6 +3226,10 @@
         <translation>分配</translation>
     </message>
     <message>
+        <source>cannot be written: %1</source>
+        <translation>无法写入：%1</translation>
+    </message>
+    <message>
         <source>a file that stood there was kept</source>
         <translation>原有文件已保留</translation>
     </message>
@@ -3124,10 +3252,6 @@
     <message>
         <source>fixed costs, overtime and rates that change are not counted</source>
         <translation>不计固定成本、加班和变动费率</translation>
-    </message>
-    <message>
-        <source>it cannot be written</source>
-        <translation>无法写入</translation>
     </message>
     <message>
         <source>there are %1 columns, of which the first %2 are written</source>
@@ -3164,6 +3288,10 @@
     <message>
         <source>not read</source>
         <translation>未读取</translation>
+    </message>
+    <message>
+        <source>the folder cannot be made</source>
+        <translation>无法创建文件夹</translation>
     </message>
     <message>
         <source>a cell holds %1 characters, and there are more</source>
@@ -4214,10 +4342,6 @@
         <translation>中文字体由软件包 fonts-wqy-microhei 提供</translation>
     </message>
     <message>
-        <source>cannot be written: %1</source>
-        <translation>无法写入：%1</translation>
-    </message>
-    <message>
         <source>there is nothing to paint on</source>
         <translation>没有可绘制的画布</translation>
     </message>
@@ -4660,6 +4784,50 @@
     <message>
         <source>there is nothing in it: saving leaves it out</source>
         <translation>其中没有内容：保存时略去</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>是文件夹</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>文件名过长</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>打开的文件过多</translation>
+    </message>
+    <message>
+        <source>Too many levels of symbolic links</source>
+        <translation>符号链接层数过多</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>设备上没有空间</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>超出磁盘配额</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>文件过大</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>文件系统为只读</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>输入/输出错误</translation>
+    </message>
+    <message>
+        <source>Device or resource busy</source>
+        <translation>设备或资源忙</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>未知错误</translation>
     </message>
     <message>
         <source>writing was given up</source>
@@ -5707,10 +5875,6 @@
     <message>
         <source>%1 is no plan: %2</source>
         <translation>%1 不是计划：%2</translation>
-    </message>
-    <message>
-        <source>it cannot be read</source>
-        <translation>无法读取</translation>
     </message>
     <message>
         <source>Untitled</source>

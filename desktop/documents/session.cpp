@@ -12,6 +12,7 @@
 #include "support/kwclock.h"
 #include "support/longwork.h"
 #include "table/rowcolumndata.h"
+#include "texts.h"
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
@@ -88,7 +89,7 @@ bool Session::open(const QString &path, QString &error)
         if (!document.loadFromKWGT(path)) {
             if (LongWork::wasGivenUp())
                 return false;
-            const QString why = KWZip::lastError();
+            const QString why = texts::said(KWZip::lastError());
             error = tr("%1 is no plan: %2")
                         .arg(QFileInfo(path).fileName(), why.isEmpty() ? tr("it cannot be read") : why);
             return false;
@@ -246,7 +247,7 @@ bool Session::save(const QString &path, QString &error)
         return false;
     }
     if (!document().save(path)) {
-        const QString why = KWZip::lastError();
+        const QString why = texts::said(KWZip::lastError());
         error = tr("%1 cannot be written: %2")
                     .arg(QDir::toNativeSeparators(path),
                          why.isEmpty() ? tr("the folder must exist and have room") : why);

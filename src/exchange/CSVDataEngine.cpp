@@ -137,7 +137,8 @@ bool CSVDataEngine::writeFile(const QString &path, const QByteArray &bytes)
     QString error;
     if (atomicfile::replace(path, bytes, &error))
         return true;
-    m_findings.add(path, error, KW_TEXT("a file that stood there was kept"));
+    m_findings.add(path, KW_TEXT("cannot be written: %1").arg(error),
+                   KW_TEXT("a file that stood there was kept"));
     return false;
 }
 

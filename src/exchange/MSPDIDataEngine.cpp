@@ -183,7 +183,7 @@ bool MSPDIDataEngine::exportFile(const QString &path)
     QString error;
     const auto write = [&](QIODevice &device) { return mspdi::write(device, *m_document, heading, list); };
     if (!atomicfile::replace(path, write, &error))
-        return fail(path, error.isEmpty() ? KW_TEXT("it cannot be written") : error);
+        return fail(path, KW_TEXT("cannot be written: %1").arg(error));
     list.tell(m_findings);
     return true;
 }

@@ -123,7 +123,7 @@ void XLSXDataBase::initExport(const QString &path)
     for (const char *folder : {"", "_rels/", "docProps/", "xl/", "xl/worksheets/", "xl/worksheets/_rels/",
                                "xl/theme/", "xl/printerSettings/", "xl/_rels/"}) {
         if (!QDir().mkpath(m_path + QLatin1String(folder)))
-            fail(QString::fromLatin1(folder), QStringLiteral("the folder cannot be made"));
+            fail(QString::fromLatin1(folder), KW_TEXT("the folder cannot be made"));
     }
     createContent();
     createApp();

@@ -239,6 +239,6 @@ bool XLSXDataEngine::exportFile(const QString &path)
             KW_TEXT("give them different names, or write readable sheets"));
     m_isRich = wasRich;
     if (isWhole() && !KWZip::zip(path, folder))
-        fail(path, KWZip::lastError());
+        fail(path, KW_TEXT("cannot be written: %1").arg(KWZip::lastError()));
     return isWhole();
 }

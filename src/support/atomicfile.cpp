@@ -12,13 +12,18 @@
 
 namespace {
 
-bool fail(QString *error, const QString &path, const QString &what)
+bool fail(QString *error, const QString &what)
 {
     if (error)
-        *error = path + QLatin1String(": ") + what;
+        *error = what;
     return false;
 }
 
+// What the system says of files, as Qt gives it. Where the system's own catalogues are installed they have
+// it. texts: "No such file or directory", "Permission denied", "Operation not permitted", "Not a directory"
+// texts: "Is a directory", "File name too long", "Too many open files", "Too many levels of symbolic links"
+// texts: "No space left on device", "Disk quota exceeded", "File too large", "Read-only file system"
+// texts: "Input/output error", "Device or resource busy", "Unknown error"
 QString systemError()
 {
     return QString::fromLocal8Bit(std::strerror(errno));
@@ -50,7 +55,7 @@ bool mayBeReplaced(const QString &path, QString *error)
 {
     const QFileInfo info(path);
     if (info.exists() && !info.isFile())
-        return fail(error, path, KW_TEXT("is no plain file"));
+        return fail(error, KW_TEXT("is no plain file"));
     return true;
 }
 }
@@ -68,26 +73,25 @@ bool atomicfile::replace(const QString &path, const std::function<bool(QIODevice
         return false;
     QSaveFile file(target);
     if (!file.open(QIODevice::WriteOnly))
-        return fail(error, path, file.errorString());
+        return fail(error, file.errorString());
     if (!write(file)) {
         file.cancelWriting();
-        return fail(error, path,
-                    file.error() == QFileDevice::NoError ? KW_TEXT("writing was given up")
-                                                         : file.errorString());
+        return fail(error, file.error() == QFileDevice::NoError ? KW_TEXT("writing was given up")
+                                                                : file.errorString());
     }
     // commit() does not look whether its own last flush worked.
     if (!file.flush() || file.error() != QFileDevice::NoError) {
         const QString what = file.errorString();
         file.cancelWriting();
-        return fail(error, path, what);
+        return fail(error, what);
     }
     if (::fsync(file.handle()) != 0 && errno != EINVAL && errno != ENOTSUP) {
         const QString what = systemError();
         file.cancelWriting();
-        return fail(error, path, what);
+        return fail(error, what);
     }
     if (!file.commit())
-        return fail(error, path, file.errorString());
+        return fail(error, file.errorString());
     syncFolderOf(target);
     return true;
 }
@@ -104,16 +108,16 @@ bool atomicfile::replaceWith(const QString &path, const QString &finishedFile, Q
     if (!mayBeReplaced(target, error))
         return false;
     if (!syncPath(finishedFile, O_RDONLY))
-        return fail(error, finishedFile, systemError());
+        return fail(error, systemError());
     const QByteArray targetName = QFile::encodeName(target);
     const QByteArray finishedName = QFile::encodeName(finishedFile);
     // The new file is as private as the one it takes the place of.
     struct stat old = {};
     if (::stat(targetName.constData(), &old) == 0 &&
         ::chmod(finishedName.constData(), old.st_mode & 07777) != 0)
-        return fail(error, finishedFile, systemError());
+        return fail(error, systemError());
     if (std::rename(finishedName.constData(), targetName.constData()) != 0)
-        return fail(error, path, systemError());
+        return fail(error, systemError());
     syncFolderOf(target);
     return true;
 }

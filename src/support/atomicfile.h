@@ -5,8 +5,8 @@
 
 class QIODevice;
 
-// Replaces a file as one step: after any failure or crash the old file is still there, whole.
-// The base library is built from this file too, so it knows nothing but Qt.
+// Replaces a file as one step: after any failure or crash the old file is still there, whole. `error` tells
+// why, without the path. The base library is built from this file too, so it knows nothing but Qt.
 namespace atomicfile {
 
 // The file a path really names: the end of a chain of links. What is written must stand beside that one.

@@ -118,13 +118,10 @@ TEST_P(Session, saysWhatItSaid)
 }
 
 // Two English words in a row that stand in no quotes: a text without a translation, or one whose words the
-// library put together in a way that no mark (src/support/said.h) tells of. What the system and Qt say comes
-// from their catalogues.
+// library put together in a way that no mark (src/support/said.h) tells of.
 TEST_P(Session, saysNothingInEnglishToTheChinese)
 {
-    static const QRegularExpression quotes(
-        QStringLiteral("'[^']*'|\"[^\"]*\"|--to csv|No such file or directory|No space left on "
-                       "device|Failure to create temporary file|illegal value"));
+    static const QRegularExpression quotes(QStringLiteral("'[^']*'|\"[^\"]*\"|--to csv"));
     static const QRegularExpression english(QStringLiteral("\\b[a-z]{2,} [a-z]{2,}\\b"));
     if (QTimeZone::systemTimeZoneId() != "UTC")
         GTEST_SKIP() << "words are the same in every zone";

@@ -68,7 +68,7 @@ TEST_F(Texts, whatTheLibrarySaidIsTranslatedWithWhatItPutIn)
         {"row 17, 'Finish'", "Zeile 17, 'Finish'"},
         {"task sheet, row 3", "Vorgangsblatt, Zeile 3"},
         {"Tasks, row 3, 'Finish'", "Tasks, Zeile 3, 'Finish'"},
-        {"'31/02/2026' is no date from 1970 to 2105", "'31/02/2026' ist kein Termin von 1970 bis 2105"},
+        {"'31/02/2026' is no date from 1970 to 2105", "'31/02/2026' ist kein Datum von 1970 bis 2105"},
         // The longest wording counts, and a gap holds anything, other wordings too.
         {"'a' is no percentage from 0 to 100", "'a' ist kein Prozentsatz von 0 bis 100"},
         {"a.xml: byte 7: a tag does not end", "a.xml: Byte 7: ein Tag endet nicht"},

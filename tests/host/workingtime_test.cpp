@@ -55,7 +55,7 @@ TEST(CalendarFile, isReadOrRefused)
 "2026-05-01"], "start": "2026-01-05T08:00"})",
          "Mon-Fri 08:00-12:00 13:00-17:00; 2026-01-01..2026-01-06 off; 2026-01-10..2026-01-10 works; "
          "2026-05-01..2026-05-01 off; from 2026-01-05"},
-        {"noJson", "days: Mon", "refused: not JSON at byte 1: illegal value"},
+        {"noJson", "days: Mon", "refused: not JSON at byte 1: no value"},
         {"noObject", "[1]", "refused: not a JSON object"},
         {"noWeekday", R"({"days": {"Caturday": []}})", "refused: 'Caturday' is not a weekday with its hours"},
         {"overlappingHours", R"({"days": {"Mon": ["08:00-12:00", "11:00-13:00"]}})",

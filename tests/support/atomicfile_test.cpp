@@ -67,7 +67,7 @@ TEST_F(AtomicFile, placesThatCannotHoldAFileAreLeftAlone)
         SCOPED_TRACE(name);
         QString error;
         EXPECT_FALSE(atomicfile::replace(path(name), "new", &error));
-        EXPECT_TRUE(error.startsWith(path(name))) << error.toStdString();
+        EXPECT_FALSE(error.isEmpty() || error.contains(path(name))) << error.toStdString();
         EXPECT_FALSE(atomicfile::replaceWith(path(name), path("done"), &error));
         EXPECT_EQ(after(), "dir/ done=finished pipe!");
     }

@@ -484,7 +484,7 @@ bool CompoundFile::SaveAs(const QString &path)
     QString error;
     if (!atomicfile::replace(
             path, [this](QIODevice &device) { return WriteTo(device); }, &error)) {
-        m_error = error;
+        m_error = KW_TEXT("cannot be written: %1").arg(error);
         return false;
     }
     m_path = path;
