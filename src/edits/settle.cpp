@@ -479,7 +479,7 @@ private:
                 tops.push_back(summary);
         }
         std::reverse(tops.begin(), tops.end());
-        const outline::Branches branches(m_tasks, tops);
+        const outline::BranchRanges branches(m_tasks, tops);
         for (TaskRecord *summary : summaries)
             visit(*summary, branches.knows(*summary) ? branches.leavesBelow(*summary)
                                                      : outline::descendants(m_tasks, *summary));

@@ -27,7 +27,7 @@ void CostPass::gather(const std::vector<TaskRecord *> &tasks)
         if (task->ParentID == 0 || !m_tasks.byId(task->ParentID))
             tops.push_back(task);
     }
-    m_branches = outline::Branches(m_tasks, tops);
+    m_branches = outline::BranchRanges(m_tasks, tops);
 }
 
 std::vector<TaskRecord *> CostPass::below(const TaskRecord &task) const

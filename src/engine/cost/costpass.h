@@ -60,6 +60,6 @@ private:
     void sumWithoutBaseline(TaskRecord &summary, const std::vector<TaskRecord *> &below) const;
 
     outline::Tasks m_tasks;
-    outline::Branches m_branches;
+    outline::BranchRanges m_branches;
     cost::Measures m_measures;
 };

@@ -3,17 +3,17 @@
 
 namespace outline {
 
-Branches::Branches(const Tasks &tasks, const std::vector<TaskRecord *> &roots)
+BranchRanges::BranchRanges(const Tasks &tasks, const std::vector<TaskRecord *> &roots)
 {
     for (TaskRecord *root : roots) {
         if (!add(tasks, root)) {
-            *this = Branches();
+            *this = BranchRanges();
             return;
         }
     }
 }
 
-bool Branches::add(const Tasks &tasks, TaskRecord *root)
+bool BranchRanges::add(const Tasks &tasks, TaskRecord *root)
 {
     struct Branch
     {
@@ -41,7 +41,7 @@ bool Branches::add(const Tasks &tasks, TaskRecord *root)
     while (!path.empty()) {
         // Good until the next enter(), which may move what both stand in.
         Branch &branch = path.back();
-        Place &place = m_places[branch.place];
+        Range &place = m_places[branch.place];
         if (branch.nextChild < place.summary->Childs.size()) {
             TaskRecord *child = tasks.byId(place.summary->Childs[branch.nextChild++]);
             if (child && !enter(child))
@@ -55,25 +55,25 @@ bool Branches::add(const Tasks &tasks, TaskRecord *root)
     return true;
 }
 
-const Branches::Place &Branches::placeOf(const TaskRecord &summary) const
+const BranchRanges::Range &BranchRanges::placeOf(const TaskRecord &summary) const
 {
     return m_places[std::size_t(m_placeOf.posOf(summary.ID))];
 }
 
-bool Branches::knows(const TaskRecord &summary) const
+bool BranchRanges::knows(const TaskRecord &summary) const
 {
     return !m_places.empty() && m_placeOf.contains(summary.ID) && placeOf(summary).summary == &summary;
 }
 
-std::vector<TaskRecord *> Branches::below(const TaskRecord &summary) const
+std::vector<TaskRecord *> BranchRanges::below(const TaskRecord &summary) const
 {
-    const Place &place = placeOf(summary);
+    const Range &place = placeOf(summary);
     return {m_order.begin() + std::ptrdiff_t(place.first), m_order.begin() + std::ptrdiff_t(place.last)};
 }
 
-std::vector<TaskRecord *> Branches::leavesBelow(const TaskRecord &summary) const
+std::vector<TaskRecord *> BranchRanges::leavesBelow(const TaskRecord &summary) const
 {
-    const Place &place = placeOf(summary);
+    const Range &place = placeOf(summary);
     return {m_leaves.begin() + std::ptrdiff_t(place.firstLeaf),
             m_leaves.begin() + std::ptrdiff_t(place.lastLeaf)};
 }

@@ -7,13 +7,13 @@ namespace outline {
 // time. A walk of its own for every summary costs the square of the depth.
 //
 // Valid while neither the task list nor an ID or a child list changes.
-class Branches
+class BranchRanges
 {
 public:
     // Nothing is known.
-    Branches() = default;
+    BranchRanges() = default;
     // The branches of these tasks, the tasks included.
-    Branches(const Tasks &tasks, const std::vector<TaskRecord *> &roots);
+    BranchRanges(const Tasks &tasks, const std::vector<TaskRecord *> &roots);
 
     // Both need `knows`, and are in the order of `descendants`.
     std::vector<TaskRecord *> below(const TaskRecord &summary) const;
@@ -23,18 +23,18 @@ public:
     bool knows(const TaskRecord &summary) const;
 
 private:
-    struct Place
+    struct Range
     {
         const TaskRecord *summary;
         std::size_t first, last;         // in m_order, the summary itself not included
         std::size_t firstLeaf, lastLeaf; // in m_leaves
     };
     bool add(const Tasks &tasks, TaskRecord *root);
-    const Place &placeOf(const TaskRecord &summary) const;
+    const Range &placeOf(const TaskRecord &summary) const;
 
     std::vector<TaskRecord *> m_order;
     std::vector<TaskRecord *> m_leaves;
-    std::vector<Place> m_places;
+    std::vector<Range> m_places;
     TaskIndex m_placeOf; // 0 for the leaves, which have no place
 };
 }
