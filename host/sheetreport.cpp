@@ -91,19 +91,19 @@ private:
     std::map<qint64, double> m_steps;
 };
 
-struct Row
+struct EntryOverloads
 {
     const ResourceInfo *entry;
     std::vector<Overload> overloads;
 };
 
-std::vector<Row> rowsOf(Plan &plan)
+std::vector<EntryOverloads> rowsOf(Plan &plan)
 {
     ResourceInfoData *sheet = plan.document->resourceInfoData();
     sheet->udpateWorkAndCost(plan.document.get());
     sheet->updateWorkStarAndFinishWork(plan.document.get());
     const QHash<QString, Assignments> byName = assignmentsByName(plan);
-    std::vector<Row> rows;
+    std::vector<EntryOverloads> rows;
     for (const ResourceInfo *entry : qAsConst(sheet->infos))
         rows.push_back({entry, overloads(plan, *entry, byName.value(entry->name.trimmed()))});
     return rows;
@@ -174,7 +174,7 @@ QString text(Plan &plan, const Style &style)
                      t(">Work"), t(">Done"), t(">Cost"), t(">Spent"), t("From"), t("To")});
     QString notes;
     int number = 0;
-    for (const Row &row : rowsOf(plan)) {
+    for (const EntryOverloads &row : rowsOf(plan)) {
         const ResourceInfo &entry = *row.entry;
         const bool material = !resourcetypes::isWork(entry.type);
         const QString name = textwidth::oneLine(entry.name.trimmed(), style.ascii);
@@ -214,7 +214,7 @@ QByteArray json(Plan &plan)
     const auto number = [](double value) { return sheettext::numberText(value).toUtf8(); };
     QByteArray bytes = "{\n  \"resources\": [";
     bool first = true;
-    for (const Row &row : rowsOf(plan)) {
+    for (const EntryOverloads &row : rowsOf(plan)) {
         const ResourceInfo &entry = *row.entry;
         bytes += first ? "\n    {" : ",\n    {";
         first = false;

@@ -88,7 +88,7 @@ private:
 };
 
 // What the cells of a row need.
-struct Row
+struct RowFacts
 {
     KWDocument &document;
     const worktime::WorkCalendar &calendar;
@@ -128,53 +128,58 @@ void addList(Text &out, const QList<quint32> &ids)
 struct Cell
 {
     Column column;
-    void (*add)(const Row &row, Text &out);
+    void (*add)(const RowFacts &row, Text &out);
 };
 
 const Cell cells[] = {
-    {{"ID", "id", true}, [](const Row &row, Text &out) { out.add(qint64(row.task.ID)); }},
+    {{"ID", "id", true}, [](const RowFacts &row, Text &out) { out.add(qint64(row.task.ID)); }},
     {{"WBS", "wbs", false},
-     [](const Row &row, Text &out) { out.add(row.imported.codes.value(row.task.ID)); }},
-    {{"Level", "level", true}, [](const Row &row, Text &out) { out.add(qint64(row.task.Level)); }},
-    {{"Name", "name", false}, [](const Row &row, Text &out) { out.add(row.task.Name); }},
-    {{"Start", "start", false}, [](const Row &row, Text &out) { out.add(row.dates.start(row.pos)); }},
-    {{"Finish", "finish", false}, [](const Row &row, Text &out) { out.add(row.dates.finish(row.pos)); }},
+     [](const RowFacts &row, Text &out) { out.add(row.imported.codes.value(row.task.ID)); }},
+    {{"Level", "level", true}, [](const RowFacts &row, Text &out) { out.add(qint64(row.task.Level)); }},
+    {{"Name", "name", false}, [](const RowFacts &row, Text &out) { out.add(row.task.Name); }},
+    {{"Start", "start", false}, [](const RowFacts &row, Text &out) { out.add(row.dates.start(row.pos)); }},
+    {{"Finish", "finish", false}, [](const RowFacts &row, Text &out) { out.add(row.dates.finish(row.pos)); }},
     {{"Duration", "duration", false},
-     [](const Row &row, Text &out) {
+     [](const RowFacts &row, Text &out) {
          out.add(lengthText(
              duration::ofTask(row.calendar, row.task.Start, row.task.Finish, row.task.DurationUnits),
              row.task.DurationUnits));
      }},
     {{"Percent", "percent", true},
-     [](const Row &row, Text &out) {
+     [](const RowFacts &row, Text &out) {
          // What comes from below is rounded; what a task says itself is not.
          out.add(row.task.isParent() ? DataFormat::formatNumber(row.task.Percent * 100, 0, 2, 1)
                                      : numberText(row.task.Percent * 100));
      }},
     {{"Predecessors", "predecessors", false},
-     [](const Row &row, Text &out) { addList(out, row.task.Predecessors); }},
+     [](const RowFacts &row, Text &out) { addList(out, row.task.Predecessors); }},
     {{"Resources", "resources", false},
-     [](const Row &row, Text &out) { out.add(resourceNames(row.document, row.task)); }},
-    {{"Summary", "summary", true}, [](const Row &row, Text &out) { addFlag(out, row.task.isParent()); }},
+     [](const RowFacts &row, Text &out) { out.add(resourceNames(row.document, row.task)); }},
+    {{"Summary", "summary", true}, [](const RowFacts &row, Text &out) { addFlag(out, row.task.isParent()); }},
     {{"Milestone", "milestone", true},
-     [](const Row &row, Text &out) { addFlag(out, row.task.Milestone && !row.task.isParent()); }},
-    {{"Notes", "notes", false}, [](const Row &row, Text &out) { out.add(row.task.Notes); }},
-    {{"Critical", "critical", true}, [](const Row &row, Text &out) { addFlag(out, row.isCritical); }},
+     [](const RowFacts &row, Text &out) { addFlag(out, row.task.Milestone && !row.task.isParent()); }},
+    {{"Notes", "notes", false}, [](const RowFacts &row, Text &out) { out.add(row.task.Notes); }},
+    {{"Critical", "critical", true}, [](const RowFacts &row, Text &out) { addFlag(out, row.isCritical); }},
     {{"LateStart", "lateStart", false},
-     [](const Row &row, Text &out) { out.add(row.dates.lateStart(row.pos)); }},
+     [](const RowFacts &row, Text &out) { out.add(row.dates.lateStart(row.pos)); }},
     {{"LateFinish", "lateFinish", false},
-     [](const Row &row, Text &out) { out.add(row.dates.lateFinish(row.pos)); }},
-    {{"StartSlack", "startSlack", false}, [](const Row &row, Text &out) { out.add(row.task.EarlySlack); }},
-    {{"FinishSlack", "finishSlack", false}, [](const Row &row, Text &out) { out.add(row.task.LateSlack); }},
-    {{"StartMin", "startMin", true}, [](const Row &row, Text &out) { out.add(row.minutes(row.task.Start)); }},
+     [](const RowFacts &row, Text &out) { out.add(row.dates.lateFinish(row.pos)); }},
+    {{"StartSlack", "startSlack", false},
+     [](const RowFacts &row, Text &out) { out.add(row.task.EarlySlack); }},
+    {{"FinishSlack", "finishSlack", false},
+     [](const RowFacts &row, Text &out) { out.add(row.task.LateSlack); }},
+    {{"StartMin", "startMin", true},
+     [](const RowFacts &row, Text &out) { out.add(row.minutes(row.task.Start)); }},
     {{"FinishMin", "finishMin", true},
-     [](const Row &row, Text &out) { out.add(row.minutes(row.task.Finish)); }},
+     [](const RowFacts &row, Text &out) { out.add(row.minutes(row.task.Finish)); }},
     {{"LateStartMin", "lateStartMin", true},
-     [](const Row &row, Text &out) { out.add(row.minutes(row.task.LateStart)); }},
+     [](const RowFacts &row, Text &out) { out.add(row.minutes(row.task.LateStart)); }},
     {{"LateFinishMin", "lateFinishMin", true},
-     [](const Row &row, Text &out) { out.add(row.minutes(row.task.LateFinish)); }},
+     [](const RowFacts &row, Text &out) { out.add(row.minutes(row.task.LateFinish)); }},
     {{"SlackMin", "slackMin", true},
-     [](const Row &row, Text &out) { out.add(row.minutesBetween(row.task.Finish, row.task.LateFinish, 0)); }},
+     [](const RowFacts &row, Text &out) {
+         out.add(row.minutesBetween(row.task.Finish, row.task.LateFinish, 0));
+     }},
 };
 
 // The cell from `begin` to the end of the buffer, as csv::quoted writes it.
@@ -362,7 +367,8 @@ bool Rows::write(const std::function<bool(const QByteArray &)> &take) const
     const worktime::WorkCalendar &calendar = m_document.workCalendar();
     const QList<KWTaskInfo *> &tasks = m_document.taskList();
     for (int pos = 0; pos < tasks.size(); ++pos) {
-        const Row row{m_document, calendar, m_imported, m_dates, *tasks[pos], pos, m_start, isCritical(pos)};
+        const RowFacts row{m_document,  calendar, m_imported, m_dates,
+                           *tasks[pos], pos,      m_start,    isCritical(pos)};
         for (const Cell &cell : cells) {
             if (&cell != cells)
                 bytes.append(',');
