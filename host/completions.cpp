@@ -8,8 +8,8 @@ namespace completions {
 
 namespace {
 
-// What stands at a place of a command line.
-struct Place
+// What a command line may have at one place.
+struct Argument
 {
     enum Kind { Text, File, Values, Commands, Edit };
     Kind kind = Text;
@@ -19,35 +19,35 @@ struct Place
 };
 
 // From the words that stand for it in messages: "FILE", "[list|set|clear]", "TASK...".
-Place placeOf(QString word)
+Argument argumentOf(QString word)
 {
     static const QStringList files{QStringLiteral("FILE"), QStringLiteral("IN"),   QStringLiteral("OUT"),
                                    QStringLiteral("A"),    QStringLiteral("B"),    QStringLiteral("COPY"),
                                    QStringLiteral("FROM"), QStringLiteral("INTO"), QStringLiteral("FOLDER")};
-    Place place;
-    place.isRepeated = word.contains(QLatin1String("..."));
+    Argument argument;
+    argument.isRepeated = word.contains(QLatin1String("..."));
     word.remove(QLatin1Char('[')).remove(QLatin1Char(']')).remove(QLatin1String("..."));
-    place.name = word;
+    argument.name = word;
     if (word.contains(QLatin1Char('|'))) {
-        place.kind = Place::Values;
-        place.values = word.split(QLatin1Char('|'));
-        place.name = QStringLiteral("value");
+        argument.kind = Argument::Values;
+        argument.values = word.split(QLatin1Char('|'));
+        argument.name = QStringLiteral("value");
     } else if (files.contains(word)) {
-        place.kind = Place::File;
+        argument.kind = Argument::File;
     } else if (word == QLatin1String("COMMAND")) {
-        place.kind = Place::Commands;
+        argument.kind = Argument::Commands;
     } else if (word == QLatin1String("EDIT")) {
-        place.kind = Place::Edit;
+        argument.kind = Argument::Edit;
     }
-    return place;
+    return argument;
 }
 
-QVector<Place> placesOf(const options::CommandInfo &command)
+QVector<Argument> argumentsOf(const options::CommandInfo &command)
 {
-    QVector<Place> places;
+    QVector<Argument> arguments;
     for (const QString &word : command.arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts))
-        places.append(placeOf(word));
-    return places;
+        arguments.append(argumentOf(word));
+    return arguments;
 }
 
 // The commands by every name they have: `check` is one, too.
@@ -137,14 +137,14 @@ QString bashValues()
     QStringList others;
     QString cases;
     for (const options::OptionInfo &option : options::allOptions()) {
-        const Place place = placeOf(option.value);
+        const Argument argument = argumentOf(option.value);
         if (option.value.isEmpty())
             continue;
-        if (place.kind == Place::Values)
+        if (argument.kind == Argument::Values)
             cases += QStringLiteral("        %1) _kwgantt_words \"%2\"; return ;;\n")
-                         .arg(joined(written(option), "|"), joined(place.values));
+                         .arg(joined(written(option), "|"), joined(argument.values));
         else
-            (place.kind == Place::File ? files : others) += written(option);
+            (argument.kind == Argument::File ? files : others) += written(option);
     }
     cases += QStringLiteral("        %1) return ;;\n").arg(joined(files, "|"));
     cases += QStringLiteral("        %1) compopt +o default; return ;;\n").arg(joined(others, "|"));
@@ -158,24 +158,24 @@ QString bashPlaces()
         QStringList options;
         for (const options::OptionInfo &option : options::optionsOf(command.name))
             options += written(option);
-        QString places;
-        const QVector<Place> all = placesOf(command);
+        QString arguments;
+        const QVector<Argument> all = argumentsOf(command);
         for (int i = 0; i < all.size(); ++i) {
             const QString pattern = all.at(i).isRepeated ? QStringLiteral("*") : QString::number(i + 1);
-            if (all.at(i).kind == Place::Values || all.at(i).kind == Place::Commands)
-                places += QStringLiteral(" %1) _kwgantt_words \"%2\" ;;")
-                              .arg(pattern, joined(all.at(i).kind == Place::Values ? all.at(i).values
-                                                                                   : commandNames()));
-            else if (all.at(i).kind == Place::Text)
-                places += QStringLiteral(" %1) compopt +o default ;;").arg(pattern);
-            else if (all.at(i).kind == Place::Edit)
-                places += QStringLiteral(" *) [ $place -lt 2 ] || _kwgantt_edit ;;");
+            if (all.at(i).kind == Argument::Values || all.at(i).kind == Argument::Commands)
+                arguments += QStringLiteral(" %1) _kwgantt_words \"%2\" ;;")
+                                 .arg(pattern, joined(all.at(i).kind == Argument::Values ? all.at(i).values
+                                                                                         : commandNames()));
+            else if (all.at(i).kind == Argument::Text)
+                arguments += QStringLiteral(" %1) compopt +o default ;;").arg(pattern);
+            else if (all.at(i).kind == Argument::Edit)
+                arguments += QStringLiteral(" *) [ $argument -lt 2 ] || _kwgantt_edit ;;");
         }
         cases += QStringLiteral("        %1)\n"
                                 "            if [[ $word == -* ]]; then _kwgantt_words \"%2\"; return; fi\n")
                      .arg(command.name, joined(options));
-        if (!places.isEmpty())
-            cases += QStringLiteral("            case $place in%1 esac\n").arg(places);
+        if (!arguments.isEmpty())
+            cases += QStringLiteral("            case $argument in%1 esac\n").arg(arguments);
         cases += QStringLiteral("            ;;\n");
     }
     return cases;
@@ -187,7 +187,7 @@ QString bashEdits()
     for (const QString &first : firstWords()) {
         const QStringList second = secondWords(first);
         if (!second.isEmpty())
-            cases += QStringLiteral("        %1) [ $place -ne 3 ] || _kwgantt_words \"%2\" ;;\n")
+            cases += QStringLiteral("        %1) [ $argument -ne 3 ] || _kwgantt_words \"%2\" ;;\n")
                          .arg(first, joined(second));
     }
     const QString fields = QStringLiteral("        %1) compopt -o nospace; _kwgantt_words \"%2\" ;;\n");
@@ -208,14 +208,14 @@ _kwgantt_words() { mapfile -t COMPREPLY < <(compgen -W "$1" -- "$word"); }
 
 _kwgantt_edit()
 {
-    if [ $place -eq 2 ]; then _kwgantt_words "%1"; return; fi
+    if [ $argument -eq 2 ]; then _kwgantt_words "%1"; return; fi
     case ${given[2]} in
 %2    esac
 }
 
 _kwgantt()
 {
-    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} i place
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD-1]} i argument
     local -a given=()
     COMPREPLY=()
     # bash takes "--scale=week" for three words.
@@ -229,10 +229,10 @@ _kwgantt()
             *) given+=("${COMP_WORDS[i]}") ;;
         esac
     done
-    place=${#given[@]}
+    argument=${#given[@]}
     case $before in
 %4    esac
-    if [ $place -eq 0 ]; then _kwgantt_words "%5"; return; fi
+    if [ $argument -eq 0 ]; then _kwgantt_words "%5"; return; fi
     case ${given[0]} in
 %6    esac
 }
@@ -252,27 +252,27 @@ QString zshText(QString text)
     return text.replace(QLatin1Char('\''), QLatin1String("'\\''"));
 }
 
-QString zshAction(const Place &place)
+QString zshAction(const Argument &argument)
 {
-    switch (place.kind) {
-    case Place::File:
-        return QStringLiteral(":%1:_files").arg(place.name);
-    case Place::Values:
-        return QStringLiteral(":%1:(%2)").arg(place.name, joined(place.values));
-    case Place::Commands:
-        return QStringLiteral(":%1:(%2)").arg(place.name, joined(commandNames()));
-    case Place::Edit:
-        return QStringLiteral(":%1:_kwgantt_edit").arg(place.name);
-    case Place::Text:
+    switch (argument.kind) {
+    case Argument::File:
+        return QStringLiteral(":%1:_files").arg(argument.name);
+    case Argument::Values:
+        return QStringLiteral(":%1:(%2)").arg(argument.name, joined(argument.values));
+    case Argument::Commands:
+        return QStringLiteral(":%1:(%2)").arg(argument.name, joined(commandNames()));
+    case Argument::Edit:
+        return QStringLiteral(":%1:_kwgantt_edit").arg(argument.name);
+    case Argument::Text:
         break;
     }
-    return QStringLiteral(":%1: ").arg(zshText(place.name));
+    return QStringLiteral(":%1: ").arg(zshText(argument.name));
 }
 
 QString zshOption(const QString &command, const options::OptionInfo &option)
 {
     const QString meaning = QLatin1Char('[') + zshText(meaningOf(command, option)) + QLatin1Char(']');
-    const QString value = option.value.isEmpty() ? QString() : zshAction(placeOf(option.value));
+    const QString value = option.value.isEmpty() ? QString() : zshAction(argumentOf(option.value));
     const QString isLong = option.value.isEmpty() ? QString() : QStringLiteral("=");
     QString text;
     for (const QString &form : written(option)) {
@@ -293,10 +293,10 @@ QString zsh()
         QString arguments;
         for (const options::OptionInfo &option : options::optionsOf(command.name))
             arguments += zshOption(command.topic, option);
-        for (const Place &place : placesOf(command)) {
-            const bool isOpen = place.isRepeated || place.kind == Place::Edit;
+        for (const Argument &argument : argumentsOf(command)) {
+            const bool isOpen = argument.isRepeated || argument.kind == Argument::Edit;
             arguments += QStringLiteral(" \\\n                '%1%2'")
-                             .arg(isOpen ? QStringLiteral("*") : QString(), zshAction(place));
+                             .arg(isOpen ? QStringLiteral("*") : QString(), zshAction(argument));
         }
         cases +=
             QStringLiteral("            %1)\n            _arguments%2 ;;\n").arg(command.name, arguments);
@@ -367,20 +367,21 @@ QString fish()
             text += condition + QLatin1String(" -l ") + option.name;
             if (!option.letter.isEmpty())
                 text += QLatin1String(" -s ") + option.letter;
-            const Place place = placeOf(option.value);
-            if (place.kind == Place::File)
+            const Argument argument = argumentOf(option.value);
+            if (argument.kind == Argument::File)
                 text += QLatin1String(" -r -F");
-            else if (place.kind == Place::Values)
-                text += QLatin1String(" -x -a ") + fishText(joined(place.values));
+            else if (argument.kind == Argument::Values)
+                text += QLatin1String(" -x -a ") + fishText(joined(argument.values));
             else if (!option.value.isEmpty())
                 text += QLatin1String(" -x");
             text += QLatin1String(" -d ") + fishText(meaningOf(command.topic, option)) + QLatin1Char('\n');
         }
-        for (const Place &place : placesOf(command)) {
-            if (place.kind == Place::Values || place.kind == Place::Commands)
-                text += condition + QLatin1String(" -f -a ") +
-                        fishText(joined(place.kind == Place::Values ? place.values : commandNames())) +
-                        QLatin1Char('\n');
+        for (const Argument &argument : argumentsOf(command)) {
+            if (argument.kind == Argument::Values || argument.kind == Argument::Commands)
+                text +=
+                    condition + QLatin1String(" -f -a ") +
+                    fishText(joined(argument.kind == Argument::Values ? argument.values : commandNames())) +
+                    QLatin1Char('\n');
         }
     }
     const QString edit = QStringLiteral("complete -c kwgantt -n '__fish_seen_subcommand_from edit");

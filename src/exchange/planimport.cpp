@@ -243,11 +243,11 @@ private:
 
     void setDates()
     {
-        using Place = std::pair<staged::MomentField, quint32 TaskRecord::*>;
-        constexpr Place others[] = {{staged::LateStart, &KWTaskInfo::LateStart},
-                                    {staged::LateFinish, &KWTaskInfo::LateFinish},
-                                    {staged::BaseStart, &KWTaskInfo::BaseStart},
-                                    {staged::BaseFinish, &KWTaskInfo::BaseFinish}};
+        using DateField = std::pair<staged::MomentField, quint32 TaskRecord::*>;
+        constexpr DateField others[] = {{staged::LateStart, &KWTaskInfo::LateStart},
+                                        {staged::LateFinish, &KWTaskInfo::LateFinish},
+                                        {staged::BaseStart, &KWTaskInfo::BaseStart},
+                                        {staged::BaseFinish, &KWTaskInfo::BaseFinish}};
         if (!m_tasks.empty() && !m_tasks.back().code.isEmpty())
             m_imported.codes.reserve(int(m_tasks.size()));
         for (const staged::Task &staged : m_tasks) {

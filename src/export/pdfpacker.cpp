@@ -63,7 +63,7 @@ bool PdfPacker::put(const QByteArray &bytes)
     return m_isSound = m_isSound && m_device.write(bytes) == bytes.size();
 }
 
-PdfPacker::Place &PdfPacker::place(int number)
+PdfPacker::ObjectPlace &PdfPacker::place(int number)
 {
     if (std::size_t(number) >= m_places.size())
         m_places.resize(std::size_t(number) + 1);
@@ -142,7 +142,7 @@ bool PdfPacker::takeStream(int number, int begin)
         }
         if (length != at - content || rest != '\n' + objectEnd)
             continue;
-        place(number) = {Place::InFile, quint32(m_written), 0};
+        place(number) = {ObjectPlace::InFile, quint32(m_written), 0};
         put(m_pending.left(lengthAt + mark.size()) + QByteArray::number(length) +
             m_pending.mid(behindLength, at - behindLength) + streamEnd);
         m_pending.remove(0, digits + rest.size());
@@ -153,7 +153,7 @@ bool PdfPacker::takeStream(int number, int begin)
 
 void PdfPacker::pack(int number, const QByteArray &body)
 {
-    place(number) = {Place::Packed, quint32(m_groups.size()), quint16(m_grouped)};
+    place(number) = {ObjectPlace::Packed, quint32(m_groups.size()), quint16(m_grouped)};
     m_index += QByteArray::number(number) + ' ' + QByteArray::number(m_bodies.size()) + ' ';
     m_bodies += body;
     if (++m_grouped == objectsInGroup)
@@ -172,7 +172,7 @@ void PdfPacker::closeGroup()
 
 bool PdfPacker::putStream(int number, const QByteArray &dictionary, const QByteArray &content)
 {
-    place(number) = {Place::InFile, quint32(m_written), 0};
+    place(number) = {ObjectPlace::InFile, quint32(m_written), 0};
     return put(QByteArray::number(number) + " 0 obj\n<< " + dictionary + " /Filter /FlateDecode /Length " +
                QByteArray::number(content.size()) + " >>" + streamMark + content + streamEnd);
 }
@@ -200,13 +200,13 @@ bool PdfPacker::finish()
     }
     const qint64 tableAt = m_written;
     const int table = int(m_places.size());
-    place(table) = {Place::InFile, quint32(tableAt), 0};
+    place(table) = {ObjectPlace::InFile, quint32(tableAt), 0};
     QByteArray rows;
     for (std::size_t number = 0; number < m_places.size(); ++number) {
-        const Place &at = m_places[number];
-        const bool isFree = at.kind == Place::Free;
-        rows.append(char(at.kind == Place::InFile ? 1 : isFree ? 0 : 2));
-        addBigEndian(rows, at.kind == Place::Packed ? quint32(firstGroup) + at.at : at.at, 4);
+        const ObjectPlace &at = m_places[number];
+        const bool isFree = at.kind == ObjectPlace::Free;
+        rows.append(char(at.kind == ObjectPlace::InFile ? 1 : isFree ? 0 : 2));
+        addBigEndian(rows, at.kind == ObjectPlace::Packed ? quint32(firstGroup) + at.at : at.at, 4);
         addBigEndian(rows, isFree && number == 0 ? 0xffff : at.index, 2);
     }
     return tableAt <= std::numeric_limits<quint32>::max() &&

@@ -22,7 +22,7 @@ public:
     static bool isOfUse();
 
 private:
-    struct Place
+    struct ObjectPlace
     {
         enum Kind : quint8 { Free, InFile, Packed };
         Kind kind = Free;
@@ -37,7 +37,7 @@ private:
     void closeGroup();
     bool put(const QByteArray &bytes);
     bool putStream(int number, const QByteArray &dictionary, const QByteArray &content);
-    Place &place(int number);
+    ObjectPlace &place(int number);
 
     QIODevice &m_device;
     QByteArray m_pending; // not yet understood
@@ -45,8 +45,8 @@ private:
     qint64 m_written = 0;
     bool m_hasHeader = false;
     bool m_isSound = true;
-    std::vector<Place> m_places;  // by number
-    QByteArray m_index, m_bodies; // of the group that is being filled
+    std::vector<ObjectPlace> m_places; // by number
+    QByteArray m_index, m_bodies;      // of the group that is being filled
     int m_grouped = 0;
     struct Group
     {

@@ -159,7 +159,7 @@ public:
 
 private:
     // A working date by its place in the calendar, and the seconds of its work that are done.
-    struct Place
+    struct WorkPoint
     {
         qint64 index = 0;
         qint64 workedSecs = 0;
@@ -199,7 +199,7 @@ private:
         return best;
     }
 
-    HourPoint finishAt(Place place) const
+    HourPoint finishAt(WorkPoint place) const
     {
         const int day = dayAt(place.index);
         if (place.workedSecs == 0)
@@ -208,7 +208,7 @@ private:
         return {day, m_calendar.breaks(day).freeHour[size_t(hoursBefore)] * secsPerHour + place.workedSecs -
                          hoursBefore * secsPerHour};
     }
-    HourPoint startAt(Place place) const
+    HourPoint startAt(WorkPoint place) const
     {
         const int day = dayAt(place.index);
         const Breaks &breaks = m_calendar.breaks(day);
@@ -244,12 +244,12 @@ private:
         return qint64(m_calendar.breaks(dayAt(index)).freeHours) * secsPerHour;
     }
 
-    Place placeOf(HourPoint point) const
+    WorkPoint placeOf(HourPoint point) const
     {
         // On a day off only its beginning or its end are met: the previous working date is done.
         if (!works(point.day)) {
             const qint64 before = indexOf(point.day) - 1;
-            return before < 0 ? Place{0, 0} : Place{before, total(before)};
+            return before < 0 ? WorkPoint{0, 0} : WorkPoint{before, total(before)};
         }
         const Breaks &breaks = m_calendar.breaks(point.day);
         const qint64 hour = point.secs / secsPerHour;
@@ -261,9 +261,9 @@ private:
     }
 
     // Working dates on, and seconds of work on; within a date from none to all of its work.
-    Place moved(HourPoint point, qint64 days, qint64 secs) const
+    WorkPoint moved(HourPoint point, qint64 days, qint64 secs) const
     {
-        Place place = placeOf(point);
+        WorkPoint place = placeOf(point);
         place.index += days;
         place.workedSecs += secs;
         for (int carries = 0; carries < maxCarries && clampToTable(place); ++carries) {
@@ -283,7 +283,7 @@ private:
 
     // Brings a place before the first or after the last date to that date's beginning or end; false when it
     // did.
-    bool clampToTable(Place &place) const
+    bool clampToTable(WorkPoint &place) const
     {
         if (place.index >= 0 && place.index < count())
             return true;

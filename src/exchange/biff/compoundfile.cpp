@@ -501,10 +501,10 @@ bool CompoundFile::Close()
     return isWritten;
 }
 
-CompoundFile::Place CompoundFile::place(const QString &path) const
+CompoundFile::PathEnd CompoundFile::place(const QString &path) const
 {
     QStringList names = path.split(QLatin1Char('/'));
-    Place at;
+    PathEnd at;
     at.node = path.startsWith(QLatin1Char('/')) ? 0 : m_directory;
     for (const QString &name : qAsConst(names)) {
         if (name.isEmpty() || name == QLatin1String("."))
@@ -523,7 +523,7 @@ CompoundFile::Place CompoundFile::place(const QString &path) const
 
 int CompoundFile::make(const QString &path, Property::Kind kind)
 {
-    const Place at = place(path);
+    const PathEnd at = place(path);
     static const QString forbidden = QStringLiteral("/\\:!");
     const bool isName =
         !at.name.isEmpty() && at.name.size() <= longestName &&

@@ -175,7 +175,7 @@ public:
 
 private:
     // Where a path leads. `node` is -1 when only the last name is missing, `parent` is -1 when more is.
-    struct Place
+    struct PathEnd
     {
         int parent = -1;
         int node = -1;
@@ -192,7 +192,7 @@ private:
     bool openMiniStream() const;
     bool content(int node, QByteArray *content) const;
     quint64 contentSize(int node) const;
-    Place place(const QString &path) const;
+    PathEnd place(const QString &path) const;
     int make(const QString &path, Property::Kind kind);
 
     bool m_isOpen = false;
