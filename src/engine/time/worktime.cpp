@@ -22,7 +22,7 @@ LocalClock::Wall toDayWall(const WorkCalendar &calendar, HourPoint shown)
     if (finishHour == 24) {
         if (shown.secs == secsPerDay)
             return {shown.day + 1, 0};
-    } else if (shown.secs >= spanFrom && shown.secs <= finishHour * secsPerHour) {
+    } else if (shown.secs >= spanFrom && shown.secs <= qint64(finishHour) * secsPerHour) {
         // The usual case, in 32 bits: seconds x 86400 / (hours x 3600).
         const unsigned int ofDay =
             unsigned(shown.secs - spanFrom) * 24 / unsigned(finishHour - calendar.startHour());

@@ -163,7 +163,7 @@ private:
     qint64 breakSecsBefore(const Breaks &of, qint64 secs) const
     {
         const unsigned int within =
-            unsigned(std::clamp<qint64>(secs, m_startHour * secsPerHour, m_finishHour * secsPerHour));
+            unsigned(std::clamp(secs, qint64(m_startHour) * secsPerHour, qint64(m_finishHour) * secsPerHour));
         const unsigned int hour = within / secsPerHour;
         const unsigned int rest = within - hour * secsPerHour;
         const qint64 before = of.secsBefore[hour];
