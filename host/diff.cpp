@@ -12,7 +12,7 @@
 #include "texts.h"
 #include "texttable.h"
 #include "textwidth.h"
-#include "workingtime.h"
+#include "writtencalendar.h"
 #include <QHash>
 #include <QSet>
 #include <algorithm>
@@ -281,8 +281,8 @@ public:
         , m_newTimes(after)
         , m_older(partnersOf(before, after))
         , m_isCalendarChanged(exceptionsOf(before) != exceptionsOf(after) ||
-                              workingtime::describe(workingtime::of(*before.document)) !=
-                                  workingtime::describe(workingtime::of(*after.document)))
+                              writtencalendar::describe(writtencalendar::of(*before.document)) !=
+                                  writtencalendar::describe(writtencalendar::of(*after.document)))
     {
     }
 
@@ -308,8 +308,8 @@ public:
                     t("row %1").arg(
                         arrow(QString::number(m_older[std::size_t(pos)] + 1), QString::number(pos + 1))));
         compareText(QT_TR_NOOP("working time"), "calendar",
-                    workingtime::describe(workingtime::of(*m_before.document)),
-                    workingtime::describe(workingtime::of(*m_after.document)));
+                    writtencalendar::describe(writtencalendar::of(*m_before.document)),
+                    writtencalendar::describe(writtencalendar::of(*m_after.document)));
         compareLists(QT_TR_NOOP("exception"), "calendar", exceptionsOf(m_before), exceptionsOf(m_after));
         compareLists(QT_TR_NOOP("resource"), "sheet", sheetOf(m_before), sheetOf(m_after));
         compareText(QT_TR_NOOP("order of the columns"), "table",

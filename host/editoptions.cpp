@@ -2,7 +2,7 @@
 #include "edit.h"
 #include "table/rowcolumndata.h"
 #include "texts.h"
-#include "workingtime.h"
+#include "writtencalendar.h"
 
 namespace editverbs {
 
@@ -13,7 +13,7 @@ namespace {
 bool addException(Edit &edit, bool works)
 {
     WorkingTime written;
-    if (!workingtime::parseHoliday(edit.words.first(), written))
+    if (!writtencalendar::parseHoliday(edit.words.first(), written))
         return edit.refuse(t("'%1' is no date").arg(edit.words.first()),
                            t("write it as 2026-12-25 or 2026-12-24..2026-12-31"));
     const WorkingTime::Exception &exception = written.exceptions.front();
@@ -105,7 +105,7 @@ constexpr OptionField optionTable[] = {
 bool setDays(Edit &edit)
 {
     WorkingTime written;
-    if (!workingtime::parseDays(edit.words.first(), written))
+    if (!writtencalendar::parseDays(edit.words.first(), written))
         return edit.refuse(t("'%1' are no weekdays").arg(edit.words.first()),
                            t("write it as Mon-Fri or Mon-Thu,Sat"));
     return edit.take(edit.edits.setWorkDays(written.week));
@@ -114,8 +114,8 @@ bool setDays(Edit &edit)
 bool setHours(Edit &edit)
 {
     WorkingTime written;
-    if (!workingtime::parseHours(edit.words.first(), written))
-        return edit.refuse(workingtime::hoursFault(edit.words.first()),
+    if (!writtencalendar::parseHours(edit.words.first(), written))
+        return edit.refuse(writtencalendar::hoursFault(edit.words.first()),
                            t("write it as 08:00-12:00,13:00-17:00"));
     QVector<DayHours> hours;
     for (const WorkingTime::Interval &interval : written.hours)

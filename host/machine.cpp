@@ -7,7 +7,7 @@
 #include "sheettext.h"
 #include "shown.h"
 #include "support/findings.h"
-#include "workingtime.h"
+#include "writtencalendar.h"
 #include <QTimeZone>
 #include <algorithm>
 
@@ -57,7 +57,7 @@ QByteArray planMembers(const Plan &plan)
     QByteArrayList members{
         member("name", jsonText(plan.name)),
         member("timeZone", jsonText(QString::fromLatin1(QTimeZone::systemTimeZoneId()))),
-        member("workingTime", jsonText(workingtime::describe(workingtime::of(*plan.document))))};
+        member("workingTime", jsonText(writtencalendar::describe(writtencalendar::of(*plan.document))))};
     if (first.date.isValid()) {
         members.append(member("projectStart", jsonText(shown::startOf(plan, plan.start).iso())));
         members.append(member("start", jsonText(first.iso())));

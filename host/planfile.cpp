@@ -13,7 +13,7 @@
 #include "taskref.h"
 #include "texts.h"
 #include "workbookfile.h"
-#include "workingtime.h"
+#include "writtencalendar.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -80,20 +80,20 @@ int readCalendar(const QString &planPath, Console &console, Plan &plan, ProjectS
     if (!path.isEmpty()) {
         QByteArray json;
         QString error;
-        if (!readBytes(path, workingtime::largestFileBytes, json, error) ||
-            !workingtime::read(json, time, findings, error)) {
+        if (!readBytes(path, writtencalendar::largestFileBytes, json, error) ||
+            !writtencalendar::read(json, time, findings, error)) {
             console.error(path + QLatin1String(": ") + error, t("--calendar FILE names another calendar"));
             return Console::CannotRead;
         }
     }
-    if (!options.days.isEmpty() && !workingtime::parseDays(options.days, time))
+    if (!options.days.isEmpty() && !writtencalendar::parseDays(options.days, time))
         return wrongOption(console, "--days", options.days, t("write it as Mon-Fri or Mon-Thu,Sat"));
-    if (!options.hours.isEmpty() && !workingtime::parseHours(options.hours, time))
+    if (!options.hours.isEmpty() && !writtencalendar::parseHours(options.hours, time))
         return wrongOption(console, "--hours", options.hours,
-                           workingtime::hoursFault(options.hours) + QLatin1String("; ") +
+                           writtencalendar::hoursFault(options.hours) + QLatin1String("; ") +
                                t("write it as 08:00-12:00,13:00-17:00"));
     for (const QString &holiday : options.holidays)
-        if (!workingtime::parseHoliday(holiday, time))
+        if (!writtencalendar::parseHoliday(holiday, time))
             return wrongOption(console, "--holiday", holiday,
                                t("write it as 2026-12-25 or 2026-12-24..2026-12-31"));
     if (!options.start.isEmpty() && !datetext::parseMoment(options.start, time.start))
@@ -279,7 +279,7 @@ namespace {
 // What the calendar file beside a plan is to say.
 WorkingTime calendarOf(const Plan &plan)
 {
-    WorkingTime time = workingtime::of(*plan.document);
+    WorkingTime time = writtencalendar::of(*plan.document);
     time.projectName = plan.projectName;
     if (plan.imported.isStartGiven) {
         const shown::Clock start = shown::startOf(plan, plan.start);
@@ -296,12 +296,13 @@ bool saysTheSame(const QString &path, const Plan &plan, const WorkingTime &calen
     QByteArray json;
     QString error;
     Findings findings;
-    if (!readBytes(path, workingtime::largestFileBytes, json, error) ||
-        !workingtime::read(json, time, findings, error) || time.start.isGiven() != calendar.start.isGiven())
+    if (!readBytes(path, writtencalendar::largestFileBytes, json, error) ||
+        !writtencalendar::read(json, time, findings, error) ||
+        time.start.isGiven() != calendar.start.isGiven())
         return false;
     if (time.start.isGiven() && plan::startSecs(*plan.document, time.start) == plan.start)
         time.start = calendar.start;
-    return workingtime::toJson(time) == workingtime::toJson(calendar);
+    return writtencalendar::toJson(time) == writtencalendar::toJson(calendar);
 }
 }
 
@@ -314,7 +315,7 @@ std::vector<Side> sidesOf(const Plan &plan, const QString &path)
         return {};
     const bool hasSheet = !plan.document->resourceInfoData()->infos.isEmpty();
     const WorkingTime calendar = calendarOf(plan);
-    const QByteArray json = workingtime::toJson(calendar);
+    const QByteArray json = writtencalendar::toJson(calendar);
     std::vector<Side> sides;
     // Where nothing is to be said, an older file beside the plan must not say it. One that says the same
     // stays.
@@ -329,7 +330,7 @@ std::vector<Side> sidesOf(const Plan &plan, const QString &path)
             return;
         sides.push_back({path.left(path.lastIndexOf(QLatin1Char('.')) + 1) + QLatin1String(name), bytes});
     };
-    add("calendar.json", json != workingtime::toJson(WorkingTime()), json, true);
+    add("calendar.json", json != writtencalendar::toJson(WorkingTime()), json, true);
     if (isWorkbook)
         return sides;
     add("resources.csv", hasSheet, csvplan::resources(*plan.document));
@@ -348,7 +349,7 @@ bool sidesAfter(const Plan &before, const Plan &after, const Options &options, s
                 std::vector<bool> &isChanged)
 {
     const bool hasSheet = !after.document->resourceInfoData()->infos.isEmpty();
-    const auto calendar = [](const Plan &plan) { return workingtime::toJson(calendarOf(plan)); };
+    const auto calendar = [](const Plan &plan) { return writtencalendar::toJson(calendarOf(plan)); };
     const auto add = [&](const char *name, const QString &option, const QByteArray &was, const QByteArray &is,
                          bool isNeeded) {
         const QString found = sidePath(after.file, option, name);

@@ -8,7 +8,7 @@
 #include "taskref.h"
 #include "texts.h"
 #include "textwidth.h"
-#include "workingtime.h"
+#include "writtencalendar.h"
 #include <QTimeZone>
 #include <algorithm>
 
@@ -403,7 +403,7 @@ QString title(const Plan &plan, const shown::Times &times, const Style &style, i
     QStringList first{name, counted(plan.taskCount(), "%1 task", "%1 tasks")};
     const Range range = rangeOf(plan, times);
     QStringList second{t("time zone %1").arg(QString::fromLatin1(QTimeZone::systemTimeZoneId())),
-                       workingtime::describe(workingtime::of(*plan.document))};
+                       writtencalendar::describe(writtencalendar::of(*plan.document))};
     QString late;
     if (range.first.isValid()) {
         const bool sameYear = range.first.year() == range.last.year();

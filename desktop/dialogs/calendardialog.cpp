@@ -4,7 +4,7 @@
 #include "model/kwtaskinfo.h"
 #include "schedule/kwcalendar.h"
 #include "texts.h"
-#include "workingtime.h"
+#include "writtencalendar.h"
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QComboBox>
@@ -172,7 +172,7 @@ void CalendarDialog::addRow(const DateException &exception)
 bool CalendarDialog::readHours(const QString &text, QVector<DayHours> &hours) const
 {
     WorkingTime read;
-    if (!workingtime::parseHours(QString(text).remove(QLatin1Char(' ')), read))
+    if (!writtencalendar::parseHours(QString(text).remove(QLatin1Char(' ')), read))
         return false;
     hours.clear();
     for (const WorkingTime::Interval &interval : read.hours)

@@ -1,7 +1,7 @@
 // Dates, times of day, durations, weekdays and hours as people write them.
 #include "datetext.h"
 #include "texts.h"
-#include "workingtime.h"
+#include "writtencalendar.h"
 #include <gtest/gtest.h>
 
 namespace {
@@ -72,9 +72,10 @@ TEST(DaysText, isReadOrRefused)
     for (const TextCase &row : cases) {
         SCOPED_TRACE(row.name);
         WorkingTime workingTime;
-        const bool isRead = workingtime::parseDays(QString::fromUtf8(row.text), workingTime);
-        EXPECT_EQ(isRead ? workingtime::describe(workingTime).section(QLatin1Char(' '), 0, -3).toStdString()
-                         : "",
+        const bool isRead = writtencalendar::parseDays(QString::fromUtf8(row.text), workingTime);
+        EXPECT_EQ(isRead
+                      ? writtencalendar::describe(workingTime).section(QLatin1Char(' '), 0, -3).toStdString()
+                      : "",
                   row.read);
     }
 }
@@ -91,8 +92,9 @@ TEST(HoursText, isReadOrRefused)
     for (const TextCase &row : cases) {
         SCOPED_TRACE(row.name);
         WorkingTime workingTime;
-        const bool isRead = workingtime::parseHours(QString::fromUtf8(row.text), workingTime);
-        EXPECT_EQ(isRead ? workingtime::describe(workingTime).section(QLatin1Char(' '), 1).toStdString() : "",
+        const bool isRead = writtencalendar::parseHours(QString::fromUtf8(row.text), workingTime);
+        EXPECT_EQ(isRead ? writtencalendar::describe(workingTime).section(QLatin1Char(' '), 1).toStdString()
+                         : "",
                   row.read);
     }
 }

@@ -23,7 +23,7 @@ struct WorkingTime : staged::Calendar
     int hoursPerDay() const;
 };
 
-namespace workingtime {
+namespace writtencalendar {
 
 constexpr int largestFileBytes = 16 * 1024 * 1024;
 constexpr int mostExceptions = 10000;

@@ -1,4 +1,4 @@
-#include "workingtime.h"
+#include "writtencalendar.h"
 #include "model/kwdocument.h"
 #include "schedule/kwcalendar.h"
 #include "support/findings.h"
@@ -22,7 +22,7 @@ int WorkingTime::hoursPerDay() const
     return total;
 }
 
-namespace workingtime {
+namespace writtencalendar {
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Calendar files.
 #include "support/findings.h"
-#include "workingtime.h"
+#include "writtencalendar.h"
 #include <gtest/gtest.h>
 
 namespace {
@@ -11,9 +11,9 @@ std::string picture(const char *json)
     WorkingTime workingTime;
     Findings warnings;
     QString error;
-    if (!workingtime::read(json, workingTime, warnings, error))
+    if (!writtencalendar::read(json, workingTime, warnings, error))
         return "refused: " + error.toStdString();
-    QString text = workingtime::describe(workingTime);
+    QString text = writtencalendar::describe(workingTime);
     for (const WorkingTime::Exception &exception : workingTime.exceptions)
         text += QStringLiteral("; %1..%2 %3")
                     .arg(exception.from.toString(Qt::ISODate), exception.to.toString(Qt::ISODate),
@@ -74,7 +74,7 @@ TEST(CalendarFile, isReadOrRefused)
 TEST(CalendarFile, moreExceptionsThanAnybodyHasAreRefused)
 {
     QByteArray json = "{\"exceptions\": [\"2026-01-01\"";
-    for (int i = 0; i < workingtime::mostExceptions; ++i)
+    for (int i = 0; i < writtencalendar::mostExceptions; ++i)
         json += ",\"2026-01-01\"";
     json += "]}";
     EXPECT_EQ(picture(json.constData()), "refused: more than 10,000 exceptions");
