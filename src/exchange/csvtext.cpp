@@ -1,5 +1,5 @@
 #include "exchange/csvtext.h"
-#include <array>
+#include "support/bytemarks.h"
 #include <cstring>
 #include <limits>
 
@@ -102,6 +102,7 @@ char sniffedDelimiter(const char *begin, const char *end)
             best = i;
     return candidates[best];
 }
+}
 
 // Walks the bytes once and cuts them into cells.
 class Scanner
@@ -113,9 +114,8 @@ public:
         , m_delimiter(delimiter)
         , m_line(line)
         , m_limits(limits)
+        , m_cellEnds(at, end, {delimiter, '\n', '\r', '\n'})
     {
-        for (const char sign : {delimiter, '\n', '\r'})
-            m_endsCell[uchar(sign)] = true;
     }
 
     const char *at() const { return m_at; }
@@ -163,13 +163,10 @@ private:
     bool readPlainCell(CellRange &cell, Fault &fault)
     {
         const char *const begin = m_at;
-        const char *at = begin;
-        while (at < m_end && !m_endsCell[uchar(*at)])
-            ++at;
-        m_at = at;
-        if (at - begin > m_limits.cellBytes)
+        m_at = m_cellEnds.next(begin);
+        if (m_at - begin > m_limits.cellBytes)
             return refuse(fault, m_line, t("a cell longer than %1 bytes").arg(m_limits.cellBytes));
-        cell = {begin, int(at - begin), false};
+        cell = {begin, int(m_at - begin), false};
         return true;
     }
 
@@ -225,11 +222,13 @@ private:
     const char m_delimiter;
     int m_line;
     const Limits &m_limits;
-    std::array<bool, 256> m_endsCell{}; // by byte, outside quotes
+    ByteMarks m_cellEnds; // outside quotes
     qint64 m_cells = 0;
     bool m_rowHasText = false;
     bool m_carriageReturns = false;
 };
+
+namespace {
 
 // Of a text that has been checked.
 const Limits &noLimits()
@@ -338,27 +337,56 @@ bool parse(const QByteArray &bytes, Table &table, Fault &fault, const Limits &li
 
 Rows::Rows(const Text &text)
     : m_bytes(text.bytes)
-    , m_at(m_bytes.constData() + text.begin)
-    , m_delimiter(text.delimiter.toLatin1())
-    , m_line(text.firstLine)
+    , m_scanner(std::make_unique<Scanner>(m_bytes.constData() + text.begin,
+                                          m_bytes.constData() + m_bytes.size(), text.delimiter.toLatin1(),
+                                          text.firstLine, noLimits()))
 {
 }
 
+Rows::~Rows() = default;
+
 bool Rows::next()
 {
-    const char *const end = m_bytes.constData() + m_bytes.size();
-    Scanner scanner(m_at, end, m_delimiter, m_line, noLimits());
     Fault fault;
     bool hasText = false;
-    while (!hasText && !scanner.isAtEnd()) {
-        m_rowLine = scanner.line();
-        if (!scanner.readRow(m_cells, fault))
+    while (!hasText && !m_scanner->isAtEnd()) {
+        m_rowLine = m_scanner->line();
+        if (!m_scanner->readRow(m_cells, fault))
             break;
-        hasText = scanner.rowHasText();
+        hasText = m_scanner->rowHasText();
     }
-    m_at = scanner.at();
-    m_line = scanner.line();
     return hasText;
+}
+
+namespace {
+
+// Whether all bytes are ASCII. Eight of them are widened at once, by way of a copy: it is clear of it that
+// neither text lies in the other.
+bool widen(const char *from, int size, ushort *to)
+{
+    constexpr int blockBytes = 8;
+    quint64 seen = 0;
+    const auto widenBlock = [&seen, from, to](int at, int bytes) {
+        uchar block[blockBytes] = {};
+        std::memcpy(block, from + at, std::size_t(bytes));
+        quint64 word = 0;
+        std::memcpy(&word, block, blockBytes);
+        seen |= word;
+        ushort wide[blockBytes];
+        for (int i = 0; i < blockBytes; ++i)
+            wide[i] = block[i];
+        std::memcpy(to + at, wide, std::size_t(bytes) * sizeof(ushort));
+    };
+    if (size < blockBytes) {
+        widenBlock(0, size);
+    } else {
+        for (int at = 0; at < size - blockBytes; at += blockBytes)
+            widenBlock(at, blockBytes);
+        widenBlock(size - blockBytes, blockBytes); // some of it once more
+    }
+    constexpr quint64 beyondAscii = 0x8080808080808080ULL;
+    return (seen & beyondAscii) == 0;
+}
 }
 
 void Rows::read(const CellRange &cell, QString &text)
@@ -367,16 +395,10 @@ void Rows::read(const CellRange &cell, QString &text)
         text.resize(cell.size);
     else
         text = QString(cell.size, Qt::Uninitialized);
-    const char *const end = cell.begin + cell.size;
-    QChar *to = text.data();
-    for (const char *at = cell.begin; at != end; ++at) {
-        if (uchar(*at) >= 0x80 || cell.hasQuotes) {
-            const QByteArray bytes = QByteArray::fromRawData(cell.begin, cell.size);
-            text = QString::fromUtf8(cell.hasQuotes ? QByteArray(bytes).replace("\"\"", "\"") : bytes);
-            return;
-        }
-        *to++ = QLatin1Char(*at);
-    }
+    if (!cell.hasQuotes && widen(cell.begin, cell.size, reinterpret_cast<ushort *>(text.data())))
+        return;
+    const QByteArray bytes = QByteArray::fromRawData(cell.begin, cell.size);
+    text = QString::fromUtf8(cell.hasQuotes ? QByteArray(bytes).replace("\"\"", "\"") : bytes);
 }
 
 QString quoted(const QString &text, QChar delimiter)

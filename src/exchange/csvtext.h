@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <memory>
 #include <vector>
 
 // Delimited text: UTF-8, quotes as in RFC 4180, comma, semicolon or tab.
@@ -72,12 +73,15 @@ struct CellRange
     bool hasQuotes = false; // quotes in it stand twice
 };
 
+class Scanner;
+
 // The rows of a text that has been checked, one after the other.
 class KWGANTT_EXPORT Rows
 {
 public:
     explicit Rows(const Text &text); // shares the bytes
-    bool next();                     // false after the last
+    ~Rows();
+    bool next(); // false after the last
     int line() const { return m_rowLine; }
     const std::vector<CellRange> &cells() const { return m_cells; }
     // The cell's text into a string whose memory is used again if it can be.
@@ -85,9 +89,7 @@ public:
 
 private:
     const QByteArray m_bytes;
-    const char *m_at;
-    char m_delimiter;
-    int m_line;
+    const std::unique_ptr<Scanner> m_scanner;
     int m_rowLine = 0;
     std::vector<CellRange> m_cells;
 };

@@ -1,4 +1,5 @@
 #include "support/xmlguard.h"
+#include "support/bytemarks.h"
 #include "support/said.h"
 #include <cstring>
 
@@ -19,6 +20,7 @@ public:
         : m_begin(text.constData())
         , m_at(m_begin)
         , m_end(m_begin + text.size())
+        , m_tagMarks(m_begin, m_end, {'<', '>', '"', '\''})
         , m_list(list)
     {
     }
@@ -38,6 +40,7 @@ private:
     const char *const m_begin;
     const char *m_at;
     const char *const m_end;
+    ByteMarks m_tagMarks; // what ends a run of plain bytes inside a tag
     xmlguard::ListPlace *const m_list;
     bool m_isInList = false;
     int m_elements = 0; // of the list
@@ -133,23 +136,10 @@ void Scan::noteEnd()
     m_list->end = int(m_at - m_begin);
 }
 
-// What ends a run of plain bytes inside a tag.
-const struct TagMarks
-{
-    bool is[256] = {};
-    TagMarks()
-    {
-        for (const char mark : {'<', '>', '"', '\''})
-            is[uchar(mark)] = true;
-    }
-} tagMarks;
-
 bool Scan::tag()
 {
     const bool isEndTag = startsWith("</");
-    for (const char *p = m_at + 1; p != m_end; ++p) {
-        if (!tagMarks.is[uchar(*p)])
-            continue;
+    for (const char *p = m_tagMarks.next(m_at + 1); p != m_end; p = m_tagMarks.next(p + 1)) {
         if (*p == '<') {
             m_at = p;
             return fail("'<' inside a tag");
@@ -170,10 +160,10 @@ bool Scan::tag()
             return true;
         }
         const char quote = *p;
-        const char *close = p + 1;
+        const char *close = m_tagMarks.next(p + 1);
         // A parser that took the quote for something else must not find markup in here either.
         while (close != m_end && *close != quote && *close != '<')
-            ++close;
+            close = m_tagMarks.next(close + 1);
         if (close == m_end || *close == '<') {
             m_at = p;
             return fail("an attribute value does not end");
@@ -184,15 +174,20 @@ bool Scan::tag()
     return fail("a tag does not end");
 }
 
-// Whether none of eight bytes is 0 or beyond ASCII; most of any file is like that.
-bool isPlainWord(const uchar *bytes)
+constexpr int plainBlock = 32;
+
+// Whether none of the bytes of a block is 0 or beyond ASCII; most of any file is like that.
+bool isPlainBlock(const uchar *bytes)
 {
     constexpr quint64 ones = 0x0101010101010101u;
     constexpr quint64 highBits = ones << 7;
-    quint64 word = 0;
-    std::memcpy(&word, bytes, sizeof word);
+    quint64 words[plainBlock / sizeof(quint64)];
+    std::memcpy(words, bytes, plainBlock);
+    quint64 seen = 0;
     // Taking 1 from each byte sets the high bit of a byte that was 0; the high bits are all clear before.
-    return ((word | (word - ones)) & highBits) == 0;
+    for (const quint64 word : words)
+        seen |= word | (word - ones);
+    return (seen & highBits) == 0;
 }
 
 // The first byte that is no sound UTF-8 or no character for XML; -1 when there is none.
@@ -201,8 +196,8 @@ int firstBadByte(const QByteArray &text)
     const auto *bytes = reinterpret_cast<const uchar *>(text.constData());
     const int size = text.size();
     for (int i = 0; i < size;) {
-        if (size - i >= 8 && isPlainWord(bytes + i)) {
-            i += 8;
+        if (size - i >= plainBlock && isPlainBlock(bytes + i)) {
+            i += plainBlock;
             continue;
         }
         const uint lead = bytes[i];

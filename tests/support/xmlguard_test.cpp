@@ -1,6 +1,9 @@
+#include "support/bytemarks.h"
 #include "support/xmlguard.h"
 #include <QDomDocument>
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 #include <vector>
 
 namespace {
@@ -118,6 +121,24 @@ TEST(XmlGuardClean, keepsWhatXmlCanCarry)
         SCOPED_TRACE(row.name);
         EXPECT_EQ(xmlguard::clean(row.text), row.expected);
     }
+}
+
+// Several blocks long, asked ahead, behind and at the end.
+RC_GTEST_PROP(ByteMarks, findsWhatAPlainLookFinds, ())
+{
+    const auto letters = *rc::gen::container<std::string>(
+        *rc::gen::inRange(0, 300),
+        rc::gen::weightedElement<char>({{40, 'a'}, {1, ','}, {1, '\n'}, {1, '\0'}, {1, '\xac'}}));
+    // No byte behind the text may count.
+    const std::vector<char> text(letters.begin(), letters.end());
+    const char *const begin = text.data();
+    const char *const end = begin + text.size();
+    const std::vector<char> marks{',', '\n'};
+    ByteMarks found(begin, end, {',', '\n', ',', '\n'});
+    for (const std::size_t place :
+         *rc::gen::container<std::vector<std::size_t>>(20, rc::gen::inRange<std::size_t>(0, text.size() + 1)))
+        RC_ASSERT(found.next(begin + place) ==
+                  std::find_first_of(begin + place, end, marks.begin(), marks.end()));
 }
 
 }
