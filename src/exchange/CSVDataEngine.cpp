@@ -14,6 +14,8 @@ namespace {
 // The rows of a text, the titles first.
 class TextSource : public sheetrows::Source
 {
+    using Need = sheetrows::Need;
+
 public:
     explicit TextSource(csv::Text text)
         : m_rowCount(text.rows)
@@ -31,26 +33,34 @@ public:
         row.number = ++m_number;
         row.line = m_rows->line();
         std::size_t count = 0;
+        bool isBlank = true; // as far as is sure
         for (std::size_t i = 0; i < m_rows->cells().size(); ++i) {
             const csv::CellRange &from = m_rows->cells()[i];
-            if (from.size == 0)
+            const Need need = needOf(i + 1);
+            if (from.size == 0 || need == Need::Nothing || (need == Need::Row && !isBlank))
                 continue;
             if (count == row.cells.size())
                 row.cells.emplace_back();
             sheetrows::Cell &cell = row.cells[count++];
             cell.column = int(i) + 1;
-            const bool isRead = m_isRead.empty() || (i + 1 < m_isRead.size() && m_isRead[i + 1]);
-            if (isRead || !hasSigns(from))
+            if (need == Need::Content || !hasSigns(from))
                 csv::Rows::read(from, cell.text);
             else
                 cell.text = m_anyText;
+            isBlank = isBlank && (need == Need::Presence || !hasSigns(from));
         }
         row.cells.resize(count);
         return true;
     }
-    void readOnly(const std::vector<bool> &columns) override { m_isRead = columns; }
+    void readOnly(const std::vector<Need> &needs) override { m_needs = needs; }
 
 private:
+    Need needOf(std::size_t column) const
+    {
+        if (column < m_needs.size())
+            return m_needs[column];
+        return m_needs.empty() ? Need::Content : Need::Presence;
+    }
     // Whether a cell surely has more than blanks.
     static bool hasSigns(const csv::CellRange &cell)
     {
@@ -59,7 +69,7 @@ private:
     }
 
     const QString m_anyText = QStringLiteral("-");
-    std::vector<bool> m_isRead; // by column; empty: all
+    std::vector<Need> m_needs; // by column; empty: all of them have content
     const int m_rowCount;
     std::optional<csv::Rows> m_rows;
     int m_number = 0;

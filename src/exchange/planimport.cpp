@@ -846,9 +846,11 @@ bool importBook(KWDocument &document, const Book &book, const sheetrows::Reading
             if (reading.isStrict && !isPlan(tasks, findings))
                 return false;
             tasks.finish(plan);
-            // Workbooks repeat the assignments below a summary for the summary.
-            assignments.leaveOut(summaryNames(plan));
-            assignments.findTasks(plan);
+            if (book.sheets[exceltitles::AssignmentSheet]) {
+                // Workbooks repeat the assignments below a summary for the summary.
+                assignments.leaveOut(summaryNames(plan));
+                assignments.findTasks(plan);
+            }
         } else if (sheet == exceltitles::ResourceSheet && isRead && reader.hasTitles()) {
             resources.finish(plan);
         } else if (sheet == exceltitles::AssignmentSheet && isRead && reader.isKnown()) {

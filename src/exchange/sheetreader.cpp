@@ -56,7 +56,7 @@ bool Reader::read(Source &source)
             showPercentages(row);
         if (row.number == 1 && !m_hasTitles) {
             readTitles(row);
-            source.readOnly(readColumns());
+            source.readOnly(needs());
         } else if (m_hasTitles) {
             readRow(row);
         } else {
@@ -132,13 +132,16 @@ void Reader::readTitles(const Row &row)
     }
 }
 
-// Those whose text is looked at.
-std::vector<bool> Reader::readColumns() const
+// By column, as readRow asks.
+std::vector<Need> Reader::needs() const
 {
-    std::vector<bool> isRead(m_fieldOfColumn.size());
-    for (std::size_t column = 0; column < isRead.size(); ++column)
-        isRead[column] = m_fieldOfColumn[column].field >= 0 && isFieldRead(m_fieldOfColumn[column].field);
-    return isRead;
+    std::vector<Need> needs(m_fieldOfColumn.size(), Need::Presence);
+    for (std::size_t column = 0; column < needs.size(); ++column) {
+        const int field = m_fieldOfColumn[column].field;
+        if (m_hasTitle[column])
+            needs[column] = field < 0 ? Need::Nothing : isFieldRead(field) ? Need::Content : Need::Row;
+    }
+    return needs;
 }
 
 // What a spreadsheet shows as "50%" it holds as 0.5.

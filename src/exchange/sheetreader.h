@@ -94,7 +94,7 @@ protected:
 
 private:
     void readTitles(const Row &row);
-    std::vector<bool> readColumns() const;
+    std::vector<Need> needs() const;
     void readRow(const Row &row);
     void showPercentages(Row &row) const;
     void reportUntitled() const;

@@ -20,6 +20,14 @@ struct Row
     int line = 0; // where a user finds the row, when its number does not say it
 };
 
+// What is asked of the cells of a column.
+enum class Need : quint8 {
+    Nothing,
+    Row,      // whether they make their row one that is not blank: one such cell in a row is enough
+    Presence, // of each, whether it has anything but blanks
+    Content,
+};
+
 // One sheet, read once from its first row to its last.
 class Source
 {
@@ -27,9 +35,9 @@ public:
     virtual ~Source() = default;
     // Fills in the next row, in the order of the file; numbers may repeat or go back. False at the end.
     virtual bool next(Row &row) = 0;
-    // From now on, of columns from 1 for which this is false, and of those behind its end, only whether a
-    // cell has anything but blanks is asked: it may have any other text then.
-    virtual void readOnly(const std::vector<bool> &) {}
+    // What is asked of the columns, from 1, from now on; of those behind the last of them, presence. Cells of
+    // which no more is asked may be left out, or have any other text.
+    virtual void readOnly(const std::vector<Need> &) {}
     // How many rows there are at most, where that is known before; else 0.
     virtual std::size_t rowsAtMost() const { return 0; }
     // Why the sheet ended early; empty when it did not.

@@ -1,4 +1,5 @@
 #include "exchange/tasksheet.h"
+#include "engine/record/taskindex.h"
 #include "engine/text/columntypes.h"
 #include "engine/time/duration.h"
 #include "format/dataformat.h"
@@ -598,13 +599,13 @@ void TaskSheet::findLinks(staged::Plan &plan)
         else
             *found = several;
     };
-    QHash<quint32, int> placeOfId;
+    TaskIndex placeOfId; // the first of an ID that stands twice
     QHash<QString, int> placeOfCode, placeOfName;
     const bool hasIds =
         std::any_of(m_wanted.begin(), m_wanted.end(), [](const Wanted &wanted) { return wanted.isId; });
-    for (std::size_t i = m_tasks.size(); i-- > 0;) {
+    for (std::size_t i = 0; i < m_tasks.size(); ++i) {
         if (hasIds && m_tasks[i].id != 0)
-            placeOfId.insert(m_tasks[i].id, int(i)); // the first of an ID that stands twice
+            placeOfId.add(m_tasks[i].id, int(i));
         if (!m_wantedTexts.empty()) {
             QString code = m_tasks[i].code;
             add(placeOfCode, code.endsWith(QLatin1Char('.')) ? code.chopped(1) : code, int(i));
@@ -620,7 +621,7 @@ void TaskSheet::findLinks(staged::Plan &plan)
         // The first row stands below the titles.
         const qint64 row = qint64(wanted.number) + 1;
         if (wanted.isId) {
-            place = placeOfId.value(wanted.number, -1);
+            place = placeOfId.posOf(wanted.number);
         } else {
             const auto found = std::lower_bound(
                 m_tasks.begin(), m_tasks.end(), row,
