@@ -1,6 +1,8 @@
 #include "model/taskscan.h"
 #include "model/loadcheck.h"
 #include "support/xmlencode.h"
+#include <algorithm>
+#include <array>
 #include <cstring>
 
 using documentschema::Element;
@@ -47,6 +49,23 @@ bool takesDigits(Kind kind)
     return kind != Kind::Days && kind != Kind::Short;
 }
 
+// What a byte of a value is.
+enum Sign : quint8 { Plain = 0, NoDigit = 1, Escape = 2, Stop = 4 };
+
+const struct Signs
+{
+    std::array<quint8, 256> of;
+    Signs()
+    {
+        of.fill(NoDigit);
+        // Blanks other than " " would be read as such.
+        std::fill_n(of.begin(), 0x20, quint8(Stop));
+        std::fill_n(of.begin() + '0', 10, quint8(Plain));
+        of[uchar('<')] = of[uchar('"')] = Stop;
+        of[uchar('&')] = NoDigit | Escape;
+    }
+} signs;
+
 // The values of an element for those who ask by name, in the order of the names.
 class PieceSource
 {
@@ -79,6 +98,9 @@ TaskScan::Shape TaskScan::shapeOf(const Element &element, const char *tag)
     shape.tag = tag;
     for (const documentschema::Attribute &attribute : element.attributes)
         shape.names.push_back({attribute.name, attribute.kind});
+    shape.opened.reserve(shape.names.size());
+    for (const Name &name : shape.names)
+        shape.opened.push_back(std::string(name.text) + "=\"");
     return shape;
 }
 
@@ -113,7 +135,7 @@ bool TaskScan::unescape(const char *begin, const char *end, Piece &value)
 const char *TaskScan::attributes(const char *at, const Shape &shape)
 {
     constexpr std::ptrdiff_t mostDigits = 9;
-    m_values.assign(shape.names.size(), Piece());
+    m_values.resize(shape.names.size());
     std::size_t next = 0;
     while (*at == ' ') {
         ++at;
@@ -121,19 +143,17 @@ const char *TaskScan::attributes(const char *at, const Shape &shape)
         while (!value) {
             if (next == shape.names.size())
                 return nullptr;
-            const std::string_view name = shape.names[next++].text;
-            if (startsWith(at, name) && at[name.size()] == '=' && at[name.size() + 1] == '"')
-                value = at + name.size() + 2;
+            value = past(at, shape.opened[next]);
+            m_values[next++] = Piece();
         }
-        bool areDigits = true;
-        bool hasEscape = false;
-        // Blanks other than " " would be read as such.
-        for (at = value; *at != '"'; ++at) {
-            if (uchar(*at) < 0x20 || *at == '<')
-                return nullptr;
-            hasEscape = hasEscape || *at == '&';
-            areDigits = areDigits && *at >= '0' && *at <= '9';
-        }
+        quint8 seen = Plain;
+        quint8 sign = Plain;
+        for (at = value; ((sign = signs.of[uchar(*at)]) & Stop) == 0; ++at)
+            seen |= sign;
+        if (*at != '"')
+            return nullptr;
+        const bool areDigits = (seen & NoDigit) == 0;
+        const bool hasEscape = (seen & Escape) != 0;
         const Kind kind = shape.names[next - 1].kind;
         Piece &piece = m_values[next - 1];
         piece = {value, int(at - value)};
@@ -144,6 +164,7 @@ const char *TaskScan::attributes(const char *at, const Shape &shape)
             return nullptr;
         ++at;
     }
+    std::fill(m_values.begin() + std::ptrdiff_t(next), m_values.end(), Piece());
     return at;
 }
 

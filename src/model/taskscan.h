@@ -32,6 +32,7 @@ private:
     {
         std::string_view tag; // "<Task"
         std::vector<Name> names;
+        std::vector<std::string> opened; // the names up to their values: "ID=\""
     };
     static Shape shapeOf(const documentschema::Element &element, const char *tag);
     const char *attributes(const char *at, const Shape &shape);

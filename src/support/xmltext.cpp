@@ -2,37 +2,28 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace {
 
-// Nine digits always fit.
-bool isShortNumber(const char *data, int size)
+// Whether the text is digits alone, and few enough for any of them to fit; ten digits may fit.
+template <int mostDigits>
+bool readDigits(const char *data, int size, quint64 &number)
 {
-    if (size < 1 || size > 9)
+    if (size < 1 || size > mostDigits)
         return false;
+    number = 0;
     for (int i = 0; i < size; ++i) {
-        if (data[i] < '0' || data[i] > '9')
+        const uint digit = uint(uchar(data[i])) - '0';
+        if (digit > 9)
             return false;
+        number = number * 10 + digit;
     }
     return true;
 }
 
-// Ten digits may fit.
-bool isMoment(const char *data, int size)
-{
-    constexpr char greatest[] = "4294967295";
-    constexpr int digits = int(sizeof(greatest)) - 1;
-    return size == digits && isShortNumber(data, digits - 1) && data[digits - 1] >= '0' &&
-           data[digits - 1] <= '9' && std::memcmp(data, greatest, digits) <= 0;
-}
-
-quint32 shortNumber(const char *data, int size)
-{
-    quint32 number = 0;
-    for (int i = 0; i < size; ++i)
-        number = number * 10 + quint32(data[i] - '0');
-    return number;
-}
+constexpr int shortDigits = 9;
+constexpr int momentDigits = 10;
 
 // Whether both ways of reading agree on what is written: no blank, sign "+", word or hexadecimal number.
 bool isPlainDecimal(const char *data, int size)
@@ -47,13 +38,16 @@ bool isPlainDecimal(const char *data, int size)
 
 qint32 XmlText::toInt() const
 {
-    return isShortNumber(m_data, m_size) ? qint32(shortNumber(m_data, m_size)) : toString().toInt();
+    quint64 number = 0;
+    return readDigits<shortDigits>(m_data, m_size, number) ? qint32(number) : toString().toInt();
 }
 
 quint32 XmlText::toUInt() const
 {
-    return isShortNumber(m_data, m_size) || isMoment(m_data, m_size) ? shortNumber(m_data, m_size)
-                                                                     : toString().toUInt();
+    quint64 number = 0;
+    const bool isRead =
+        readDigits<momentDigits>(m_data, m_size, number) && number <= std::numeric_limits<quint32>::max();
+    return isRead ? quint32(number) : toString().toUInt();
 }
 
 namespace {
@@ -76,8 +70,9 @@ bool XmlText::isPlainNumber() const
 
 double XmlText::toDouble() const
 {
-    if (isShortNumber(m_data, m_size))
-        return shortNumber(m_data, m_size);
+    quint64 digits = 0;
+    if (readDigits<shortDigits>(m_data, m_size, digits))
+        return double(digits);
     double plain = 0;
     if (readPlainDecimal(m_data, m_size, plain))
         return plain;

@@ -1,5 +1,6 @@
 #include "engine/record/recordfaults.h"
 #include <QSet>
+#include <algorithm>
 
 namespace recordfaults {
 
@@ -12,8 +13,14 @@ constexpr quint32 milestoneSecs = 1; // some planners give a milestone a second
 // The first ID that stands twice; 0 when there is none. Lists are short, but a file may hold any.
 quint32 repeated(const QList<quint32> &ids)
 {
-    if (ids.size() < 2)
+    constexpr int few = 16; // are compared faster than hashed
+    if (ids.size() <= few) {
+        for (auto id = ids.begin(); id != ids.end(); ++id) {
+            if (std::find(ids.begin(), id, *id) != id)
+                return *id;
+        }
         return 0;
+    }
     QSet<quint32> seen;
     seen.reserve(ids.size());
     for (const quint32 id : ids) {
