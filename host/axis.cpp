@@ -172,12 +172,12 @@ qint64 secsOf(const QDate &date)
     return date.toJulianDay() * secsPerDay;
 }
 
-qint64 secsOf(quint32 secs)
+qint64 secsOf(const LocalClock &clock, quint32 secs)
 {
     // The clocks round to the minute; a second more would reach into the next column.
     constexpr qint64 minuteSecs = 60;
     const qint64 wholeMinutes = (secs + minuteSecs / 2) / minuteSecs * minuteSecs;
-    const LocalClock::Wall wall = LocalClock::current()->wall(wholeMinutes);
+    const LocalClock::Wall wall = clock.wall(wholeMinutes);
     return (wall.day + julianDayOf1970) * secsPerDay + wall.secs;
 }
 

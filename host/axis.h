@@ -34,7 +34,7 @@ struct Axis
 
 // Dates and moments of the day clock on the axis's own count.
 qint64 secsOf(const QDate &date);
-qint64 secsOf(quint32 secs);
+qint64 secsOf(const LocalClock &clock, quint32 secs);
 
 // An axis from one date to another, both inclusive. `wanted` is "auto" or a unit's name; the finest that fits
 // into `columns`, and the coarsest, cut off, when none does.

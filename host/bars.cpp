@@ -110,17 +110,19 @@ void paintTask(Line &line, const Plan &plan, const KWTaskInfo &task, const Axis 
                const Style &style)
 {
     // A late finish is given as the beginning of the next working day, which is no slack.
+    const LocalClock &clock = plan.document->workCalendar().clock();
     if (plan::workingMinutes(plan, task.Finish, task.LateFinish) > 0) {
         const quint32 lateFinish =
             KWTaskCollection::reduceFinishOnDayOff(plan.document.get(), task.LateFinish, true);
-        const Columns late = axis.columnsOf(axis::secsOf(task.Finish), axis::secsOf(lateFinish));
+        const Columns late =
+            axis.columnsOf(axis::secsOf(clock, task.Finish), axis::secsOf(clock, lateFinish));
         line.fill({columns.second, late.second}, style.slack, Style::Dim);
     }
     line.fill(columns, style.toDo, task.CriticalPath ? Style::Critical : Style::ToDoTone);
     if (task.Percent > 0) {
         const quint32 reached = KWTaskInfo::getTaskPercentFinishSecs(plan.document.get(), &task);
         const int doneEnd =
-            task.Percent < 1 ? columnsReached(axis, columns, axis::secsOf(reached)) : columns.second;
+            task.Percent < 1 ? columnsReached(axis, columns, axis::secsOf(clock, reached)) : columns.second;
         line.fill({columns.first, doneEnd}, style.done,
                   task.CriticalPath ? Style::Critical : Style::DoneTone);
     }
@@ -134,9 +136,10 @@ void add(QString &text, const Plan &plan, const shown::Times &times, const Axis 
     if (axis.isEmpty())
         return;
     const KWTaskInfo *task = plan.task(pos);
-    const qint64 start =
-        axis::secsOf(KWTaskCollection::moveForwarstartOnDayOff(plan.document.get(), task->Start, true));
-    const qint64 finish = axis::secsOf(task->Finish);
+    const LocalClock &clock = plan.document->workCalendar().clock();
+    const qint64 start = axis::secsOf(
+        clock, KWTaskCollection::moveForwarstartOnDayOff(plan.document.get(), task->Start, true));
+    const qint64 finish = axis::secsOf(clock, task->Finish);
     const Columns columns = axis.columnsOf(start, finish);
     if (task->isParent()) {
         paintSummary(line, axis, columns, start, finish, style);

@@ -148,7 +148,7 @@ Checked checkFile(Console &console, const QString &file, bool isOneOfMany)
     Checked checked;
     Plan plan;
     Findings findings;
-    checked.code = planfile::load(file, console, plan, findings);
+    checked.code = planfile::loadUnnumbered(file, console, plan, findings);
     if (checked.code != Console::Done) {
         checked.line = t("cannot be read as a plan");
         checked.data = "{\n  \"file\": " + machine::jsonText(file) +

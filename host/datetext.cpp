@@ -2,15 +2,24 @@
 #include "engine/time/civildate.h"
 #include "exchange/cellvalues.h"
 #include "format/dataformat.h"
+#include "format/wholenumber.h"
 #include "model/kwdocument.h"
 #include "texts.h"
+#include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace datetext {
 
 namespace {
 
 constexpr qint64 julianDayOf1970 = 2440588;
+
+void addNumber(QString &text, int number)
+{
+    char digits[std::numeric_limits<int>::digits10 + 2];
+    text += QLatin1String(digits, int(std::to_chars(digits, std::end(digits), number).ptr - digits));
+}
 }
 
 QDateTime Moment::when() const
@@ -49,7 +58,15 @@ QString durationText(double value, unsigned int unit)
 {
     static const char *const shortNames[] = {"y", "q", "mon", "w", "d", "h", "min"};
     constexpr int decimals = 3;
-    return DataFormat::formatNumber(value, 0, decimals, 1) + QLatin1String(shortNames[qMin(unit, 6u)]);
+    constexpr double leastLong = 1e9;
+    const QLatin1String name(shortNames[qMin(unit, 6u)]);
+    if (!isPlainWhole(value) || std::fabs(value) >= leastLong)
+        return DataFormat::formatNumber(value, 0, decimals, 1) + name;
+    constexpr int usualLength = 8;
+    QString text;
+    text.reserve(usualLength);
+    addNumber(text, int(value));
+    return text += name;
 }
 
 void addDate(QString &text, const QDate &date, int style)
@@ -67,7 +84,7 @@ void addDate(QString &text, const QDate &date, int style)
     text += language.months.at(parts.month - 1);
     if (style & Year) {
         text += QLatin1Char(' ');
-        text += QString::number(parts.year);
+        addNumber(text, parts.year);
     }
 }
 

@@ -186,6 +186,26 @@ bool refusesCalendar(Console &console, const QString &path)
     return true;
 }
 
+namespace {
+
+// All but the numbers of the outline.
+void describeTasks(Plan &plan)
+{
+    KWDocument &document = *plan.document;
+    ImportedPlan &imported = plan.imported;
+    imported.withoutStart.clear();
+    plan.links = 0;
+    for (const KWTaskInfo *task : document.taskList()) {
+        plan.links += task->Predecessors.size();
+        if (task->Start == 0 && !task->isParent())
+            imported.withoutStart.insert(task->ID);
+    }
+    plan.withoutStart = imported.withoutStart.size();
+    imported.isStartGiven = document.StartDate != 0;
+    plan.start = imported.isStartGiven ? document.StartDate : plan::firstStart(plan);
+}
+}
+
 int load(const QString &path, Console &console, Plan &plan, Findings &findings)
 {
     if (refusesCalendar(console, path))
@@ -212,25 +232,14 @@ int load(const QString &path, Console &console, Plan &plan, Findings &findings)
     plan.projectName = document.PlanName;
     plan.majorUnit = document.MajorUnit;
     plan.minorUnit = document.MinorUnit;
-    describe(plan);
+    describeTasks(plan);
     return Console::Done;
 }
 
 void describe(Plan &plan)
 {
-    KWDocument &document = *plan.document;
-    ImportedPlan &imported = plan.imported;
-    imported.codes = csvplan::outlineCodes(document);
-    imported.withoutStart.clear();
-    plan.links = 0;
-    for (const KWTaskInfo *task : document.taskList()) {
-        plan.links += task->Predecessors.size();
-        if (task->Start == 0 && !task->isParent())
-            imported.withoutStart.insert(task->ID);
-    }
-    plan.withoutStart = imported.withoutStart.size();
-    imported.isStartGiven = document.StartDate != 0;
-    plan.start = imported.isStartGiven ? document.StartDate : plan::firstStart(plan);
+    plan.imported.codes = csvplan::outlineCodes(*plan.document);
+    describeTasks(plan);
 }
 
 bool save(Console &console, Plan &plan, const QString &path, bool overwrite)

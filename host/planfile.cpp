@@ -239,9 +239,7 @@ bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &err
     }
 }
 
-namespace {
-
-int loadAny(const QString &path, Console &console, Plan &plan, Findings &findings)
+int loadUnnumbered(const QString &path, Console &console, Plan &plan, Findings &findings)
 {
     plan.file = path;
     plan.slackUnit = console.options().slackUnit;
@@ -263,11 +261,10 @@ int loadAny(const QString &path, Console &console, Plan &plan, Findings &finding
     }
     return loadWithCalendar(path, console, plan, findings);
 }
-}
 
 int load(const QString &path, Console &console, Plan &plan, Findings &findings)
 {
-    const int code = loadAny(path, console, plan, findings);
+    const int code = loadUnnumbered(path, console, plan, findings);
     // Numbers of the outline are the file's where it gives every task one.
     if (code == Console::Done && plan.imported.codes.size() < plan.taskCount())
         plan.imported.codes = csvplan::outlineCodes(*plan.document);

@@ -9,6 +9,8 @@ namespace planfile {
 // Reads the plan and its calendar and builds the document. What was found on the way is added to `findings`,
 // unless it is told at once because nothing can follow. Console::Done, or the exit code.
 int load(const QString &path, Console &console, Plan &plan, Findings &findings);
+// The same for those who show no numbers of the outline: where the file has none, the tasks have none.
+int loadUnnumbered(const QString &path, Console &console, Plan &plan, Findings &findings);
 
 // All bytes of a file, or of standard input for "-". False with a sentence in `error`.
 bool readBytes(const QString &path, qint64 most, QByteArray &bytes, QString &error);

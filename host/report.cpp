@@ -11,6 +11,7 @@
 #include "writtencalendar.h"
 #include <QTimeZone>
 #include <algorithm>
+#include <limits>
 
 namespace report {
 
@@ -37,16 +38,15 @@ struct Range
 // The dates that the plan's tasks touch.
 Range rangeOf(const Plan &plan, const shown::Times &times)
 {
-    Range range;
+    if (plan.taskCount() == 0)
+        return {};
+    int first = std::numeric_limits<int>::max();
+    int last = std::numeric_limits<int>::min();
     for (int pos = 0; pos < plan.taskCount(); ++pos) {
-        const QDate first = times.start(pos).date;
-        const QDate last = times.finish(pos).date;
-        if (!range.first.isValid() || first < range.first)
-            range.first = first;
-        if (!range.last.isValid() || last > range.last)
-            range.last = last;
+        first = std::min(first, times.startDay(pos));
+        last = std::max(last, times.finishDay(pos));
     }
-    return range;
+    return {LocalClock::dateOf(first), LocalClock::dateOf(last)};
 }
 
 bool parseRange(const QString &text, Range &range)

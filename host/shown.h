@@ -36,6 +36,9 @@ public:
     explicit Times(const Plan &plan);
     Clock start(int pos) const { return clockOf(m_dates.start(pos)); }
     Clock finish(int pos) const { return clockOf(m_dates.finish(pos)); }
+    // Days since 1970-01-01.
+    int startDay(int pos) const { return m_dates.start(pos).day; }
+    int finishDay(int pos) const { return m_dates.finish(pos).day; }
     // Where nothing is to spare they are the dates themselves.
     Clock lateStart(int pos) const { return clockOf(m_dates.lateStart(pos)); }
     Clock lateFinish(int pos) const { return clockOf(m_dates.lateFinish(pos)); }
