@@ -6,6 +6,7 @@
 #include <QSet>
 #include <QStringView>
 #include <unordered_map>
+#include <vector>
 
 namespace pasted {
 
@@ -79,6 +80,8 @@ public:
             m_families.insert(stemOf(QStringView(task->Name).trimmed()).text.toString(), Family());
             m_families.insert(stemOf(withoutLeadingBlanks(task->Name)).text.toString(), Family());
         }
+        for (auto stem = m_families.keyBegin(); stem != m_families.keyEnd(); ++stem)
+            m_hashes[hashOf(*stem)] = true;
         for (int pos = 0; pos < list.size(); ++pos) {
             fetchNamesAhead(list, pos);
             add(list[pos]->Name);
@@ -101,7 +104,10 @@ public:
 private:
     Family *familyOf(const Stem &stem)
     {
-        // Most names have no family here: looking one up is not to make a copy of its text.
+        // Most names have no family here, and mostly one bit tells that. Looking one up is not to make a copy
+        // of its text.
+        if (!m_hashes[hashOf(stem.text)])
+            return nullptr;
         const auto found = m_families.find(QString::fromRawData(stem.text.data(), int(stem.text.size())));
         return found == m_families.end() ? nullptr : &*found;
     }
@@ -132,7 +138,11 @@ private:
         }
     }
 
+    static constexpr uint hashCount = 1 << 16;
+    static std::size_t hashOf(QStringView text) { return qHash(text) % hashCount; }
+
     const QList<KWTaskInfo *> &m_list;
+    std::vector<bool> m_hashes = std::vector<bool>(hashCount); // that a family has
     QHash<QString, Family> m_families; // by the stems of the tasks that may be renamed
     QSet<QString> m_all;               // filled when numbers are needed
     int m_lastNumber = maxOnes;

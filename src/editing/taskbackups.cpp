@@ -2,6 +2,7 @@
 #include "editing/samevalues.h"
 #include "editing/taskcopy.h"
 #include "engine/record/fieldxml.h"
+#include "engine/record/taskahead.h"
 #include "engine/record/taskfields.h"
 #include "model/kwdocument.h"
 #include "table/rowcolumndata.h"
@@ -329,7 +330,10 @@ TaskBackups::Block &TaskBackups::blockOf(quint64 fields)
 void TaskBackups::keepMoves(const KWDocument &document)
 {
     KWTaskInfo old;
-    for (const Moved &moved : m_moved) {
+    for (std::size_t i = 0; i < m_moved.size(); ++i) {
+        if (i + tasksAhead < m_moved.size())
+            fetchTaskAhead(document.taskList(), document.getPosByID(m_moved[i + tasksAhead].id));
+        const Moved &moved = m_moved[i];
         const KWTaskInfo *task = document.getTaskInfoByID(moved.id);
         if (!task)
             continue;

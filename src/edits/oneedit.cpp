@@ -5,6 +5,7 @@
 #include "engine/cost/baselines.h"
 #include "engine/network/links.h"
 #include "engine/record/resource.h"
+#include "engine/record/taskahead.h"
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwtaskcollection.h"
@@ -96,8 +97,8 @@ void OneEdit::keepDates()
 {
     const QList<KWTaskInfo *> &list = document().taskList();
     m_datesBefore.reserve(std::size_t(list.size()));
-    for (const TaskRecord *task : list)
-        m_datesBefore.push_back({task->ID, task->Start, task->Finish});
+    for (int pos = 0; pos < list.size(); ++pos)
+        m_datesBefore.push_back({pos, list[pos]->ID, list[pos]->Start, list[pos]->Finish});
 }
 
 void OneEdit::keepValues(TaskRecord &task)
@@ -262,7 +263,7 @@ EditAnswer OneEdit::finishRows()
     return finish();
 }
 
-// Of the tasks that may have moved, in list order.
+// Of the tasks that moved, in list order; of all of them where all are kept.
 std::vector<OneEdit::Dates> OneEdit::datesBefore() const
 {
     if (m_hasAllTasks || m_reach == MovesNothing)
@@ -272,18 +273,23 @@ std::vector<OneEdit::Dates> OneEdit::datesBefore() const
     std::vector<int> at(std::size_t(all.list.size()), -1); // which of them, by place in the list
     m_record->singleTasks().forEachDates([&](quint32 id, quint32 start, quint32 finish) {
         const int pos = all.index.posOf(id);
-        if (pos < 0 || (all.list[pos]->Start == start && all.list[pos]->Finish == finish))
+        if (pos < 0)
             return;
         at[std::size_t(pos)] = int(dates.size());
-        dates.push_back({id, start, finish});
+        dates.push_back({pos, id, start, finish});
     });
-    std::vector<Dates> inOrder;
-    inOrder.reserve(dates.size());
-    for (const int each : at) {
-        if (each >= 0)
-            inOrder.push_back(dates[std::size_t(each)]);
+    std::vector<Dates> moved;
+    moved.reserve(dates.size());
+    for (std::size_t pos = 0; pos < at.size(); ++pos) {
+        if (pos + tasksAhead < at.size() && at[pos + tasksAhead] >= 0)
+            fetchTaskAhead(all.list, int(pos) + tasksAhead);
+        if (at[pos] < 0)
+            continue;
+        const Dates &old = dates[std::size_t(at[pos])];
+        if (all.list[int(pos)]->Start != old.start || all.list[int(pos)]->Finish != old.finish)
+            moved.push_back(old);
     }
-    return inOrder;
+    return moved;
 }
 
 void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<quint32> &edited)
@@ -296,10 +302,14 @@ void OneEdit::listMoves(const QVector<settling::Push> &pushes, const QVector<qui
     for (const quint32 id : edited)
         editedIds.add(id);
     const std::vector<Dates> before = datesBefore();
-    for (std::size_t pos = 0; pos < before.size(); ++pos) {
-        const Dates &old = before[pos];
-        const bool isInPlace = int(pos) < all.list.size() && all.list[int(pos)]->ID == old.id;
-        const TaskRecord *task = isInPlace ? all.list[int(pos)] : all.byId(old.id);
+    if (!m_hasAllTasks)
+        answer.moves.reserve(int(before.size()));
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        if (i + tasksAhead < before.size())
+            fetchTaskAhead(all.list, before[i + tasksAhead].pos);
+        const Dates &old = before[i];
+        const bool isInPlace = old.pos < all.list.size() && all.list[old.pos]->ID == old.id;
+        const TaskRecord *task = isInPlace ? all.list[old.pos] : all.byId(old.id);
         if (!task || (task->Start == old.start && task->Finish == old.finish))
             continue;
         EditMove move;

@@ -73,6 +73,7 @@ public:
 private:
     struct Dates
     {
+        int pos; // in the list, unless the list is another now
         quint32 id;
         quint32 start;
         quint32 finish;

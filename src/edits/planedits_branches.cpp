@@ -7,6 +7,7 @@
 #include "model/kwdocument.h"
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
+#include <QSet>
 
 using outlineplaces::Target;
 
@@ -21,13 +22,15 @@ QList<quint32> idsOf(const std::vector<KWTaskInfo *> &tasks)
 }
 
 // Resources that the sheet does not have come with their tasks from another plan. On the clipboard they may
-// have been left behind by what was done to the sheet since.
-void takeResources(OneEdit &edit, TaskRecord &task, const KWDocument *source)
+// have been left behind by what was done to the sheet since. `known` are the names of the sheet's entries,
+// trimmed.
+void takeResources(OneEdit &edit, TaskRecord &task, const KWDocument *source, QSet<QString> &known)
 {
     ResourceInfoData &sheet = *edit.document().resourceInfoData();
     const QList<Resource *> assignments = task.resourceList;
     for (Resource *assigned : assignments) {
-        if (sheet.getResourceInfoByName(assigned->name))
+        const QString name = assigned->name.trimmed();
+        if (known.contains(name))
             continue;
         const ResourceInfo *entry =
             source ? source->resourceInfoData()->getResourceInfoByName(assigned->name) : nullptr;
@@ -35,12 +38,23 @@ void takeResources(OneEdit &edit, TaskRecord &task, const KWDocument *source)
             auto *copy = new ResourceInfo(*entry);
             copy->ID = sheet.maxID();
             sheet.appendResourceInfo(copy);
+            known.insert(name);
             continue;
         }
-        edit.lose(EditLoss::Assignment, task, assigned->name.trimmed());
+        edit.lose(EditLoss::Assignment, task, name);
         task.resourceList.removeOne(assigned);
         Resource::release(assigned);
     }
+}
+
+QSet<QString> namesOf(const ResourceInfoData &sheet)
+{
+    QSet<QString> names;
+    for (const ResourceInfo *info : sheet.infos) {
+        if (info)
+            names.insert(info->name.trimmed());
+    }
+    return names;
 }
 
 // Puts branches there; the columns that came with them are left aside.
@@ -58,6 +72,7 @@ EditAnswer insertBranches(OneEdit &edit, const QByteArray &bytes, bool withAssig
     if (tops.isEmpty())
         return edit.refuse(EditRefusal::NothingToPaste);
     const outline::Tasks tasks = edit.tasks();
+    QSet<QString> resources = namesOf(*document.resourceInfoData());
     for (const quint32 id : tops) {
         TaskRecord *top = tasks.byId(id);
         outlineplaces::refreshBelow(tasks, *top);
@@ -67,7 +82,7 @@ EditAnswer insertBranches(OneEdit &edit, const QByteArray &bytes, bool withAssig
         branch.push_back(top);
         for (TaskRecord *task : branch) {
             edit.childrenChanged(task);
-            takeResources(edit, *task, source);
+            takeResources(edit, *task, source, resources);
         }
     }
     edit.childrenChanged(target.parent);

@@ -174,9 +174,7 @@ private:
     std::vector<TaskRecord *> rollUpFrom(const std::vector<TaskRecord *> &tasks)
     {
         std::vector<TaskRecord *> changed;
-        for (TaskRecord *task : outline::withAncestors(m_tasks, tasks)) {
-            if (!task->isParent())
-                continue;
+        for (TaskRecord *task : outline::summariesWithAncestors(m_tasks, tasks)) {
             touch(task);
             const quint32 start = task->Start;
             const quint32 finish = task->Finish;
@@ -191,7 +189,12 @@ private:
     {
         if (m_pushOf.empty() && !moves.empty())
             m_pushOf.assign(std::size_t(m_tasks.list.size()), -1);
-        for (const push::Move &move : moves) {
+        for (std::size_t i = 0; i < moves.size(); ++i) {
+            if (i + tasksAhead < moves.size() && moves[i + tasksAhead].pushedBy) {
+                __builtin_prefetch(&moves[i + tasksAhead].task->ID);
+                __builtin_prefetch(&moves[i + tasksAhead].pushedBy->ID);
+            }
+            const push::Move &move = moves[i];
             if (!move.pushedBy)
                 continue;
             int &place = m_pushOf[std::size_t(m_tasks.index.posOf(move.task->ID))];
@@ -312,7 +315,9 @@ private:
 
     void addLinksAfter(const std::vector<TaskRecord *> &tasks, std::vector<push::Link> &links) const
     {
-        for (const TaskRecord *task : tasks) {
+        for (std::size_t i = 0; i < tasks.size(); ++i) {
+            fetchTaskAhead(tasks, int(i) + tasksAhead);
+            const TaskRecord *task = tasks[i];
             if (!rollup::isDated(*task))
                 continue;
             for (const quint32 id : task->Depends) {
@@ -348,11 +353,10 @@ private:
     // The summaries that change with these tasks, inner ones first.
     std::vector<TaskRecord *> summariesOf(const std::vector<TaskRecord *> &tasks) const
     {
+        if (!isWhole())
+            return outline::summariesWithAncestors(m_tasks, tasks);
         std::vector<TaskRecord *> summaries;
-        const std::vector<TaskRecord *> all =
-            isWhole() ? std::vector<TaskRecord *>(m_tasks.list.rbegin(), m_tasks.list.rend())
-                      : outline::withAncestors(m_tasks, tasks);
-        std::copy_if(all.begin(), all.end(), std::back_inserter(summaries),
+        std::copy_if(m_tasks.list.rbegin(), m_tasks.list.rend(), std::back_inserter(summaries),
                      [](const TaskRecord *task) { return task->isParent(); });
         return summaries;
     }
@@ -419,7 +423,10 @@ private:
         const cost::Measures measures = cost::measuresOf(m_calendar);
         std::vector<TaskRecord *> changed;
         const bool withNames = m_what & (Assignments | Everything);
-        for (TaskRecord *task : isWhole() ? m_touched.tasks() : changedTasks()) {
+        const std::vector<TaskRecord *> tasks = isWhole() ? m_touched.tasks() : changedTasks();
+        for (std::size_t i = 0; i < tasks.size(); ++i) {
+            fetchTaskAhead(tasks, int(i) + tasksAhead);
+            TaskRecord *task = tasks[i];
             if (task->isParent())
                 continue;
             if (m_what & Outline)
@@ -610,8 +617,11 @@ void Settling::drawChart()
         return;
     }
     const timescale::Scale scale = m_collection.scale();
-    for (TaskRecord *task : m_touched.tasks())
-        place(scale, *task);
+    const std::vector<TaskRecord *> &touched = m_touched.tasks();
+    for (std::size_t i = 0; i < touched.size(); ++i) {
+        fetchTaskAhead(touched, int(i) + tasksAhead);
+        place(scale, *touched[i]);
+    }
     for (TaskRecord *task : m_progressed.tasks())
         place(scale, *task);
 }

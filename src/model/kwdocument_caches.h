@@ -1,4 +1,5 @@
 #pragma once
+#include "engine/record/namefacts.h"
 #include "engine/record/outline.h"
 #include "engine/time/calendarcache.h"
 #include "model/kwdocument.h"
@@ -19,6 +20,15 @@ struct KWDocument::Caches
     quint64 indexedAt = 0;
     quint32 maxId = 0;
     quint32 lowestFreeId = 1; // every smaller ID is taken
+
+    // What differentSuffixTaskName() looks for.
+    struct NumberedName
+    {
+        uint hash = 0;      // of the trimmed name
+        qint64 number = -1; // that stands behind the base; -1: none
+    };
+    NameFacts<NumberedName> numberedNames;
+    QString numberedBase;
 
     // Rows.
     std::vector<int> rowOfPos; // pos less the hidden tasks up to and with it

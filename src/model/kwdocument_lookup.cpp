@@ -307,18 +307,24 @@ QString KWDocument::differentSuffixTaskName(const QString &name, bool useColumnT
     const QString trimmed = name.trimmed();
     const int first = m_tasks.size() + 1;
     std::vector<bool> taken(std::size_t(first), false);
+    const uint wanted = qHash(QStringView(trimmed));
     bool isFree = true;
-    for (int pos = 0; pos < m_tasks.size(); ++pos) {
-        fetchNamesAhead(m_tasks, pos);
-        const KWTaskInfo *task = m_tasks[pos];
-        const QStringView taskName = QStringView(task->Name).trimmed();
-        isFree = isFree && taskName != trimmed;
-        if (!taskName.startsWith(shownBase))
-            continue;
-        const qint64 number = plainNumber(taskName.mid(shownBase.size())) - first;
+    using NumberedName = Caches::NumberedName;
+    const auto read = [&shownBase](const QString &taskName) {
+        const QStringView shown = QStringView(taskName).trimmed();
+        const bool isNumbered = shown.startsWith(shownBase);
+        return NumberedName{qHash(shown), isNumbered ? plainNumber(shown.mid(shownBase.size())) : -1};
+    };
+    if (m_caches->numberedBase != base) {
+        m_caches->numberedBase = base;
+        m_caches->numberedNames = {};
+    }
+    m_caches->numberedNames.forEach(m_tasks, read, [&](const KWTaskInfo &task, const NumberedName &is) {
+        isFree = isFree && (is.hash != wanted || QStringView(task.Name).trimmed() != trimmed);
+        const qint64 number = is.number - first;
         if (number >= 0 && number < first)
             taken[std::size_t(number)] = true;
-    }
+    });
     if (isFree)
         return trimmed;
     const auto free = std::find(taken.begin(), taken.end(), false);

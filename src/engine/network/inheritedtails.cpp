@@ -13,7 +13,7 @@ namespace {
 
 constexpr int none = -1;
 
-InheritedNetwork linksAndWays(const outline::Tasks &tasks)
+InheritedNetwork linksAndWays(const outline::Tasks &tasks, const OutlinePlaces &places)
 {
     const std::size_t count = std::size_t(tasks.list.size());
     InheritedNetwork network;
@@ -23,22 +23,22 @@ InheritedNetwork linksAndWays(const outline::Tasks &tasks)
     std::vector<int> linkedAbove(count, none);
     std::vector<int> &targets = network.graph.targets;
     for (int pos = 0; pos < tasks.list.size(); ++pos) {
-        fetchTaskAhead(tasks.list, pos + 2 * tasksAhead);
+        if (pos + 2 * tasksAhead < tasks.list.size())
+            __builtin_prefetch(&tasks.list[pos + 2 * tasksAhead]->Depends);
         if (pos + tasksAhead < tasks.list.size())
             fetchContentAhead(tasks.list[pos + tasksAhead]->Depends);
-        const auto &task = *tasks.list[pos];
         bool listsUnknown = false;
-        if (!task.Depends.isEmpty() && rollup::isDated(task)) {
-            for (const quint32 id : task.Depends) {
+        if (places.isDated[std::size_t(pos)]) {
+            for (const quint32 id : tasks.list[pos]->Depends) {
                 const int successor = tasks.index.posOf(id);
                 listsUnknown = listsUnknown || successor < 0;
-                if (successor >= 0 && rollup::isDated(*tasks.list[successor]))
+                if (successor >= 0 && places.isDated[std::size_t(successor)])
                     targets.push_back(successor);
             }
         }
         network.linkEnd.push_back(int(targets.size()));
         network.listsUnknown.push_back(listsUnknown);
-        const int summary = task.ParentID == 0 ? none : tasks.index.posOf(task.ParentID);
+        const int summary = places.parents[std::size_t(pos)];
         if (summary != none && summary != pos) {
             // In a damaged outline a summary stands below what it holds: then the way leads over it in any
             // case.
@@ -72,9 +72,23 @@ InheritedNetwork withoutRings(const InheritedNetwork &network)
 }
 }
 
-InheritedNetwork inheritedNetwork(const outline::Tasks &tasks)
+OutlinePlaces outlinePlaces(const outline::Tasks &tasks)
 {
-    InheritedNetwork network = linksAndWays(tasks);
+    OutlinePlaces places;
+    places.isDated.reserve(std::size_t(tasks.list.size()));
+    places.parents.reserve(std::size_t(tasks.list.size()));
+    for (int pos = 0; pos < tasks.list.size(); ++pos) {
+        fetchTaskAhead(tasks.list, pos + tasksAhead);
+        const TaskRecord &task = *tasks.list[pos];
+        places.isDated.push_back(rollup::isDated(task));
+        places.parents.push_back(task.ParentID == 0 ? none : tasks.index.posOf(task.ParentID));
+    }
+    return places;
+}
+
+InheritedNetwork inheritedNetwork(const outline::Tasks &tasks, const OutlinePlaces &places)
+{
+    InheritedNetwork network = linksAndWays(tasks, places);
     network.components = linkgraph::components(network.graph);
     if (network.components.hasRings) {
         network = withoutRings(network);
@@ -113,7 +127,7 @@ Tail tailOf(const InheritedNetwork &network, int node, const std::vector<Tail> &
 
 std::vector<Tail> inheritedTails(const outline::Tasks &tasks, const std::vector<quint32> &lengths)
 {
-    const InheritedNetwork network = inheritedNetwork(tasks);
+    const InheritedNetwork network = inheritedNetwork(tasks, outlinePlaces(tasks));
     std::vector<Tail> result(lengths.size());
     const std::vector<int> &order = network.components.order;
     for (auto node = order.rbegin(); node != order.rend(); ++node)

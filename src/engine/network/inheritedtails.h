@@ -24,7 +24,15 @@ struct InheritedNetwork
         return components.of[graph.targets[edge]] != components.of[node];
     }
 };
-InheritedNetwork inheritedNetwork(const outline::Tasks &tasks);
+// What of the outline it is made of, in list order: the places are known already, and nothing else of the
+// tasks has to be fetched again.
+struct OutlinePlaces
+{
+    std::vector<char> isDated;
+    std::vector<int> parents; // -1: none
+};
+OutlinePlaces outlinePlaces(const outline::Tasks &tasks);
+InheritedNetwork inheritedNetwork(const outline::Tasks &tasks, const OutlinePlaces &places);
 // From the tails of the tasks that follow.
 Tail tailOf(const InheritedNetwork &network, int node, const std::vector<Tail> &tails,
             const std::vector<quint32> &lengths);

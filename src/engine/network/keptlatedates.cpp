@@ -122,7 +122,8 @@ void Kept::beginAnew(const outline::Tasks &tasks)
     m_known.clear();
     m_known.reserve(count);
     m_lengths.assign(count, 0);
-    m_parents.assign(count, -1);
+    m_places.isDated.assign(count, 0);
+    m_places.parents.assign(count, -1);
     for (std::size_t pos = 0; pos < count; ++pos) {
         fetchLateAhead(tasks.list, int(pos) + tasksAhead);
         const TaskRecord &task = *tasks.list[int(pos)];
@@ -143,14 +144,15 @@ void Kept::beginAnew(const outline::Tasks &tasks)
             known.links = task.Depends;
         known.early = {task.Start, task.Finish, hasBegun(task)};
         if (task.ParentID != 0)
-            m_parents[pos] = tasks.index.posOf(task.ParentID);
+            m_places.parents[pos] = tasks.index.posOf(task.ParentID);
         if (!rollup::isDated(task))
             continue;
+        m_places.isDated[pos] = 1;
         m_lengths[pos] = old < 0 ? m_late->length(task) : oldLengths[std::size_t(old)];
         m_span.start = m_span.start == 0 ? task.Start : std::min(m_span.start, task.Start);
         m_span.finish = std::max(m_span.finish, task.Finish);
     }
-    m_network = inheritedNetwork(tasks);
+    m_network = inheritedNetwork(tasks, m_places);
     const linkgraph::Graph &graph = m_network.graph;
     const std::vector<int> &order = m_network.components.order;
     m_rank.resize(count);
@@ -240,7 +242,7 @@ void Kept::spread()
     std::vector<char> isCritical(m_known.size(), 0);
     for (std::size_t pos = 0; pos < m_known.size(); ++pos) {
         for (int at = m_known[pos].isOwnCritical ? int(pos) : -1; at >= 0 && !isCritical[at];
-             at = m_parents[at])
+             at = m_places.parents[at])
             isCritical[at] = 1;
     }
     for (std::size_t pos = 0; pos < m_known.size(); ++pos) {
@@ -265,7 +267,10 @@ Kept::Span Kept::update(const outline::Tasks &tasks, const worktime::WorkCalenda
         m_unitName = unitName;
         beginAnew(tasks);
     }
-    for (const int pos : m_changedDates) {
+    for (std::size_t i = 0; i < m_changedDates.size(); ++i) {
+        if (i + tasksAhead < m_changedDates.size())
+            fetchTaskAhead(tasks.list, m_changedDates[i + tasksAhead]);
+        const int pos = m_changedDates[i];
         const TaskRecord &task = *tasks.list[pos];
         m_known[pos].early = {task.Start, task.Finish, hasBegun(task)};
         addWork(pos);

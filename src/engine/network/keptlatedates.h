@@ -56,7 +56,7 @@ private:
     std::vector<Known> m_known; // in list order, as all that follows
     std::vector<quint32> m_lengths;
     std::vector<Tail> m_tails;
-    std::vector<int> m_parents; // -1: none
+    OutlinePlaces m_places;
     InheritedNetwork m_network;
     std::vector<int> m_rank;          // places in the order of the network
     linkgraph::Graph m_before;        // from each task to those that it follows

@@ -229,7 +229,7 @@ quint32 LateDates::beforeFinish(qint64 workSecs)
 void LateDates::setProjectFinish(quint32 projectFinish)
 {
     if (m_projectFinish != projectFinish)
-        m_beforeFinish = Recent<quint32>();
+        m_beforeFinish.clear();
     m_projectFinish = projectFinish;
 }
 

@@ -44,7 +44,8 @@ constexpr double maxPaths = 1 << 20;
 // Of too many paths only the greatest sum.
 std::vector<double> pathSums(const Network &network, const std::vector<double> &lengths, double sum);
 
-// Remembers the latest results of a costly function of numbers.
+// Remembers the latest results of a costly function of numbers. It begins small and grows while results get
+// in each other's way.
 template <typename Value>
 class Recent
 {
@@ -52,21 +53,45 @@ public:
     template <typename Make>
     const Value &get(qint64 key, Make make)
     {
-        Slot &slot = m_slots[(quint64(key) * 0x9e3779b97f4a7c15ULL) >> (64 - bits)];
-        if (!slot.isSet || slot.key != key)
-            slot = {key, make(), true};
-        return slot.value;
+        Slot *slot = &slotOf(key);
+        if (slot->isSet && slot->key == key)
+            return slot->value;
+        if (slot->isSet && ++m_conflicts > m_slots.size() / 4 && m_bits < mostBits) {
+            grow();
+            slot = &slotOf(key);
+        }
+        *slot = {key, make(), true};
+        return slot->value;
     }
+    void clear() { m_slots.assign(m_slots.size(), Slot()); }
 
 private:
-    static constexpr int bits = 12;
+    static constexpr int leastBits = 8;
+    static constexpr int mostBits = 14;
     struct Slot
     {
         qint64 key = 0;
         Value value = Value();
         bool isSet = false;
     };
-    std::vector<Slot> m_slots = std::vector<Slot>(1 << bits);
+
+    Slot &slotOf(qint64 key) { return m_slots[(quint64(key) * 0x9e3779b97f4a7c15ULL) >> (64 - m_bits)]; }
+
+    void grow()
+    {
+        m_bits += 2;
+        m_conflicts = 0;
+        std::vector<Slot> old(std::size_t(1) << m_bits);
+        old.swap(m_slots);
+        for (Slot &slot : old) {
+            if (slot.isSet)
+                slotOf(slot.key) = std::move(slot);
+        }
+    }
+
+    int m_bits = leastBits;
+    std::size_t m_conflicts = 0;
+    std::vector<Slot> m_slots = std::vector<Slot>(1 << leastBits);
 };
 
 // Slack of one project as value and text.

@@ -99,7 +99,10 @@ public:
             std::sort(m_old.begin(), m_old.end(), byPos);
         std::vector<Move> moved;
         moved.reserve(m_old.size());
-        for (const Old &old : m_old) {
+        for (std::size_t i = 0; i < m_old.size(); ++i) {
+            if (i + tasksAhead < m_old.size())
+                fetchTaskAhead(m_tasks.list, m_old[i + tasksAhead].pos);
+            const Old &old = m_old[i];
             TaskRecord *task = m_tasks.list[old.pos];
             const int begin = m_network.beginOf(old.pos);
             const bool pushed = begin != none && m_state[begin].pushed;

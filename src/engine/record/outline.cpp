@@ -78,38 +78,80 @@ std::vector<TaskRecord *> ancestors(const Tasks &tasks, const TaskRecord &task)
     return found;
 }
 
-std::vector<TaskRecord *> withAncestors(const Tasks &tasks, const std::vector<TaskRecord *> &changed)
+namespace {
+
+// Places in a list. A bit for each: few of them cost little, and many need no sorting.
+class Places
 {
-    // A bit for each place: few changed tasks cost little, and many need no sorting.
-    constexpr int bitsOfWord = 64;
-    std::vector<quint64> found(std::size_t(tasks.list.size() / bitsOfWord + 1));
-    std::size_t count = 0;
-    const auto isNew = [&](int pos) {
-        quint64 &word = found[std::size_t(pos / bitsOfWord)];
+public:
+    explicit Places(int size)
+        : m_words(std::size_t(size / bitsOfWord + 1))
+    {
+    }
+
+    bool add(int pos) // false when it is there already
+    {
+        quint64 &word = m_words[std::size_t(pos / bitsOfWord)];
         const quint64 bit = quint64(1) << pos % bitsOfWord;
-        const bool known = word & bit;
+        if (word & bit)
+            return false;
         word |= bit;
-        count += known ? 0 : 1;
-        return !known;
-    };
+        ++m_count;
+        return true;
+    }
+
+    std::vector<TaskRecord *> fromTheLast(const QList<TaskRecord *> &list) const
+    {
+        std::vector<TaskRecord *> ordered;
+        ordered.reserve(m_count);
+        for (int word = int(m_words.size()) - 1; word >= 0; --word) {
+            for (quint64 bits = m_words[std::size_t(word)]; bits != 0;) {
+                const int bit = bitsOfWord - 1 - int(qCountLeadingZeroBits(bits));
+                bits &= ~(quint64(1) << bit);
+                ordered.push_back(list[word * bitsOfWord + bit]);
+            }
+        }
+        return ordered;
+    }
+
+private:
+    static constexpr int bitsOfWord = 64;
+    std::vector<quint64> m_words;
+    std::size_t m_count = 0;
+};
+
+// Calls visit(pos) once for each of these tasks and of all above them.
+template <typename Visit>
+void forEachWithAncestors(const Tasks &tasks, const std::vector<TaskRecord *> &changed, Visit visit)
+{
+    Places met(tasks.list.size());
     for (std::size_t i = 0; i < changed.size(); ++i) {
         fetchTaskAhead(changed, int(i) + tasksAhead);
         int pos = tasks.index.posOf(changed[i]->ID);
-        while (pos >= 0 && isNew(pos)) {
+        while (pos >= 0 && met.add(pos)) {
+            visit(pos);
             const quint32 parent = tasks.list[pos]->ParentID;
             pos = parent == 0 ? -1 : tasks.index.posOf(parent);
         }
     }
-    std::vector<TaskRecord *> ordered;
-    ordered.reserve(count);
-    for (int word = int(found.size()) - 1; word >= 0; --word) {
-        for (quint64 bits = found[std::size_t(word)]; bits != 0;) {
-            const int bit = bitsOfWord - 1 - int(qCountLeadingZeroBits(bits));
-            bits &= ~(quint64(1) << bit);
-            ordered.push_back(tasks.list[word * bitsOfWord + bit]);
-        }
-    }
-    return ordered;
+}
+}
+
+std::vector<TaskRecord *> withAncestors(const Tasks &tasks, const std::vector<TaskRecord *> &changed)
+{
+    Places found(tasks.list.size());
+    forEachWithAncestors(tasks, changed, [&found](int pos) { found.add(pos); });
+    return found.fromTheLast(tasks.list);
+}
+
+std::vector<TaskRecord *> summariesWithAncestors(const Tasks &tasks, const std::vector<TaskRecord *> &changed)
+{
+    Places found(tasks.list.size());
+    forEachWithAncestors(tasks, changed, [&](int pos) {
+        if (tasks.list[pos]->isParent())
+            found.add(pos);
+    });
+    return found.fromTheLast(tasks.list);
 }
 
 TaskRecord *commonSummary(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b)

@@ -32,6 +32,9 @@ KWGANTT_EXPORT std::vector<TaskRecord *> ancestors(const Tasks &tasks, const Tas
 // what is below comes before what is above.
 KWGANTT_EXPORT std::vector<TaskRecord *> withAncestors(const Tasks &tasks,
                                                        const std::vector<TaskRecord *> &changed);
+// Of these the ones that hold others.
+KWGANTT_EXPORT std::vector<TaskRecord *> summariesWithAncestors(const Tasks &tasks,
+                                                                const std::vector<TaskRecord *> &changed);
 // The nearest ancestor of a that is also one of b; null when there is none.
 KWGANTT_EXPORT TaskRecord *commonSummary(const Tasks &tasks, const TaskRecord &a, const TaskRecord &b);
 

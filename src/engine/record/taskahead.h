@@ -15,6 +15,7 @@ void fetchTaskAhead(const Tasks &tasks, int pos)
     const TaskRecord *task = tasks[pos];
     __builtin_prefetch(&task->Start);
     __builtin_prefetch(&task->HideID);
+    __builtin_prefetch(&task->Percent);
     __builtin_prefetch(&task->CountWidth);
 }
 
