@@ -56,7 +56,11 @@ struct KWDocument::Caches
     void insertRows(int pos, const QList<KWTaskInfo *> &tasks, quint64 &revision);
     void removeIds(const std::vector<bool> &leaves, quint64 revision);
     void removeRows(const std::vector<bool> &leaves, quint64 revision);
+    // The same where the tasks of a stretch change places among themselves; `tasks` is the list afterwards.
+    void permuteIds(int first, int last, const QList<KWTaskInfo *> &tasks, quint64 revision);
+    void permuteRows(int first, int last, const QList<KWTaskInfo *> &tasks, quint64 revision);
 
 private:
+    std::vector<bool> visibleOnes() const; // by pos
     void setRows(const std::vector<bool> &visible, quint64 revision);
 };

@@ -112,9 +112,7 @@ void KWDocument::Caches::setRows(const std::vector<bool> &visible, quint64 revis
 
 void KWDocument::Caches::insertRows(int pos, const QList<KWTaskInfo *> &tasks, quint64 &revision)
 {
-    std::vector<bool> visible(rowOfPos.size());
-    for (std::size_t i = 0; i < visible.size(); ++i)
-        visible[i] = isVisible(i);
+    std::vector<bool> visible = visibleOnes();
     std::vector<bool> inserted;
     for (KWTaskInfo *task : tasks) {
         inserted.push_back(task->HideID == 0);
@@ -133,6 +131,32 @@ void KWDocument::Caches::removeRows(const std::vector<bool> &leaves, quint64 rev
             visible.push_back(isVisible(pos));
     }
     setRows(visible, revision);
+}
+
+void KWDocument::Caches::permuteIds(int first, int last, const QList<KWTaskInfo *> &tasks, quint64 revision)
+{
+    for (int pos = first; pos <= last; ++pos) {
+        records[pos] = tasks[pos];
+        ids[std::size_t(pos)] = tasks[pos]->ID;
+    }
+    isIndexed = false;
+    indexedAt = revision;
+}
+
+void KWDocument::Caches::permuteRows(int first, int last, const QList<KWTaskInfo *> &tasks, quint64 revision)
+{
+    std::vector<bool> visible = visibleOnes();
+    for (int pos = first; pos <= last; ++pos)
+        visible[std::size_t(pos)] = tasks[pos]->HideID == 0;
+    setRows(visible, revision);
+}
+
+std::vector<bool> KWDocument::Caches::visibleOnes() const
+{
+    std::vector<bool> visible(rowOfPos.size());
+    for (std::size_t pos = 0; pos < visible.size(); ++pos)
+        visible[pos] = isVisible(pos);
+    return visible;
 }
 
 const TaskIndex &KWDocument::taskIndex() const

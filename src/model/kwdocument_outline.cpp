@@ -373,9 +373,18 @@ int KWDocument::moveTaskInfo(KWTaskInfo *task, int from, int to)
             parent->Childs.move(fromChild, toChild);
     }
     const int below = int(outline::descendants(outline(), *task).size());
+    Caches &caches = *m_caches;
+    const bool knowsIds = caches.knowsIds(m_tasks.size(), m_idRevision);
+    const bool knowsRows = caches.knowsRows(m_tasks.size(), m_hideRevision);
     outline::moveEntries(m_tasks, from, to, below + 1);
     m_rowColumnData->moveRowHeights(from, to, below + 1);
     listChanged();
+    const int first = std::min(from, to);
+    const int last = std::min(std::max(from, to) + below, m_tasks.size() - 1);
+    if (knowsIds)
+        caches.permuteIds(first, last, m_tasks, m_idRevision);
+    if (knowsRows)
+        caches.permuteRows(first, last, m_tasks, m_hideRevision);
     return to + 1 + below;
 }
 

@@ -1,6 +1,7 @@
 #include "engine/network/links.h"
 #include "engine/network/linkgraph.h"
 #include "engine/record/idlist.h"
+#include "engine/record/taskahead.h"
 #include "engine/record/taskrecord.h"
 #include <algorithm>
 
@@ -55,23 +56,28 @@ bool isReached(const Tasks &tasks, int a, int b, const Added &added, QList<quint
     std::vector<Reached> reached;
     TaskIndex seen;
     int from = none;
+    const bool isLeaf = !tasks.list[a]->isParent();
+    // A task is only looked at when it has its turn: by then it was fetched.
     const auto reach = [&](int pos, bool isEnd, bool isLink) {
-        const TaskRecord &task = *tasks.list[pos];
         // The end of a summary that holds a says nothing of a itself.
-        const bool goesUp = isEnd && !isLink && aboveA.contains(task.ID);
-        const bool ends = isEnd || !task.isParent();
-        if (!goesUp && seen.add(2 * quint32(pos) + (ends ? 1 : 0)))
-            reached.push_back({pos, ends, from});
-        return pos == a && ends;
+        const bool goesUp = isEnd && !isLink && aboveA.contains(tasks.list[pos]->ID);
+        if (!goesUp && seen.add(2 * quint32(pos) + (isEnd ? 1 : 0)))
+            reached.push_back({pos, isEnd, from});
+        return pos == a && (isEnd || isLeaf);
     };
     bool found = reach(b, false, true);
     for (size_t i = 0; i < reached.size() && !found; ++i) {
+        if (i + 2 * tasksAhead < reached.size())
+            fetchTaskAhead(tasks.list, reached[i + 2 * tasksAhead].pos);
+        if (i + tasksAhead < reached.size())
+            fetchListsAhead(tasks.list, reached[i + tasksAhead].pos);
         const Reached event = reached[i];
         from = int(i);
         linkgraph::forEachFollower(tasks, event.pos, event.isEnd, [&](int pos, bool isEnd, bool isLink) {
             found = found || reach(pos, isEnd, isLink);
         });
-        const auto more = event.isEnd ? added.find(event.pos) : added.end();
+        const bool ends = event.isEnd || !tasks.list[event.pos]->isParent();
+        const auto more = ends ? added.find(event.pos) : added.end();
         for (std::size_t k = 0; more != added.end() && k < more->second.size(); ++k)
             found = found || reach(more->second[k], false, true);
     }
