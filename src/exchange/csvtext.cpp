@@ -124,13 +124,15 @@ public:
     bool rowHasText() const { return m_rowHasText; }
     bool hasCarriageReturns() const { return m_carriageReturns; }
 
-    bool readRow(std::vector<CellRange> &cells, Fault &fault)
+    // Who only checks takes no cells.
+    bool readRow(std::vector<CellRange> *cells, Fault &fault)
     {
         const int line = m_line;
-        cells.clear();
+        if (cells)
+            cells->clear();
         m_rowHasText = false;
-        for (;;) {
-            if (qint64(cells.size()) >= m_limits.columns)
+        for (qint64 columns = 0;; ++columns) {
+            if (columns >= m_limits.columns)
                 return refuse(fault, line, t("more than %1 columns").arg(m_limits.columns));
             if (++m_cells > m_limits.cells)
                 return refuse(fault, line, t("more than %1 cells in the file").arg(m_limits.cells));
@@ -138,7 +140,8 @@ public:
             if (!readCell(cell, fault))
                 return false;
             m_rowHasText |= cell.size > 0;
-            cells.push_back(cell);
+            if (cells)
+                cells->push_back(cell);
             if (m_at == m_end || *m_at != m_delimiter)
                 break;
             ++m_at;
@@ -286,11 +289,10 @@ bool check(const QByteArray &bytes, Text &text, Fault &fault, const Limits &limi
     text.begin = int(begin - bytes.constData());
 
     Scanner scanner(begin, end, delimiter, text.firstLine, limits);
-    std::vector<CellRange> cells;
     qint64 nextReport = progressStepBytes;
     while (!scanner.isAtEnd()) {
         const int line = scanner.line();
-        if (!scanner.readRow(cells, fault))
+        if (!scanner.readRow(nullptr, fault))
             return false;
         if (scanner.rowHasText() && ++text.rows > limits.rows)
             return Scanner::refuse(fault, line, t("more than %1 rows").arg(limits.rows));
@@ -351,7 +353,7 @@ bool Rows::next()
     bool hasText = false;
     while (!hasText && !m_scanner->isAtEnd()) {
         m_rowLine = m_scanner->line();
-        if (!m_scanner->readRow(m_cells, fault))
+        if (!m_scanner->readRow(&m_cells, fault))
             break;
         hasText = m_scanner->rowHasText();
     }

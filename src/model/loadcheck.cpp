@@ -69,6 +69,18 @@ bool isMoment(const char *text, int size)
     return size == digits && isDigits(text, size, digits) && std::memcmp(text, greatest, digits) <= 0;
 }
 
+// Numbers that always fit, between semicolons; there need be none.
+bool areShortIds(const char *text, int size)
+{
+    constexpr int most = 9;
+    int digits = 0;
+    return std::all_of(text, text + size, [&digits](char letter) {
+        const bool isDigit = letter >= '0' && letter <= '9';
+        digits = isDigit ? digits + 1 : 0;
+        return digits <= most && (isDigit || letter == ';');
+    });
+}
+
 enum class Type { Whole, Short, Unsigned, Positive, Number };
 
 bool isOf(Type type, const XmlText &text)
@@ -170,6 +182,8 @@ QString badValue(Kind kind, const XmlText &text)
 
 bool isOfKind(Kind kind, const XmlText &text)
 {
+    if (kind == Kind::Ids && areShortIds(text.data(), text.size()))
+        return true;
     return badValue(kind, text).isEmpty();
 }
 
