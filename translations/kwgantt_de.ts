@@ -1105,11 +1105,11 @@
     </message>
     <message>
         <source>Start Slack</source>
-        <translation>Puffer Anfang</translation>
+        <translation>Anfangspuffer</translation>
     </message>
     <message>
         <source>Finish Slack</source>
-        <translation>Puffer Ende</translation>
+        <translation>Endpuffer</translation>
     </message>
     <message>
         <source>Critical</source>

@@ -160,6 +160,8 @@ def main():
                            extrasaction="ignore", lineterminator="\n")
         w.writeheader()
         w.writerows(results)
+    if not results:
+        sys.exit("no such case: " + " ".join(a.only + a.entry))
     count = collections.Counter((r["entry"], r["kind"]) for r in results)
     for entry in sorted({r["entry"] for r in results}):
         print("%-14s ok %4d  note %4d  FAIL %4d" % (entry, count[entry, "ok"], count[entry, "note"], count[entry, "FAIL"]))
