@@ -264,6 +264,7 @@ void fillLibraryTables()
     XLSXDataBase::s_xmlNameList = english.sheetNames;
     for (const QString &title : english.columnTitles)
         CustomTable::s_shownTitles.insert(title, t(title));
+    CustomTable::s_shownTitles.insert(QLatin1String(CustomTable::placeTitle), t("No."));
 #ifdef KW_WITH_EXPORT
     for (const QString &text : KWExportOptions::allTexts())
         KWExportOptions::s_shownTexts.insert(text, t(text));

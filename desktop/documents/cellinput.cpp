@@ -6,6 +6,7 @@
 #include "model/kwtaskinfo.h"
 #include "resources/resourceinfodata.h"
 #include "sheettext.h"
+#include "table/customtable.h"
 #include <QCoreApplication>
 #include <QRegularExpression>
 
@@ -218,7 +219,7 @@ QString text(Session &session, const KWTaskInfo &task, int type)
     case 22:
         return task.BaselineCost;
     case predecessorsType:
-        return task.getDependOnListTagContent(&session.document(), true);
+        return CustomTable::placesOf(session.document(), task.Predecessors);
     default:
         return QString();
     }

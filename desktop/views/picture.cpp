@@ -11,6 +11,7 @@ Picture::Picture(Session &session)
     : m_session(session)
 {
     options.highlight = true;
+    options.countTasks = true;
     restart();
 }
 

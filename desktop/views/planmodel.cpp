@@ -20,6 +20,7 @@ std::unique_ptr<CustomTable> PlanModel::newTable() const
 {
     KWDocument *document = &m_session.document();
     auto table = std::make_unique<CustomTable>(document);
+    table->setCountsTasks(true);
     if (!m_showsPredecessors)
         return table;
     std::vector<int> types;
@@ -27,7 +28,9 @@ std::unique_ptr<CustomTable> PlanModel::newTable() const
         types.push_back(head.type);
     if (std::find(types.begin(), types.end(), cellinput::predecessorsType) == types.end())
         types.push_back(cellinput::predecessorsType);
-    return std::make_unique<CustomTable>(document, types);
+    table = std::make_unique<CustomTable>(document, types);
+    table->setCountsTasks(true);
+    return table;
 }
 
 std::vector<int> PlanModel::columnTypes() const
@@ -238,7 +241,7 @@ QVariant PlanModel::headerData(int section, Qt::Orientation orientation, int rol
         return QVariant();
     if (orientation == Qt::Vertical)
         return section + 1;
-    return section < columnCount() ? QVariant(t(m_table->heads()[std::size_t(section)].title)) : QVariant();
+    return section < columnCount() ? QVariant(m_table->shownTitleOf(section)) : QVariant();
 }
 
 Qt::ItemFlags PlanModel::flags(const QModelIndex &index) const

@@ -23,6 +23,9 @@ public:
 
     // ---- The table ----------------------------------------------------------------------------------------
     std::vector<int> columns;  // column types; none: the columns that the document shows
+    // Tasks are named by their places in the plan, as CustomTable::countsTasks() tells. A choice of the host,
+    // which is not saved.
+    bool countTasks = false;
     bool fitColumns = false;   // as wide as their contents, instead of the document's widths
     bool repeatColumns = true; // ID and name on every sheet
 

@@ -118,6 +118,7 @@ PlanPage::PlanPage(KWDocument &document, const KWExportOptions &options, const Q
     , m_calendar(document.workCalendar())
     , m_table(&document, columnTypes(document, options, m_shownColumns))
 {
+    m_table.setCountsTasks(options.countTasks);
     chooseTasks();
     chooseDates();
 }
@@ -235,7 +236,7 @@ QByteArray PlanPage::head() const
         const HeadItem &column = m_table.heads()[std::size_t(i)];
         const bool isTold =
             std::find(std::begin(toldTypes), std::end(toldTypes), column.type) != std::end(toldTypes);
-        columns.append(QJsonObject{{QStringLiteral("title"), CustomTable::shownTitle(column.title)},
+        columns.append(QJsonObject{{QStringLiteral("title"), m_table.shownTitleOf(i)},
                                    {QStringLiteral("width"), rounded(column.width)},
                                    {QStringLiteral("right"), column.isRightAligned ? 1 : 0},
                                    {QStringLiteral("shown"), i < m_shownColumns ? 1 : 0},

@@ -510,9 +510,11 @@ void PlanView::makeColumns()
 {
     m_table = m_options.columns.empty() ? std::make_unique<CustomTable>(&m_document)
                                         : std::make_unique<CustomTable>(&m_document, m_options.columns);
+    m_table->setCountsTasks(m_options.countTasks);
+    int place = 0;
     for (const HeadItem &head : m_table->heads()) {
         chart::Column column;
-        column.title = CustomTable::shownTitle(head.title);
+        column.title = m_table->shownTitleOf(place++);
         column.width = head.width;
         column.alignsRight = head.isRightAligned;
         column.isName = head.type == columntypes::Name;

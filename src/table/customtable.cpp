@@ -128,6 +128,24 @@ void CustomTable::add(HeadItem head)
     m_heads.push_back(head);
 }
 
+QString CustomTable::shownTitleOf(int column) const
+{
+    const HeadItem &head = m_heads[std::size_t(column)];
+    const bool isCounted = m_countsTasks && m_kind == Tasks && head.type == columntypes::Id;
+    return shownTitle(isCounted ? QString::fromLatin1(placeTitle) : head.title);
+}
+
+QString CustomTable::placesOf(const KWDocument &document, const QList<quint32> &tasks)
+{
+    QStringList places;
+    for (const quint32 id : tasks) {
+        const int pos = document.getPosByID(id);
+        if (pos >= 0)
+            places.append(QString::number(pos + 1));
+    }
+    return places.join(QLatin1String("; "));
+}
+
 int CustomTable::columnAtX(double x) const
 {
     if (!(x >= 0 && x < width()))
@@ -231,6 +249,10 @@ Cell CustomTable::cell(const TableRow &row, int column) const
     const KWTaskInfo &task = *row.task;
     Cell cell = emptyCell(row, column);
     cell.text = celltext::ofType(DocumentTexts(*m_document, m_calendar), task, cell.type, *m_style);
+    if (m_countsTasks && cell.type == columntypes::Id)
+        cell.text = placesOf(*m_document, {task.ID});
+    if (m_countsTasks && cell.type == columntypes::Predecessors)
+        cell.text = placesOf(*m_document, task.Predecessors);
     const columntypes::ColumnType *type = columntypes::find(cell.type);
     cell.isMuted = cell.type == 0 || (type && type->kind == columntypes::Kind::Percent && task.Percent == 0);
     cell.isBold = task.isParent() && cell.type == columntypes::Name;

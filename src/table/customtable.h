@@ -1,5 +1,6 @@
 #pragma once
 #include "kwgantt_export.h"
+#include <QList>
 #include <QMap>
 #include <QRectF>
 #include <QString>
@@ -105,6 +106,13 @@ public:
     // titles that files have. The others are drawn as they are.
     static QString shownTitle(const QString &title) { return s_shownTitles.value(title, title); }
     static QMap<QString, QString> s_shownTitles;
+    QString shownTitleOf(int column) const; // of a column that there is
+    // Whether tasks are named by their places in the plan, from 1, also those that are folded away, in place of
+    // IDs and of tags in the columns of IDs and of predecessors.
+    bool countsTasks() const { return m_countsTasks; }
+    void setCountsTasks(bool countsTasks) { m_countsTasks = countsTasks; }
+    static constexpr const char *placeTitle = "No."; // of the column of IDs then
+    static QString placesOf(const KWDocument &document, const QList<quint32> &tasks); // "3; 5"
     double width() const { return m_heads.empty() ? 0 : m_heads.back().right(); }
     int columnAtX(double x) const; // left <= x < right; -1 beside the table
 
@@ -135,6 +143,7 @@ private:
     KWDocument *m_document; // not owned; may be null
     Kind m_kind;
     double m_scale;
+    bool m_countsTasks = false;
     std::vector<HeadItem> m_heads;
     std::unique_ptr<celltext::Style> m_style;
     const worktime::WorkCalendar *m_calendar = nullptr; // as it stood when the table was made
