@@ -174,9 +174,7 @@ QString PageSetupDialog::outcome() const
 
 void PageSetupDialog::accept()
 {
-    KWDocument &document = m_session.document();
-    document.printConfig = config();
-    document.setModified(true);
-    Q_EMIT m_session.stateChanged();
+    m_session.document().printConfig = config();
+    m_session.changeBesideSteps();
     QDialog::accept();
 }

@@ -184,6 +184,7 @@ void Session::take(std::unique_ptr<Plan> plan)
     m_lock.reset();
     m_otherUser.clear();
     m_barsAreOld = false;
+    m_savedStep = -1;
     m_plan.swap(plan);
     if (m_plan->document->backupName().isEmpty())
         m_plan->document->setFileName(name());
@@ -324,7 +325,7 @@ EditAnswer Session::edit(const QString &name, const Change &change)
             work();
     }
     if (answer.isDone()) {
-        edits.finish();
+        finishStep(edits, wasModified);
         m_plan->moves.clear(); // what opening has moved is told no longer
         Q_EMIT edited(answer);
     } else {
@@ -358,8 +359,7 @@ void Session::keepTrial()
 {
     if (!m_trial)
         return;
-    if (!m_trial->finish())
-        document().setModified(m_wasModified);
+    finishStep(*m_trial, m_wasModified);
     m_trial.reset();
     Q_EMIT stateChanged();
 }
@@ -375,23 +375,62 @@ void Session::dropTrial()
     Q_EMIT stateChanged();
 }
 
-void Session::undo()
+// What is not modified is as it is saved: that step is noted before the next one changes it.
+void Session::finishStep(PlanEdits &edits, bool wasModified)
+{
+    const QList<KWOpeAction *> &steps = document().actionManager().undoActions();
+    const int before = steps.size();
+    if (!wasModified)
+        m_savedStep = before;
+    if (!edits.finish()) {
+        document().setModified(wasModified);
+        return;
+    }
+    // What could be made again is gone, and the oldest step where no more are kept.
+    if (m_savedStep > before)
+        m_savedStep = -1;
+    else if (steps.size() == before && m_savedStep >= 0)
+        --m_savedStep;
+}
+
+void Session::goSteps(bool isBack)
 {
     if (isHeld())
         return;
     dropTrial();
-    document().actionManager().undo(1);
+    ActionManager &manager = document().actionManager();
+    const QList<KWOpeAction *> &back = manager.undoActions(), &ahead = manager.redoActions();
+    const int before = back.size(), aheadBefore = ahead.size();
+    if ((isBack ? before : aheadBefore) == 0)
+        return;
+    if (!isModified())
+        m_savedStep = before;
+    if (isBack)
+        manager.undo(1);
+    else
+        manager.redo();
+    const int step = isBack ? -1 : 1;
+    if (back.size() != before + step || ahead.size() != aheadBefore - step)
+        m_savedStep = -1; // the step failed, or the oldest had to go
+    document().setModified(back.size() != m_savedStep);
     Q_EMIT edited(EditAnswer());
     Q_EMIT stateChanged();
 }
 
+void Session::undo()
+{
+    goSteps(true);
+}
+
 void Session::redo()
 {
-    if (isHeld())
-        return;
-    dropTrial();
-    document().actionManager().redo();
-    Q_EMIT edited(EditAnswer());
+    goSteps(false);
+}
+
+void Session::changeBesideSteps()
+{
+    m_savedStep = -1;
+    document().setModified(true);
     Q_EMIT stateChanged();
 }
 

@@ -40,6 +40,8 @@ public:
     bool isModified() const { return document().isModified(); }
     // Whether another program wrote the file since it was opened or saved.
     bool wasChangedMeanwhile() const;
+    // A change that is no step, so that no undo leads back to what is saved.
+    void changeBesideSteps();
     void acceptChangeMeanwhile() { rememberFile(); }
     // Who has the plan open as well; empty: nobody.
     const QString &otherUser() const { return m_otherUser; }
@@ -99,6 +101,8 @@ Q_SIGNALS:
 
 private:
     void take(std::unique_ptr<Plan> plan);
+    void finishStep(PlanEdits &edits, bool wasModified);
+    void goSteps(bool isBack);
     void rememberFile();
     void lockFile();
     bool writeCopy();
@@ -108,6 +112,7 @@ private:
     Watcher m_watcher;
     int m_holds = 0;
     bool m_wasModified = false; // before the trial
+    int m_savedStep = -1;       // steps on the undo stack when the plan was as it is saved; -1: out of reach
     bool m_barsAreOld = false;
     QString m_path;
     QString m_source;
