@@ -1,6 +1,7 @@
 #include "mainwindow.h"
 #include "actions/actiontable.h"
 #include "datetext.h"
+#include "dialogs/fitting.h"
 #include "kwfilepathmanager.h"
 #include "model/kwtaskinfo.h"
 #include "quoted.h"
@@ -22,7 +23,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScreen>
 #include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
@@ -77,6 +77,7 @@ MainWindow::MainWindow(QWidget *parent)
         m_table->viewport()->update();
     });
     connect(m_table, &PlanTable::foldToggled, this, &MainWindow::toggleFold);
+    connect(m_table, &PlanTable::refused, this, &MainWindow::tellRefusal);
     connect(m_chart, &PlanChart::taskPressed, this, [this](quint32 id, Qt::KeyboardModifiers modifiers) {
         const int row = m_model->rowOf(id);
         if (modifiers & (Qt::ControlModifier | Qt::ShiftModifier))
@@ -175,8 +176,8 @@ void MainWindow::makeLayout()
             &QScrollBar::setValue);
     connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, m_chart->verticalScrollBar(),
             &QScrollBar::setValue);
-    const QSize room = QGuiApplication::primaryScreen()->availableSize();
-    resize(QSize(1280, 760).boundedTo(room * 0.95));
+    m_status->setMinimumWidth(1); // long texts are no reason for a wide window
+    fitting::resize(*this, QSize(1280, 760));
     m_splitter->setSizes({width() * 48 / 100, width() * 52 / 100});
 }
 
@@ -275,6 +276,7 @@ void MainWindow::showPlan()
     m_table->horizontalScrollBar()->setValue(0);
     m_table->selectRow(0, qMax(0, m_model->columnOf(cellinput::nameType)));
     m_reasons->explain(m_table->currentTask());
+    m_table->setFocus(); // keys go where the cursor is
     updateState();
 }
 

@@ -3,6 +3,7 @@
 #include "console.h"
 #include "dialogs/calendardialog.h"
 #include "dialogs/commandpalette.h"
+#include "dialogs/fitting.h"
 #include "dialogs/pagesetupdialog.h"
 #include "dialogs/previewdialog.h"
 #include "dialogs/printout.h"
@@ -240,7 +241,7 @@ void MainWindow::keys()
     text->setMarkdown(actiontable::asMarkdown());
     auto *layout = new QVBoxLayout(&dialog);
     layout->addWidget(text);
-    dialog.resize(720, 640);
+    fitting::resize(dialog, QSize(720, 640));
     dialog.exec();
 }
 

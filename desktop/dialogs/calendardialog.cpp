@@ -1,5 +1,6 @@
 #include "dialogs/calendardialog.h"
 #include "datetext.h"
+#include "dialogs/fitting.h"
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwcalendar.h"
@@ -141,14 +142,16 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
     left->addLayout(form);
     left->addWidget(new QLabel(tr("Exceptions; the first one that names a date decides:")));
     left->addLayout(tableBox, 1);
-    auto *columns = new QHBoxLayout;
+    auto *inside = new QWidget;
+    auto *columns = new QHBoxLayout(inside);
+    columns->setContentsMargins(0, 0, 0, 0);
     columns->addLayout(left, 3);
     columns->addWidget(m_month, 2);
     auto *all = new QVBoxLayout(this);
-    all->addLayout(columns, 1);
+    all->addWidget(fitting::scrolled(inside), 1);
     all->addWidget(m_complaint);
     all->addWidget(buttons);
-    resize(1080, 440);
+    fitting::resize(*this, QSize(1080, 440));
     showMonth();
 }
 

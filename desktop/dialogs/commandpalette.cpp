@@ -1,4 +1,5 @@
 #include "dialogs/commandpalette.h"
+#include "dialogs/fitting.h"
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
@@ -23,7 +24,7 @@ CommandPalette::CommandPalette(const QList<QAction *> &actions, QWidget *parent)
     m_line->installEventFilter(this);
     connect(m_line, &QLineEdit::textChanged, this, &CommandPalette::fill);
     connect(m_list, &QListWidget::itemActivated, this, &CommandPalette::choose);
-    resize(620, 380);
+    fitting::resize(*this, QSize(620, 380));
     fill();
 }
 

@@ -1,4 +1,5 @@
 #include "dialogs/previewdialog.h"
+#include "dialogs/fitting.h"
 #include "documents/session.h"
 #include "export/ganttpdfexport.h"
 #include "texts.h"
@@ -55,7 +56,7 @@ PreviewDialog::PreviewDialog(Session &session, const KWExportOptions &options, Q
         Q_EMIT setupWanted();
         restart();
     });
-    resize(1000, 760);
+    fitting::resize(*this, QSize(1000, 760));
     restart();
 }
 

@@ -1,4 +1,5 @@
 #include "dialogs/resourcesdialog.h"
+#include "dialogs/fitting.h"
 #include "documents/session.h"
 #include "edit.h"
 #include "resources/resourceinfodata.h"
@@ -32,6 +33,7 @@ ResourcesDialog::ResourcesDialog(Session &session, QWidget *parent)
     m_sheet->setColumnWidth(Name, 180);
     m_sheet->setAccessibleName(windowTitle());
     m_complaint->setTextFormat(Qt::PlainText);
+    m_complaint->setWordWrap(true);
     m_complaint->setStyleSheet(QStringLiteral("color:#b3541e"));
     auto *add = new QPushButton(tr("&Add"));
     auto *remove = new QPushButton(tr("&Remove"));
@@ -48,7 +50,7 @@ ResourcesDialog::ResourcesDialog(Session &session, QWidget *parent)
     connect(remove, &QPushButton::clicked, this, &ResourcesDialog::removeResource);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_sheet, &QTableWidget::cellChanged, this, &ResourcesDialog::changed);
-    resize(960, 420);
+    fitting::resize(*this, QSize(960, 420));
     fill();
 }
 
