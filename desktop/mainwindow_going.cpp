@@ -123,7 +123,8 @@ void MainWindow::goTo()
 void MainWindow::editCell()
 {
     m_table->setFocus();
-    m_table->edit(m_table->currentIndex());
+    if (m_table->takesText(m_table->currentIndex()))
+        m_table->edit(m_table->currentIndex());
 }
 
 void MainWindow::selectAll()

@@ -1,6 +1,7 @@
 #include "views/plantable.h"
 #include "documents/session.h"
 #include "model/kwtaskinfo.h"
+#include "quoted.h"
 #include "table/rowcolumndata.h"
 #include "texts.h"
 #include "views/celldelegate.h"
@@ -45,7 +46,13 @@ PlanTable::PlanTable(Session &session, PlanModel &model, Picture &picture, QWidg
     setContextMenuPolicy(Qt::ActionsContextMenu);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     viewport()->setMouseTracking(true);
-    connect(m_delegate, &CellDelegate::leftTowards, this, &PlanTable::leaveTowards);
+    connect(m_delegate, &CellDelegate::leftTowards, this, [this](int way) {
+        // The row for a new task has moved down when it made one.
+        const int row = currentIndex().row();
+        const QVector<quint32> &made = m_model.lastOutcome().answer.tasks;
+        const int madeRow = row == m_model.taskRows() && !made.isEmpty() ? m_model.rowOf(made.first()) : -1;
+        leaveTowards(way, madeRow >= 0 ? madeRow : row);
+    });
     connect(&session, &Session::edited, this, &PlanTable::edited);
     connect(&session, &Session::replaced, this, &PlanTable::edited);
     connect(&model, &PlanModel::filtered, this, &PlanTable::edited);
@@ -219,6 +226,8 @@ void PlanTable::setSelection(const QRect &rect, QItemSelectionModel::SelectionFl
         return;
     if (last < 0)
         last = m_model.taskRows();
+    if (last < first) // Shift goes up as well as down
+        std::swap(first, last);
     selectionModel()->select(
         QItemSelection(m_model.index(first, 0), m_model.index(last, m_model.columnCount() - 1)), command);
 }
@@ -352,19 +361,19 @@ void PlanTable::goDown()
     selectRow(currentIndex().row() + 1);
 }
 
-// After an editor was left: Tab passes the cells that take no text.
-void PlanTable::leaveTowards(int way)
+// After an editor in that row was left: Tab passes the cells that take no text.
+void PlanTable::leaveTowards(int way, int from)
 {
     setFocus();
     const QModelIndex current = currentIndex();
     if (!current.isValid())
         return;
     if (way == CellDelegate::Down || way == CellDelegate::Up) {
-        selectRow(current.row() + (way == CellDelegate::Down ? 1 : -1), current.column());
+        selectRow(from + (way == CellDelegate::Down ? 1 : -1), current.column());
         return;
     }
     const int step = way == CellDelegate::Next ? 1 : -1, columns = m_model.columnCount();
-    int row = current.row(), column = current.column();
+    int row = from, column = current.column();
     for (int tried = 0; tried < columns; ++tried) {
         column += step;
         if (column < 0 || column >= columns) {
@@ -396,13 +405,56 @@ void PlanTable::keyPressEvent(QKeyEvent *event)
         return;
     }
     if ((event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) && current.isValid()) {
-        leaveTowards(event->key() == Qt::Key_Tab ? CellDelegate::Next : CellDelegate::Previous);
+        leaveTowards(event->key() == Qt::Key_Tab ? CellDelegate::Next : CellDelegate::Previous,
+                     current.row());
+        return;
+    }
+    // Also where the cursor is there already, and other rows are chosen.
+    if ((event->key() == Qt::Key_Home || event->key() == Qt::Key_End) && current.isValid() &&
+        !(event->modifiers() & Qt::ShiftModifier)) {
+        const QModelIndex to =
+            moveCursor(event->key() == Qt::Key_Home ? MoveHome : MoveEnd, event->modifiers());
+        selectRow(to.row(), to.column());
         return;
     }
     // A blank alone would only wipe out what stands in a cell.
     if (event->key() == Qt::Key_Space)
         return;
+    constexpr Qt::KeyboardModifiers ofShortcuts = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const QString typed = event->text();
+    if (current.isValid() && !(event->modifiers() & ofShortcuts) && !typed.isEmpty() &&
+        typed.at(0).isPrint() && !takesText(current))
+        return;
     QAbstractItemView::keyPressEvent(event);
+}
+
+bool PlanTable::takesText(const QModelIndex &index)
+{
+    if (!index.isValid() || index.flags() & Qt::ItemIsEditable)
+        return index.isValid();
+    const QString title = index.model()->headerData(index.column(), Qt::Horizontal).toString();
+    if (m_model.typeOf(index.column()) == 0)
+        Q_EMIT refused(tr("the numbers of the rows are counted, not typed"),
+                       tr("names go into the column beside them; Alt+Up and Alt+Down move a task"));
+    else
+        Q_EMIT refused(tr("%1 is worked out from the other columns").arg(quoted(title)), QString());
+    return false;
+}
+
+// With Ctrl a key that moves the cursor would leave the chosen rows as they are, out of sight.
+QItemSelectionModel::SelectionFlags PlanTable::selectionCommand(const QModelIndex &index,
+                                                                const QEvent *event) const
+{
+    if (event && event->type() == QEvent::KeyPress) {
+        const auto *key = static_cast<const QKeyEvent *>(event);
+        const bool isFar = key->key() == Qt::Key_Home || key->key() == Qt::Key_End ||
+                           key->key() == Qt::Key_Up || key->key() == Qt::Key_Down;
+        if (isFar && key->modifiers() & Qt::ControlModifier)
+            return QItemSelectionModel::Rows |
+                   (key->modifiers() & Qt::ShiftModifier ? QItemSelectionModel::SelectCurrent
+                                                         : QItemSelectionModel::ClearAndSelect);
+    }
+    return QAbstractItemView::selectionCommand(index, event);
 }
 
 // ---- Mouse ------------------------------------------------------------------------------------------------
@@ -520,7 +572,10 @@ void PlanTable::askColumns(const QPoint &globalPos)
     const RowColumnData &columns = *m_session.document().rowColumnData();
     for (int pos = 0; pos < columns.columns().size(); ++pos) {
         const RowColumnData::ColumnData &column = *columns.columns().at(pos);
-        QAction *action = menu.addAction(t(column.title));
+        // As it is called above the table.
+        const bool isNumber = RowColumnData::typeOfTitle(column.title) == 0;
+        QAction *action = menu.addAction(
+            CustomTable::shownTitle(isNumber ? QString::fromLatin1(CustomTable::placeTitle) : column.title));
         action->setData(QString(column.title));
         action->setCheckable(true);
         action->setChecked(!column.isHide);

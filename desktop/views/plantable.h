@@ -25,6 +25,8 @@ public:
     quint32 currentTask() const;            // 0: the row for a new one
     void select(const QVector<quint32> &ids, int column = -1);
     void selectRow(int row, int column = -1);
+    // Whether the cell can be typed in; says why not.
+    bool takesText(const QModelIndex &index);
     void goDown(); // to the next row, for a new task at the end
     double tableWidth() const;
     // Numbers and names stay where they are when the others are scrolled, unless that would leave no room for
@@ -46,7 +48,7 @@ public:
 
 Q_SIGNALS:
     void foldToggled(quint32 id);
-    void moveRefused(const QString &what, const QString &hint);
+    void refused(const QString &what, const QString &hint);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -62,6 +64,8 @@ protected:
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     int horizontalOffset() const override;
     int verticalOffset() const override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
     bool isIndexHidden(const QModelIndex &index) const override;
     void setSelection(const QRect &rect, QItemSelectionModel::SelectionFlags command) override;
     QRegion visualRegionForSelection(const QItemSelection &selection) const override;
@@ -70,7 +74,7 @@ protected:
     void horizontalScrollbarValueChanged(int value) override;
 
 private:
-    void leaveTowards(int way);
+    void leaveTowards(int way, int from);
     QRectF cellRect(int row, int column) const;
     bool isOnFoldMark(const QPoint &point, quint32 &id) const;
     int rowBorderAt(const QPoint &point) const; // the row above it; -1: none

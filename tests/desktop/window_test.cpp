@@ -888,6 +888,105 @@ TEST(Window, whatIsTypedIsNotLost)
     EXPECT_EQ(saved.getTaskInfoAt(2)->Name, QLatin1String("Trial"));
 }
 
+TEST(Window, windowsStandWholeOnASmallScreen)
+{
+    Hands hands;
+    CalendarDialog calendar(hands.window->session());
+    ResourcesDialog resources(hands.window->session());
+    PreviewDialog preview(hands.window->session(), KWExportOptions());
+    constexpr int frame = 40; // 1600x1000 at a scale of 2
+    for (const QWidget *window : {static_cast<QWidget *>(&calendar), static_cast<QWidget *>(&resources),
+                                  static_cast<QWidget *>(&preview), static_cast<QWidget *>(hands.window.get())}) {
+        const QSize least = window->minimumSizeHint().expandedTo(window->minimumSize());
+        EXPECT_LE(least.width(), 800) << window->windowTitle().toStdString();
+        EXPECT_LE(least.height(), 500 - frame) << window->windowTitle().toStdString();
+        if (window->isWindow() && !window->isVisible())
+            EXPECT_LE(window->width(), window->screen()->availableSize().width());
+    }
+}
+
+TEST(Window, keysGoWhereTheCursorIs)
+{
+    Hands hands;
+    {
+        MainWindow other;
+        other.setAttribute(Qt::WA_DeleteOnClose, false);
+        other.show();
+        QApplication::setActiveWindow(&other);
+        EXPECT_EQ(QApplication::focusWidget(), other.table());
+    }
+    makeChain(hands);
+    const auto chosen = [&] { return hands.window->table()->selectedTasks(); };
+    hands.key(Qt::Key_A, Qt::ControlModifier);
+    hands.key(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(chosen(), QVector<quint32>{hands.id(0)});
+    hands.key(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(chosen().size(), 3);
+    hands.key(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(hands.window->table()->currentIndex().row(), 3);
+    EXPECT_TRUE(chosen().isEmpty());
+    hands.go(3, name);
+    hands.type(QStringLiteral("Ship"));
+    hands.key(Qt::Key_Tab);
+    hands.type(QStringLiteral("2026-02-02"));
+    hands.key(Qt::Key_Tab);
+    EXPECT_EQ(hands.window->model()->taskRows(), 4);
+    EXPECT_EQ(QDateTime::fromSecsSinceEpoch(hands.task(3).Start).date(), QDate(2026, 2, 2));
+    hands.go(0, 0);
+    hands.type(QStringLiteral("7"));
+    EXPECT_FALSE(hands.window->note()->text().isEmpty());
+}
+
+TEST(Window, rowsAreCountedAsPredecessorsCountThem)
+{
+    Hands hands;
+    makeChain(hands);
+    hands.go(1, name);
+    hands.key(Qt::Key_Insert);
+    hands.key(Qt::Key_Escape);
+    hands.go(2, name);
+    hands.key(Qt::Key_Right, Qt::AltModifier); // Build goes into the new task
+    hands.go(1, name);
+    hands.key(Qt::Key_Left); // which is folded
+    const PlanModel &model = *hands.window->model();
+    const auto text = [&](int row, int type) {
+        return model.index(row, model.columnOf(type)).data().toString();
+    };
+    ASSERT_EQ(model.taskRows(), 3);
+    EXPECT_EQ(text(1, 0), QLatin1String("2"));
+    EXPECT_EQ(text(2, 0), QLatin1String("4"));
+    EXPECT_EQ(text(2, waits), QLatin1String("3"));
+    const QList<quint32> before = hands.task(2).Predecessors;
+    hands.enter(2, waits, QStringLiteral("3; 1"));
+    EXPECT_EQ(hands.task(2).Predecessors.value(0), before.value(0));
+    EXPECT_EQ(text(2, waits), QLatin1String("3; 1"));
+}
+
+TEST(Window, undoLeadsBackToWhatIsSaved)
+{
+    Hands hands;
+    QTemporaryDir folder;
+    const auto isModified = [&] { return hands.window->session().isModified(); };
+    hands.enter(0, name, QStringLiteral("A"));
+    hands.enter(1, name, QStringLiteral("B"));
+    ASSERT_TRUE(hands.window->saveTo(folder.filePath(QStringLiteral("a.kwpx"))));
+    hands.key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(isModified());
+    hands.key(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_FALSE(isModified());
+    // Another way from the step before: the saved one is gone.
+    hands.key(Qt::Key_Z, Qt::ControlModifier);
+    hands.enter(1, name, QStringLiteral("C"));
+    EXPECT_TRUE(isModified());
+    ASSERT_TRUE(hands.window->saveTo(folder.filePath(QStringLiteral("a.kwpx"))));
+    const int kept = hands.document().actionManager().getUndoLevel();
+    for (int step = 0; step <= kept; ++step)
+        hands.enter(0, name, QString::number(step));
+    for (int step = 0; step <= kept; ++step)
+        hands.key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(isModified());
+}
+
 TEST(Window, onlyPagesAndMailsAreOpened)
 {
     Hands hands;
