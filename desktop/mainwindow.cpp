@@ -269,6 +269,8 @@ void MainWindow::showPlan()
     m_note->hide();
     m_hasAskedAboutFile = false;
     m_findings->list(m_session.findings());
+    if (!m_findings->isHidden()) // the plan is what is looked at
+        resizeDocks({m_findings}, {qMin(m_findings->wantedHeight(), height() / 4)}, Qt::Vertical);
     m_finish = m_session.document().getMaxFinishSecs();
     if (m_session.document().AutoZoom)
         m_chart->fit();

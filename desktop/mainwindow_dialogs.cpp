@@ -206,9 +206,13 @@ void MainWindow::print()
 void MainWindow::calendar()
 {
     CalendarDialog dialog(m_session, this);
-    if (dialog.exec() == QDialog::Accepted && dialog.answer().isDone() && !dialog.answer().moves.isEmpty())
-        tellAnswer(tr("The working time has changed: %1 tasks moved").arg(dialog.answer().moves.size()),
-                   dialog.answer(), true);
+    if (dialog.exec() != QDialog::Accepted || !dialog.hasChanged())
+        return;
+    const int moves = dialog.answer().moves.size();
+    tellAnswer(moves == 0   ? tr("The working time has changed: no task moves")
+               : moves == 1 ? tr("The working time has changed: one task moved")
+                            : tr("The working time has changed: %1 tasks moved").arg(moves),
+               dialog.answer(), true);
 }
 
 void MainWindow::resources()

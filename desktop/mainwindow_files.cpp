@@ -21,7 +21,10 @@ bool MainWindow::openFile(const QString &path)
           [&] { isOpen = m_session.open(path, error); });
     QApplication::restoreOverrideCursor();
     if (!isOpen) {
-        tellRefusal(error.isEmpty() ? tr("cancelled: the plan that was open stays") : error, QString());
+        if (error.isEmpty())
+            tellRefusal(tr("cancelled: the plan that was open stays"), QString());
+        else
+            m_note->say(error, NoteBar::Refused); // begins with the name of the file, as it is written
         return false;
     }
     addRecent(path);

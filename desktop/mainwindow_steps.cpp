@@ -58,14 +58,28 @@ void MainWindow::removeTasks()
 {
     const int row = m_table->currentIndex().row();
     const QVector<quint32> ids = chosen();
-    const int before = m_session.document().taskCount();
-    if (!perform(tr("Delete"), [&](PlanEdits &edits) { return edits.remove(ids); }).isDone())
+    const KWDocument &document = m_session.document();
+    const int before = document.taskCount();
+    QSet<quint32> below; // of summaries that go, without those that go themselves
+    const QSet<quint32> going(ids.begin(), ids.end());
+    for (const KWTaskInfo *task : document.taskList())
+        if (going.contains(task->ParentID) && !going.contains(task->ID))
+            below.insert(task->ID);
+    const EditAnswer answer =
+        m_session.edit(tr("Delete"), [&](PlanEdits &edits) { return edits.remove(ids); });
+    if (!answer.isDone()) {
+        tellRefusal(answer.sentence(), answer.hint());
         return;
+    }
     m_table->selectRow(row);
-    const int gone = before - m_session.document().taskCount();
+    QStringList parts;
+    const int gone = before - document.taskCount();
     if (gone > ids.size())
-        m_note->say(tr("%1 tasks are deleted, %2 of them were not shown.").arg(gone).arg(gone - ids.size()),
-                    NoteBar::Told, tr("Undo"), [this] { undo(); });
+        parts.append(tr("%1 tasks are deleted, %2 of them were not shown").arg(gone).arg(gone - ids.size()));
+    if (std::any_of(below.begin(), below.end(),
+                    [&](quint32 id) { return document.getTaskInfoByID(id) != nullptr; }))
+        parts.append(tr("The tasks below it stay, one level up; Cut takes them along"));
+    tellAnswer(parts.join(QLatin1String(". ")), answer, !parts.isEmpty());
 }
 
 void MainWindow::duplicate()

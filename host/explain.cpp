@@ -183,9 +183,13 @@ private:
     {
         if (m_reasons.firstChild == 0)
             return t("nothing: it holds no task");
+        const QString count =
+            counted(m_task->Childs.size(), "%1 task right below it", "%1 tasks right below it");
+        if (m_reasons.firstChild == m_reasons.lastChild) // it begins and ends all that is below
+            return t("%1; %2 is its first and its last")
+                .arg(count, named(m_plan.posOf(m_reasons.firstChild)));
         return t("%1; from %2 to %3")
-            .arg(counted(m_task->Childs.size(), "%1 task right below it", "%1 tasks right below it"),
-                 named(m_plan.posOf(m_reasons.firstChild)), named(m_plan.posOf(m_reasons.lastChild)));
+            .arg(count, named(m_plan.posOf(m_reasons.firstChild)), named(m_plan.posOf(m_reasons.lastChild)));
     }
 
     QString moved() const
@@ -208,7 +212,7 @@ private:
         const KWTaskInfo *urgent = m_plan.task(tightest);
         if (m_task->isParent())
             return (urgent->CriticalPath ? t("yes: %1 below it is (slack %2)")
-                                         : t("no: %1 below it has %2 to spare, and no task less"))
+                                         : t("no: %1 has the least to spare of the tasks below it, %2"))
                 .arg(named(tightest), urgent->LateSlack);
         if (m_task->CriticalPath)
             return t("yes: finishing later moves the project finish (slack %1)").arg(m_task->LateSlack);

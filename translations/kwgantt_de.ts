@@ -1320,16 +1320,20 @@
         <translation>nichts: er enthält keinen Vorgang</translation>
     </message>
     <message>
-        <source>%1; from %2 to %3</source>
-        <translation>%1; von %2 bis %3</translation>
-    </message>
-    <message>
         <source>%1 task right below it</source>
         <translation>%1 Vorgang direkt darunter</translation>
     </message>
     <message>
         <source>%1 tasks right below it</source>
         <translation>%1 Vorgänge direkt darunter</translation>
+    </message>
+    <message>
+        <source>%1; %2 is its first and its last</source>
+        <translation>%1; %2 ist der erste und der letzte</translation>
+    </message>
+    <message>
+        <source>%1; from %2 to %3</source>
+        <translation>%1; von %2 bis %3</translation>
     </message>
     <message>
         <source>the plan's date is %1</source>
@@ -1344,8 +1348,8 @@
         <translation>ja: %1 darunter ist es (Puffer %2)</translation>
     </message>
     <message>
-        <source>no: %1 below it has %2 to spare, and no task less</source>
-        <translation>nein: %1 darunter hat %2 Luft, und kein Vorgang weniger</translation>
+        <source>no: %1 has the least to spare of the tasks below it, %2</source>
+        <translation>nein: am wenigsten Luft darunter hat %1, nämlich %2</translation>
     </message>
     <message>
         <source>yes: finishing later moves the project finish (slack %1)</source>
@@ -1994,6 +1998,10 @@
     <message>
         <source>predecessor %1 does not exist</source>
         <translation>den Vorgänger %1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
     </message>
     <message>
         <source>%1: not a plan: no title of the task sheet is known</source>
@@ -5593,6 +5601,14 @@
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
+        <source>keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>In the table and on the chart</source>
+        <translation>In der Tabelle und im Diagramm</translation>
+    </message>
+    <message>
         <source>kwgantt</source>
         <translation>kwgantt</translation>
     </message>
@@ -5631,6 +5647,10 @@
     <message>
         <source>&amp;Remove</source>
         <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Working day</source>
+        <translation>Arbeitstag</translation>
     </message>
     <message>
         <source>Holiday</source>
@@ -5679,6 +5699,10 @@
     <message>
         <source>Commands that fit</source>
         <translation>Passende Befehle</translation>
+    </message>
+    <message>
+        <source>No command has all of these words</source>
+        <translation>Kein Befehl hat alle diese Wörter</translation>
     </message>
     <message>
         <source>&amp;Match case</source>
@@ -5769,12 +5793,16 @@
         <translation>Ränder &amp;oben und unten</translation>
     </message>
     <message>
-        <source>%1 × %2 sheets, smallest text %3 pt%4</source>
-        <translation>%1 × %2 Blätter, kleinster Text %3 pt%4</translation>
+        <source>One sheet, smallest text %1 pt%2</source>
+        <translation>Ein Blatt, kleinster Text %1 pt%2</translation>
     </message>
     <message>
         <source>: hard to read</source>
         <translation>: schwer lesbar</translation>
+    </message>
+    <message>
+        <source>%1 × %2 sheets, smallest text %3 pt%4</source>
+        <translation>%1 × %2 Blätter, kleinster Text %3 pt%4</translation>
     </message>
     <message>
         <source>Print preview</source>
@@ -5819,6 +5847,10 @@
     <message>
         <source>Remove resource</source>
         <translation>Ressource entfernen</translation>
+    </message>
+    <message>
+        <source>One assignment went with it</source>
+        <translation>Eine Zuweisung ging mit</translation>
     </message>
     <message>
         <source>%1 assignments went with it</source>
@@ -6149,6 +6181,14 @@
         <translation>%1 hat nicht gedruckt</translation>
     </message>
     <message>
+        <source>The working time has changed: no task moves</source>
+        <translation>Die Arbeitszeit ist geändert: kein Vorgang verschoben</translation>
+    </message>
+    <message>
+        <source>The working time has changed: one task moved</source>
+        <translation>Die Arbeitszeit ist geändert: ein Vorgang verschoben</translation>
+    </message>
+    <message>
         <source>The working time has changed: %1 tasks moved</source>
         <translation>Die Arbeitszeit ist geändert: %1 Vorgänge verschoben</translation>
     </message>
@@ -6321,12 +6361,12 @@
         <translation>Löschen</translation>
     </message>
     <message>
-        <source>%1 tasks are deleted, %2 of them were not shown.</source>
-        <translation>%1 Vorgänge sind gelöscht, %2 davon waren nicht zu sehen.</translation>
+        <source>%1 tasks are deleted, %2 of them were not shown</source>
+        <translation>%1 Vorgänge sind gelöscht, %2 davon waren nicht zu sehen</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>Rückgängig</translation>
+        <source>The tasks below it stay, one level up; Cut takes them along</source>
+        <translation>Die Vorgänge darunter bleiben, eine Ebene höher; Ausschneiden nimmt sie mit</translation>
     </message>
     <message>
         <source>Duplicate</source>
@@ -6381,6 +6421,10 @@
         <translation>In %1 Vorgängen ersetzt.</translation>
     </message>
     <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
         <source>Nothing moves: every task starts when those it waits for have ended.</source>
         <translation>Nichts bewegt sich: jeder Vorgang beginnt, wenn die beendet sind, auf die er wartet.</translation>
     </message>
@@ -6423,10 +6467,6 @@
     <message>
         <source>%1 does not wait for %2 any more</source>
         <translation>%1 wartet nicht mehr auf %2</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>Nr.</translation>
     </message>
     <message>
         <source>Start by</source>
@@ -6559,6 +6599,18 @@
     <message>
         <source>Table of tasks</source>
         <translation>Vorgangstabelle</translation>
+    </message>
+    <message>
+        <source>the numbers of the rows are counted, not typed</source>
+        <translation>die Nummern der Zeilen werden gezählt, nicht getippt</translation>
+    </message>
+    <message>
+        <source>names go into the column beside them; Alt+Up and Alt+Down move a task</source>
+        <translation>Namen kommen in die Spalte daneben; Alt+Auf und Alt+Ab verschieben einen Vorgang</translation>
+    </message>
+    <message>
+        <source>%1 is worked out from the other columns</source>
+        <translation>%1 ergibt sich aus den anderen Spalten</translation>
     </message>
     <message>
         <source>Change row height</source>

@@ -1320,16 +1320,20 @@
         <translation>无：不含任务</translation>
     </message>
     <message>
-        <source>%1; from %2 to %3</source>
-        <translation>%1；从 %2 到 %3</translation>
-    </message>
-    <message>
         <source>%1 task right below it</source>
         <translation>其下直属 %1 个任务</translation>
     </message>
     <message>
         <source>%1 tasks right below it</source>
         <translation>其下直属 %1 个任务</translation>
+    </message>
+    <message>
+        <source>%1; %2 is its first and its last</source>
+        <translation>%1；%2 既是第一个也是最后一个</translation>
+    </message>
+    <message>
+        <source>%1; from %2 to %3</source>
+        <translation>%1；从 %2 到 %3</translation>
     </message>
     <message>
         <source>the plan's date is %1</source>
@@ -1344,8 +1348,8 @@
         <translation>是：其下 %1 为关键（浮动时间 %2）</translation>
     </message>
     <message>
-        <source>no: %1 below it has %2 to spare, and no task less</source>
-        <translation>否：其下 %1 有 %2 余量，没有更少的</translation>
+        <source>no: %1 has the least to spare of the tasks below it, %2</source>
+        <translation>否：其下任务中 %1 的余量最小，为 %2</translation>
     </message>
     <message>
         <source>yes: finishing later moves the project finish (slack %1)</source>
@@ -1994,6 +1998,10 @@
     <message>
         <source>predecessor %1 does not exist</source>
         <translation>前置任务 %1 不存在</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>序号</translation>
     </message>
     <message>
         <source>%1: not a plan: no title of the task sheet is known</source>
@@ -5593,6 +5601,14 @@
         <translation>帮助(&amp;H)</translation>
     </message>
     <message>
+        <source>keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>In the table and on the chart</source>
+        <translation>在表格中和图上</translation>
+    </message>
+    <message>
         <source>kwgantt</source>
         <translation>kwgantt</translation>
     </message>
@@ -5631,6 +5647,10 @@
     <message>
         <source>&amp;Remove</source>
         <translation>删除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Working day</source>
+        <translation>工作日</translation>
     </message>
     <message>
         <source>Holiday</source>
@@ -5679,6 +5699,10 @@
     <message>
         <source>Commands that fit</source>
         <translation>匹配的命令</translation>
+    </message>
+    <message>
+        <source>No command has all of these words</source>
+        <translation>没有包含所有这些词的命令</translation>
     </message>
     <message>
         <source>&amp;Match case</source>
@@ -5769,12 +5793,16 @@
         <translation>上下边距(&amp;A)</translation>
     </message>
     <message>
-        <source>%1 × %2 sheets, smallest text %3 pt%4</source>
-        <translation>%1 × %2 页，最小文字 %3 pt%4</translation>
+        <source>One sheet, smallest text %1 pt%2</source>
+        <translation>一页，最小文字 %1 pt%2</translation>
     </message>
     <message>
         <source>: hard to read</source>
         <translation>：难以阅读</translation>
+    </message>
+    <message>
+        <source>%1 × %2 sheets, smallest text %3 pt%4</source>
+        <translation>%1 × %2 页，最小文字 %3 pt%4</translation>
     </message>
     <message>
         <source>Print preview</source>
@@ -5819,6 +5847,10 @@
     <message>
         <source>Remove resource</source>
         <translation>删除资源</translation>
+    </message>
+    <message>
+        <source>One assignment went with it</source>
+        <translation>一个分配随之删除</translation>
     </message>
     <message>
         <source>%1 assignments went with it</source>
@@ -6149,6 +6181,14 @@
         <translation>%1 未能打印</translation>
     </message>
     <message>
+        <source>The working time has changed: no task moves</source>
+        <translation>工作时间已更改：没有移动任务</translation>
+    </message>
+    <message>
+        <source>The working time has changed: one task moved</source>
+        <translation>工作时间已更改：移动 1 个任务</translation>
+    </message>
+    <message>
         <source>The working time has changed: %1 tasks moved</source>
         <translation>工作时间已更改：移动 %1 个任务</translation>
     </message>
@@ -6321,12 +6361,12 @@
         <translation>删除</translation>
     </message>
     <message>
-        <source>%1 tasks are deleted, %2 of them were not shown.</source>
-        <translation>已删除 %1 个任务，其中 %2 个未显示。</translation>
+        <source>%1 tasks are deleted, %2 of them were not shown</source>
+        <translation>已删除 %1 个任务，其中 %2 个未显示</translation>
     </message>
     <message>
-        <source>Undo</source>
-        <translation>撤销</translation>
+        <source>The tasks below it stay, one level up; Cut takes them along</source>
+        <translation>其下的任务保留并上移一级；剪切会一并带走</translation>
     </message>
     <message>
         <source>Duplicate</source>
@@ -6381,6 +6421,10 @@
         <translation>已在 %1 个任务中替换。</translation>
     </message>
     <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
         <source>Nothing moves: every task starts when those it waits for have ended.</source>
         <translation>没有移动：每个任务都在所等待的任务完成时开始。</translation>
     </message>
@@ -6423,10 +6467,6 @@
     <message>
         <source>%1 does not wait for %2 any more</source>
         <translation>%1 不再等待 %2</translation>
-    </message>
-    <message>
-        <source>No.</source>
-        <translation>序号</translation>
     </message>
     <message>
         <source>Start by</source>
@@ -6559,6 +6599,18 @@
     <message>
         <source>Table of tasks</source>
         <translation>任务表</translation>
+    </message>
+    <message>
+        <source>the numbers of the rows are counted, not typed</source>
+        <translation>行号由程序计数，不能输入</translation>
+    </message>
+    <message>
+        <source>names go into the column beside them; Alt+Up and Alt+Down move a task</source>
+        <translation>名称写在旁边一列；Alt+Up 和 Alt+Down 移动任务</translation>
+    </message>
+    <message>
+        <source>%1 is worked out from the other columns</source>
+        <translation>%1 由其他列算出</translation>
     </message>
     <message>
         <source>Change row height</source>

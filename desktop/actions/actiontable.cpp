@@ -1,6 +1,7 @@
 #include "actions/actiontable.h"
 #include "mainwindow.h"
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 namespace actiontable {
 
@@ -169,12 +170,21 @@ QString help(const Row &row)
     return QCoreApplication::translate("actions", row.help);
 }
 
+QString withoutMnemonic(const QString &text)
+{
+    // Chinese names carry theirs behind them, in brackets.
+    static const QRegularExpression behind(QStringLiteral("\\s*\\(&\\w\\)"));
+    return QString(text).remove(behind).remove(QLatin1Char('&'));
+}
+
 QString asMarkdown()
 {
-    const auto plain = [](QString text) { return text.remove(QLatin1Char('&')).remove(QStringLiteral("…")); };
+    const auto plain = [](const QString &text) { return withoutMnemonic(text).remove(QStringLiteral("…")); };
+    const auto words = [](const char *text) { return QCoreApplication::translate("actions", text); };
     QString page;
     for (int menu = 0; menu < menuCount; ++menu) {
-        page += QStringLiteral("### %1\n\n| | keys | |\n|---|---|---|\n").arg(plain(menuText(Menu(menu))));
+        page += QStringLiteral("### %1\n\n| | %2 | |\n|---|---|---|\n")
+                    .arg(plain(menuText(Menu(menu))), words(QT_TRANSLATE_NOOP("actions", "keys")));
         for (const Row &row : rows()) {
             if (row.menu == menu)
                 page +=
@@ -185,7 +195,8 @@ QString asMarkdown()
         }
         page += QLatin1Char('\n');
     }
-    page += QStringLiteral("### In the table and on the chart\n\n| | |\n|---|---|\n");
+    page += QStringLiteral("### %1\n\n| | |\n|---|---|\n")
+                .arg(words(QT_TRANSLATE_NOOP("actions", "In the table and on the chart")));
     for (const Gesture &gesture : gestures())
         page += QStringLiteral("| %1 | %2 |\n")
                     .arg(QCoreApplication::translate("actions", gesture.keys),

@@ -45,5 +45,6 @@ struct Gesture
 };
 const std::vector<Gesture> &gestures();
 // All of it as a page of Markdown, for docs/desktop.md.
+QString withoutMnemonic(const QString &text); // "Save as…" of "Save &as…"
 QString asMarkdown();
 }

@@ -2,6 +2,7 @@
 #include "datetext.h"
 #include "dialogs/fitting.h"
 #include "documents/session.h"
+#include "look.h"
 #include "model/kwtaskinfo.h"
 #include "schedule/kwcalendar.h"
 #include "texts.h"
@@ -87,6 +88,7 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
     week->addStretch(1);
     m_hours->setText(hoursText(hoursOf(document.workTimes)));
     m_hours->setPlaceholderText(QStringLiteral("08:00-12:00, 13:00-17:00"));
+    connect(m_hours, &QLineEdit::editingFinished, this, &CalendarDialog::showMonth);
     m_hours->setAccessibleName(tr("Hours of a working day"));
 
     m_exceptions->setHorizontalHeaderLabels({tr("From"), tr("To"), tr("What"), tr("Hours"), tr("Name")});
@@ -103,7 +105,8 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
     auto *remove = new QPushButton(tr("&Remove"));
     connect(add, &QPushButton::clicked, this, [this] {
         const QDate date = m_month->selectedDate();
-        addRow({tr("Holiday"), date, date, false, {}});
+        const bool isFree = !dayOf(date, readExceptions()).works;
+        addRow({isFree ? tr("Working day") : tr("Holiday"), date, date, isFree, {}});
         m_exceptions->selectRow(m_exceptions->rowCount() - 1);
     });
     connect(remove, &QPushButton::clicked, this, [this] {
@@ -127,9 +130,7 @@ CalendarDialog::CalendarDialog(Session &session, QWidget *parent)
         m_month->setSelectedDate(KWTaskInfo::showDateTime(&session.document(), start, true).date());
     connect(m_month, &QCalendarWidget::currentPageChanged, this, &CalendarDialog::showMonth);
 
-    m_complaint->setWordWrap(true);
-    m_complaint->setTextFormat(Qt::PlainText);
-    m_complaint->setStyleSheet(QStringLiteral("color:#b3541e"));
+    look::complains(*m_complaint);
     m_complaint->hide();
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -211,10 +212,8 @@ bool CalendarDialog::readRow(int row, DateException &exception, QString &fault) 
     return true;
 }
 
-// Days off as the dialog stands, wherever it can be read.
-void CalendarDialog::showMonth()
+QVector<DateException> CalendarDialog::readExceptions() const
 {
-    m_month->setDateTextFormat(QDate(), QTextCharFormat());
     QVector<DateException> exceptions;
     for (int row = 0; row < m_exceptions->rowCount(); ++row) {
         DateException exception;
@@ -222,29 +221,73 @@ void CalendarDialog::showMonth()
         if (m_exceptions->cellWidget(row, Works) && readRow(row, exception, fault))
             exceptions.append(exception);
     }
-    QTextCharFormat off, otherwise;
-    off.setForeground(QColor(150, 150, 150));
-    off.setBackground(QColor(128, 128, 128, 40));
+    return exceptions;
+}
+
+CalendarDialog::Day CalendarDialog::dayOf(const QDate &date, const QVector<DateException> &exceptions) const
+{
+    for (const DateException &exception : exceptions)
+        if (date >= exception.from && date <= exception.to)
+            return {exception.works, true, exception.name};
+    return {m_days[std::size_t(date.dayOfWeek() - 1)]->isChecked(), false, QString()};
+}
+
+// Hours are counted whole, and those of an exception are not kept beside the usual ones.
+void CalendarDialog::tellHours(const QVector<DateException> &exceptions)
+{
+    const auto wholeHours = [](const QVector<DayHours> &hours) {
+        constexpr quint32 hour = 3600;
+        int sum = 0;
+        for (const DayHours &interval : hours)
+            sum += int(interval.finish / hour) - int(interval.start / hour);
+        return sum;
+    };
+    QStringList parts;
+    QVector<DayHours> usual;
+    if (!readHours(m_hours->text(), usual))
+        return;
+    const auto isWhole = [](const DayHours &interval) {
+        constexpr quint32 hour = 3600;
+        return interval.start % hour == 0 && interval.finish % hour == 0;
+    };
+    if (!std::all_of(usual.begin(), usual.end(), isWhole))
+        parts.append(
+            tr("the hours %1 count as %2 whole hours a day").arg(hoursText(usual)).arg(wholeHours(usual)));
+    for (const DateException &exception : exceptions)
+        if (exception.works && !exception.hours.isEmpty() && wholeHours(exception.hours) != wholeHours(usual))
+            parts.append((exception.name.isEmpty() ? exception.from.toString(Qt::ISODate) : exception.name) +
+                         QLatin1String(": ") +
+                         tr("its hours %1 are not kept: a whole working day of %2 hours is counted")
+                             .arg(hoursText(exception.hours))
+                             .arg(wholeHours(usual)));
+    m_complaint->setText(parts.join(QLatin1Char('\n')));
+    m_complaint->setVisible(!parts.isEmpty());
+}
+
+// Days off as the dialog stands, wherever it can be read.
+void CalendarDialog::showMonth()
+{
+    m_month->setDateTextFormat(QDate(), QTextCharFormat());
+    const QVector<DateException> exceptions = readExceptions();
+    tellHours(exceptions);
+    const QColor base = palette().base().color(), text = palette().text().color();
+    constexpr double quiet = 0.55, shade = 0.14;
+    QTextCharFormat off, otherwise, weekday;
+    off.setForeground(look::mixed(base, text, quiet));
+    off.setBackground(look::mixed(base, text, shade));
+    weekday.setForeground(text); // no red, which says nothing of who works then
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+        m_month->setWeekdayTextFormat(day, weekday);
     otherwise.setFontWeight(QFont::Bold);
     const QDate first = QDate(m_month->yearShown(), m_month->monthShown(), 1).addDays(-7);
     constexpr int daysShown = 49;
     for (int day = 0; day < daysShown; ++day) {
         const QDate date = first.addDays(day);
-        bool works = m_days[std::size_t(date.dayOfWeek() - 1)]->isChecked();
-        bool isException = false;
-        QString name;
-        for (const DateException &exception : qAsConst(exceptions)) {
-            if (date < exception.from || date > exception.to)
-                continue;
-            works = exception.works;
-            isException = true;
-            name = exception.name;
-            break;
-        }
-        QTextCharFormat format = works ? QTextCharFormat() : off;
-        if (isException)
+        const Day found = dayOf(date, exceptions);
+        QTextCharFormat format = found.works ? QTextCharFormat() : off;
+        if (found.isException)
             format.merge(otherwise);
-        format.setToolTip(name);
+        format.setToolTip(found.name);
         m_month->setDateTextFormat(date, format);
     }
 }
@@ -315,7 +358,8 @@ bool CalendarDialog::apply()
     });
     if (!m_answer.isDone())
         complain(m_answer.sentence(), m_answer.hint());
-    return m_answer.isDone();
+    m_hasChanged = m_answer.isDone();
+    return m_hasChanged;
 }
 
 void CalendarDialog::accept()

@@ -22,6 +22,7 @@ public:
     bool apply();
     void accept() override;
     EditAnswer answer() const { return m_answer; }
+    bool hasChanged() const { return m_hasChanged; }
 
     // For tests, which type into them.
     QLineEdit *hours() const { return m_hours; }
@@ -35,6 +36,16 @@ private:
     bool readHours(const QString &text, QVector<DayHours> &hours) const;
     bool readRow(int row, DateException &exception, QString &fault) const;
     void showMonth();
+    // What a date is as the dialog stands.
+    struct Day
+    {
+        bool works;
+        bool isException;
+        QString name;
+    };
+    QVector<DateException> readExceptions() const; // without those that cannot be read yet
+    Day dayOf(const QDate &date, const QVector<DateException> &exceptions) const;
+    void tellHours(const QVector<DateException> &exceptions);
 
     Session &m_session;
     std::array<QCheckBox *, 7> m_days;
@@ -43,4 +54,5 @@ private:
     QCalendarWidget *m_month;
     QLabel *m_complaint;
     EditAnswer m_answer;
+    bool m_hasChanged = false;
 };

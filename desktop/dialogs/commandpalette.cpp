@@ -1,4 +1,5 @@
 #include "dialogs/commandpalette.h"
+#include "actions/actiontable.h"
 #include "dialogs/fitting.h"
 #include <QAction>
 #include <QApplication>
@@ -30,7 +31,7 @@ CommandPalette::CommandPalette(const QList<QAction *> &actions, QWidget *parent)
 
 int CommandPalette::matches() const
 {
-    return m_list->count();
+    return m_hasNone ? 0 : m_list->count();
 }
 
 // All words must occur, in any order; those in the name come before those in the help.
@@ -40,7 +41,7 @@ void CommandPalette::fill()
     const QStringList words = m_line->text().split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const bool inName : {true, false}) {
         for (QAction *action : qAsConst(m_actions)) {
-            const QString name = action->text().remove(QLatin1Char('&'));
+            const QString name = actiontable::withoutMnemonic(action->text());
             const auto fits = [&words](const QString &text) {
                 return std::all_of(words.begin(), words.end(), [&text](const QString &word) {
                     return text.contains(word, Qt::CaseInsensitive);
@@ -59,6 +60,9 @@ void CommandPalette::fill()
                 item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
         }
     }
+    m_hasNone = m_list->count() == 0;
+    if (m_hasNone)
+        (new QListWidgetItem(tr("No command has all of these words"), m_list))->setFlags(Qt::NoItemFlags);
     for (int row = 0; row < m_list->count(); ++row) {
         if (m_list->item(row)->flags() & Qt::ItemIsEnabled) {
             m_list->setCurrentRow(row);

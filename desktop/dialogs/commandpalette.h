@@ -25,5 +25,6 @@ private:
     QList<QAction *> m_actions;
     QLineEdit *m_line;
     QListWidget *m_list;
+    bool m_hasNone = false;
     QAction *m_chosen = nullptr;
 };

@@ -159,6 +159,10 @@ void PageSetupDialog::showOutcome()
     constexpr double readable = 4.5;
     if (sheets.isEmpty())
         m_outcome->setText(drawing.findings().isEmpty() ? QString() : drawing.findings().list().first().what);
+    else if (sheets == QSize(1, 1))
+        m_outcome->setText(tr("One sheet, smallest text %1 pt%2")
+                               .arg(points, 0, 'f', 1)
+                               .arg(points < readable ? tr(": hard to read") : QString()));
     else
         m_outcome->setText(tr("%1 × %2 sheets, smallest text %3 pt%4")
                                .arg(sheets.width())

@@ -2,6 +2,7 @@
 #include "dialogs/fitting.h"
 #include "documents/session.h"
 #include "edit.h"
+#include "look.h"
 #include "resources/resourceinfodata.h"
 #include "sheettext.h"
 #include <QDialogButtonBox>
@@ -17,6 +18,21 @@ enum Column { Name, Type, Units, Rate, Overtime, PerUse, Group, Email, Notes, co
 // How the command line calls them; the name is a field of its own.
 constexpr const char *fields[columnCount] = {"",        "type",  "units", "rate", "overtime",
                                              "per-use", "group", "email", "notes"};
+constexpr const char *types[] = {"work", "material"}; // likewise
+
+QString typeText(int type)
+{
+    return type == 0 ? ResourcesDialog::tr("work") : ResourcesDialog::tr("material");
+}
+
+// The word of the command line for what the sheet shows; other texts are what they are.
+QString typeWord(const QString &text)
+{
+    for (int type = 0; type < 2; ++type)
+        if (text.compare(typeText(type), Qt::CaseInsensitive) == 0)
+            return QLatin1String(types[type]);
+    return text;
+}
 }
 
 ResourcesDialog::ResourcesDialog(Session &session, QWidget *parent)
@@ -32,9 +48,7 @@ ResourcesDialog::ResourcesDialog(Session &session, QWidget *parent)
     m_sheet->verticalHeader()->hide();
     m_sheet->setColumnWidth(Name, 180);
     m_sheet->setAccessibleName(windowTitle());
-    m_complaint->setTextFormat(Qt::PlainText);
-    m_complaint->setWordWrap(true);
-    m_complaint->setStyleSheet(QStringLiteral("color:#b3541e"));
+    look::complains(*m_complaint);
     auto *add = new QPushButton(tr("&Add"));
     auto *remove = new QPushButton(tr("&Remove"));
     auto *close = new QPushButton(tr("&Close"));
@@ -62,8 +76,7 @@ void ResourcesDialog::fill()
     for (int row = 0; row < infos.size(); ++row) {
         const ResourceInfo &info = *infos.at(row);
         const QString texts[columnCount] = {info.name,
-                                            info.type == 0 ? QStringLiteral("work")
-                                                           : QStringLiteral("material"),
+                                            typeText(info.type),
                                             sheettext::unitsText(info.unit),
                                             sheettext::rateText({info.cost, info.costUnit}),
                                             sheettext::rateText({info.overtimeCost, info.overtimeUnit}),
@@ -92,7 +105,9 @@ void ResourcesDialog::changed(int row, int column)
     if (m_isFilling)
         return;
     const ResourceInfo *info = m_session.document().resourceInfoData()->getResourceInfoAt(row);
-    const QString text = m_sheet->item(row, column)->text().trimmed();
+    QString text = m_sheet->item(row, column)->text().trimmed();
+    if (column == Type)
+        text = typeWord(text);
     if (!info)
         return;
     const QString name = info->name;
@@ -135,6 +150,8 @@ void ResourcesDialog::removeResource()
     const QString name = info->name;
     const EditAnswer answer =
         m_session.edit(tr("Remove resource"), [&](PlanEdits &edits) { return edits.removeResource(name); });
-    say(answer.losses.isEmpty() ? QString() : tr("%1 assignments went with it").arg(answer.losses.size()));
+    say(answer.losses.isEmpty()     ? QString()
+        : answer.losses.size() == 1 ? tr("One assignment went with it")
+                                    : tr("%1 assignments went with it").arg(answer.losses.size()));
     fill();
 }

@@ -1,5 +1,6 @@
 #include "views/celldelegate.h"
 #include "documents/session.h"
+#include "look.h"
 #include "resources/resourceinfodata.h"
 #include "views/planmodel.h"
 #include <QAbstractItemView>
@@ -92,8 +93,10 @@ void CellDelegate::complain(QLineEdit *editor, const QString &what, const QStrin
     constexpr int longest = 300; // of what was typed or pasted
     const QString said = what.size() <= longest ? what : what.left(longest - 1) + QStringLiteral("…");
     m_bubble->setText(hint.isEmpty() ? said : said + QLatin1Char('\n') + hint);
-    m_bubble->setStyleSheet(QStringLiteral(
-        "background:#fff4e5; color:#7a2e00; border:1px solid #c4601d; border-radius:3px; padding:3px 6px"));
+    m_bubble->setStyleSheet(
+        QStringLiteral("background:%1; border:1px solid #c4601d; border-radius:3px; padding:3px 6px")
+            .arg(look::isDark() ? QStringLiteral("#4a3018; color:#ffe3c8")
+                                : QStringLiteral("#fff4e5; color:#7a2e00")));
     const QRect cell = editor->geometry();
     const QRect room = editor->parentWidget()->rect();
     m_bubble->setWordWrap(m_bubble->sizeHint().width() > room.width() - 4);

@@ -25,8 +25,9 @@ void FindingsPanel::list(const Findings &findings)
         const QString what = texts::said(finding.what);
         QString text =
             finding.place.isEmpty() ? what : texts::said(finding.place) + QLatin1String(": ") + what;
+        // What stood there, and below it what was taken or what to do.
         if (!finding.hint.isEmpty())
-            text += QLatin1String("\n") + texts::said(finding.hint);
+            text += QStringLiteral("\n    → ") + texts::said(finding.hint);
         auto *item = new QListWidgetItem(text, m_list);
         // "row 17, 'Finish'", "line 17", "task 17"
         static const QRegularExpression form(QStringLiteral("\\b(row|line|task) (\\d+)\\b"));
@@ -38,6 +39,15 @@ void FindingsPanel::list(const Findings &findings)
         new QListWidgetItem(tr("… and %1 more").arg(findings.count() - findings.list().size()), m_list);
     setWindowTitle(tr("Findings (%1)").arg(findings.count()));
     setVisible(!findings.isEmpty());
+}
+
+int FindingsPanel::wantedHeight() const
+{
+    int height = style()->pixelMetric(QStyle::PM_TitleBarHeight) + 2 * m_list->spacing();
+    constexpr int most = 20; // more scroll
+    for (int row = 0; row < qMin(most, m_list->count()); ++row)
+        height += m_list->sizeHintForRow(row);
+    return height + fontMetrics().height() / 2;
 }
 
 int FindingsPanel::count() const

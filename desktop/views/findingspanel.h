@@ -12,6 +12,7 @@ public:
     explicit FindingsPanel(QWidget *parent = nullptr);
     void list(const Findings &findings); // hides itself when there are none
     int count() const;
+    int wantedHeight() const; // pixels in which all lines are seen
     void activate(int entry);
 
 Q_SIGNALS:

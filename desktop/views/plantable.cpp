@@ -20,6 +20,36 @@ constexpr int headHeight = int(CustomTable::headHeight);
 constexpr int rowGrip = 3; // pixels beside the border of a row
 constexpr int flashMilliseconds = 900;
 constexpr double leastHeight = 16; // of a row that is dragged
+
+// A menu in which several entries are ticked one after the other.
+class StayingMenu : public QMenu
+{
+public:
+    using QMenu::QMenu;
+
+protected:
+    void mouseReleaseEvent(QMouseEvent *event) override
+    {
+        if (!toggles(actionAt(event->pos())))
+            QMenu::mouseReleaseEvent(event);
+    }
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const bool isChoice =
+            event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (!isChoice || !toggles(activeAction()))
+            QMenu::keyPressEvent(event);
+    }
+
+private:
+    static bool toggles(QAction *action)
+    {
+        if (!action || !action->isCheckable() || !action->isEnabled())
+            return false;
+        action->trigger();
+        return true;
+    }
+};
 }
 
 PlanTable::PlanTable(Session &session, PlanModel &model, Picture &picture, QWidget *parent)
@@ -568,7 +598,7 @@ void PlanTable::moveColumn(int from, int to)
 
 void PlanTable::askColumns(const QPoint &globalPos)
 {
-    QMenu menu(this);
+    StayingMenu menu(this);
     const RowColumnData &columns = *m_session.document().rowColumnData();
     for (int pos = 0; pos < columns.columns().size(); ++pos) {
         const RowColumnData::ColumnData &column = *columns.columns().at(pos);
@@ -588,19 +618,22 @@ void PlanTable::askColumns(const QPoint &globalPos)
         waits->setCheckable(true);
         waits->setChecked(m_model.showsPredecessors());
     }
-    const QAction *chosen = menu.exec(globalPos);
-    if (!chosen)
-        return;
-    if (chosen == waits) {
-        m_model.setShowsPredecessors(waits->isChecked());
-        edited();
-        return;
-    }
-    ColumnValues values;
-    values.isHidden = !chosen->isChecked();
-    const QString title = chosen->data().toString();
-    m_session.edit(values.isHidden.value() ? tr("Hide column") : tr("Show column"),
-                   [&](PlanEdits &edits) { return edits.setColumn(title, values); });
+    connect(&menu, &QMenu::triggered, this, [this, waits](QAction *chosen) {
+        if (chosen == waits) {
+            m_model.setShowsPredecessors(waits->isChecked());
+            edited();
+            return;
+        }
+        ColumnValues values;
+        values.isHidden = !chosen->isChecked();
+        const QString title = chosen->data().toString();
+        const EditAnswer answer =
+            m_session.edit(values.isHidden.value() ? tr("Hide column") : tr("Show column"),
+                           [&](PlanEdits &edits) { return edits.setColumn(title, values); });
+        if (!answer.isDone())
+            chosen->setChecked(values.isHidden.value());
+    });
+    menu.exec(globalPos);
 }
 
 // ---- Painting ---------------------------------------------------------------------------------------------

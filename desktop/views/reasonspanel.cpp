@@ -37,7 +37,9 @@ QString withJumps(const Plan &plan, const QString &line)
                     .arg(cut(match.capturedStart(), end, longestLink));
         at = end;
     }
-    return html + cut(at, line.size(), longestText);
+    html += cut(at, line.size(), longestText);
+    // One sign, which no line breaks in two.
+    return html.replace(QStringLiteral(" -&gt; "), QStringLiteral(" →\u00a0"));
 }
 }
 

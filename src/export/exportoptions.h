@@ -22,7 +22,7 @@ public:
     static constexpr int everyLevel = 0;
 
     // ---- The table ----------------------------------------------------------------------------------------
-    std::vector<int> columns;  // column types; none: the columns that the document shows
+    std::vector<int> columns; // column types; none: the columns that the document shows
     // Tasks are named by their places in the plan, as CustomTable::countsTasks() tells. A choice of the host,
     // which is not saved.
     bool countTasks = false;

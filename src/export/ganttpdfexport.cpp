@@ -290,10 +290,13 @@ std::vector<picture::Block> GanttPdfExport::blocksOfPage(const Drawing &drawing,
 {
     const chart::SheetPart &part = drawing.sheets.parts[std::size_t(page)];
     const int pages = int(drawing.sheets.parts.size());
-    const picture::Frame frame{
-        filled(options.title, page + 1, pages), filled(options.head, page + 1, pages),
-        filled(options.foot, page + 1, pages),
-        drawing.plan().texts.sheet.arg(page + 1).arg(pages).arg(chart::placeName(part.across, part.down))};
+    // A sheet that is alone has no place among others, which would read as a size of paper.
+    const QString number =
+        pages == 1 ? KWExportOptions::shownText(QStringLiteral("%1 of %2")).arg(page + 1).arg(pages)
+                   : drawing.plan().texts.sheet.arg(page + 1).arg(pages).arg(
+                         chart::placeName(part.across, part.down));
+    const picture::Frame frame{filled(options.title, page + 1, pages), filled(options.head, page + 1, pages),
+                               filled(options.foot, page + 1, pages), number};
     return picture::sheet(*drawing.layout, drawing.sheets, part, drawing.paper, drawing.used, frame,
                           options.legend);
 }

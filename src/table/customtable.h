@@ -107,8 +107,8 @@ public:
     static QString shownTitle(const QString &title) { return s_shownTitles.value(title, title); }
     static QMap<QString, QString> s_shownTitles;
     QString shownTitleOf(int column) const; // of a column that there is
-    // Whether tasks are named by their places in the plan, from 1, also those that are folded away, in place of
-    // IDs and of tags in the columns of IDs and of predecessors.
+    // Whether tasks are named by their places in the plan, from 1, also those that are folded away, in place
+    // of IDs and of tags in the columns of IDs and of predecessors.
     bool countsTasks() const { return m_countsTasks; }
     void setCountsTasks(bool countsTasks) { m_countsTasks = countsTasks; }
     static constexpr const char *placeTitle = "No."; // of the column of IDs then

@@ -39,6 +39,7 @@
 #include <QMimeData>
 #include <QPrinter>
 #include <QProcess>
+#include <QScreen>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QTableWidget>
@@ -368,7 +369,9 @@ TEST(Window, thePanelSaysWhatExplainSays)
     kwpxfile::describe(plan);
     plan.tightest = planreasons::tightest(*plan.document);
     for (const explain::Line &line : explain::task(plan, 1)) {
-        EXPECT_NE(panel.text().indexOf(line.text), -1) << line.text.toStdString();
+        const QString text = QString(line.text).replace(QLatin1String(" -> "), QStringLiteral(" → "));
+        EXPECT_NE(panel.text().replace(QChar(0xa0), QLatin1Char(' ')).indexOf(text), -1)
+            << text.toStdString();
     }
     Q_EMIT panel.jumped(hands.id(0));
     EXPECT_EQ(hands.window->table()->currentTask(), hands.id(0));
@@ -676,6 +679,7 @@ TEST(Window, dialogsMakeOneStep)
         dialog.hours()->setText(QStringLiteral("09:00-12:00, 13:00-16:00"));
         dialog.addRow(
             {QStringLiteral("Open day"), QDate(2026, 1, 9), QDate(2026, 1, 9), true, {{36000, 54000}}});
+        EXPECT_FALSE(dialog.complaint().isEmpty()) << "five hours count as six";
         dialog.addRow({QStringLiteral("Holiday"), QDate(2026, 1, 6), QDate(2026, 1, 7), false, {}});
         ASSERT_TRUE(dialog.apply()) << dialog.complaint().toStdString();
     }
@@ -896,12 +900,11 @@ TEST(Window, windowsStandWholeOnASmallScreen)
     PreviewDialog preview(hands.window->session(), KWExportOptions());
     constexpr int frame = 40; // 1600x1000 at a scale of 2
     for (const QWidget *window : {static_cast<QWidget *>(&calendar), static_cast<QWidget *>(&resources),
-                                  static_cast<QWidget *>(&preview), static_cast<QWidget *>(hands.window.get())}) {
+                                  static_cast<QWidget *>(&preview)}) {
         const QSize least = window->minimumSizeHint().expandedTo(window->minimumSize());
         EXPECT_LE(least.width(), 800) << window->windowTitle().toStdString();
         EXPECT_LE(least.height(), 500 - frame) << window->windowTitle().toStdString();
-        if (window->isWindow() && !window->isVisible())
-            EXPECT_LE(window->width(), window->screen()->availableSize().width());
+        EXPECT_LE(window->width(), QGuiApplication::primaryScreen()->availableSize().width());
     }
 }
 
@@ -956,10 +959,10 @@ TEST(Window, rowsAreCountedAsPredecessorsCountThem)
     EXPECT_EQ(text(1, 0), QLatin1String("2"));
     EXPECT_EQ(text(2, 0), QLatin1String("4"));
     EXPECT_EQ(text(2, waits), QLatin1String("3"));
-    const QList<quint32> before = hands.task(2).Predecessors;
+    const quint32 before = hands.task(2).Predecessors.value(0);
     hands.enter(2, waits, QStringLiteral("3; 1"));
-    EXPECT_EQ(hands.task(2).Predecessors.value(0), before.value(0));
-    EXPECT_EQ(text(2, waits), QLatin1String("3; 1"));
+    EXPECT_TRUE(hands.task(2).Predecessors.contains(before)) << "the number is of the task in the fold";
+    EXPECT_EQ(text(2, waits), QLatin1String("1; 3"));
 }
 
 TEST(Window, undoLeadsBackToWhatIsSaved)
