@@ -123,6 +123,8 @@ TEST_F(PlanFiles, AreReadAsAPersonTypesThem)
         {"chineseTitles", "任务名称|开始时间|工期\nA|2026年3月2日|2个工作日", "A 03-02T08:00 03-03T17:00 2d"},
         {"misspeltTitle", "Name|Duration|Predecesors\nA|1d|",
          "A 03-02T08:00 03-02T17:00 1d\n! no such column > not read; did you mean 'predecessors'?"},
+        {"titleTwice", "Name|Duration|Task name\nA|1d|B",
+         "A 03-02T08:00 03-02T17:00 1d\n! it is a second 'Name' > not read"},
         {"columnWithoutTitle", "Name|Duration\nA|1d|x\nB|1d|y",
          "A 03-02T08:00 03-02T17:00 1d\nB 03-02T08:00 03-02T17:00 1d\n! column 3 has no title and 2 cells > "
          "not read"},

@@ -296,6 +296,7 @@ TEST_F(Export, printSetupDecidesTheSheets)
          {1, 1},
          ""},
         {"no margin left", [&] { config.Left = 140; }, {297, 210}, {1, 1}, "less than 20 mm"},
+        {"margin outside", [&] { config.Top = -5; }, {297, 210}, {1, 1}, "less than 20 mm"},
         {"no paper", [&] { config.Width = 0; }, {297, 210}, {1, 1}, "A4"},
         {"0 sheets",
          [&] {

@@ -58,7 +58,7 @@ TEST(SummaryPercent, weighsTheChildrenByLength)
     }
 }
 
-TEST(SummaryPercent, ignoresOneSecondAndTurnsNoNumberToZero)
+TEST(SummaryPercent, ignoresOneSecondAndMilestonesAndTurnsNoNumberToZero)
 {
     Project p(june, "Sum\n"
                     "  Task 4h 100%\n"
@@ -68,6 +68,12 @@ TEST(SummaryPercent, ignoresOneSecondAndTurnsNoNumberToZero)
     p.task("Sum").setPercent(0.5);
     p.task("Sum").updateParentPercent(&p.document());
     EXPECT_EQ(p.task("Sum").Percent, 0.0);
+
+    p.task("Last").setPercent(0.5);
+    p.task("Task").Finish = p.task("Last").Finish; // foreign files have milestones that last
+    p.task("Task").Milestone = true;
+    p.task("Sum").updateParentPercent(&p.document());
+    EXPECT_EQ(p.task("Sum").Percent, 0.5);
 }
 
 // ---- Baseline ---------------------------------------------------------------------------------------------
