@@ -224,7 +224,7 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication::setStyle(QStringLiteral("fusion"));
     const QApplication application(argc, argv);
-    const QTemporaryDir configuration;
+    QTemporaryDir configuration;
     KWFilePathManager::setConfigRoot(configuration.path());
     texts::fillLibraryTables();
     if (argc > 1) {
@@ -245,6 +245,7 @@ int main(int argc, char **argv)
         }
         std::printf("%.6f\n", argc > 2 ? megabytesNow() : processorSeconds());
         std::fflush(stdout);
+        configuration.remove(); // nothing behind the next line does
         _exit(0);
     }
     Report report;

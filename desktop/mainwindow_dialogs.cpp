@@ -26,6 +26,7 @@
 #include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QTextBrowser>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -44,6 +45,12 @@ constexpr Drawing drawings[] = {
     {"svg", [](GanttPdfExport &drawing, const QString &path) { return drawing.exportSvg(path); }},
     {"html", [](GanttPdfExport &drawing, const QString &path) { return drawing.exportHtml(path); }},
 };
+
+// "xlsx" of "Workbook (*.xlsx *.xls)".
+QString firstSuffix(const QString &filter)
+{
+    return filter.section(QLatin1String("(*."), -1).section(QRegularExpression(QStringLiteral("[ )]")), 0, 0);
+}
 }
 
 void MainWindow::openAsk()
@@ -76,10 +83,21 @@ void MainWindow::exportAsk()
     const QFileInfo source(m_session.source());
     const QString base =
         m_session.source().isEmpty() ? tr("Plan") : source.dir().filePath(source.completeBaseName());
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Export"), base + QLatin1String(".pdf"),
-        tr("PDF (*.pdf);;PNG (*.png);;SVG (*.svg);;Page for a browser (*.html);;Workbook (*.xlsx *.xls);;"
-           "Project XML (*.xml);;CSV, with files beside it (*.csv)"));
+    QFileDialog dialog(this, tr("Export"), base + QLatin1String(".pdf"),
+                       tr("PDF (*.pdf);;PNG (*.png);;SVG (*.svg);;Page for a browser (*.html);;"
+                          "Workbook (*.xlsx *.xls);;Project XML (*.xml);;CSV, with files beside it (*.csv)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.selectFile(QFileInfo(base).fileName() + QLatin1String(".pdf"));
+    // The name decides the format; so it follows the format that is chosen in the list.
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
+        const QString suffix = firstSuffix(filter);
+        const QString chosen = dialog.selectedFiles().value(0);
+        dialog.setDefaultSuffix(suffix);
+        if (!chosen.isEmpty() && !QFileInfo(chosen).isDir())
+            dialog.selectFile(QFileInfo(chosen).completeBaseName() + QLatin1Char('.') + suffix);
+    });
+    dialog.setDefaultSuffix(firstSuffix(dialog.selectedNameFilter()));
+    const QString path = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
     if (!path.isEmpty())
         exportTo(path);
 }
