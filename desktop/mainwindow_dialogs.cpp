@@ -14,6 +14,7 @@
 #include "mainwindow.h"
 #include "planfile.h"
 #include "projectfile.h"
+#include "quoted.h"
 #include "texts.h"
 #include "views/notebar.h"
 #include "views/planchart.h"
@@ -51,6 +52,24 @@ QString firstSuffix(const QString &filter)
 {
     return filter.section(QLatin1String("(*."), -1).section(QRegularExpression(QStringLiteral("[ )]")), 0, 0);
 }
+
+// Where to write; empty: nowhere. The suffix is part of the name before the dialog asks whether a file of
+// that name may be replaced, and follows the format that is chosen in the list.
+QString fileToWrite(QWidget *window, const QString &title, const QString &suggested, const QString &formats)
+{
+    const QFileInfo info(suggested);
+    QFileDialog dialog(window, title, info.path(), formats);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(firstSuffix(dialog.selectedNameFilter()));
+    dialog.selectFile(info.fileName());
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
+        const QFileInfo chosen(dialog.selectedFiles().value(0));
+        dialog.setDefaultSuffix(firstSuffix(filter));
+        if (!chosen.fileName().isEmpty() && !chosen.isDir())
+            dialog.selectFile(chosen.completeBaseName() + QLatin1Char('.') + firstSuffix(filter));
+    });
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
 }
 
 void MainWindow::openAsk()
@@ -70,11 +89,16 @@ void MainWindow::saveAs()
     const QString suggested = m_session.source().isEmpty()
                                   ? tr("Plan.kwpx")
                                   : source.dir().filePath(source.completeBaseName() + QLatin1String(".kwpx"));
-    QString path = QFileDialog::getSaveFileName(this, tr("Save as"), suggested, tr("Packages (*.kwpx)"));
+    const QString path = fileToWrite(this, tr("Save as"), suggested, tr("Packages (*.kwpx)"));
     if (path.isEmpty())
         return;
-    if (!path.endsWith(QLatin1String(".kwpx")))
-        path += QLatin1String(".kwpx");
+    if (!path.endsWith(QLatin1String(".kwpx"), Qt::CaseInsensitive)) {
+        // No file of another format is hidden behind a suffix that the dialog did not ask about.
+        tellRefusal(tr("%1 is no name of a package (.kwpx): Export writes other formats")
+                        .arg(QFileInfo(path).fileName()),
+                    QString());
+        return;
+    }
     saveTo(path);
 }
 
@@ -83,21 +107,10 @@ void MainWindow::exportAsk()
     const QFileInfo source(m_session.source());
     const QString base =
         m_session.source().isEmpty() ? tr("Plan") : source.dir().filePath(source.completeBaseName());
-    QFileDialog dialog(this, tr("Export"), base + QLatin1String(".pdf"),
-                       tr("PDF (*.pdf);;PNG (*.png);;SVG (*.svg);;Page for a browser (*.html);;"
-                          "Workbook (*.xlsx *.xls);;Project XML (*.xml);;CSV, with files beside it (*.csv)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.selectFile(QFileInfo(base).fileName() + QLatin1String(".pdf"));
-    // The name decides the format; so it follows the format that is chosen in the list.
-    connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
-        const QString suffix = firstSuffix(filter);
-        const QString chosen = dialog.selectedFiles().value(0);
-        dialog.setDefaultSuffix(suffix);
-        if (!chosen.isEmpty() && !QFileInfo(chosen).isDir())
-            dialog.selectFile(QFileInfo(chosen).completeBaseName() + QLatin1Char('.') + suffix);
-    });
-    dialog.setDefaultSuffix(firstSuffix(dialog.selectedNameFilter()));
-    const QString path = dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    const QString path = fileToWrite(
+        this, tr("Export"), base + QLatin1String(".pdf"),
+        tr("PDF (*.pdf);;PNG (*.png);;SVG (*.svg);;Page for a browser (*.html);;Workbook (*.xlsx *.xls);;"
+           "Project XML (*.xml);;CSV, with files beside it (*.csv)"));
     if (!path.isEmpty())
         exportTo(path);
 }
@@ -143,6 +156,19 @@ bool MainWindow::exportTo(const QString &path)
     console.follow(options);
     Plan &plan = m_session.plan();
     kwpxfile::describe(plan);
+    const std::vector<planfile::Side> sides = planfile::sidesOf(plan, path);
+    QStringList beside, replaced;
+    for (const planfile::Side &side : sides) {
+        const QFileInfo info(side.path);
+        beside.append(info.fileName());
+        if (info.exists())
+            replaced.append(info.fileName());
+    }
+    const QString comma = QStringLiteral(", ");
+    if (!replaced.isEmpty() &&
+        m_ask(tr("Files beside %1 are replaced as well.").arg(quoted(QFileInfo(path).fileName())),
+              replaced.join(comma), QMessageBox::Save | QMessageBox::Cancel) != QMessageBox::Save)
+        return false;
     bool isWritten = false;
     if (suffix == QLatin1String("xlsx") || suffix == QLatin1String("xls")) {
         isWritten = workbookfile::save(
@@ -152,15 +178,17 @@ bool MainWindow::exportTo(const QString &path)
     } else if (suffix == QLatin1String("csv")) {
         isWritten = console.replaceFile(
             path, [&plan](const Console::Take &take) { return machine::writeCsv(plan, take); }, true);
-        for (const planfile::Side &side : planfile::sidesOf(plan, path))
-            isWritten = isWritten && console.replaceFile(side.path, side.bytes, true);
     } else {
         said =
             tr("a file of that name has no format: use pdf, png, svg, html, xlsx, xls, xml or csv").toUtf8();
     }
+    for (const planfile::Side &side : sides)
+        isWritten = isWritten && console.replaceFile(side.path, side.bytes, true);
     const QString words = QString::fromUtf8(said).remove(QStringLiteral("kwgantt: ")).simplified();
+    const QString also =
+        beside.isEmpty() ? QString() : QLatin1Char(' ') + tr("Beside it: %1.").arg(beside.join(comma));
     if (isWritten)
-        tellDone(words.isEmpty() ? QString() : QLatin1Char(' ') + words);
+        tellDone(also + (words.isEmpty() ? QString() : QLatin1Char(' ') + words));
     else
         tellRefusal(words, QString());
     return isWritten;

@@ -13,6 +13,8 @@ namespace recovery {
 
 namespace {
 
+const QString changed = QStringLiteral("changed"), bytes = QStringLiteral("bytes");
+
 QString folder()
 {
     return KWFilePathManager::configDir(QStringLiteral("autosave"));
@@ -28,6 +30,12 @@ void remove(const QString &name)
     for (const char *suffix : {".kwpx", ".json"})
         QFile::remove(fileOf(name, suffix));
 }
+}
+
+FileState FileState::of(const QString &path)
+{
+    const QFileInfo info(path);
+    return path.isEmpty() || !info.exists() ? FileState() : FileState{info.lastModified(), info.size()};
 }
 
 Owner::Owner() = default;
@@ -56,7 +64,7 @@ void Owner::release()
     m_lock.reset();
 }
 
-bool keep(KWDocument &document, const QString &original)
+bool keep(KWDocument &document, const QString &original, const FileState &seen)
 {
     if (!document.isModified())
         return true;
@@ -64,7 +72,9 @@ bool keep(KWDocument &document, const QString &original)
         return false;
     QSaveFile file(fileOf(document.backupName(), ".json"));
     const QJsonObject origin{{QStringLiteral("original"), original},
-                             {QStringLiteral("name"), document.fileName()}};
+                             {QStringLiteral("name"), document.fileName()},
+                             {changed, seen.changed.toUTC().toString(Qt::ISODateWithMs)},
+                             {bytes, double(seen.bytes)}};
     return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(origin).toJson()) > 0 && file.commit();
 }
 
@@ -83,8 +93,12 @@ QVector<Copy> abandoned()
         if (origin.open(QIODevice::ReadOnly))
             object = QJsonDocument::fromJson(origin.read(1 << 16)).object();
         const QString own = object.value(QStringLiteral("name")).toString();
-        copies.append({info.filePath(), object.value(QStringLiteral("original")).toString(),
-                       own.isEmpty() ? name : own, info.lastModified()});
+        copies.append({info.filePath(),
+                       object.value(QStringLiteral("original")).toString(),
+                       own.isEmpty() ? name : own,
+                       info.lastModified(),
+                       {QDateTime::fromString(object.value(changed).toString(), Qt::ISODateWithMs),
+                        qint64(object.value(bytes).toDouble(-1))}});
     }
     return copies;
 }

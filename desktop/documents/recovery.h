@@ -13,12 +13,24 @@ class QLockFile;
 // program that is alive holds (NAME.lock).
 namespace recovery {
 
+// A file as it was last seen, to know when another program has written it.
+struct FileState
+{
+    QDateTime changed; // invalid: there was none
+    qint64 bytes = -1;
+
+    static FileState of(const QString &path);
+    bool operator==(const FileState &other) const { return changed == other.changed && bytes == other.bytes; }
+    bool operator!=(const FileState &other) const { return !(*this == other); }
+};
+
 struct Copy
 {
     QString file;     // the package
     QString original; // the plan's own file; empty: it was never saved
     QString name;     // of the plan, for people
     QDateTime when;
+    FileState seen; // the plan's own file as it was opened or saved
 };
 
 // Those that no running program owns, newest first. What was taken care of or cannot be read is not among
@@ -26,7 +38,7 @@ struct Copy
 QVector<Copy> abandoned();
 // A copy of the document as it stands; nothing happens while it is not modified. False when it cannot be
 // written.
-bool keep(KWDocument &document, const QString &original);
+bool keep(KWDocument &document, const QString &original, const FileState &seen);
 void discard(const Copy &copy);
 
 // Holds the lock of a document's copy, and takes the copy away when the document is left in good order.

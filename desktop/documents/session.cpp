@@ -140,6 +140,7 @@ bool Session::openCopy(const recovery::Copy &copy, QString &error)
     document().setModified(true);
     m_path = m_source = copy.original;
     take(std::move(m_plan));
+    m_seen = copy.seen; // what was written there since is asked about before it is replaced
     // Only now that this session keeps a copy of its own.
     if (writeCopy())
         recovery::discard(copy);
@@ -216,17 +217,13 @@ void Session::lockFile()
 
 void Session::rememberFile()
 {
-    const QFileInfo info(m_path);
-    m_fileTime = m_path.isEmpty() ? QDateTime() : info.lastModified();
-    m_fileBytes = m_path.isEmpty() ? -1 : info.size();
+    m_seen = recovery::FileState::of(m_path);
 }
 
 bool Session::wasChangedMeanwhile() const
 {
-    if (m_path.isEmpty())
-        return false;
-    const QFileInfo info(m_path);
-    return info.exists() && (info.lastModified() != m_fileTime || info.size() != m_fileBytes);
+    const recovery::FileState now = recovery::FileState::of(m_path);
+    return now.changed.isValid() && now != m_seen;
 }
 
 QString Session::name() const
@@ -276,7 +273,7 @@ bool Session::writeCopy()
 {
     settleBars();
     m_copy.own(document());
-    return recovery::keep(document(), m_path);
+    return recovery::keep(document(), m_path, m_seen);
 }
 
 // ---- Edits ------------------------------------------------------------------------------------------------

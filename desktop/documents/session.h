@@ -118,8 +118,7 @@ private:
     QString m_source;
     QString m_otherUser;
     std::unique_ptr<QLockFile> m_lock;
-    QDateTime m_fileTime;
-    qint64 m_fileBytes = -1;
+    recovery::FileState m_seen; // the file at m_path
     Findings m_findings;
     int m_withoutStart = 0;
     recovery::Owner m_copy;

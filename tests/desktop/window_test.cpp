@@ -477,6 +477,7 @@ TEST(Window, whatAKilledProgramHadOpenIsOffered)
     ASSERT_EQ(program.exitStatus(), QProcess::CrashExit) << program.readAll().toStdString();
     ASSERT_EQ(recovery::abandoned().size(), 1) << "that of the window that lives is not offered";
     hands.answer = QMessageBox::Open;
+    folder::put(path, folder::get(path)); // by somebody else, after the copy was made
     hands.window->offerCopies();
     EXPECT_EQ(hands.task(1).Name, QLatin1String("Still alive")) << "it has changes of its own";
     std::unique_ptr<MainWindow> other;
@@ -487,6 +488,7 @@ TEST(Window, whatAKilledProgramHadOpenIsOffered)
     EXPECT_EQ(other->session().document().getTaskInfoAt(0)->Name, QLatin1String("Unsaved"));
     EXPECT_TRUE(other->session().isModified());
     EXPECT_EQ(other->session().path(), path);
+    EXPECT_TRUE(other->session().wasChangedMeanwhile());
     EXPECT_TRUE(recovery::abandoned().isEmpty());
 }
 
