@@ -102,6 +102,7 @@ public:
     void resources();
     void columns();
     void schedule();
+    void closeGaps();
     void setBaseline();
     void clearBaseline();
     void toggleComparison();

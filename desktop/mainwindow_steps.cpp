@@ -257,7 +257,20 @@ void MainWindow::schedule()
     if (!answer.isDone())
         tellRefusal(answer.sentence(), answer.hint());
     else if (answer.moves.isEmpty())
-        m_note->say(tr("Nothing moves: every task starts when those it waits for have ended."));
+        m_note->say(tr("Nothing moves: no task starts before those it waits for have ended."), NoteBar::Told,
+                    tr("Close gaps"), [this] { closeGaps(); });
+    else
+        tellAnswer(tr("%1 tasks moved").arg(answer.moves.size()), answer, true);
+}
+
+void MainWindow::closeGaps()
+{
+    const EditAnswer answer = m_session.edit(
+        tr("Close gaps"), [](PlanEdits &edits) { return edits.schedule(PlanEdits::WithoutGaps); });
+    if (!answer.isDone())
+        tellRefusal(answer.sentence(), answer.hint());
+    else if (answer.moves.isEmpty())
+        m_note->say(tr("Nothing moves: every linked task starts as soon as it can, or has begun."));
     else
         tellAnswer(tr("%1 tasks moved").arg(answer.moves.size()), answer, true);
 }

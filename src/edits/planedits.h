@@ -123,7 +123,7 @@ public:
     // Where tasks go, beside or below another one.
     enum Place { Above, Below, FirstChild, LastChild };
     // Where tasks stand before they are scheduled.
-    enum Beginning { AsGiven, AsSoonAsPossible };
+    enum Beginning { AsGiven, AsSoonAsPossible, WithoutGaps };
 
     // The name of the undo step must not be empty.
     PlanEdits(KWDocument &document, const QString &stepName);
@@ -191,7 +191,9 @@ public:
     EditAnswer clearBaseline(const QVector<quint32> &ids = {});
     EditAnswer setOptions(const PlanOptions &options);
     // Pushes every task behind its predecessors. As soon as possible: after putting all tasks to the
-    // beginning, the project's first start when it is 0. answer.moves has each task that moved.
+    // beginning, the project's first start when it is 0. Without gaps: a task that waits for others by a link
+    // of its own and has not begun starts as soon as they have ended; the others stay. answer.moves has each
+    // task that moved.
     EditAnswer schedule(Beginning beginning, quint32 projectStart = 0);
 
     // ---- The table ---------------------------------------------------------------------------------------

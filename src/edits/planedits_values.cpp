@@ -261,8 +261,11 @@ EditAnswer PlanEdits::schedule(Beginning beginning, quint32 projectStart)
     OneEdit edit(step());
     KWDocument &document = edit.document();
     edit.begin(OneEdit::AllTasks);
-    if (beginning == AsSoonAsPossible) {
-        settling::startTogether(document, projectStart);
+    if (beginning != AsGiven) {
+        if (beginning == AsSoonAsPossible)
+            settling::startTogether(document, projectStart);
+        else
+            settling::startLinkedTogether(document);
         for (const KWTaskInfo *task : document.taskList()) {
             if (!task->isParent())
                 edit.changed(*task);

@@ -12,4 +12,8 @@ namespace settling {
 // The start is a moment on the day clock, and moves off time that is not worked. 0: the first start of all
 // tasks, the document's start where no task has one, today where there is neither.
 KWGANTT_EXPORT void startTogether(KWDocument &document, quint32 start);
+
+// The same to the first start of all tasks, but only for those that wait for a task with dates by a link of
+// their own, have dates and have not begun. What else stands where somebody put it stays there.
+void startLinkedTogether(KWDocument &document);
 }

@@ -30,12 +30,12 @@ public:
         static const char *const texts[] = {"Task",          "3d",  "2026-03-02", "50",
                                             "Ann[50%]; Bob", "12h", "0",          "x"};
         static const char *const actions[] = {
-            "undo",       "redo",         "cut",        "copy",         "paste",        "duplicate",
-            "delete",     "indent",       "outdent",    "insert-above", "insert-below", "insert-child",
-            "move-up",    "move-down",    "fold",       "fold-all",     "unfold-all",   "link",
-            "unlink",     "milestone",    "done",       "zoom-in",      "zoom-out",     "fit",
-            "schedule",   "set-baseline", "select-all", "show-reasons", "hide-others",  "compare-baseline",
-            "show-filter"};
+            "undo",        "redo",         "cut",        "copy",         "paste",        "duplicate",
+            "delete",      "indent",       "outdent",    "insert-above", "insert-below", "insert-child",
+            "move-up",     "move-down",    "fold",       "fold-all",     "unfold-all",   "link",
+            "unlink",      "milestone",    "done",       "zoom-in",      "zoom-out",     "fit",
+            "schedule",    "set-baseline", "select-all", "show-reasons", "hide-others",  "compare-baseline",
+            "show-filter", "close-gaps"};
         static const int keys[] = {Qt::Key_Up,     Qt::Key_Down,     Qt::Key_Left,   Qt::Key_Right,
                                    Qt::Key_Home,   Qt::Key_End,      Qt::Key_Tab,    Qt::Key_F2,
                                    Qt::Key_Escape, Qt::Key_PageDown, Qt::Key_Return, Qt::Key_Return};

@@ -388,6 +388,22 @@ const Fault faults[] = {
          return moves;
      },
      "S=2.5 A=2.5 B=5.6 1<-0 2<-0 3<-1"},
+    {"gaps are closed for linked tasks that have not begun",
+     [](Plan &p) {
+         p.add("A", 0, 5);
+         p.add("B");
+         p.add("C", 9);
+         p.add("D");
+         p.link(1, 2);
+         p.link(1, 4);
+         TaskValues begun;
+         begun.percent = 0.5;
+         p.set(4, begun);
+         p.set(1, length(2));
+         p.edit([](PlanEdits &e) { return e.schedule(PlanEdits::WithoutGaps); });
+         return p.days();
+     },
+     "A=2.4 B=4.5 C=11.12 D=9.10"},
     {"an edit leaves violated links alone that it does not reach",
      [](Plan &p) {
          p.add("A", 0, 5);

@@ -409,7 +409,8 @@ private:
         case 3:
             return edits.schedule(PlanEdits::AsGiven);
         case 4:
-            return edits.schedule(PlanEdits::AsSoonAsPossible, chance(50) ? 0 : moment());
+            return chance(50) ? edits.schedule(PlanEdits::AsSoonAsPossible, chance(50) ? 0 : moment())
+                              : edits.schedule(PlanEdits::WithoutGaps);
         case 5:
             return edits.setColumn(
                 RowColumnData::s_columnNames.value(1 + any(5)),
