@@ -15,5 +15,5 @@ KWGANTT_EXPORT void startTogether(KWDocument &document, quint32 start);
 
 // The same to the first start of all tasks, but only for those that wait for a task with dates by a link of
 // their own, have dates and have not begun. What else stands where somebody put it stays there.
-void startLinkedTogether(KWDocument &document);
+KWGANTT_EXPORT void startLinkedTogether(KWDocument &document);
 }
