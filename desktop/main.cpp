@@ -28,8 +28,8 @@ enum Code { Done = 0, WrongUse = 2, MachineLacks = 6 };
 // A window cannot be shown without a screen, and Qt ends the program where there is none.
 bool hasScreen()
 {
-    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    const auto says = [](const char *name) { return !qEnvironmentVariableIsEmpty(name); };
+    return says("DISPLAY") || says("WAYLAND_DISPLAY") || says("QT_QPA_PLATFORM");
 }
 
 int fail(Code code, const QString &what, const QString &hint)

@@ -5305,6 +5305,14 @@
         <translation>verschiebt jeden Vorgang hinter die, auf die er wartet</translation>
     </message>
     <message>
+        <source>Close &amp;gaps</source>
+        <translation>&amp;Lücken schließen</translation>
+    </message>
+    <message>
+        <source>starts linked tasks that have not begun as soon as those they wait for have ended</source>
+        <translation>beginnt verknüpfte Vorgänge, die noch nicht begonnen haben, sobald die enden, auf die sie warten</translation>
+    </message>
+    <message>
         <source>Set &amp;baseline</source>
         <translation>Basisplan &amp;setzen</translation>
     </message>
@@ -6137,6 +6145,10 @@
         <translation>Pakete (*.kwpx)</translation>
     </message>
     <message>
+        <source>%1 is no name of a package (.kwpx): Export writes other formats</source>
+        <translation>%1 ist kein Name eines Pakets (.kwpx): andere Formate schreibt Exportieren</translation>
+    </message>
+    <message>
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
@@ -6157,8 +6169,16 @@
         <translation>Zeichnen…</translation>
     </message>
     <message>
+        <source>Files beside %1 are replaced as well.</source>
+        <translation>Dateien neben %1 werden ebenfalls ersetzt.</translation>
+    </message>
+    <message>
         <source>a file of that name has no format: use pdf, png, svg, html, xlsx, xls, xml or csv</source>
         <translation>eine Datei dieses Namens hat kein Format: nehmen Sie pdf, png, svg, html, xlsx, xls, xml oder csv</translation>
+    </message>
+    <message>
+        <source>Beside it: %1.</source>
+        <translation>Daneben: %1.</translation>
     </message>
     <message>
         <source>Printing…</source>
@@ -6245,12 +6265,20 @@
         <translation>Es gibt eine Kopie von %1 mit dem, was nicht gespeichert war. Öffnen? Verwerfen löscht sie, Abbrechen behält sie bis zum nächsten Start.</translation>
     </message>
     <message>
+        <source>The file itself was written since it was opened.</source>
+        <translation>Die Datei selbst wurde geschrieben, seit sie geöffnet wurde.</translation>
+    </message>
+    <message>
         <source>cancelled: the copy is kept</source>
         <translation>abgebrochen: die Kopie wird behalten</translation>
     </message>
     <message>
         <source>This is the copy of a plan that was never saved.</source>
         <translation>Dies ist die Kopie eines Plans, der nie gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>This is the copy. Its file was written by another program since.</source>
+        <translation>Dies ist die Kopie. Die Datei hat inzwischen ein anderes Programm geschrieben.</translation>
     </message>
     <message>
         <source>This is the copy. Saving it replaces the plan's own file.</source>
@@ -6425,8 +6453,16 @@
         <translation>Rückgängig</translation>
     </message>
     <message>
-        <source>Nothing moves: every task starts when those it waits for have ended.</source>
-        <translation>Nichts bewegt sich: jeder Vorgang beginnt, wenn die beendet sind, auf die er wartet.</translation>
+        <source>Nothing moves: no task starts before those it waits for have ended.</source>
+        <translation>Nichts verschiebt sich: kein Vorgang beginnt, bevor die enden, auf die er wartet.</translation>
+    </message>
+    <message>
+        <source>Close gaps</source>
+        <translation>Lücken schließen</translation>
+    </message>
+    <message>
+        <source>Nothing moves: every linked task starts as soon as it can, or has begun.</source>
+        <translation>Nichts verschiebt sich: jeder verknüpfte Vorgang beginnt so früh wie möglich oder hat begonnen.</translation>
     </message>
     <message>
         <source>Set baseline</source>

@@ -5305,6 +5305,14 @@
         <translation>把每个任务移到它所等待的任务之后</translation>
     </message>
     <message>
+        <source>Close &amp;gaps</source>
+        <translation>消除间隙(&amp;G)</translation>
+    </message>
+    <message>
+        <source>starts linked tasks that have not begun as soon as those they wait for have ended</source>
+        <translation>让尚未开始的有链接任务在其所等待的任务结束后立即开始</translation>
+    </message>
+    <message>
         <source>Set &amp;baseline</source>
         <translation>设置基线(&amp;B)</translation>
     </message>
@@ -6137,6 +6145,10 @@
         <translation>包 (*.kwpx)</translation>
     </message>
     <message>
+        <source>%1 is no name of a package (.kwpx): Export writes other formats</source>
+        <translation>%1 不是包的名称 (.kwpx)：其他格式请用“导出”</translation>
+    </message>
+    <message>
         <source>Export</source>
         <translation>导出</translation>
     </message>
@@ -6157,8 +6169,16 @@
         <translation>正在绘制…</translation>
     </message>
     <message>
+        <source>Files beside %1 are replaced as well.</source>
+        <translation>%1 旁边的文件也会被替换。</translation>
+    </message>
+    <message>
         <source>a file of that name has no format: use pdf, png, svg, html, xlsx, xls, xml or csv</source>
         <translation>此名称的文件没有格式：请用 pdf、png、svg、html、xlsx、xls、xml 或 csv</translation>
+    </message>
+    <message>
+        <source>Beside it: %1.</source>
+        <translation>旁边还有：%1。</translation>
     </message>
     <message>
         <source>Printing…</source>
@@ -6245,12 +6265,20 @@
         <translation>有一份 %1 的副本，含未保存的内容。要打开吗？“放弃”删除它，“取消”保留到下次启动。</translation>
     </message>
     <message>
+        <source>The file itself was written since it was opened.</source>
+        <translation>文件本身在打开之后已被写过。</translation>
+    </message>
+    <message>
         <source>cancelled: the copy is kept</source>
         <translation>已取消：副本保留</translation>
     </message>
     <message>
         <source>This is the copy of a plan that was never saved.</source>
         <translation>这是一份从未保存过的计划的副本。</translation>
+    </message>
+    <message>
+        <source>This is the copy. Its file was written by another program since.</source>
+        <translation>这是副本。它的文件此后已被另一个程序写过。</translation>
     </message>
     <message>
         <source>This is the copy. Saving it replaces the plan's own file.</source>
@@ -6425,8 +6453,16 @@
         <translation>撤销</translation>
     </message>
     <message>
-        <source>Nothing moves: every task starts when those it waits for have ended.</source>
-        <translation>没有移动：每个任务都在所等待的任务完成时开始。</translation>
+        <source>Nothing moves: no task starts before those it waits for have ended.</source>
+        <translation>没有任务移动：没有任务在其所等待的任务结束之前开始。</translation>
+    </message>
+    <message>
+        <source>Close gaps</source>
+        <translation>消除间隙</translation>
+    </message>
+    <message>
+        <source>Nothing moves: every linked task starts as soon as it can, or has begun.</source>
+        <translation>没有任务移动：每个有链接的任务都已尽早开始，或者已经开始。</translation>
     </message>
     <message>
         <source>Set baseline</source>
