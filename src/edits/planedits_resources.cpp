@@ -99,8 +99,9 @@ void beginSheet(OneEdit &edit)
 // Keeps a task whose assignments change.
 void beginAssignment(OneEdit &edit, const std::vector<KWTaskInfo *> &tasks)
 {
-    constexpr std::size_t fewTasks = 200;
-    edit.begin(tasks.size() <= fewTasks ? OneEdit::SingleTasks : OneEdit::AllTasks, OneEdit::MovesNothing);
+    constexpr std::size_t mostSingleTasks = 200;
+    edit.begin(tasks.size() <= mostSingleTasks ? OneEdit::SingleTasks : OneEdit::AllTasks,
+               OneEdit::MovesNothing);
     for (KWTaskInfo *task : tasks) {
         edit.keepValues(*task);
         edit.keepAssignments(*task);
