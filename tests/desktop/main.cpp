@@ -26,7 +26,8 @@ int drive(const QByteArray &command, const QString &path)
     if (command == "make")
         return window.saveTo(path) ? 0 : 1;
     bool isSaved = false;
-    if (window.openFile(path)) {
+    const bool isOpen = window.openFile(path);
+    if (isOpen) {
         TaskValues values;
         values.name = name;
         session.edit(QStringLiteral("Rename"), [&](PlanEdits &edits) {
@@ -34,7 +35,8 @@ int drive(const QByteArray &command, const QString &path)
         });
         isSaved = window.saveTo(path);
     }
-    std::printf("result=%s\nmodified=%d\n", isSaved ? "true" : "false", session.isModified() ? 1 : 0);
+    std::printf("result=%s\nmodified=%d\n", isSaved ? "true" : "false",
+                session.isModified() || !isOpen ? 1 : 0); // what is not open has lost nothing
     return 0;
 }
 }
