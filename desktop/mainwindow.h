@@ -146,6 +146,8 @@ private:
     void fillRecent();
     // One step; what it moved and lost, or why it was refused, is told.
     EditAnswer perform(const QString &name, const Session::Change &change, bool selects = false);
+    // Whether there was anything to tell, a refusal or what moved, and it is told.
+    bool scheduleAll(const QString &name, PlanEdits::Beginning beginning);
     void tellAnswer(const QString &what, const EditAnswer &answer, bool always);
     void tellOutcome(const cellinput::Outcome &outcome);
     void tellRefusal(const QString &what, const QString &hint);

@@ -59,15 +59,14 @@ void MainWindow::startAnew()
 void MainWindow::offerCopies()
 {
     for (const recovery::Copy &copy : recovery::abandoned()) {
-        const recovery::FileState now = recovery::FileState::of(copy.original);
-        const bool hasChanged = now.changed.isValid() && now != copy.seen;
         const QMessageBox::StandardButton answer =
             m_ask(tr("%1 was open when the program ended without closing it.").arg(quoted(copy.name)),
                   tr("There is a copy of %1, with what had not been saved. Open it? Discard takes it away, "
                      "Cancel keeps it for the next start.")
                           .arg(copy.when.toString(QStringLiteral("yyyy-MM-dd HH:mm"))) +
-                      (hasChanged ? QLatin1Char(' ') + tr("The file itself was written since it was opened.")
-                                  : QString()),
+                      (copy.seen.wasWrittenSince(copy.original)
+                           ? QLatin1Char(' ') + tr("The file itself was written since it was opened.")
+                           : QString()),
                   QMessageBox::Open | QMessageBox::Discard | QMessageBox::Cancel);
         if (answer == QMessageBox::Discard)
             recovery::discard(copy);

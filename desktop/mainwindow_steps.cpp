@@ -250,29 +250,28 @@ void MainWindow::done()
     perform(tr("Done"), [&](PlanEdits &edits) { return edits.set(ids, values); });
 }
 
-void MainWindow::schedule()
+bool MainWindow::scheduleAll(const QString &name, PlanEdits::Beginning beginning)
 {
     const EditAnswer answer =
-        m_session.edit(tr("Schedule"), [](PlanEdits &edits) { return edits.schedule(PlanEdits::AsGiven); });
+        m_session.edit(name, [beginning](PlanEdits &edits) { return edits.schedule(beginning); });
     if (!answer.isDone())
         tellRefusal(answer.sentence(), answer.hint());
-    else if (answer.moves.isEmpty())
+    else if (!answer.moves.isEmpty())
+        tellAnswer(tr("%1 tasks moved").arg(answer.moves.size()), answer, true);
+    return !answer.isDone() || !answer.moves.isEmpty();
+}
+
+void MainWindow::schedule()
+{
+    if (!scheduleAll(tr("Schedule"), PlanEdits::AsGiven))
         m_note->say(tr("Nothing moves: no task starts before those it waits for have ended."), NoteBar::Told,
                     tr("Close gaps"), [this] { closeGaps(); });
-    else
-        tellAnswer(tr("%1 tasks moved").arg(answer.moves.size()), answer, true);
 }
 
 void MainWindow::closeGaps()
 {
-    const EditAnswer answer = m_session.edit(
-        tr("Close gaps"), [](PlanEdits &edits) { return edits.schedule(PlanEdits::WithoutGaps); });
-    if (!answer.isDone())
-        tellRefusal(answer.sentence(), answer.hint());
-    else if (answer.moves.isEmpty())
+    if (!scheduleAll(tr("Close gaps"), PlanEdits::WithoutGaps))
         m_note->say(tr("Nothing moves: every linked task starts as soon as it can, or has begun."));
-    else
-        tellAnswer(tr("%1 tasks moved").arg(answer.moves.size()), answer, true);
 }
 
 void MainWindow::setBaseline()

@@ -13,7 +13,7 @@ namespace recovery {
 
 namespace {
 
-const QString changed = QStringLiteral("changed"), bytes = QStringLiteral("bytes");
+const QString changedKey = QStringLiteral("changed"), bytesKey = QStringLiteral("bytes");
 
 QString folder()
 {
@@ -36,6 +36,12 @@ FileState FileState::of(const QString &path)
 {
     const QFileInfo info(path);
     return path.isEmpty() || !info.exists() ? FileState() : FileState{info.lastModified(), info.size()};
+}
+
+bool FileState::wasWrittenSince(const QString &path) const
+{
+    const FileState now = of(path);
+    return now.changed.isValid() && (now.changed != changed || now.bytes != bytes);
 }
 
 Owner::Owner() = default;
@@ -73,8 +79,8 @@ bool keep(KWDocument &document, const QString &original, const FileState &seen)
     QSaveFile file(fileOf(document.backupName(), ".json"));
     const QJsonObject origin{{QStringLiteral("original"), original},
                              {QStringLiteral("name"), document.fileName()},
-                             {changed, seen.changed.toUTC().toString(Qt::ISODateWithMs)},
-                             {bytes, double(seen.bytes)}};
+                             {changedKey, seen.changed.toUTC().toString(Qt::ISODateWithMs)},
+                             {bytesKey, double(seen.bytes)}};
     return file.open(QIODevice::WriteOnly) && file.write(QJsonDocument(origin).toJson()) > 0 && file.commit();
 }
 
@@ -97,8 +103,8 @@ QVector<Copy> abandoned()
                        object.value(QStringLiteral("original")).toString(),
                        own.isEmpty() ? name : own,
                        info.lastModified(),
-                       {QDateTime::fromString(object.value(changed).toString(), Qt::ISODateWithMs),
-                        qint64(object.value(bytes).toDouble(-1))}});
+                       {QDateTime::fromString(object.value(changedKey).toString(), Qt::ISODateWithMs),
+                        qint64(object.value(bytesKey).toDouble(-1))}});
     }
     return copies;
 }

@@ -20,8 +20,8 @@ struct FileState
     qint64 bytes = -1;
 
     static FileState of(const QString &path);
-    bool operator==(const FileState &other) const { return changed == other.changed && bytes == other.bytes; }
-    bool operator!=(const FileState &other) const { return !(*this == other); }
+    // Whether the file is there and no longer as it was seen; never without a path.
+    bool wasWrittenSince(const QString &path) const;
 };
 
 struct Copy

@@ -222,8 +222,7 @@ void Session::rememberFile()
 
 bool Session::wasChangedMeanwhile() const
 {
-    const recovery::FileState now = recovery::FileState::of(m_path);
-    return now.changed.isValid() && now != m_seen;
+    return m_seen.wasWrittenSince(m_path);
 }
 
 QString Session::name() const
