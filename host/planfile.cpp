@@ -306,8 +306,9 @@ bool saysTheSame(const QString &path, const Plan &plan, const WorkingTime &calen
 std::vector<Side> sidesOf(const Plan &plan, const QString &path)
 {
     const QFileInfo info(path);
-    const bool isTable = path.endsWith(QLatin1String(".csv"));
-    const bool isWorkbook = path.endsWith(QLatin1String(".xlsx")) || path.endsWith(QLatin1String(".xls"));
+    const bool isTable = path.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive);
+    const bool isWorkbook = path.endsWith(QLatin1String(".xlsx"), Qt::CaseInsensitive) ||
+                            path.endsWith(QLatin1String(".xls"), Qt::CaseInsensitive);
     if (!(isTable || isWorkbook) || (info.exists() && !info.isFile()))
         return {};
     const bool hasSheet = !plan.document->resourceInfoData()->infos.isEmpty();
